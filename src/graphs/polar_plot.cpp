@@ -1,0 +1,164 @@
+#include "graphs/polar_plot.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "graphs/curve_path.h"
+#include "graphs/scale.h"
+#include "session/record/number_text.h"
+
+namespace lumivex {
+
+namespace {
+
+constexpr double pi = 3.14159265358979;
+
+constexpr int mostRings = 20;
+
+/// A ring at the very centre or on the rim says nothing new.
+constexpr double ringRounding = 1e-9;
+
+constexpr std::array rimAngles = {0, 180, 330, 210, 300, 240, 270, 30, 150, 60, 120, 90};
+
+void Refuse(Session& session, std::string_view text) {
+  session.platform.Message("Option not available", text);
+}
+
+void PaintRings(FramePaint& paint, const PolarMap& map) {
+  auto& surface = paint.surface;
+  const auto ring = [&](double part) { surface.Circle(map.centreX, map.centreY, part * map.radius, paint.gridColour); };
+  surface.FillColour = paint.session.state.PlotBackColourMono;
+  surface.FillStyle = 0;
+  ring(1);
+  if (!map.logarithmic) {
+    for (const double part : {0.8, 0.6, 0.4, 0.2}) ring(part);
+  } else {
+    const AxisLimits& limits = paint.map.limits;
+    const double perDecade = paint.kind.amplitude || paint.kind.ampPhase ? 0.5 : 1;
+    for (int k = 1; k <= mostRings; ++k) {
+      const double value = limits.ymax / std::pow(10.0, k * perDecade);
+      const double part = std::log(value / limits.ymin) / std::log(limits.ymax / limits.ymin);
+      if (part > ringRounding && part < 1 - ringRounding) ring(part);
+    }
+  }
+  surface.FillStyle = 1;
+}
+
+void PaintSpokes(FramePaint& paint, const PolarMap& map) {
+  for (int a = 0; a <= 180; a += 30) {
+    const double x = map.radius * std::cos(a * pi / 180), y = map.radius * std::sin(a * pi / 180);
+    paint.Rule(map.centreX + x, map.centreY + y, map.centreX - x, map.centreY - y, paint.gridColour);
+  }
+}
+
+/// Angles round the rim: each text stands clear of the circle, outward from its spoke.
+void PaintRimAngles(FramePaint& paint, const PolarMap& map) {
+  auto& surface = paint.surface;
+  for (const int a : rimAngles) {
+    const std::string text = std::to_string(a);
+    const double width = surface.TextWidth(text), height = surface.TextHeight(text);
+    const double c = std::cos(a * pi / 180), s = std::sin(a * pi / 180);
+    const double reach = map.radius * 3080 / 3000;
+    const double x = map.centreX + (reach + 0.5 * width) * c - 0.5 * width;
+    const double y = map.centreY + (reach + 0.5 * height) * s - 0.5 * height;
+    paint.labels.Print(text, x, y);
+  }
+}
+
+void PaintScaleText(FramePaint& paint, const PolarMap& map) {
+  auto& surface = paint.surface;
+  double y = map.centreY + map.radius * 3080 / 3000 + 1.3 * surface.TextHeight("X") + 60;
+  const auto line = [&](const std::string& text) {
+    surface.CurrentX = map.centreX - 0.5 * surface.TextWidth(text);
+    surface.CurrentY = y;
+    surface.Print(text, false);
+    y += surface.TextHeight(text);
+  };
+  if (paint.kind.ampPhase) line("Amplitude");
+  line(map.logarithmic ? "Logarithmic scale" : "Linear scale");
+  line("Value at outer circle = " + Format(map.outer, "Scientific"));
+  line("Value at centre = " + Format(map.logarithmic ? map.inner : 0, "Scientific"));
+}
+
+bool RangeIsWhole(const Form1& form) {
+  return Val(form.txtXmin.Text) == 0 && Val(form.txtXmax.Text) == 180;
+}
+
+}  // namespace
+
+void mnuPolarPlot_Click(Session& session) {
+  auto& form = session.form1;
+  if (form.mnuPolarPlot.Checked) {
+    form.mnuPolarPlot.Checked = false;
+  } else if (form.mnuIntPol.Checked) {
+    Refuse(session, "Polar plots are not available for graphs of Intensity and Polarisation");
+    return;
+  } else if (!form.mnuAmpPhase.Checked && !form.mnuPlaneWave.Checked && !RangeIsWhole(form)) {
+    Refuse(session, "Polar plots are available only when scattering angles\ncover entire range from 0 to 180 degrees");
+    return;
+  } else if (session.state.NumberWavelengths != 1) {
+    Refuse(session, "Polar plots are available only for single wavelength calculations");
+    return;
+  } else {
+    form.mnuPolarPlot.Checked = true;
+  }
+  session.events.Raise("cmdReplot_Click");
+}
+
+int AngleDelta(const Session& session) {
+  const int rows = 2 * session.state.NANG - 1;
+  if (rows < 2) return 1;
+  const double row = Val(session.form1.txtAngle.Text) * (rows - 1) / 180 + 1;
+  return ToWhole(std::clamp(row, 1.0, static_cast<double>(rows)));
+}
+
+void PaintPolarFrame(FramePaint& paint) {
+  const PolarMap map = PolarMapOf(paint.session.state, paint.kind, paint.map.limits);
+  PaintRings(paint, map);
+  PaintSpokes(paint, map);
+  paint.surface.ForeColour = colours::Black;
+  PaintRimAngles(paint, map);
+  PaintScaleText(paint, map);
+  paint.surface.FontBold = false;
+}
+
+void PaintPolarTicks(Session& session, const KeptPanel& panel, const KeptCurve& curve) {
+  auto& surface = *session.surface;
+  const auto rows = PlacedRows(session.state, panel, curve);
+  const SurfacePen pen = surface;
+  surface.ForeColour = curve.colour;
+  surface.FontSize = 7;
+  surface.FontBold = false;
+  TickLabels labels(surface);
+  const auto angleAt = [&](std::size_t row) { return curve.angle.empty() ? curve.x[row] : curve.angle[row]; };
+  bool started = false;
+  std::size_t count = 0;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    const SurfacePoint& p = rows[i].point;
+    if (!std::isfinite(p.x) || !std::isfinite(p.y)) continue;
+    if (!started) {
+      started = true;
+      surface.Circle(p.x, p.y, 20, curve.colour);
+      labels.Print(TickText(RoundTo(angleAt(rows[i].row), 1)), p.x - 100, p.y + 100);
+    } else if (count % 10 == 0 && i > 0) {
+      const SurfacePoint& before = rows[i - 1].point;
+      const double dx = p.x - before.x, dy = p.y - before.y;
+      const double length = std::hypot(dx, dy);
+      if (!(length > 0)) {
+        ++count;
+        continue;
+      }
+      const bool longTick = count % 100 == 0;
+      // Across the curve: 50 units to each side, 90 at the hundreds.
+      const double half = longTick ? std::sqrt(8100.0) : std::sqrt(2500.0);
+      const double x = -half * dy / length, y = half * dx / length;
+      surface.Line(p.x - x, p.y - y, p.x + x, p.y + y);
+      if (longTick) labels.Print(TickText(RoundTo(angleAt(rows[i].row), 1)), p.x + x + 20, p.y + y);
+    }
+    ++count;
+  }
+  static_cast<SurfacePen&>(surface) = pen;
+}
+
+}  // namespace lumivex

@@ -1,0 +1,320 @@
+#include "scripts/script_runner.h"
+
+#include <istream>
+#include <ostream>
+#include <sstream>
+#include <vector>
+
+#include "scripts/script_commands.h"
+#include "session/checks/number_input.h"
+#include "session/record/number_text.h"
+#include "session/record/text_file.h"
+#include "session/start_up.h"
+#include "session/user_actions.h"
+#include "session/window_events.h"
+
+namespace lumivex {
+
+namespace {
+
+constexpr double unitsPerPixel = 15;
+
+/// The line without its comment: a '#' at the start of a word begins one.
+std::string_view WithoutComment(std::string_view line) {
+  for (std::size_t i = 0; i < line.size(); ++i)
+    if (line[i] == '#' && (i == 0 || line[i - 1] == ' ' || line[i - 1] == '\t')) return line.substr(0, i);
+  return line;
+}
+
+/// Takes the first word off a text.
+std::string TakeWord(std::string_view& text) {
+  text = Trim(text);
+  const auto end = std::min(text.find_first_of(" \t"), text.size());
+  std::string word(text.substr(0, end));
+  text = Trim(text.substr(end));
+  return word;
+}
+
+struct PixelSize {
+  int width = 0, height = 0;
+};
+
+std::optional<PixelSize> ReadSize(std::string_view text) {
+  const auto times = text.find_first_of("xX");
+  if (times == std::string_view::npos) return std::nullopt;
+  const std::string_view width = text.substr(0, times), height = text.substr(times + 1);
+  if (!IsNumber(width) || !IsNumber(height)) return std::nullopt;
+  const PixelSize size{ToWhole(Val(width)), ToWhole(Val(height))};
+  constexpr int largest = 20000;
+  if (size.width < 1 || size.height < 1 || size.width > largest || size.height > largest) return std::nullopt;
+  return size;
+}
+
+bool ReadsAsOn(std::string_view text) {
+  return SameName(text, "true") || SameName(text, "on") || Val(text) != 0;
+}
+
+/// Sets a field of an open dialog as a user would.
+void SetField(Session& session, Control& control, const std::string& text) {
+  if (TextOf(control) != nullptr) {
+    UserTypes(session, control, text);
+  } else if (control.Value().checked != ReadsAsOn(text)) {
+    UserClicks(session, control);
+  }
+}
+
+}  // namespace
+
+/// The commands, one function each; `rest` is the line after the command's name.
+struct ScriptCommands {
+  using Failure = ScriptRunner::Failure;
+
+  static Control& Named(ScriptRunner& run, const std::string& name) {
+    Control* control = FindControl(run.Current(), name);
+    if (control == nullptr) throw Failure{"there is no control " + name};
+    return *control;
+  }
+
+  static void Set(ScriptRunner& run, std::string_view rest) {
+    const std::string name = TakeWord(rest);
+    Control& control = Named(run, name);
+    std::string* text = TextOf(control);
+    const bool list = control.Kind() == ControlKind::SelectionList;
+    if (text == nullptr || (list && !static_cast<SelectionList&>(control).Editable))
+      throw Failure{name + " takes no text"};
+    if (!control.Enabled) throw Failure{name + " is disabled"};
+    const bool visible = control.Visible;
+    control.Visible = true;
+    UserTypes(run.Current(), control, rest);
+    if (!visible) control.Visible = false;
+  }
+
+  static void Choose(ScriptRunner& run, std::string_view rest) {
+    const std::string name = TakeWord(rest);
+    Control& control = Named(run, name);
+    if (control.Kind() != ControlKind::SelectionList) throw Failure{name + " is no list"};
+    auto& list = static_cast<SelectionList&>(control);
+    if (!ListTakes(list, rest)) throw Failure{name + " does not offer " + std::string(rest)};
+    if (!UserChooses(run.Current(), list, rest)) throw Failure{name + " is disabled or hidden"};
+  }
+
+  static void Click(ScriptRunner& run, std::string_view rest) {
+    const std::string name = TakeWord(rest);
+    Control& control = Named(run, name);
+    const auto kind = control.Kind();
+    if (kind != ControlKind::CommandButton && kind != ControlKind::MenuEntry && kind != ControlKind::OptionButton &&
+        kind != ControlKind::CheckBox)
+      throw Failure{name + " cannot be clicked"};
+    if (!UserClicks(run.Current(), control)) throw Failure{name + " is disabled or hidden"};
+  }
+
+  static void Dialog(ScriptRunner& run, std::string_view rest) {
+    ScriptedPlatform::DialogAnswer answer;
+    answer.form = TakeWord(rest);
+    if (run.Current().forms.Find(answer.form) == nullptr) throw Failure{"there is no dialog " + answer.form};
+    const std::string verdict = TakeWord(rest);
+    if (verdict != "ok" && verdict != "cancel") throw Failure{"a dialog is answered ok or cancel"};
+    answer.ok = verdict == "ok";
+    while (!rest.empty()) {
+      const std::string word = TakeWord(rest);
+      const auto equals = word.find('=');
+      if (equals != std::string::npos && FindControl(run.Current(), answer.form + "." + word.substr(0, equals))) {
+        answer.fields.emplace_back(word.substr(0, equals), word.substr(equals + 1));
+      } else if (!answer.fields.empty() && equals == std::string::npos) {
+        answer.fields.back().second += " " + word;
+      } else {
+        throw Failure{"there is no field " + word};
+      }
+    }
+    run.platform_.dialogs.push_back(std::move(answer));
+  }
+
+  static void Answer(ScriptRunner& run, std::string_view rest) {
+    if (rest != "yes" && rest != "no") throw Failure{"a question is answered yes or no"};
+    run.platform_.answers.push_back(rest == "yes");
+  }
+
+  static void OpenPath(ScriptRunner& run, std::string_view rest) { run.platform_.openPaths.emplace_back(rest); }
+
+  static void SavePath(ScriptRunner& run, std::string_view rest) { run.platform_.savePaths.emplace_back(rest); }
+
+  static void Get(ScriptRunner& run, std::string_view rest) {
+    const auto value = ReadValue(run.Current(), rest);
+    if (!value) throw Failure{"there is nothing named " + std::string(rest)};
+    run.output_ << rest << " = " << *value << '\n';
+  }
+
+  static void Table(ScriptRunner& run, std::string_view rest) {
+    run.Write(std::string(rest), CurveTable(run.Current()));
+  }
+
+  static void Amplitudes(ScriptRunner& run, std::string_view rest) {
+    run.Write(std::string(rest), AmplitudeRows(run.Current()));
+  }
+
+  static void Array(ScriptRunner& run, std::string_view rest) {
+    const std::string name = TakeWord(rest);
+    const auto rows = ArrayRows(run.Current(), name);
+    if (!rows) throw Failure{"there is no array " + name};
+    run.Write(std::string(rest), *rows);
+  }
+
+  static void Drawing(ScriptRunner& run, std::string_view rest) {
+    run.Write(std::string(rest), DrawingLines(run.Current()));
+  }
+
+  static void Mouse(ScriptRunner& run, std::string_view rest) {
+    const std::string x = TakeWord(rest);
+    if (!IsNumber(x) || !IsNumber(rest)) throw Failure{"mouse takes X and Y in surface units"};
+    Form_MouseDown(run.Current(), Val(x), Val(rest));
+  }
+
+  static void Size(ScriptRunner& run, std::string_view rest) {
+    const auto size = ReadSize(rest);
+    if (!size) throw Failure{"a size reads WIDTHxHEIGHT"};
+    if (run.window_.resize) {
+      run.window_.resize(size->width, size->height);
+    } else {
+      run.recording_.Resize(size->width * unitsPerPixel, size->height * unitsPerPixel);
+      Form_Resize(run.Current());
+    }
+  }
+
+  static void StopAt(ScriptRunner& run, std::string_view rest) {
+    if (!IsNumber(rest)) throw Failure{"stop-at takes a percentage"};
+    run.stopAt_ = Val(rest);
+  }
+
+  static void Reset(ScriptRunner& run, std::string_view) {
+    run.Open();
+    run.Start();
+  }
+
+  static void Messages(ScriptRunner& run, std::string_view) {
+    for (const auto& message : run.platform_.messages) run.output_ << message.title << ": " << message.text << '\n';
+  }
+
+  static void Picture(ScriptRunner& run, std::string_view rest) {
+    if (!run.window_.picture) throw Failure{"pictures need a window: lumivex --script"};
+    PixelSize size;
+    if (const auto space = rest.rfind(' '); space != std::string_view::npos) {
+      if (const auto given = ReadSize(rest.substr(space + 1))) {
+        size = *given;
+        rest = Trim(rest.substr(0, space));
+      }
+    }
+    if (const std::string failure = run.window_.picture(rest, size.width, size.height); !failure.empty())
+      throw Failure{failure};
+  }
+
+  static void Screenshot(ScriptRunner& run, std::string_view rest) {
+    if (!run.window_.screenshot) throw Failure{"screenshots need a window: lumivex --script"};
+    if (const std::string failure = run.window_.screenshot(rest); !failure.empty()) throw Failure{failure};
+  }
+};
+
+namespace {
+
+struct CommandRow {
+  std::string_view name;
+  void (*run)(ScriptRunner&, std::string_view rest);
+};
+
+constexpr CommandRow commandRows[] = {
+    {"set", ScriptCommands::Set},
+    {"choose", ScriptCommands::Choose},
+    {"click", ScriptCommands::Click},
+    {"dialog", ScriptCommands::Dialog},
+    {"answer", ScriptCommands::Answer},
+    {"open", ScriptCommands::OpenPath},
+    {"save", ScriptCommands::SavePath},
+    {"get", ScriptCommands::Get},
+    {"table", ScriptCommands::Table},
+    {"amplitudes", ScriptCommands::Amplitudes},
+    {"array", ScriptCommands::Array},
+    {"drawing", ScriptCommands::Drawing},
+    {"mouse", ScriptCommands::Mouse},
+    {"size", ScriptCommands::Size},
+    {"stop-at", ScriptCommands::StopAt},
+    {"reset", ScriptCommands::Reset},
+    {"messages", ScriptCommands::Messages},
+    {"picture", ScriptCommands::Picture},
+    {"screenshot", ScriptCommands::Screenshot},
+};
+
+}  // namespace
+
+ScriptRunner::ScriptRunner(std::ostream& output, std::ostream& errors)
+    : output_(output),
+      errors_(errors),
+      platform_(&errors),
+      recording_(ScreenSize{}.widthPx * unitsPerPixel, ScreenSize{}.heightPx * unitsPerPixel),
+      surface_(&recording_) {
+  platform_.onYield = [this] { WatchForStop(); };
+  platform_.setField = [this](Form& form, const std::string& field, const std::string& text) {
+    if (Control* control = form.Find(field)) SetField(Current(), *control, text);
+  };
+  Open();
+}
+
+void ScriptRunner::UseWindow(DrawingSurface& surface, ScriptWindow window) {
+  surface_ = &surface;
+  window_ = std::move(window);
+  platform_.savePicture = [this](std::string_view path) { return window_.picture(path, 0, 0); };
+  Open();
+}
+
+void ScriptRunner::Open() {
+  stopAt_ = -1;
+  platform_.answers.clear();
+  platform_.dialogs.clear();
+  platform_.openPaths.clear();
+  platform_.savePaths.clear();
+  open_ = std::make_unique<OpenSession>(platform_, *surface_);
+  if (window_.reset) window_.reset(open_->Get());
+}
+
+void ScriptRunner::Start() {
+  Form_Load(Current());
+}
+
+void ScriptRunner::WatchForStop() {
+  if (stopAt_ < 0 || Current().state.ProgressPercent < stopAt_) return;
+  stopAt_ = -1;
+  Current().events.Raise("cmdStop_Click");
+}
+
+void ScriptRunner::Write(const std::string& path, const std::string& content) {
+  if (path.empty()) {
+    output_ << content;
+  } else if (const std::string failure = WriteWholeFile(path, content); !failure.empty()) {
+    throw Failure{failure};
+  }
+}
+
+void ScriptRunner::Execute(const std::string& line) {
+  std::string_view rest = Trim(WithoutComment(line));
+  if (rest.empty()) return;
+  const std::string name = TakeWord(rest);
+  for (const auto& row : commandRows)
+    if (row.name == name) return row.run(*this, rest);
+  throw Failure{"unknown command " + name};
+}
+
+int ScriptRunner::Run(std::istream& script) {
+  std::string line;
+  for (int number = 1; std::getline(script, line); ++number) {
+    if (platform_.quit) break;
+    try {
+      Execute(line);
+    } catch (const Failure& failure) {
+      output_.flush();
+      errors_ << "line " << number << ": " << failure.what << std::endl;
+      return scriptError;
+    }
+  }
+  output_.flush();
+  return ok;
+}
+
+}  // namespace lumivex

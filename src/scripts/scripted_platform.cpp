@@ -1,0 +1,65 @@
+#include "scripts/scripted_platform.h"
+
+#include <ostream>
+
+#include "session/record/form.h"
+#include "session/record/number_text.h"
+
+namespace lumivex {
+
+namespace {
+
+template <class Value>
+std::optional<Value> TakeFirst(std::deque<Value>& queue) {
+  if (queue.empty()) return std::nullopt;
+  Value value = std::move(queue.front());
+  queue.pop_front();
+  return value;
+}
+
+}  // namespace
+
+void ScriptedPlatform::Record(std::string_view title, std::string_view text) {
+  messages.push_back({std::string(title), std::string(text)});
+  if (echo_ != nullptr) *echo_ << title << ": " << text << std::endl;
+}
+
+void ScriptedPlatform::Message(std::string_view title, std::string_view text) {
+  Record(title, text);
+}
+
+bool ScriptedPlatform::Question(std::string_view title, std::string_view text) {
+  Record(title, text);
+  return TakeFirst(answers).value_or(true);
+}
+
+std::optional<std::string> ScriptedPlatform::OpenFileName(const FileDialog&) {
+  return TakeFirst(openPaths);
+}
+
+std::optional<std::string> ScriptedPlatform::SaveFileName(const FileDialog&) {
+  return TakeFirst(savePaths);
+}
+
+bool ScriptedPlatform::ShowModal(Form& form) {
+  if (dialogs.empty() || !SameName(dialogs.front().form, form.Name())) return true;
+  const DialogAnswer answer = std::move(dialogs.front());
+  dialogs.pop_front();
+  for (const auto& [field, text] : answer.fields)
+    if (setField) setField(form, field, text);
+  return answer.ok;
+}
+
+void ScriptedPlatform::Yield() {
+  if (onYield) onYield();
+}
+
+double ScriptedPlatform::Timer() {
+  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start_).count();
+}
+
+std::string ScriptedPlatform::SavePicture(std::string_view path) {
+  return savePicture ? savePicture(path) : "Pictures can be saved only where there is a window system";
+}
+
+}  // namespace lumivex

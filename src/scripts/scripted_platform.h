@@ -1,0 +1,76 @@
+#pragma once
+
+#include <chrono>
+#include <deque>
+#include <functional>
+#include <iosfwd>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "session/record/platform.h"
+
+namespace lumivex {
+
+/// A message or question that was shown.
+struct ShownMessage {
+  std::string title, text;
+  bool operator==(const ShownMessage&) const = default;
+};
+
+/// The outside world of a script or test: messages are recorded (and written to a stream where one is given),
+/// questions, dialogs and file dialogs are answered from queues. An empty queue answers Yes, OK with what stands in the
+/// dialog, and Cancel for files.
+class ScriptedPlatform final : public Platform {
+ public:
+  /// What the user does in a dialog: fields set in order, then OK or Cancel.
+  struct DialogAnswer {
+    std::string form;
+    bool ok = true;
+    std::vector<std::pair<std::string, std::string>> fields;
+  };
+
+  explicit ScriptedPlatform(std::ostream* echo = nullptr) : echo_(echo) {}
+
+  // What the next questions are answered.
+  std::deque<bool> answers;
+  std::deque<std::string> openPaths, savePaths;
+  std::deque<DialogAnswer> dialogs;
+  // What the world is like.
+  ScreenSize screen;
+  char decimalSymbol = '.';
+  // What was seen.
+  std::vector<ShownMessage> messages;
+  std::vector<std::string> helpPages;
+  std::string copiedText;
+  int beeps = 0;
+  bool quit = false;
+  // What happens on a yield, how a dialog's field is set, how a picture is saved.
+  std::function<void()> onYield;
+  std::function<void(Form&, const std::string& field, const std::string& text)> setField;
+  std::function<std::string(std::string_view path)> savePicture;
+
+  void Message(std::string_view title, std::string_view text) override;
+  bool Question(std::string_view title, std::string_view text) override;
+  std::optional<std::string> OpenFileName(const FileDialog& dialog) override;
+  std::optional<std::string> SaveFileName(const FileDialog& dialog) override;
+  bool ShowModal(Form& form) override;
+  void Yield() override;
+  double Timer() override;
+  ScreenSize Screen() override { return screen; }
+  char DecimalSymbol() override { return decimalSymbol; }
+  void Beep() override { ++beeps; }
+  void Help(std::string_view page) override { helpPages.emplace_back(page); }
+  void BringToFront(Form&) override {}
+  std::string SavePicture(std::string_view path) override;
+  void CopyText(std::string_view text) override { copiedText = text; }
+  void Quit() override { quit = true; }
+
+ private:
+  void Record(std::string_view title, std::string_view text);
+
+  std::ostream* echo_;
+  std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+};
+
+}  // namespace lumivex

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "session/record/session.h"
+
+namespace lumivex {
+
+/// A run of one wavelength against scattering angle: sizes the arrays, calls the solver once and fills the curves.
+/// Size, wavelength and index stand in the record. Refused or failed runs leave PlotMode 4 and the old results.
+void CalculateAngles(Session& session);
+
+/// Fills the curve arrays from S1 and S2, as amplitudes or intensities, with the degree of polarisation (Extra1) and
+/// the phases (Extra2, Extra3); a row that was not computed to the end holds not-a-number.
+void FillAngleCurves(Session& session);
+
+/// WaveNumber, and IntensityNorm after mnuInvWavelength and mnuAmplitude.
+void SetIntensityNorm(Session& session);
+
+}  // namespace lumivex

@@ -1,0 +1,24 @@
+#include "session/driver/display_run.h"
+
+#include "graphs/line_graph.h"
+#include "graphs/polar_plot.h"
+#include "graphs/two_panels.h"
+#include "solvers/visible_data.h"
+
+namespace lumivex {
+
+void DisplayRun(Session& session) {
+  const auto& s = session.state;
+  const auto& form = session.form1;
+  const bool panels = s.GraphType == 1 && (form.mnuAmpPhase.Checked || form.mnuIntPol.Checked);
+  if (panels) {
+    DisplayTwoPanels(session);
+  } else {
+    Display(session, s.Iperp, s.Ipar, s.Iunpol);
+  }
+  if (form.mnuPolarPlot.Checked) PolarLabel(session);
+  PrintTitle(session);
+  VisibleData(session);
+}
+
+}  // namespace lumivex

@@ -1,0 +1,77 @@
+#include "session/driver/duration.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+#include "session/record/number_text.h"
+#include "solvers/kernel/angular_sum.h"
+#include "solvers/kernel/logarithmic_derivative.h"
+#include "solvers/kernel/mie_coefficients.h"
+#include "solvers/sphere_size.h"
+
+namespace lumivex {
+
+namespace {
+
+/// Below this many terms times angle pairs no machine in use needs the time that is asked about, so none is measured.
+constexpr double pairTermsNeverSlow = 2e8;
+
+/// Seconds for one term of one pair of angles on this machine: a small series, the best of three.
+double MeasurePairTerm(Platform& platform) {
+  constexpr int terms = 2000, rows = 400;
+  const PartialWaves waves(terms);
+  const AngleGrid grid(rows);
+  AmplitudeTable S1(grid.RowCount()), S2(grid.RowCount());
+  double best = 1e300;
+  for (int i = 0; i < 3; ++i) {
+    SilentMonitor silent;
+    const double start = platform.Timer();
+    SumAngularSeries(waves, grid, {1, grid.RowCount()}, S1, S2, silent);
+    best = std::min(best, platform.Timer() - start);
+  }
+  return best / (static_cast<double>(terms) * rows);
+}
+
+double SecondsHere(Session& session) {
+  auto& s = session.state;
+  const double x = 2 * 3.14159265358979 * SphereRadius(session) / Val(session.form1.txtLambda.Text);
+  const double terms = x + 4 * std::cbrt(std::max(x, 0.0)) + 20;
+  const double pairTerms = terms * 90 / Val(session.form1.cboStep.Text) * std::max(1, s.NumberWavelengths);
+  if (!(pairTerms > pairTermsNeverSlow)) return 0;
+  if (s.SecondsPerPairTerm == 0) s.SecondsPerPairTerm = MeasurePairTerm(session.platform);
+  return pairTerms * s.SecondsPerPairTerm;
+}
+
+}  // namespace
+
+double ReferenceSeconds(const Session& session) {
+  const auto& s = session.state;
+  const auto& form = session.form1;
+  const double r = SphereRadius(session);
+  const double step = Val(form.cboStep.Text);
+  const double S = (Val(form.txtXmax.Text) - Val(form.txtXmin.Text)) / step;
+  const double t = 5.3394821 + 0.9759082 * r - 8.895773e-5 * r * r + 6.0300197e-8 * r * r * r;
+  // The parabola was fitted to few points; beyond its top it is held.
+  const double fitted = std::min(S, 0.0061566 / (2 * 9.773e-6));
+  double q = (0.2077 + 0.0061566 * fitted - 9.773e-6 * fitted * fitted) * t;
+  q = q * 0.01 / step;
+  if (s.NumberWavelengths == 1) q = q * 0.65 / Val(form.txtLambda.Text);
+  return q * 0.1 * (4.2380146 + 1.2130768 * std::log(S));
+}
+
+void Duration(Session& session) {
+  auto& s = session.state;
+  constexpr int calibratedFast = 3;
+  if (s.CalibrationState == calibratedFast || SecondsHere(session) <= secondsWithoutAsking) return;
+  const double seconds = std::clamp(ReferenceSeconds(session), 0.0, 1e9);
+  const double hours = Int(seconds / 3600);
+  const std::string minutes = Shortest(Int((seconds - 3600 * hours) / 60)) + " minutes";
+  std::string text = "Expected duration is ";
+  if (hours == 1) text += "1 hour ";
+  if (hours > 1) text += Shortest(hours) + " hours ";
+  text += minutes + "\nwith 600 MHz Pentium\n\nDo you want to continue ?";
+  if (!session.platform.Question("Long calculation !", text)) s.CommandAborted = 1;
+}
+
+}  // namespace lumivex

@@ -1,0 +1,33 @@
+#include "session/driver/lock.h"
+
+#include "session/record/number_text.h"
+
+namespace lumivex {
+
+namespace {
+
+void EnableInputs(Form1& form, bool enabled) {
+  for (SelectionList* list : {&form.cboType, &form.cboGraph, &form.cboWave, &form.cboYmax, &form.cboYmin})
+    list->Enabled = enabled;
+  form.OptXLinear.Enabled = form.optXLog.Enabled = enabled;
+  for (CommandButton* command : {&form.cmdNewPlot, &form.cmdOverPlot, &form.cmdReplot, &form.cmdExit})
+    command->Enabled = enabled;
+}
+
+}  // namespace
+
+void LockON(Session& session) {
+  EnableInputs(session.form1, false);
+  session.form1.cboLee.Enabled = session.form1.cboBright.Enabled = session.form1.cmdSimulation.Enabled = false;
+}
+
+void LockOFF(Session& session) {
+  auto& form = session.form1;
+  const auto& s = session.state;
+  EnableInputs(form, true);
+  const bool coloured = s.NumberWavelengths > 1 || s.GraphType >= 20;
+  form.cboLee.Enabled = s.GraphType >= 20 && s.GraphType < 30;
+  form.cboBright.Enabled = coloured;
+}
+
+}  // namespace lumivex

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "session/kernel/run_monitor.h"
+#include "session/record/session.h"
+
+namespace lumivex {
+
+/// Shows how far the run is, as a percentage in txtProgress and a bar on the surface, and yields to the event loop.
+/// Reads the loop variables of the record, so that whoever loops need pass nothing.
+void Progress(Session& session);
+
+/// Shows txtProgress at 0, or hides it and wipes the bar.
+void BeginProgress(Session& session);
+void EndProgress(Session& session);
+
+/// What a kernel of the present run reports to: moves the loop variables, shows progress, sees a Stop.
+class SessionMonitor final : public RunMonitor {
+ public:
+  explicit SessionMonitor(Session& session) : session_(session) {}
+  bool Report(std::size_t index, std::size_t count) override;
+
+ private:
+  Session& session_;
+};
+
+}  // namespace lumivex

@@ -1,0 +1,124 @@
+#include "session/event_table.h"
+
+#include <algorithm>
+#include <cctype>
+
+#include "graphs/look_menus.h"
+#include "materials/material_menus.h"
+#include "session/driver/commands.h"
+#include "session/file_menu.h"
+#include "session/graph_types.h"
+#include "session/info.h"
+#include "session/input_events.h"
+#include "session/methods.h"
+#include "session/start_up.h"
+#include "session/window_events.h"
+
+namespace lumivex {
+
+namespace {
+
+struct EventRow {
+  std::string_view name;
+  EventTable::Handler handler;
+};
+
+constexpr EventRow eventRows[] = {
+    // Commands.
+    {"cmdNewPlot_Click", cmdNewPlot_Click},
+    {"cmdOverPlot_Click", cmdOverPlot_Click},
+    {"cmdReplot_Click", cmdReplot_Click},
+    {"cmdStop_Click", cmdStop_Click},
+    {"cmdInfo_Click", cmdInfo_Click},
+    {"cmdDefault_Click", cmdDefault_Click},
+    {"cmdExit_Click", mnuExit_Click},
+
+    // Method and graph.
+    {"cboType_click", cboType_click},
+    {"cboGraph_Click", cboGraph_Click},
+    {"cboWave_Click", cboWave_Click},
+    {"cboPol_Click", Scale_Click},
+
+    // Inputs.
+    {"Inputs_Changed", Inputs_Changed},
+    {"txtLambda_change", txtLambda_change},
+    {"txtRadius_Change", txtRadius_Change},
+    {"txtRefractReal_Change", txtRefractReal_Change},
+    {"txtRefractImag_Change", txtRefractImag_Change},
+    {"txtRefractMedium_Change", txtRefractMedium_Change},
+    {"txtXmin_Change", Picture_Changed},
+    {"txtXmax_Change", Picture_Changed},
+    {"cboStep_Change", Step_Changed},
+    {"cboYmax_Change", Picture_Changed},
+    {"cboYmin_Change", Picture_Changed},
+    {"cboYmax_Click", Limit_Click},
+    {"cboYmin_Click", Limit_Click},
+    {"OptLog_Click", Scale_Click},
+    {"optLinear_Click", Scale_Click},
+    {"OptXLinear_Click", Scale_Click},
+    {"optXLog_Click", Scale_Click},
+    {"optPoint_Click", Scale_Click},
+    {"optSun_Click", Scale_Click},
+
+    // File, edit, view, help.
+    {"mnuSavePicture_Click", mnuSavePicture_Click},
+    {"mnuCopyPicture_Click", mnuCopyPicture_Click},
+    {"mnuCopyData_Click", mnuCopyData_Click},
+    {"mnuSaveData_Click", mnuSaveData_Click},
+    {"mnuExit_Click", mnuExit_Click},
+    {"mnuRestoreDefaults_Click", cmdDefault_Click},
+    {"mnuInfo_Click", cmdInfo_Click},
+    {"mnuDataVisible_Click", mnuDataVisible_Click},
+    {"mnuKeepParameters_Click", mnuKeepParameters_Click},
+    {"mnuHelpContents_Click", mnuHelpContents_Click},
+    {"mnuAbout_Click", mnuAbout_Click},
+
+    // Light.
+    {"mnuSpectrumBand_Click", mnuSpectrumBand_Click},
+    {"mnuSpectrumLee_Click", mnuSpectrumLee_Click},
+
+    // Sphere, medium, solver.
+    {"mnuRadius_Click", mnuRadius_Click},
+    {"mnuDiameter_Click", mnuDiameter_Click},
+    {"mnuRadiusX_Click", mnuRadiusX_Click},
+    {"mnuSize_Click", mnuSize_Click},
+    {"mnuClassicStart_Click", mnuClassicStart_Click},
+    {"mnuRI_IAPWS_Click", mnuRI_IAPWS_Click},
+    {"mnuRI_Vacuum1_Click", mnuRI_Vacuum1_Click},
+    {"mnuRI_Fixed1_Click", mnuRI_Fixed1_Click},
+    {"mnuRI_Vacuum2_Click", mnuRI_Vacuum2_Click},
+    {"mnuRI_Fixed2_Click", mnuRI_Fixed2_Click},
+
+    // Dialogs.
+    {"dlogTemp.txtTemp_Change", dlogTemp_txtTemp_Change},
+};
+
+std::string LowerCase(std::string_view text) {
+  std::string lower(text);
+  std::ranges::transform(lower, lower.begin(), [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  return lower;
+}
+
+}  // namespace
+
+EventTable::EventTable() {
+  for (const auto& row : eventRows) Add(row.name, row.handler);
+  for (const auto& row : LookEvents()) Add(row.name, row.handler);
+}
+
+void EventTable::Add(std::string_view name, Handler handler) {
+  handlers_[LowerCase(name)] = handler;
+}
+
+bool EventTable::Listens(std::string_view name) const {
+  return handlers_.contains(LowerCase(name));
+}
+
+bool EventTable::Raise(std::string_view name) {
+  const auto found = handlers_.find(LowerCase(name));
+  if (found == handlers_.end() || session_ == nullptr) return false;
+  found->second(*session_);
+  return true;
+}
+
+}  // namespace lumivex

@@ -1,0 +1,58 @@
+#include "session/info.h"
+
+#include "session/record/number_text.h"
+
+namespace lumivex {
+
+namespace {
+
+std::string Number(double value) {
+  return Significant(value, 8);
+}
+
+std::string IndexWords(double real, double imaginary) {
+  return imaginary == 0 ? Number(real) : Number(real) + " + " + Number(imaginary) + " i";
+}
+
+std::string TimeWords(double seconds) {
+  return seconds < 1 ? Significant(seconds * 1000, 2) + " ms" : Significant(seconds, 3) + " s";
+}
+
+}  // namespace
+
+std::vector<std::string> RunParameters(const Session& session) {
+  const auto& s = session.state;
+  const auto& form = session.form1;
+  std::vector<std::string> lines;
+  lines.push_back("Method: " + form.cboType.Text);
+  lines.push_back("Graph: " + form.cboGraph.Text);
+  lines.push_back("Wavelength: " + Number(s.Lambda) + " \u00B5m in vacuo");
+  lines.push_back("Radius: " + Number(s.Radius) + " \u00B5m");
+  lines.push_back("Size parameter x: " + Number(s.SizeParameter));
+  lines.push_back(form.lblSphere.Caption);
+  lines.push_back("   n = " + IndexWords(s.SphereRIReal, s.SphereRIImag));
+  lines.push_back(form.lblRI_Medium.Caption);
+  lines.push_back("   n = " + Number(s.MediumRIReal));
+  lines.push_back("Angles: " + Number(s.Xmin) + " to " + Number(s.Xmax) + "\u00B0 in steps of " + Number(s.Xstep) +
+                  "\u00B0");
+  lines.push_back("Series: " + std::to_string(s.NSTOP) + " terms, " + TimeWords(s.LastRunSeconds));
+  return lines;
+}
+
+void cmdInfo_Click(Session& session) {
+  auto& frame = session.form1.Frame6;
+  frame.Visible = !frame.Visible;
+  session.form1.mnuInfo.Checked = frame.Visible;
+  if (!frame.Visible) return;
+  frame.Body.clear();
+  for (const auto& line : RunParameters(session)) frame.Body += (frame.Body.empty() ? "" : "\n") + line;
+}
+
+std::string StatusText(const Session& session) {
+  const auto& s = session.state;
+  if (session.form1.txtProgress.Visible) return session.form1.txtProgress.Text;
+  if (s.PrevGraphType == 0) return "Ready";
+  return session.form1.cboType.Text + ", " + std::to_string(s.NSTOP) + " terms, " + TimeWords(s.LastRunSeconds);
+}
+
+}  // namespace lumivex

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <type_traits>
+
+#include "session/record/groups/axis_state.h"
+#include "session/record/groups/colour_state.h"
+#include "session/record/groups/graph_state.h"
+#include "session/record/groups/light_state.h"
+#include "session/record/groups/material_state.h"
+#include "session/record/groups/optical_state.h"
+#include "session/record/groups/result_arrays.h"
+#include "session/record/groups/run_state.h"
+#include "session/record/groups/series_state.h"
+#include "session/record/groups/size_state.h"
+
+namespace lumivex {
+
+/// The one record of a session: what was asked for, where the run stands, what came out and how it is drawn. It is
+/// told in groups, so that a routine asks for the narrowest one it needs; it lives as long as the session.
+struct MainFormState : RunState,
+                       OpticalState,
+                       SeriesState,
+                       ResultArrays,
+                       AxisState,
+                       MaterialState,
+                       LightState,
+                       SizeState,
+                       ColourState,
+                       GraphState {};
+
+/// Visits every field of the record as visit(name, field), group by group in the order above. State is MainFormState,
+/// const or not.
+template <class State, class Visitor>
+void ForEachStateField(State& state, Visitor&& visit) {
+  const auto group = [&visit]<class Group>(Group& g) { ForEachField(g, visit); };
+  const auto as = [&]<class Group>(std::type_identity<Group>) -> auto& {
+    using Wanted = std::conditional_t<std::is_const_v<State>, const Group, Group>;
+    return static_cast<Wanted&>(state);
+  };
+  group(as(std::type_identity<RunState>{}));
+  group(as(std::type_identity<OpticalState>{}));
+  group(as(std::type_identity<SeriesState>{}));
+  group(as(std::type_identity<ResultArrays>{}));
+  group(as(std::type_identity<AxisState>{}));
+  group(as(std::type_identity<MaterialState>{}));
+  group(as(std::type_identity<LightState>{}));
+  group(as(std::type_identity<SizeState>{}));
+  group(as(std::type_identity<ColourState>{}));
+  group(as(std::type_identity<GraphState>{}));
+}
+
+}  // namespace lumivex

@@ -1,0 +1,118 @@
+#include "session/methods.h"
+
+#include <algorithm>
+#include <array>
+
+#include "session/record/number_text.h"
+#include "solvers/debye_label.h"
+
+namespace lumivex {
+
+namespace {
+
+using enum Feature;
+
+constexpr std::array methodRows = {
+    MethodRow{1, "Mie", MieSeries, true, 0},
+    MethodRow{2, "Debye", DebyeSeries, true, 0},
+    MethodRow{3, "Rayleigh", SimpleScattering, true, 0},
+    MethodRow{5, "Airy", AiryTheory, true, 0},
+    MethodRow{4, "Diffraction", SimpleScattering, true, 0},
+    MethodRow{6, "Descartes", RayOptics, true, 0},
+    MethodRow{7, "Young", RayOptics, true, 0},
+    MethodRow{8, "Young mod", RayOptics, true, 0},
+    MethodRow{14, "Young + Airy", RayOptics, true, 0},
+    MethodRow{11, "Surface wave", SurfaceWaves, true, 0},
+    MethodRow{13, "Coated sphere", Feature::CoatedSphere, true, 0},
+    MethodRow{4, "Diffraction new", SimpleScattering, false, 1},
+    MethodRow{9, "Huygens", RayOptics, false, 0},
+    MethodRow{10, "Aperture", SimpleScattering, false, 0},
+    MethodRow{12, "van de Hulst", SimpleScattering, false, 0},
+    MethodRow{15, "Burgeroid", NonSphericalDrops, false, 0},
+    MethodRow{16, "Heiligenschein", Feature::Heiligenschein, false, 0},
+    MethodRow{17, "Inhomogeneous sphere", Feature::InhomogeneousSphere, false, 0},
+};
+
+/// Samples of a spectrum whose colours change the faster with wavelength the larger the drop is.
+struct SpectrumDensity {
+  std::string_view text;
+  double product;  ///< samples times radius (um)
+  int ceiling, floor;
+};
+constexpr std::array spectrumDensities = {
+    SpectrumDensity{"High", 6000, 1000, 30},
+    SpectrumDensity{"Med.", 3000, 300, 10},
+    SpectrumDensity{"Low", 1000, 100, 7},
+};
+
+bool OneOf(int code, std::initializer_list<int> codes) {
+  return std::ranges::find(codes, code) != codes.end();
+}
+
+}  // namespace
+
+std::span<const MethodRow> MethodTable() {
+  return methodRows;
+}
+
+std::vector<std::string> OfferedMethods() {
+  std::vector<std::string> texts;
+  for (const auto& row : methodRows)
+    if (row.inStartList && IsAvailable(row.feature)) texts.emplace_back(row.text);
+  return texts;
+}
+
+void TypeCalc(Session& session) {
+  auto& list = session.form1.cboType;
+  auto& s = session.state;
+  list.BackColour = colours::White;
+  s.CalcMethod = 0;
+  for (const auto& row : methodRows) {
+    if (row.text != list.Text || !IsAvailable(row.feature)) continue;
+    s.CalcMethod = row.code;
+    if (row.code == 4) s.DiffractionVariant = row.diffractionVariant;
+  }
+  if (s.CalcMethod != 0) return;
+  list.BackColour = colours::BadInput;
+  session.platform.Message("Error", "Unknown calculation method");
+}
+
+void cboType_click(Session& session) {
+  auto& form = session.form1;
+  const auto& s = session.state;
+  form.lblDebyeRays.Caption.clear();
+  TypeCalc(session);
+  const bool byRays = OneOf(s.CalcMethod, {2, 5, 6, 7, 8, 9, 10, 11, 14});
+  form.cboRays.Visible = form.Label9.Visible = byRays;
+  form.cmdNewPlot.Enabled = true;
+  DebyeLabel(session);
+}
+
+void NumberWavelengths(Session& session) {
+  auto& s = session.state;
+  const std::string& text = session.form1.cboWave.Text;
+  s.NumberWavelengths = std::clamp(ToWhole(Val(text)), 0, 32767);
+  if (text == "RGB") s.NumberWavelengths = 3;
+  for (const auto& density : spectrumDensities)
+    if (text == density.text && s.Radius > 0)
+      s.NumberWavelengths =
+          std::clamp(ToWhole(std::min(Int(density.product / s.Radius), 1e6)), density.floor, density.ceiling);
+  if (s.NumberWavelengths < 1) s.NumberWavelengths = 1;
+}
+
+void cboWave_Click(Session& session) {
+  auto& form = session.form1;
+  form.cmdReplot.Enabled = form.cmdOverPlot.Enabled = false;
+  form.cmdNewPlot.Enabled = true;
+  const bool one = Trim(form.cboWave.Text) == "1";
+  form.Label6.Visible = form.txtLambda.Visible = one;
+  form.txtRefractReal.Visible = form.Label10.Visible = form.txtRefractImag.Visible = form.txtRefractMedium.Visible =
+      one;
+  form.lblSpectrum.Visible = form.lblSpectrumBand.Visible = form.mnuSpectrum.Visible = !one;
+  form.mnuAverage.Visible = one;
+  form.Label18.Visible = form.cboBright.Visible = !one;
+  form.chkComponents.Visible = form.cboWave.Text == "RGB";
+  if (one) session.events.Raise("txtLambda_change");
+}
+
+}  // namespace lumivex

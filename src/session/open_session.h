@@ -1,0 +1,22 @@
+#pragma once
+
+#include "session/event_table.h"
+#include "session/record/session.h"
+
+namespace lumivex {
+
+/// A session with its table of events, ready for Form_Load.
+class OpenSession {
+ public:
+  OpenSession(Platform& platform, DrawingSurface& surface) : session_(platform, surface, table_) {
+    table_.Attach(session_);
+  }
+  Session& Get() { return session_; }
+  const EventTable& Table() const { return table_; }
+
+ private:
+  EventTable table_;
+  Session session_;
+};
+
+}  // namespace lumivex

@@ -1,0 +1,14 @@
+#include "session/page.h"
+
+#include "graphs/redraw.h"
+#include "solvers/visible_data.h"
+
+namespace lumivex {
+
+void DrawPage(Session& session) {
+  RedrawGraph(session);
+  PrintTitle(session);
+  VisibleData(session);
+}
+
+}  // namespace lumivex

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace lumivex {
+
+/// What the program can do, as far as a list, a menu or a table may offer it. An entry of a list or menu whose feature
+/// is not in `availableFeatures` is left out of it altogether: nothing that is offered is dead.
+enum class Feature {
+  Always,
+  MieSeries,
+  DebyeSeries,
+  RayOptics,
+  AiryTheory,
+  SimpleScattering,  ///< Rayleigh, diffraction, aperture, van de Hulst
+  SurfaceWaves,
+  CoatedSphere,
+  InhomogeneousSphere,
+  NonSphericalDrops,
+  Heiligenschein,
+  Beams,
+  AngleIntensity,
+  AngleFamily,   ///< phase function, Watts, scattering matrix and the other graphs against angle
+  AxisFamilies,  ///< graphs against wavelength, size, index; Q, asymmetry, albedo, power
+  ImpulseResponse,
+  FourierTransform,
+  LeeDiagrams,
+  Maps,
+  VolumeGraphs,
+  GraphLook,  ///< sizes, backgrounds, grids, pens, panels, polar plots
+  AllMaterials,
+  SeveralWavelengths,
+  SizeDistributions,
+  ResultsFiles,
+  BatchFiles,
+  Simulation,
+};
+
+/// The one place that says what is there.
+inline constexpr std::array availableFeatures = {
+    Feature::Always,
+    Feature::MieSeries,
+    Feature::AngleIntensity,
+};
+
+constexpr bool IsAvailable(Feature feature) {
+  return std::find(availableFeatures.begin(), availableFeatures.end(), feature) != availableFeatures.end();
+}
+
+}  // namespace lumivex

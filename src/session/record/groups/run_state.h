@@ -1,0 +1,69 @@
+#pragma once
+
+#include <string>
+#include <type_traits>
+
+namespace lumivex {
+
+/// What is being run, and how far it is.
+struct RunState {
+  int PlotMode = 1;          ///< 1 plain, 2 drawing over the present graph, 4 stop requested
+  int CommandAborted = 0;    ///< 1: the present command must end without calculating
+  int Busy = 0;              ///< 1 during start-up and New plot; resize and mouse handlers then do nothing
+  int GraphType = 1;         ///< graph code: below 10 against angle, 10 to 18 against another variable
+  int GraphSubType = 1;      ///< sub-code of the graph
+  int PrevGraphType = 0;     ///< graph of the run before; 0 before the first run
+  int PrevGraphSubType = 0;  ///< its sub-code
+  int CalcMethod = 1;        ///< method code 1 to 17; 0 unknown
+  int DiffractionVariant = 0;
+  int NumberWavelengths = 1;
+  int WavelengthIndex = 1;  ///< running wavelength, from 1
+  int NumberSamples = 1;    ///< samples of the size distribution
+  int SampleIndex = 1;      ///< running sample, from 1
+  double WavelengthPos = 1;
+  double SamplePos = 1;
+  double DispSample = 0;
+  float ProgressFraction = 0;  ///< 0 to 1, of the points of an x-axis run
+  double ProgressPercent = 0;
+  int CalibrationState = 0;       ///< 3: a machine so fast that no duration is asked about
+  int RestoringSettings = 0;      ///< not 0: menu handlers show no dialog
+  int LoadingFlag = 0;            ///< not 0: change events of inputs do nothing
+  int OverplotFromFile = 0;       ///< 1: the curve to be drawn was read from a file
+  int StopAnswer = 0;             ///< 1 once a Stop of the present run was answered Yes
+  double StartTime = 0;           ///< seconds, when the present run began
+  double LastRunSeconds = 0;      ///< how long the last run calculated
+  double SecondsPerPairTerm = 0;  ///< of this machine: one term of one pair of angles; 0 until measured
+};
+
+template <class Group, class Visitor>
+requires std::is_same_v<std::remove_const_t<Group>, RunState>
+void ForEachField(Group& g, Visitor&& visit) {
+  visit("PlotMode", g.PlotMode);
+  visit("CommandAborted", g.CommandAborted);
+  visit("Busy", g.Busy);
+  visit("GraphType", g.GraphType);
+  visit("GraphSubType", g.GraphSubType);
+  visit("PrevGraphType", g.PrevGraphType);
+  visit("PrevGraphSubType", g.PrevGraphSubType);
+  visit("CalcMethod", g.CalcMethod);
+  visit("DiffractionVariant", g.DiffractionVariant);
+  visit("NumberWavelengths", g.NumberWavelengths);
+  visit("WavelengthIndex", g.WavelengthIndex);
+  visit("NumberSamples", g.NumberSamples);
+  visit("SampleIndex", g.SampleIndex);
+  visit("WavelengthPos", g.WavelengthPos);
+  visit("SamplePos", g.SamplePos);
+  visit("DispSample", g.DispSample);
+  visit("ProgressFraction", g.ProgressFraction);
+  visit("ProgressPercent", g.ProgressPercent);
+  visit("CalibrationState", g.CalibrationState);
+  visit("RestoringSettings", g.RestoringSettings);
+  visit("LoadingFlag", g.LoadingFlag);
+  visit("OverplotFromFile", g.OverplotFromFile);
+  visit("StopAnswer", g.StopAnswer);
+  visit("StartTime", g.StartTime);
+  visit("LastRunSeconds", g.LastRunSeconds);
+  visit("SecondsPerPairTerm", g.SecondsPerPairTerm);
+}
+
+}  // namespace lumivex

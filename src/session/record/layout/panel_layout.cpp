@@ -1,0 +1,81 @@
+#include "session/record/layout/panel_layout.h"
+
+namespace lumivex {
+
+namespace {
+
+constexpr LayoutLine calculationLines[] = {
+    {{"cboType"}},           {{"cboGraph"}},
+    {{"Label8", "cboPol"}},  {{"Label9", "cboRays"}},
+    {{"chkDiffraction"}},    {{"lblQminQmax", "cboQmin", "cboQmax"}},
+    {{"txtSWAmp"}},          {{"Label18", "cboBright"}},
+    {{"Label26", "cboLee"}},
+};
+constexpr LayoutLine sizeLines[] = {
+    {{"optMono", "optDisp"}}, {{"Label7", "txtRadius"}}, {{"Label24", "txtRmax"}}, {{"txtRstep"}},
+    {{"cboDistrib"}},         {{"Label11", "cboSD"}},    {{"Label13", "cboN"}},
+};
+constexpr LayoutLine lightLines[] = {
+    {{"Label4", "cboWave"}}, {{"Label6"}},        {{"txtLambda"}}, {{"optPoint", "optSun"}}, {{"lblSpectrum"}},
+    {{"lblSpectrumBand"}},   {{"chkComponents"}}, {{"lblWatts"}},  {{"lblDistance"}},
+};
+constexpr LayoutLine indexLines[] = {
+    {{"lblSphere"}},
+    {{"txtRefractReal", "Label10", "txtRefractImag"}},
+    {{"lblRI_Medium"}},
+    {{"txtRefractMedium"}},
+};
+constexpr LayoutLine verticalLines[] = {
+    {{"Label1", "cboYmax"}},
+    {{"Label12", "cboYmin"}},
+    {{"OptLog", "optLinear"}},
+};
+constexpr LayoutLine horizontalLines[] = {
+    {{"Label3", "txtXmin"}},
+    {{"Label2", "txtXmax"}},
+    {{"Label5", "cboStep"}},
+    {{"OptXLinear", "optXLog"}},
+};
+constexpr LayoutLine furtherLines[] = {
+    {{"Label19", "txtAngle"}},
+    {{"Label30", "txtF9_fixed"}},
+    {{"Label32", "txtF9_min", "txtF9_max"}},
+    {{"Label35", "txtF9_step"}},
+};
+constexpr LayoutLine commandLines[] = {
+    {{"cmdNewPlot"}}, {{"cmdOverPlot"}}, {{"cmdReplot"}}, {{"cmdSimulation"}}, {{"cmdStop"}},
+};
+
+// Columns of even height: what is rarely shown shares a column with what is short.
+constexpr FrameLayout mainFrames[] = {
+    {"Frame1", 0, calculationLines, 11}, {"Frame3", 1, sizeLines, 5},     {"Frame4", 2, lightLines, 5},
+    {"Frame5", 3, indexLines, 8},        {"Frame8", 3, verticalLines, 9}, {"Frame2", 4, horizontalLines, 5},
+    {"Frame9", 4, furtherLines, 7},      {"", 5, commandLines, 8},
+};
+
+constexpr LayoutLine temperatureLines[] = {
+    {{"lblTemp", "txtTemp"}},
+    {{"lblDensity", "txtDensity"}},
+    {{"chkRI_Complex"}},
+};
+constexpr LayoutLine bandLines[] = {
+    {{"lblSpectrumMin", "txtSpectrumMin"}},
+    {{"lblSpectrumMax", "txtSpectrumMax"}},
+};
+
+constexpr DialogLayout dialogLayouts[] = {
+    {"dlogTemp", temperatureLines},
+    {"dlogSpectrumBand", bandLines},
+};
+
+}  // namespace
+
+std::span<const FrameLayout> MainPanel() {
+  return mainFrames;
+}
+
+std::span<const DialogLayout> Dialogs() {
+  return dialogLayouts;
+}
+
+}  // namespace lumivex

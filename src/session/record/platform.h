@@ -1,0 +1,58 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace lumivex {
+
+class Form;
+
+/// What a file dialog asks for.
+struct FileDialog {
+  std::string title;
+  std::string filter;     ///< "Pictures (*.png *.svg *.pdf)"
+  std::string suggested;  ///< a file name to start from, may be empty
+};
+
+struct ScreenSize {
+  int widthPx = 1280;
+  int heightPx = 1024;
+};
+
+/// The outside world as the session sees it. One is the window system, one a console, one a script or test.
+class Platform {
+ public:
+  virtual ~Platform() = default;
+
+  /// Shows a message and waits until it is put away. Lines are parted by '\n'.
+  virtual void Message(std::string_view title, std::string_view text) = 0;
+  /// Asks; true is Yes.
+  virtual bool Question(std::string_view title, std::string_view text) = 0;
+  /// Asks for a file; nothing when the user cancels.
+  virtual std::optional<std::string> OpenFileName(const FileDialog& dialog) = 0;
+  virtual std::optional<std::string> SaveFileName(const FileDialog& dialog) = 0;
+  /// Shows a dialog and waits; true is OK. The dialog's events run while it is open.
+  virtual bool ShowModal(Form& form) = 0;
+  /// Lets the event loop paint, and serve Stop and Esc; everything else waits until the run has ended.
+  virtual void Yield() = 0;
+  /// Seconds since some moment, never running backward.
+  virtual double Timer() = 0;
+  virtual ScreenSize Screen() = 0;
+  /// The decimal symbol that the system is set to.
+  virtual char DecimalSymbol() = 0;
+  virtual void Beep() = 0;
+  /// Opens the user guide at a page ("" for its start).
+  virtual void Help(std::string_view page) = 0;
+  /// Brings a window to the front.
+  virtual void BringToFront(Form& form) = 0;
+  /// Saves the present drawing as a picture file (the ending chooses the kind) or, for an empty path, copies it to the
+  /// clipboard. Returns an empty text, or in one sentence what went wrong.
+  virtual std::string SavePicture(std::string_view path) = 0;
+  /// Puts text on the clipboard.
+  virtual void CopyText(std::string_view text) = 0;
+  /// Ends the program.
+  virtual void Quit() = 0;
+};
+
+}  // namespace lumivex

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "session/main_form_state.h"
+#include "session/record/drawing_surface.h"
+#include "session/record/events.h"
+#include "session/record/forms/dialogs.h"
+#include "session/record/platform.h"
+
+namespace lumivex {
+
+/// What every routine acts on: the record, the forms, the outside world, the surface of the graph and the events.
+/// Plain data; OpenSession (session/session_start) ties one together and starts it.
+struct Session {
+  Session(Platform& outsideWorld, DrawingSurface& graphSurface, Events& eventTable)
+      : platform(outsideWorld), surface(&graphSurface), events(eventTable) {}
+  Session(const Session&) = delete;
+  Session& operator=(const Session&) = delete;
+
+  MainFormState state;
+  Forms forms;
+  Form1& form1 = forms.form1;
+  Platform& platform;
+  DrawingSurface* surface;  ///< never null; exchanged while a picture is drawn anew on another surface
+  Events& events;
+};
+
+}  // namespace lumivex

@@ -1,0 +1,50 @@
+#include "session/user_actions.h"
+
+#include <string>
+
+#include "session/checks/number_input.h"
+
+namespace lumivex {
+
+namespace {
+
+bool Takes(const Control& control) {
+  return control.Visible && control.Enabled;
+}
+
+}  // namespace
+
+std::string EventName(const Control& control, std::string_view event) {
+  std::string name(control.Owner().Name());
+  name = name == "Form1" ? "" : name + ".";
+  return name + std::string(control.Name()) + "_" + std::string(event);
+}
+
+bool UserTypes(Session& session, Control& control, std::string_view text) {
+  std::string* field = TextOf(control);
+  if (field == nullptr || !Takes(control)) return false;
+  if (*field == text) return true;
+  *field = text;
+  if (!session.events.Raise(EventName(control, "Change"))) session.events.Raise(EventName(control, "Click"));
+  return true;
+}
+
+bool UserChooses(Session& session, SelectionList& list, std::string_view item) {
+  if (!Takes(list)) return false;
+  list.Text = item;
+  if (!session.events.Raise(EventName(list, "Click"))) session.events.Raise(EventName(list, "Change"));
+  return true;
+}
+
+bool UserClicks(Session& session, Control& control) {
+  if (!Takes(control)) return false;
+  if (control.Kind() == ControlKind::OptionButton) static_cast<OptionButton&>(control).Select();
+  if (control.Kind() == ControlKind::CheckBox) {
+    auto& box = static_cast<CheckBox&>(control);
+    box.Checked = !box.Checked;
+  }
+  session.events.Raise(EventName(control, "Click"));
+  return true;
+}
+
+}  // namespace lumivex

@@ -1,0 +1,91 @@
+#include "solvers/mie.h"
+
+#include <algorithm>
+#include <initializer_list>
+
+#include "session/record/number_text.h"
+#include "solvers/arithmetic_guard.h"
+#include "solvers/kernel/mie_series.h"
+
+namespace lumivex {
+
+namespace {
+
+constexpr int convergenceGraph = 13;
+
+/// The title names the materials unless the graph varies them or the user typed an index.
+void WriteTitle(Session& session) {
+  auto& s = session.state;
+  const auto& form = session.form1;
+  const std::initializer_list<int> variesMaterial = {12, 22, 23, 26, 27, 28};
+  const std::string materials = std::string(Trim(s.SphereName)) + " in " + std::string(Trim(s.MediumName));
+  const bool named = std::ranges::find(variesMaterial, s.GraphType) == variesMaterial.end() && s.RIUserEdited == 0;
+  if (form.cboType.Text == "Mie") s.RunTitle = named ? "Mie scattering:  " + materials : "Mie scattering";
+  if (form.cboType.Text == "Debye" && form.cboRays.Text == "0") s.RunTitle = "Debye series (p = 0):  " + materials;
+}
+
+MieRequest ReadRequest(const Session& session, const SolverCall& call) {
+  MieRequest request;
+  request.x = call.x;
+  request.mRe = call.mRe;
+  request.mIm = call.mIm;
+  request.NANG = std::max(call.NANG, 2);
+  request.window = {call.RowLow, call.RowHigh};
+  request.divideBySize = session.form1.mnuSize.Checked;
+  request.classicStart = session.form1.mnuClassicStart.Checked;
+  request.convergence = session.state.GraphType == convergenceGraph;
+  request.selectedAngleIndex = session.state.SelectedAngleIndex;
+  return request;
+}
+
+/// Tables keep rows beyond the grid, which averaging reads; those stay 0.
+void StoreRows(const AmplitudeTable& from, AmplitudeTable& to) {
+  to.Resize(std::max(from.Rows(), to.Rows()));
+  for (int row = 1; row <= from.Rows(); ++row) to.Set(row, from.Re(row), from.Im(row));
+}
+
+void StoreConvergence(Session& session, MieResult& result) {
+  auto& s = session.state;
+  s.Iperp = std::move(result.convergence.perpendicular);
+  s.Ipar = std::move(result.convergence.parallel);
+  s.Iunpol = std::move(result.convergence.unpolarised);
+  session.form1.txtXmax.Text = std::to_string(result.truncation.NSTOP);
+}
+
+}  // namespace
+
+void BHMIE(Session& session, const SolverCall& call, AmplitudeTable& S1, AmplitudeTable& S2, double& Qext, double& Qsca,
+           double& Qback, double& g, RunMonitor& monitor) {
+  auto& s = session.state;
+  session.form1.lblDebyeRays.Caption = "Mie (plane wave)";
+  if (s.PlotMode == 4) return;
+  WriteTitle(session);
+
+  const MieRequest request = ReadRequest(session, call);
+  const ArithmeticGuard guard;
+  MieResult result = SolveMie(request, monitor);
+  if (result.refusal != MieRefusal::None) {
+    session.platform.Message("Error in BHMIE sub-routine", "Reduce radius or increase wavelength");
+    s.PlotMode = 4;
+    return;
+  }
+  if (!guard.Passed(session)) return;
+
+  const AngleGrid grid(request.NANG);
+  s.NANG = grid.NANG;
+  s.NN = grid.RowCount();
+  s.DANG = grid.DANG;
+  s.NSTOP = result.truncation.NSTOP;
+  s.NMX = result.truncation.NMX;
+  s.SummedRows = result.rows;
+  StoreRows(result.S1, S1);
+  StoreRows(result.S2, S2);
+  if (request.convergence) StoreConvergence(session, result);
+  s.Waves = std::move(result.waves);
+  Qext = result.efficiencies.Qext;
+  Qsca = result.efficiencies.Qsca;
+  Qback = result.efficiencies.Qback;
+  g = result.efficiencies.g;
+}
+
+}  // namespace lumivex

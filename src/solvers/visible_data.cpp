@@ -1,0 +1,101 @@
+#include "solvers/visible_data.h"
+
+#include <algorithm>
+#include <initializer_list>
+#include <string>
+#include <utility>
+
+#include "session/record/number_text.h"
+#include "solvers/kernel/angular_sum.h"
+
+namespace lumivex {
+
+namespace {
+
+// The strip of readings (surface units).
+constexpr double left = 12000, firstLine = 600, lineHeight = 200, stripBottom = 2800;
+constexpr double pi = 3.14159265358979324;
+constexpr int digitsShown = 6;
+
+class ReadingColumn {
+ public:
+  explicit ReadingColumn(DrawingSurface& surface) : surface_(surface) {}
+  void Line(const std::string& text) {
+    surface_.CurrentX = left;
+    surface_.CurrentY = y_;
+    surface_.Print(text);
+    y_ += lineHeight;
+  }
+
+ private:
+  DrawingSurface& surface_;
+  double y_ = firstLine;
+};
+
+void PrintEfficiencies(const MainFormState& s, ReadingColumn& column) {
+  const std::initializer_list<std::pair<const char*, double>> readings = {{"Qsca = ", s.Qsca},
+                                                                          {"Qext = ", s.Qext},
+                                                                          {"Qabs = ", s.Qext - s.Qsca},
+                                                                          {"Qback = ", s.Qback},
+                                                                          {"Qradar = ", pi / 4 * s.Qback},
+                                                                          {"g = ", s.Gsca}};
+  for (const auto& [name, value] : readings) column.Line(name + Significant(value, digitsShown));
+}
+
+/// Intensities straight forward and straight back, of the sphere even where the graph leaves those rows out.
+void PrintEndIntensities(const Session& session, ReadingColumn& column) {
+  const auto& s = session.state;
+  if (s.Waves.Terms() < 1) return;
+  const double scale = session.form1.mnuSize.Checked ? s.SizeParameter : 1;
+  const auto intensity = [scale](const ComplexD& S) { return (S.re * S.re + S.im * S.im) / (scale * scale); };
+  column.Line("  0 deg: " + Format(intensity(ForwardAmplitude(s.Waves)), "scientific"));
+  column.Line("  180 deg: " + Format(intensity(BackwardAmplitude(s.Waves)), "scientific"));
+  column.Line("X = " + Format(s.SizeParameter, "#,##0.######"));
+}
+
+}  // namespace
+
+void VisibleData(Session& session) {
+  const auto& s = session.state;
+  const auto& form = session.form1;
+  auto& surface = *session.surface;
+  const Colour before = surface.ForeColour;
+  surface.ForeColour = surface.BackColour;
+  surface.Line(left, 0, surface.ScaleWidth(), stripBottom, LineKind::FilledBox);
+  surface.ForeColour = colours::Black;
+  const bool shown = s.ScreenWidthPx > 800 && s.GraphType != 20 && form.mnuDataVisible.Checked;
+  const std::initializer_list<int> withEfficiencies = {1, 2, 13};
+  if (shown && form.mnuPlaneWave.Checked &&
+      std::ranges::find(withEfficiencies, s.CalcMethod) != withEfficiencies.end()) {
+    ReadingColumn column(surface);
+    PrintEfficiencies(s, column);
+    if (s.GraphType == 1) PrintEndIntensities(session, column);
+  }
+  surface.ForeColour = before;
+}
+
+void PrintTitle(Session& session) {
+  const auto& s = session.state;
+  auto& surface = *session.surface;
+  constexpr double titleTop = 520, titleSize = 10;  // above the graph box
+  const Colour before = surface.ForeColour;
+  const double top = s.GraphTop - titleTop;
+  surface.ForeColour = surface.BackColour;
+  surface.Line(s.GraphLeft, top, s.GraphRight, s.GraphTop - 120, LineKind::FilledBox);
+  surface.ForeColour = colours::Black;
+  surface.FontSize = titleSize;
+  surface.FontBold = true;
+  surface.CurrentX = s.GraphLeft;
+  surface.CurrentY = top + 80;
+  surface.Print(s.RunTitle, false);
+  surface.FontSize = 8;
+  surface.FontBold = false;
+  surface.ForeColour = RGB(96, 96, 96);
+  const std::string& label = session.form1.lblDebyeRays.Caption;
+  surface.CurrentX = s.GraphRight - surface.TextWidth(label);
+  surface.CurrentY = top + 120;
+  surface.Print(label);
+  surface.ForeColour = before;
+}
+
+}  // namespace lumivex

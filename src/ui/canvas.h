@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+#include <functional>
+
+#include "ui/painter_surface.h"
+
+namespace lumivex {
+
+/// What the mouse does on the drawing, in surface units. Whoever reads a curve or zooms into one fills in its part.
+struct CanvasMouse {
+  std::function<void(double x, double y)> press;
+  std::function<void(double x, double y)> move;
+  std::function<void(double x, double y)> drag;  ///< moved with the left button down
+  std::function<void(double x, double y)> release;
+  std::function<void(double x, double y)> doubleClick;
+  std::function<void(double x, double y, double steps)> wheel;  ///< steps up are positive
+  std::function<void()> leave;
+};
+
+/// The widget that shows the drawing of the main window.
+///
+/// The drawing is an image in the dots of the screen. When the widget is resized the old image stays, on the colour of
+/// the page, until a new one of the new size has been drawn: at once for a single change, a few times a second while an
+/// edge is dragged.
+class Canvas final : public QWidget {
+ public:
+  explicit Canvas(QWidget* parent = nullptr);
+
+  /// The drawing; lives as long as the widget.
+  ImageSurface& Surface() { return surface_; }
+  /// Pixels to one surface unit; a change takes effect with the next Renew.
+  void SetUnit(double unitPx) { unitPx_ = unitPx; }
+  double Unit() const { return unitPx_; }
+  /// Makes a blank drawing of the widget's present size; whoever calls draws on it.
+  void Renew();
+  /// Whether the drawing has another size than the widget.
+  bool IsStale() const;
+  /// Repaints if the drawing has changed since the last time.
+  void ShowChanges();
+
+  CanvasMouse mouse;
+  /// The widget has a new size and the drawing has not: called when it is time to renew it.
+  std::function<void()> resized;
+  /// Called once, when the drawing has been painted for the first time.
+  std::function<void()> firstPainted;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+
+ private:
+  QPointF UnitsAt(const QPointF& px) const { return px / unitPx_; }
+
+  double unitPx_ = 1.0 / 15;
+  ImageSurface surface_;
+  QTimer resizeTimer_;
+};
+
+}  // namespace lumivex

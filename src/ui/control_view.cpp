@@ -1,0 +1,214 @@
+#include "ui/control_view.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+
+#include "ui/look.h"
+#include "ui/wrap_label.h"
+
+namespace lumivex {
+
+namespace {
+
+/// Captions from this length on may take two lines.
+constexpr qsizetype longCaption = 22;
+
+template <class Button>
+void ConnectClick(Button* button, Control& control, const ControlActions& actions) {
+  QObject::connect(button, &QAbstractButton::clicked, button, [&control, clicks = actions.clicks] { clicks(control); });
+}
+
+void SetText(QLineEdit* edit, const QString& text) {
+  if (edit->text() == text) return;
+  const QSignalBlocker quiet(edit);
+  const int cursor = edit->cursorPosition();
+  edit->setText(text);
+  edit->setCursorPosition(edit->hasFocus() ? cursor : 0);
+}
+
+template <class Widget>
+void SetCaption(Widget* widget, const QString& text) {
+  if (widget->text() != text) widget->setText(text);
+}
+
+void SetChecked(QAbstractButton* button, bool on) {
+  if (button->isChecked() == on) return;
+  const QSignalBlocker quiet(button);
+  button->setChecked(on);
+}
+
+}  // namespace
+
+ControlView::ControlView(Control& control, const ControlActions& actions, std::string_view caption, QWidget* parent)
+    : control_(&control), caption_(ToQString(caption)) {
+  switch (control.Kind()) {
+    case ControlKind::TextInput:
+      MakeTextInput(actions);
+      break;
+    case ControlKind::SelectionList:
+      MakeList(actions);
+      break;
+    case ControlKind::OptionButton:
+      MakeOption(actions);
+      break;
+    case ControlKind::CheckBox:
+      MakeCheckBox(actions);
+      break;
+    case ControlKind::CommandButton:
+      MakeButton(actions);
+      break;
+    default:
+      MakeLabel();
+      break;
+  }
+  widget_->setParent(parent);
+  widget_->setObjectName(ToQString(control.Name()));
+  plain_ = widget_->palette();
+}
+
+void ControlView::MakeTextInput(const ControlActions& actions) {
+  auto* edit = new QLineEdit;
+  edit->setMinimumWidth(edit->fontMetrics().horizontalAdvance("000000"));
+  QObject::connect(
+      edit, &QLineEdit::textEdited, edit,
+      [control = control_, types = actions.types](const QString& text) { types(*control, FromQString(text)); });
+  widget_ = edit;
+}
+
+void ControlView::MakeList(const ControlActions& actions) {
+  auto* box = new QComboBox;
+  auto& list = static_cast<SelectionList&>(*control_);
+  box->setEditable(list.Editable);
+  box->setInsertPolicy(QComboBox::NoInsert);
+  box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  box->setMinimumContentsLength(4);
+  box->setMaxVisibleItems(20);
+  if (box->lineEdit()) {
+    box->setCompleter(nullptr);
+    QObject::connect(box->lineEdit(), &QLineEdit::textEdited, box,
+                     [&list, types = actions.types](const QString& text) { types(list, FromQString(text)); });
+  }
+  QObject::connect(box, &QComboBox::textActivated, box,
+                   [&list, chooses = actions.chooses](const QString& text) { chooses(list, FromQString(text)); });
+  widget_ = box;
+}
+
+void ControlView::MakeOption(const ControlActions& actions) {
+  auto* button = new QRadioButton;
+  // The session keeps one of a group on; the widgets only show it.
+  button->setAutoExclusive(false);
+  ConnectClick(button, *control_, actions);
+  widget_ = button;
+}
+
+void ControlView::MakeCheckBox(const ControlActions& actions) {
+  auto* box = new QCheckBox;
+  ConnectClick(box, *control_, actions);
+  widget_ = box;
+}
+
+void ControlView::MakeButton(const ControlActions& actions) {
+  auto* button = new QPushButton;
+  button->setAutoDefault(false);
+  ConnectClick(button, *control_, actions);
+  widget_ = button;
+}
+
+void ControlView::MakeLabel() {
+  auto* label = new WrapLabel(ToQString(control_->ShownCaption()).size() >= longCaption);
+  label->setTextFormat(Qt::PlainText);
+  widget_ = label;
+}
+
+bool ControlView::IsShown() const {
+  if (!control_->Visible) return false;
+  return control_->Kind() != ControlKind::Label || !control_->ShownCaption().empty();
+}
+
+void ControlView::SyncList(SelectionList& list) {
+  auto* box = static_cast<QComboBox*>(widget_.data());
+  const QSignalBlocker quiet(box);
+  if (items_ != list.Items) {
+    items_ = list.Items;
+    box->clear();
+    for (const auto& item : items_) box->addItem(ToQString(item));
+    const int wanted = box->view()->sizeHintForColumn(0) + box->fontMetrics().horizontalAdvance("MM");
+    box->view()->setMinimumWidth(wanted);
+  }
+  const QString text = ToQString(list.Text);
+  const int index = box->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+  if (box->currentIndex() != index && !(index >= 0 && box->itemText(box->currentIndex()) == text))
+    box->setCurrentIndex(index);
+  if (box->lineEdit()) {
+    SetText(box->lineEdit(), text);
+  } else if (index < 0 && box->placeholderText() != text) {
+    box->setPlaceholderText(text);
+  }
+}
+
+void ControlView::SyncValue() {
+  switch (control_->Kind()) {
+    case ControlKind::TextInput:
+      SetText(static_cast<QLineEdit*>(widget_.data()), ToQString(static_cast<TextInput*>(control_)->Text));
+      break;
+    case ControlKind::SelectionList:
+      SyncList(static_cast<SelectionList&>(*control_));
+      break;
+    case ControlKind::OptionButton:
+    case ControlKind::CheckBox: {
+      auto* button = static_cast<QAbstractButton*>(widget_.data());
+      SetCaption(button, ShownText(control_->ShownCaption()));
+      SetChecked(button, control_->Value().checked);
+      break;
+    }
+    case ControlKind::CommandButton: {
+      auto* button = static_cast<QPushButton*>(widget_.data());
+      SetCaption(button, ShownText(control_->ShownCaption()));
+      if (button->isDefault() != static_cast<CommandButton*>(control_)->Default)
+        button->setDefault(static_cast<CommandButton*>(control_)->Default);
+      break;
+    }
+    default:
+      SetCaption(static_cast<QLabel*>(widget_.data()), ToQString(control_->ShownCaption()));
+      break;
+  }
+}
+
+void ControlView::SyncLook() {
+  if (control_->BackColour != back_ || control_->ForeColour != fore_) {
+    back_ = control_->BackColour;
+    fore_ = control_->ForeColour;
+    const bool isLabel = control_->Kind() == ControlKind::Label;
+    widget_->setPalette(isLabel ? InkedPalette(plain_, fore_) : MarkedPalette(plain_, back_));
+    const bool isMarked = back_ == colours::BadInput || back_ == colours::Warning;
+    if (control_->Kind() == ControlKind::OptionButton || control_->Kind() == ControlKind::CheckBox)
+      widget_->setAutoFillBackground(isMarked);
+    tip_ = "\n";  // the description tells of the mark, so it has to be written again
+  }
+  if (tip_ != control_->Tip) {
+    tip_ = control_->Tip;
+    const QString tip = ToQString(tip_);
+    if (widget_->toolTip() != tip) widget_->setToolTip(tip);
+    const bool isBad = back_ == colours::BadInput, isDoubtful = back_ == colours::Warning;
+    widget_->setAccessibleDescription(isBad ? tip + " (not accepted)" : isDoubtful ? tip + " (to be checked)" : tip);
+  }
+}
+
+void ControlView::Sync() {
+  SyncValue();
+  SyncLook();
+  if (widget_->isEnabledTo(widget_->parentWidget()) != control_->Enabled) widget_->setEnabled(control_->Enabled);
+  const bool shown = IsShown();
+  if (widget_->isHidden() == shown) widget_->setVisible(shown);
+  const bool hasOwnName = control_->Kind() == ControlKind::TextInput || control_->Kind() == ControlKind::SelectionList;
+  if (hasOwnName && widget_->accessibleName().isEmpty())
+    widget_->setAccessibleName(caption_.isEmpty() ? ToQString(control_->Tip) : caption_);
+}
+
+}  // namespace lumivex

@@ -1,0 +1,67 @@
+#include "ui/dialog_view.h"
+
+#include <QDialogButtonBox>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <string>
+
+#include "session/record/number_text.h"
+#include "ui/look.h"
+
+namespace lumivex {
+
+namespace {
+
+std::span<const LayoutLine> LinesOf(const Form& form) {
+  for (const auto& layout : Dialogs())
+    if (SameName(layout.form, form.Name())) return layout.lines;
+  return {};
+}
+
+}  // namespace
+
+DialogView::DialogView(Form& form, Hooks hooks, QWidget* parent)
+    : QDialog(parent), form_(form), hooks_(std::move(hooks)), before_(form.Snapshot()) {
+  setWindowTitle(ToQString(form.Caption));
+  auto* column = new QVBoxLayout(this);
+  column->setSpacing(8);
+  column->setSizeConstraint(QLayout::SetMinimumSize);
+  lines_ = std::make_unique<FormView>(form, LinesOf(form), FormStyle{}, hooks_.actions, this);
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+  buttons->button(QDialogButtonBox::Ok)->setDefault(true);
+  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  column->addSpacing(6);
+  column->addWidget(buttons);
+  Sync();
+  for (const auto& view : lines_->Views()) {
+    if (view->Of().Kind() == ControlKind::Label || view->Widget()->isHidden()) continue;
+    view->Widget()->setFocus();
+    break;
+  }
+}
+
+void DialogView::Sync() {
+  lines_->Sync();
+}
+
+std::string DialogView::EventOf(std::string_view button) const {
+  return std::string(form_.Name()) + "." + std::string(button) + "_Click";
+}
+
+void DialogView::accept() {
+  hooks_.raise(EventOf("OKButton"));
+  Sync();
+  const bool refused = std::ranges::any_of(
+      form_.Controls(), [](const Control* c) { return c->Visible && c->BackColour == colours::BadInput; });
+  if (!refused) QDialog::accept();
+}
+
+void DialogView::reject() {
+  hooks_.raise(EventOf("CancelButton"));
+  form_.Restore(before_);
+  QDialog::reject();
+}
+
+}  // namespace lumivex

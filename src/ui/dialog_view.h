@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+#include "session/record/form.h"
+#include "ui/form_view.h"
+
+namespace lumivex {
+
+/// A modal dialog over any form that the layout describes: its lines, then OK and Cancel.
+///
+/// The events of its inputs run while it is open. OK raises the form's own OK event and keeps the dialog open as long
+/// as an input is marked as bad; Cancel raises the Cancel event and puts back what stood there before.
+class DialogView final : public QDialog {
+ public:
+  struct Hooks {
+    ControlActions actions;
+    std::function<void(std::string_view event)> raise;  ///< "dlogTemp.OKButton_Click"
+  };
+  DialogView(Form& form, Hooks hooks, QWidget* parent);
+
+  void Sync();
+  void accept() override;
+  void reject() override;
+
+ private:
+  std::string EventOf(std::string_view button) const;
+
+  Form& form_;
+  Hooks hooks_;
+  FormSnapshot before_;
+  std::unique_ptr<FormView> lines_;
+};
+
+}  // namespace lumivex

@@ -1,0 +1,83 @@
+#include "ui/form_view.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QStyle>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "ui/look.h"
+
+namespace lumivex {
+
+namespace {
+
+constexpr int compactMargin = 6;  // frame and a dot of air above and below the text (pixels)
+
+bool IsInput(const Control& control) {
+  return control.Kind() == ControlKind::TextInput || control.Kind() == ControlKind::SelectionList;
+}
+
+std::vector<Control*> ControlsOf(const Form& form, const LayoutLine& line) {
+  std::vector<Control*> controls;
+  for (const auto name : line.controls)
+    if (Control* control = name.empty() ? nullptr : form.Find(name)) controls.push_back(control);
+  return controls;
+}
+
+}  // namespace
+
+FormView::FormView(Form& form, std::span<const LayoutLine> lines, const FormStyle& style, const ControlActions& actions,
+                   QWidget* parent)
+    : style_(style), column_(static_cast<QVBoxLayout*>(parent->layout())) {
+  // Room for the digits, the frame and the arrow of a list.
+  frameWidth_ = 2 * parent->style()->pixelMetric(QStyle::PM_DefaultFrameWidth) + 10;
+  arrowWidth_ = parent->fontMetrics().height() + 4;
+  fieldWidth_ = style.fieldChars * parent->fontMetrics().horizontalAdvance('0') + frameWidth_ + arrowWidth_;
+  for (const auto& line : lines) AddLine(form, line, actions, parent);
+}
+
+void FormView::AddLine(Form& form, const LayoutLine& line, const ControlActions& actions, QWidget* parent) {
+  const auto controls = ControlsOf(form, line);
+  if (controls.empty()) return;
+  const bool labelled = controls.size() > 1 && controls.front()->Kind() == ControlKind::Label && IsInput(*controls[1]);
+  const auto inputs = std::ranges::count_if(controls, [](const Control* c) { return IsInput(*c); });
+
+  auto* row = new QHBoxLayout;
+  row->setSpacing(column_->spacing() + 2);
+  for (Control* control : controls) {
+    const bool isNamed = labelled && control == controls[1];
+    auto& view = views_.emplace_back(std::make_unique<ControlView>(
+        *control, actions, isNamed ? controls.front()->ShownCaption() : std::string_view{}, parent));
+    view->Sync();
+    QWidget* widget = view->Widget();
+    widget->setVisible(true);  // so that the first measure counts everything; the next Sync hides what is hidden
+    const bool isLabel = control->Kind() == ControlKind::Label;
+    if (style_.compact && IsInput(*control)) widget->setFixedHeight(widget->fontMetrics().height() + compactMargin);
+    if (labelled && IsInput(*control)) {
+      const int share = static_cast<int>((fieldWidth_ - (inputs - 1) * row->spacing()) / inputs);
+      widget->setFixedWidth(share);
+      row->addWidget(widget, 0);
+      if (isNamed) static_cast<QLabel*>(views_[views_.size() - 2]->Widget())->setBuddy(widget);
+    } else {
+      if (IsInput(*control)) {
+        // A number of eight digits fits, or what stands in a list at the start; the rest of the line is its to take.
+        const bool isList = control->Kind() == ControlKind::SelectionList;
+        const QString text = isList ? ToQString(control->Value().text) : QStringLiteral("00000000");
+        widget->setMinimumWidth(widget->fontMetrics().horizontalAdvance(text) + frameWidth_ +
+                                (isList ? arrowWidth_ : 0));
+        widget->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+      }
+      const bool isBetweenInputs = isLabel && inputs > 0 && !labelled;
+      row->addWidget(widget, isBetweenInputs ? 0 : 1);
+    }
+  }
+  column_->addLayout(row);
+}
+
+void FormView::Sync() {
+  for (auto& view : views_) view->Sync();
+}
+
+}  // namespace lumivex

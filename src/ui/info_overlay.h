@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QFrame>
+
+#include "session/record/controls.h"
+
+class QLabel;
+
+namespace lumivex {
+
+/// The frame with the parameters of the run, over the drawing. It stands where the session puts it, moved so far that
+/// it neither leaves the drawing nor hides the readings where there is room beside them.
+class InfoOverlay final : public QFrame {
+ public:
+  InfoOverlay(Frame& frame, QWidget* parent);
+  /// Shows the frame as it is now.
+  /// @param unitPx  pixels to one surface unit.
+  /// @param roomPx  width of what is to be seen of the drawing (pixels).
+  void Sync(double unitPx, int roomPx);
+
+ private:
+  Frame& frame_;
+  QLabel* title_;
+  QLabel* body_;
+};
+
+}  // namespace lumivex

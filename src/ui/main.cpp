@@ -1,0 +1,99 @@
+#include <QApplication>
+#include <cstdio>
+#include <string>
+#include <string_view>
+
+#include "ui/process_clock.h"
+#include "ui/script_window.h"
+#include "ui/windowed_session.h"
+
+namespace {
+
+using namespace lumivex;
+
+constexpr int usageError = 2, noDisplay = 3;
+
+constexpr char usage[] =
+    "Usage: lumivex [--timing] [--script FILE]\n"
+    "  --timing       tell how long the first picture took, and end\n"
+    "  --script FILE  run a script in the window, and end; without a display in one that is not shown\n"
+    "  --version      tell the version, and end\n"
+    "  --help         this text\n";
+
+struct Arguments {
+  bool timing = false, help = false, version = false;
+  std::string script;
+  std::string unknown;
+};
+
+Arguments Read(int argc, char** argv) {
+  Arguments arguments;
+  for (int i = 1; i < argc; ++i) {
+    const std::string_view argument = argv[i];
+    if (argument == "--timing") {
+      arguments.timing = true;
+    } else if (argument == "--help" || argument == "-h") {
+      arguments.help = true;
+    } else if (argument == "--version") {
+      arguments.version = true;
+    } else if (argument == "--script" && i + 1 < argc) {
+      arguments.script = argv[++i];
+    } else if (argument == "-platform" || argument == "-style") {
+      ++i;  // the window system's own
+    } else {
+      arguments.unknown = argument;
+    }
+  }
+  return arguments;
+}
+
+/// Whether there is a display to open a window on, or the user has named another kind of output.
+bool HasDisplay() {
+#if defined(Q_OS_LINUX) || defined(Q_OS_BSD4)
+  return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+         qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+#else
+  return true;
+#endif
+}
+
+int RunWindow(bool timing) {
+  WindowedSession program;
+  program.Load();
+  if (timing) {
+    program.Window().Drawing().firstPainted = [] {
+      std::printf("first picture after %.0f ms\n", MillisecondsSinceStart());
+      QCoreApplication::exit(0);
+    };
+  }
+  program.Window().show();
+  return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const Arguments arguments = Read(argc, argv);
+  if (!arguments.unknown.empty()) {
+    std::fprintf(stderr, "lumivex: %s is not known\n%s", arguments.unknown.c_str(), usage);
+    return usageError;
+  }
+  if (arguments.help || arguments.version) {
+    std::printf("%s", arguments.help ? usage : "Lumivex 1.0\n");
+    return 0;
+  }
+  if (!HasDisplay()) {
+    if (arguments.script.empty()) {
+      std::fprintf(stderr,
+                   "lumivex: there is no display to open a window on (neither DISPLAY nor WAYLAND_DISPLAY is set).\n"
+                   "Scripts run without one: lumivex --script FILE, or lumivex-run.\n");
+      return noDisplay;
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+  }
+  QApplication::setStyle("Fusion");
+  QApplication::setApplicationName("Lumivex");
+  QApplication::setApplicationVersion("1.0");
+  QApplication application(argc, argv);
+  return arguments.script.empty() ? RunWindow(arguments.timing) : RunScript(arguments.script);
+}

@@ -1,0 +1,311 @@
+#include "ui/main_window.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLayout>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPointer>
+#include <QScreen>
+#include <QStatusBar>
+#include <QTimer>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "session/info.h"
+#include "session/user_actions.h"
+#include "session/window_events.h"
+#include "ui/look.h"
+
+namespace lumivex {
+
+namespace {
+
+constexpr double panelWidth = 12000, panelHeight = 2800;  // the strip of the input panel (surface units)
+constexpr double leastWidth = 13500, leastHeight = 7000;  // below that the drawing is scrolled
+constexpr double marginRight = 600, marginBottom = 900;   // around a graph of fixed size (surface units)
+constexpr double leastFontShare = 0.75;
+constexpr double panelFontShare = 0.9;  // the panel's font against the application's
+constexpr int startWidthPx = 1400, startHeightPx = 900;
+
+bool IsReturn(const QEvent* event) {
+  if (event->type() != QEvent::KeyPress) return false;
+  const int key = static_cast<const QKeyEvent*>(event)->key();
+  return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+/// What a window may take of its screen; without a display there is none to stand out of.
+QSize RoomOnScreen(const QWidget& window) {
+  constexpr int plenty = 4000;
+  if (QGuiApplication::platformName() == "offscreen") return {plenty, plenty};
+  return window.screen()->availableGeometry().size();
+}
+
+}  // namespace
+
+MainWindow::MainWindow(CommandGate& gate) : gate_(gate), scroll_(new QScrollArea(this)), canvas_(new Canvas(scroll_)) {
+  setWindowTitle("Lumivex");
+  scroll_->setFrameShape(QFrame::NoFrame);
+  scroll_->setWidgetResizable(true);
+  scroll_->setFocusPolicy(Qt::NoFocus);
+  scroll_->setWidget(canvas_);
+  setCentralWidget(scroll_);
+  MakeStatusLine();
+  canvas_->resized = [this] { Resized(); };
+  canvas_->mouse.press = [this](double x, double y) { Act([this, x, y] { Form_MouseDown(*session_, x, y); }); };
+  gate_.refresh = [this] { Refresh(); };
+  gate_.whenFree = [this] {
+    if (canvas_->IsStale()) Resized();
+  };
+  gate_.stop = [this] {
+    UserClicks(*session_, session_->form1.cmdStop);
+    Refresh();
+  };
+  resize(QSize(startWidthPx, startHeightPx).boundedTo(RoomOnScreen(*this)));
+}
+
+MainWindow::~MainWindow() {
+  gate_.refresh = gate_.whenFree = gate_.stop = nullptr;
+}
+
+void MainWindow::MakeStatusLine() {
+  status_ = new QLabel(this);
+  status_->setTextFormat(Qt::PlainText);
+  average_ = new QLabel(this);
+  progress_ = new QProgressBar(this);
+  progress_->setAccessibleName("Progress of the calculation");
+  progress_->setRange(0, 100);
+  progress_->setFixedWidth(fontMetrics().averageCharWidth() * 34);
+  progress_->setMaximumHeight(fontMetrics().height() + 2);
+  progress_->hide();
+  status_->setContentsMargins(4, 0, 0, 0);
+  statusBar()->addWidget(status_, 1);
+  statusBar()->addPermanentWidget(average_);
+  statusBar()->addPermanentWidget(progress_);
+}
+
+ControlActions MainWindow::Actions() {
+  return {[this](Control& control, const std::string& text) {
+            Act([this, &control, &text] { UserTypes(*session_, control, text); });
+          },
+          [this](SelectionList& list, const std::string& item) {
+            Act([this, &list, &item] { UserChooses(*session_, list, item); });
+          },
+          [this](Control& control) {
+            // Stop acts inside the run; the gate lets nothing else through.
+            if (gate_.Running() && &control == &session_->form1.cmdStop) {
+              gate_.stop();
+            } else {
+              Act([this, &control] { UserClicks(*session_, control); });
+            }
+          }};
+}
+
+void MainWindow::Attach(Session& session) {
+  session_ = &session;
+  menuBar()->clear();
+  menu_ = std::make_unique<MenuView>(*menuBar(), session.form1,
+                                     [this](Control& entry) { Act([this, &entry] { UserClicks(*session_, entry); }); });
+  delete info_;
+  info_ = new InfoOverlay(session.form1.Frame6, canvas_);
+  delete std::exchange(panel_, nullptr);
+  FitPanel();
+  // The first drawing is made before the window is shown; the scroll area hands sizes on only after that.
+  canvas_->resize(scroll_->maximumViewportSize().expandedTo(canvas_->minimumSize()));
+  canvas_->Renew();
+}
+
+void MainWindow::FitPanel() {
+  if (!panel_) BuildPanel(panelFontShare);
+  if (!isVisible()) {
+    const QSize frame(0, menuBar()->sizeHint().height() + statusBar()->sizeHint().height());
+    resize(size().expandedTo(canvas_->minimumSize() + frame).boundedTo(RoomOnScreen(*this)));
+    layout()->activate();
+  }
+  // In a narrow window the panel takes a smaller font, down to what can still be read, rather than push the readings
+  // out. The frames around the text do not shrink with it, so one guess is not enough.
+  const double room = scroll_->maximumViewportSize().width();
+  for (int guess = 0; guess < 3; ++guess) {
+    const double fits = fontShare_ * room / (leastWidth * canvas_->Unit());
+    const double share = std::clamp(fits, leastFontShare, panelFontShare);
+    const bool isNear = std::abs(share - fontShare_) < 0.01 && (fits >= 1 || share < panelFontShare);
+    if (share == fontShare_ || (isNear && leastWidth * canvas_->Unit() <= room)) break;
+    BuildPanel(share);
+  }
+}
+
+void MainWindow::BuildPanel(double fontShare) {
+  const QString focused =
+      focusWidget() && panel_ && panel_->isAncestorOf(focusWidget()) ? focusWidget()->objectName() : "";
+  delete panel_;
+  fontShare_ = fontShare;
+  QFont font = QApplication::font();
+  if (font.pointSizeF() > 0) font.setPointSizeF(font.pointSizeF() * fontShare);
+  canvas_->setFont(font);
+  canvas_->setPalette(PanelPalette(QApplication::palette()));
+  panel_ = new PanelView(session_->form1, Actions(), canvas_);
+
+  const QSize needed = panel_->Needed();
+  const double unit = std::max(needed.width() / panelWidth, needed.height() / panelHeight);
+  canvas_->SetUnit(unit);
+  panel_->setGeometry(0, 0, static_cast<int>(panelWidth * unit), static_cast<int>(panelHeight * unit));
+  gate_.stopButton = panel_->WidgetOf(session_->form1.cmdStop);
+  WatchInputs();
+  panel_->Sync();
+  panel_->show();
+  info_->raise();
+  if (auto* widget = focused.isEmpty() ? nullptr : panel_->findChild<QWidget*>(focused)) widget->setFocus();
+  ReserveRoom();
+}
+
+void MainWindow::ReserveRoom() {
+  double width = leastWidth, height = leastHeight;
+  if (!session_->form1.mnuVLarge.Checked) {
+    // A graph of fixed size keeps it in a smaller window, which is then scrolled.
+    width = std::max(width, session_->state.GraphRight + marginRight);
+    height = std::max(height, session_->state.GraphBottom + marginBottom);
+  }
+  const QSize size(static_cast<int>(width * canvas_->Unit()), static_cast<int>(height * canvas_->Unit()));
+  if (canvas_->minimumSize() != size) canvas_->setMinimumSize(size);
+}
+
+void MainWindow::WatchInputs() {
+  for (auto* box : panel_->findChildren<QComboBox*>()) box->installEventFilter(this);
+  for (auto* edit : panel_->findChildren<QLineEdit*>()) edit->installEventFilter(this);
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (IsReturn(event)) {
+    NewPlot();
+    return true;
+  }
+  // A list that is only passed over keeps its choice; the wheel chooses in the one that has the focus.
+  if (event->type() == QEvent::Wheel && !static_cast<QWidget*>(watched)->hasFocus()) {
+    event->ignore();
+    return true;
+  }
+  return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+  if (!IsReturn(event)) {
+    QMainWindow::keyPressEvent(event);
+    return;
+  }
+  if (auto* button = qobject_cast<QPushButton*>(focusWidget())) {
+    button->click();
+  } else {
+    NewPlot();
+  }
+}
+
+void MainWindow::NewPlot() {
+  Act([this] { UserClicks(*session_, session_->form1.cmdNewPlot); });
+}
+
+void MainWindow::Act(const CommandGate::Action& command) {
+  if (!session_) return;
+  const QPointer<QWidget> before = focusWidget();
+  if (!gate_.Do(command)) {
+    Refresh();
+    return;
+  }
+  // A run disables inputs, and a disabled one loses the focus.
+  if (before && before != focusWidget() && before->isEnabled() && before->isVisible()) before->setFocus();
+}
+
+void MainWindow::Resized() {
+  if (!session_ || gate_.Running()) return;
+  gate_.Do([this] {
+    FitPanel();
+    canvas_->Renew();
+    Form_Resize(*session_);
+    canvas_->update();
+  });
+}
+
+void MainWindow::Settle() {
+  QCoreApplication::sendPostedEvents();
+  layout()->activate();
+  if (canvas_->IsStale()) Resized();
+}
+
+void MainWindow::ShowStatus() {
+  const auto& form = session_->form1;
+  const QString text = ToQString(StatusText(*session_));
+  if (status_->text() != text) status_->setText(text);
+  const QString average = form.mnuAverage.Checked ? ToQString(form.lblAverage.Caption) : QString();
+  if (average_->text() != average) average_->setText(average);
+  const bool busy = form.txtProgress.Visible;
+  const int percent = std::clamp(static_cast<int>(session_->state.ProgressPercent), 0, 100);
+  if (progress_->value() != percent) progress_->setValue(percent);
+  if (progress_->isHidden() == busy) progress_->setVisible(busy);
+}
+
+void MainWindow::Refresh() {
+  if (!session_) return;
+  panel_->Sync();
+  menu_->Sync();
+  info_->Sync(canvas_->Unit(), scroll_->maximumViewportSize().width());
+  ShowStatus();
+  for (DialogView* dialog : dialogs_) dialog->Sync();
+  ReserveRoom();
+  canvas_->ShowChanges();
+}
+
+bool MainWindow::ShowDialog(Form& form) {
+  DialogView dialog(form, {Actions(), [this](std::string_view event) { Act([&] { session_->events.Raise(event); }); }},
+                    this);
+  dialogs_.push_back(&dialog);
+  form.Visible = true;
+  const bool ok = dialog.exec() == QDialog::Accepted;
+  form.Visible = false;
+  dialogs_.pop_back();
+  return ok;
+}
+
+PageFormat MainWindow::Page() const {
+  return {static_cast<double>(canvas_->width()), static_cast<double>(canvas_->height()), canvas_->Unit()};
+}
+
+std::string MainWindow::SavePicture(std::string_view path, int widthPx, int heightPx) {
+  const PageFormat format = ScaledFormat(Page(), widthPx, heightPx);
+  const std::string failure =
+      path.empty() ? CopyPage(*session_, format, devicePixelRatioF()) : SavePage(*session_, format, path);
+  canvas_->ShowChanges();
+  return failure;
+}
+
+std::string MainWindow::SaveScreenshot(std::string_view path) {
+  Refresh();
+  if (grab().save(ToQString(path))) return {};
+  return "The screenshot could not be written to " + std::string(path) + ".";
+}
+
+QWidget* MainWindow::WidgetOf(const Control& control) const {
+  return panel_->WidgetOf(control);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  if (gate_.Running()) {
+    event->ignore();
+    return;
+  }
+  event->accept();
+  if (session_) gate_.Do([this] { Form_Unload(*session_); });
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  const bool newLook =
+      event->type() == QEvent::ApplicationFontChange || event->type() == QEvent::ApplicationPaletteChange;
+  if (!newLook || !panel_ || gate_.Running()) return;
+  BuildPanel(panelFontShare);
+  Resized();
+}
+
+}  // namespace lumivex

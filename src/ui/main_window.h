@@ -1,0 +1,87 @@
+#pragma once
+
+#include <QLabel>
+#include <QMainWindow>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QScrollArea>
+#include <memory>
+#include <vector>
+
+#include "session/record/session.h"
+#include "ui/canvas.h"
+#include "ui/command_gate.h"
+#include "ui/dialog_view.h"
+#include "ui/info_overlay.h"
+#include "ui/menu_view.h"
+#include "ui/page_picture.h"
+#include "ui/panel_view.h"
+
+namespace lumivex {
+
+/// The main window: menu bar, input panel and readings over the graph, status line with progress.
+///
+/// It shows a session and passes on what the user does to it; every such act is one command of the gate.
+class MainWindow final : public QMainWindow {
+ public:
+  explicit MainWindow(CommandGate& gate);
+  ~MainWindow() override;
+
+  /// The surface that the session draws on; it lives as long as the window.
+  DrawingSurface& Surface() { return canvas_->Surface(); }
+  Canvas& Drawing() { return *canvas_; }
+
+  /// Shows this session from now on and gives it a blank surface of the window's size. The session has to outlive the
+  /// window or the next Attach; it may be loaded afterwards.
+  void Attach(Session& session);
+  /// Shows every control, menu entry and label as it is now, and the drawing.
+  void Refresh();
+
+  /// Shows a dialog and waits; true is OK.
+  bool ShowDialog(Form& form);
+  /// Size and scale of the page on the screen.
+  PageFormat Page() const;
+  /// Saves the page as a picture file, or copies it for an empty path; a sentence on what went wrong, or nothing.
+  std::string SavePicture(std::string_view path, int widthPx = 0, int heightPx = 0);
+  /// Saves an image of the whole window.
+  std::string SaveScreenshot(std::string_view path);
+
+  /// The widget of a control of the panel, null where it has none.
+  QWidget* WidgetOf(const Control& control) const;
+  QAction* ActionOf(const MenuEntry& entry) const { return menu_->ActionOf(entry); }
+  /// Takes up a new size at once, without waiting for the event loop.
+  void Settle();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void MakeStatusLine();
+  void FitPanel();
+  void BuildPanel(double fontShare);
+  void ReserveRoom();
+  void WatchInputs();
+  void ShowStatus();
+  void Act(const CommandGate::Action& command);
+  void NewPlot();
+  void Resized();
+  ControlActions Actions();
+
+  CommandGate& gate_;
+  Session* session_ = nullptr;
+  QScrollArea* scroll_;
+  Canvas* canvas_;
+  PanelView* panel_ = nullptr;
+  InfoOverlay* info_ = nullptr;
+  double fontShare_ = 1;  ///< the panel's font against the application's
+  std::unique_ptr<MenuView> menu_;
+  QLabel* status_ = nullptr;
+  QLabel* average_ = nullptr;
+  QProgressBar* progress_ = nullptr;
+  std::vector<DialogView*> dialogs_;
+};
+
+}  // namespace lumivex

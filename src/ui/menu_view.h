@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <map>
+#include <vector>
+
+#include "session/record/form.h"
+
+class QAction;
+class QMenu;
+class QMenuBar;
+
+namespace lumivex {
+
+/// The menu bar, built from its description; captions, ticks, visibility and availability follow the menu entries.
+class MenuView {
+ public:
+  /// @param clicks  called with the entry that the user chose.
+  MenuView(QMenuBar& bar, Form& form, const std::function<void(Control&)>& clicks);
+
+  /// Shows every entry as it is now.
+  void Sync();
+  /// The action of an entry, null where the menu does not offer it.
+  QAction* ActionOf(const MenuEntry& entry) const;
+
+ private:
+  struct Item {
+    MenuEntry* entry;
+    QAction* action;
+    bool isSubmenu;
+  };
+  QMenu* MenuOf(QMenuBar& bar, const QString& path);
+  void MarkKeys(QMenuBar& bar) const;
+
+  std::map<QString, QMenu*> menus_;
+  std::vector<Item> items_;
+};
+
+}  // namespace lumivex

@@ -1,0 +1,183 @@
+#include "ui/page_picture.h"
+
+#include <QBuffer>
+#include <QClipboard>
+#include <QFileInfo>
+#include <QFontInfo>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QPageSize>
+#include <QPdfWriter>
+#include <QSaveFile>
+#include <QSvgGenerator>
+#include <algorithm>
+
+#include "session/info.h"
+#include "session/page.h"
+#include "ui/look.h"
+#include "ui/painter_surface.h"
+
+namespace lumivex {
+
+namespace {
+
+constexpr double dotsPerInch = 96;
+constexpr double pdfDotsPerInch = 1200;
+constexpr double pointsPerPx = 0.75;
+constexpr double panelWidth = 12000;  // where the readings begin (surface units)
+
+/// Puts the session onto another surface, with the graph box in proportion, and back when it ends.
+class OtherSurface {
+ public:
+  OtherSurface(Session& session, PainterSurface& surface)
+      : session_(session), own_(session.surface), state_(session.state) {
+    static_cast<SurfacePen&>(surface) = *own_;
+    right_ = state_.GraphRight;
+    bottom_ = state_.GraphBottom;
+    session_.surface = &surface;
+    if (!session_.form1.mnuVLarge.Checked) return;
+    state_.GraphRight = static_cast<float>(right_ * surface.ScaleWidth() / own_->ScaleWidth());
+    state_.GraphBottom = static_cast<float>(bottom_ * surface.ScaleHeight() / own_->ScaleHeight());
+  }
+  ~OtherSurface() {
+    session_.surface = own_;
+    state_.GraphRight = right_;
+    state_.GraphBottom = bottom_;
+    DrawPage(session_);  // what the record keeps of the drawing is that of the window again
+  }
+  OtherSurface(const OtherSurface&) = delete;
+  OtherSurface& operator=(const OtherSurface&) = delete;
+
+ private:
+  Session& session_;
+  DrawingSurface* own_;
+  MainFormState& state_;
+  float right_ = 0, bottom_ = 0;
+};
+
+/// The parameters of the run, in columns over the room of the input panel.
+void PrintParameters(Session& session) {
+  auto& surface = *session.surface;
+  constexpr double left = 1000, top = 600, lineHeight = 200, gap = 400;
+  constexpr std::size_t mostLines = 8;
+  const SurfacePen before = surface;
+  surface.ForeColour = colours::Black;
+  surface.FontSize = 8;
+  surface.FontBold = false;
+  const auto lines = RunParameters(session);
+  if (lines.empty()) return;
+  const std::size_t columns = (lines.size() + mostLines - 1) / mostLines;
+  const std::size_t linesPerColumn = (lines.size() + columns - 1) / columns;
+  double x = left, columnWidth = 0;
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    if (i > 0 && i % linesPerColumn == 0) {
+      x += columnWidth + gap;
+      columnWidth = 0;
+    }
+    columnWidth = std::max(columnWidth, surface.TextWidth(lines[i]));
+    if (x + columnWidth > panelWidth) break;
+    surface.CurrentX = x;
+    surface.CurrentY = top + lineHeight * static_cast<double>(i % linesPerColumn);
+    surface.Print(lines[i], false);
+  }
+  static_cast<SurfacePen&>(surface) = before;
+}
+
+void DrawOn(Session& session, PainterSurface& surface) {
+  const OtherSurface guard(session, surface);
+  DrawPage(session);
+  PrintParameters(session);
+}
+
+QByteArray PagePng(Session& session, const PageFormat& format) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  return PageImage(session, format, 1).save(&buffer, "PNG") ? bytes : QByteArray();
+}
+
+QByteArray PagePdf(Session& session, const PageFormat& format) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&buffer);
+  writer.setTitle("Lumivex");
+  writer.setCreator("Lumivex");
+  writer.setResolution(static_cast<int>(pdfDotsPerInch));
+  writer.setPageSize(QPageSize(QSizeF(format.widthPx, format.heightPx) * pointsPerPx, QPageSize::Point, "Lumivex",
+                               QPageSize::ExactMatch));
+  writer.setPageMargins(QMarginsF(0, 0, 0, 0));
+  PainterSurface surface;
+  surface.Open(writer, {format.unitPx, pdfDotsPerInch / dotsPerInch, false}, format.widthPx, format.heightPx);
+  DrawOn(session, surface);
+  surface.Close();
+  return bytes;
+}
+
+std::string WriteFile(const QString& path, const QByteArray& bytes) {
+  QSaveFile file(path);
+  if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit()) return {};
+  return FromQString("The picture could not be written to " + path + ": " + file.errorString() + ".");
+}
+
+}  // namespace
+
+PageFormat ScaledFormat(const PageFormat& page, int widthPx, int heightPx) {
+  if (widthPx <= 0 || heightPx <= 0) return page;
+  const double width = widthPx, height = heightPx;
+  return {width, height, page.unitPx * std::min(width / page.widthPx, height / page.heightPx)};
+}
+
+QImage PageImage(Session& session, const PageFormat& format, double deviceRatio) {
+  ImageSurface surface(static_cast<int>(format.widthPx), static_cast<int>(format.heightPx), format.unitPx, deviceRatio);
+  DrawOn(session, surface);
+  surface.Close();
+  return surface.Picture();
+}
+
+QByteArray PageSvg(Session& session, const PageFormat& format) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  QSvgGenerator generator;
+  generator.setOutputDevice(&buffer);
+  generator.setResolution(static_cast<int>(dotsPerInch));
+  generator.setSize(QSize(static_cast<int>(format.widthPx), static_cast<int>(format.heightPx)));
+  generator.setViewBox(QRectF(0, 0, format.widthPx, format.heightPx));
+  generator.setTitle("Lumivex");
+  PainterSurface surface;
+  surface.Open(generator, {format.unitPx, 1, false}, format.widthPx, format.heightPx);
+  DrawOn(session, surface);
+  surface.Close();
+  // The family's own name means something on this machine alone.
+  const QByteArray family = QGuiApplication::font().family().toUtf8();
+  const QByteArray resolved = QFontInfo(QGuiApplication::font()).family().toUtf8();
+  return bytes.replace("font-family=\"" + family + "\"", "font-family=\"" + resolved + ", sans-serif\"");
+}
+
+std::string SavePage(Session& session, const PageFormat& format, std::string_view path) {
+  const QString file = ToQString(path);
+  const QString kind = QFileInfo(file).suffix().toLower();
+  QByteArray bytes;
+  if (kind == "png") {
+    bytes = PagePng(session, format);
+  } else if (kind == "svg") {
+    bytes = PageSvg(session, format);
+  } else if (kind == "pdf") {
+    bytes = PagePdf(session, format);
+  } else {
+    return "The name of a picture file ends in .png, .svg or .pdf.";
+  }
+  if (bytes.isEmpty()) return "The picture could not be drawn at that size.";
+  return WriteFile(file, bytes);
+}
+
+std::string CopyPage(Session& session, const PageFormat& format, double deviceRatio) {
+  auto* data = new QMimeData;
+  data->setImageData(PageImage(session, format, deviceRatio));
+  data->setData("image/svg+xml", PageSvg(session, format));
+  QGuiApplication::clipboard()->setMimeData(data);
+  return {};
+}
+
+}  // namespace lumivex

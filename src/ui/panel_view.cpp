@@ -1,0 +1,115 @@
+#include "ui/panel_view.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QVBoxLayout>
+#include <map>
+
+#include "ui/look.h"
+
+namespace lumivex {
+
+namespace {
+
+/// A quiet frame: a thin rounded line and the ground a shade lighter than the window.
+class FrameBox final : public QWidget {
+ public:
+  using QWidget::QWidget;
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const bool dark = IsDark(palette());
+    QColor line = palette().color(QPalette::WindowText);
+    line.setAlphaF(dark ? 0.25F : 0.18F);
+    QColor ground = Qt::white;
+    ground.setAlphaF(dark ? 0.04F : 0.45F);
+    painter.setPen(line);
+    painter.setBrush(ground);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+  }
+};
+
+}  // namespace
+
+PanelView::PanelView(Form& form, const ControlActions& actions, QWidget* parent) : QWidget(parent) {
+  setAutoFillBackground(true);
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(5, 4, 4, 1);
+  row->setSpacing(4);
+  std::map<int, QWidget*> columns;
+  for (const auto& layout : MainPanel()) {
+    QWidget*& column = columns[layout.column];
+    if (!column) {
+      column = new QWidget(this);
+      auto* boxes = new QVBoxLayout(column);
+      boxes->setContentsMargins(0, 0, 0, 0);
+      boxes->setSpacing(4);
+      row->addWidget(column);
+    }
+    AddBox(form, layout, actions, *column);
+  }
+  needed_ = row->sizeHint();
+  // Columns keep their places whatever a graph hides: each has the width of all that it may ever show.
+  for (const auto& [number, column] : columns) {
+    const int width = column->sizeHint().width();
+    column->setMinimumWidth(width);
+    row->setStretchFactor(column, width);
+  }
+
+  QWidget* previous = nullptr;
+  for (const auto& box : boxes_) {
+    for (const auto& view : box.lines->Views()) {
+      if (view->Of().Kind() == ControlKind::Label) continue;
+      if (previous) setTabOrder(previous, view->Widget());
+      previous = view->Widget();
+    }
+  }
+}
+
+void PanelView::AddBox(Form& form, const FrameLayout& layout, const ControlActions& actions, QWidget& column) {
+  auto* frame = layout.frame.empty() ? nullptr : dynamic_cast<Frame*>(form.Find(layout.frame));
+  QWidget* box = frame ? new FrameBox(&column) : new QWidget(&column);
+  auto* lines = new QVBoxLayout(box);
+  lines->setContentsMargins(frame ? 6 : 1, frame ? 2 : 1, frame ? 6 : 1, frame ? 4 : 1);
+  lines->setSpacing(frame ? 2 : 4);
+  QLabel* title = nullptr;
+  if (frame) {
+    title = new QLabel(ShownText(frame->Caption), box);
+    QFont bold = title->font();
+    bold.setWeight(QFont::DemiBold);
+    title->setFont(bold);
+    lines->addWidget(title);
+    box->setAccessibleName(ToQString(frame->Caption));
+  }
+  auto view = std::make_unique<FormView>(form, layout.lines, FormStyle{layout.fieldChars, true}, actions, box);
+  lines->addStretch(1);
+  static_cast<QVBoxLayout*>(column.layout())->addWidget(box, 1);
+  boxes_.push_back({frame, box, title, std::move(view)});
+}
+
+void PanelView::Sync() {
+  for (auto& box : boxes_) {
+    box.lines->Sync();
+    if (!box.frame) continue;
+    const QString caption = ShownText(box.frame->Caption);
+    if (box.title->text() != caption) {
+      box.title->setText(caption);
+      box.widget->setAccessibleName(ToQString(box.frame->Caption));
+    }
+    if (box.widget->isHidden() == box.frame->Visible) box.widget->setVisible(box.frame->Visible);
+    if (box.widget->isEnabledTo(box.widget->parentWidget()) != box.frame->Enabled)
+      box.widget->setEnabled(box.frame->Enabled);
+  }
+}
+
+QWidget* PanelView::WidgetOf(const Control& control) const {
+  for (const auto& box : boxes_)
+    for (const auto& view : box.lines->Views())
+      if (&view->Of() == &control) return view->Widget();
+  return nullptr;
+}
+
+}  // namespace lumivex

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QWidget>
+#include <memory>
+#include <vector>
+
+#include "session/record/controls.h"
+#include "ui/form_view.h"
+
+class QLabel;
+
+namespace lumivex {
+
+/// The input panel over the top of the graph's surface: frames in columns, as the layout describes them.
+class PanelView final : public QWidget {
+ public:
+  PanelView(Form& form, const ControlActions& actions, QWidget* parent);
+
+  /// The size (pixels) that the panel needs with everything shown that may ever be; it does not change with the graph.
+  QSize Needed() const { return needed_; }
+  /// Shows every frame and control as it is now.
+  void Sync();
+  /// The widget of a control, null where the panel does not hold it.
+  QWidget* WidgetOf(const Control& control) const;
+
+ private:
+  struct Box {
+    Frame* frame;  ///< null for lines without a frame
+    QWidget* widget;
+    QLabel* title;
+    std::unique_ptr<FormView> lines;
+  };
+  void AddBox(Form& form, const FrameLayout& layout, const ControlActions& actions, QWidget& column);
+
+  std::vector<Box> boxes_;
+  QSize needed_;
+};
+
+}  // namespace lumivex

@@ -1,0 +1,106 @@
+#include "ui/qt_platform.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLocale>
+#include <QMessageBox>
+#include <QRegularExpression>
+#include <QScreen>
+
+#include "ui/guide_window.h"
+#include "ui/look.h"
+
+namespace lumivex {
+
+QtPlatform::QtPlatform(CommandGate& gate) : gate_(gate) {
+  clock_.start();
+}
+
+QtPlatform::~QtPlatform() = default;
+
+void QtPlatform::Message(std::string_view title, std::string_view text) {
+  QMessageBox box(QMessageBox::Warning, ToQString(title), ToQString(text), QMessageBox::Ok, window);
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
+}
+
+bool QtPlatform::Question(std::string_view title, std::string_view text) {
+  QMessageBox box(QMessageBox::Question, ToQString(title), ToQString(text), QMessageBox::Yes | QMessageBox::No, window);
+  box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(QMessageBox::Yes);
+  return box.exec() == QMessageBox::Yes;
+}
+
+std::optional<std::string> QtPlatform::OpenFileName(const FileDialog& dialog) {
+  const QString name = QFileDialog::getOpenFileName(window, ToQString(dialog.title), ToQString(dialog.suggested),
+                                                    ToQString(dialog.filter));
+  return name.isEmpty() ? std::nullopt : std::optional(FromQString(name));
+}
+
+std::optional<std::string> QtPlatform::SaveFileName(const FileDialog& dialog) {
+  QString chosen;
+  QString name = QFileDialog::getSaveFileName(window, ToQString(dialog.title), ToQString(dialog.suggested),
+                                              ToQString(dialog.filter), &chosen);
+  if (name.isEmpty()) return std::nullopt;
+  // A name without an ending takes that of the kind chosen: "SVG drawing (*.svg)".
+  static const QRegularExpression ending(R"(\*(\.\w+))");
+  if (QFileInfo(name).suffix().isEmpty()) name += ending.match(chosen).captured(1);
+  return FromQString(name);
+}
+
+bool QtPlatform::ShowModal(Form& form) {
+  const CommandGate::DialogScope open(gate_);
+  return showModal && showModal(form);
+}
+
+void QtPlatform::Yield() {
+  gate_.Yield();
+}
+
+double QtPlatform::Timer() {
+  return static_cast<double>(clock_.nsecsElapsed()) * 1e-9;
+}
+
+ScreenSize QtPlatform::Screen() {
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  // Without a display there is no screen to be too small.
+  if (!screen || QGuiApplication::platformName() == "offscreen") return {1920, 1080};
+  const QSizeF dots = QSizeF(screen->size()) * screen->devicePixelRatio();
+  return {qRound(dots.width()), qRound(dots.height())};
+}
+
+char QtPlatform::DecimalSymbol() {
+  const QString symbol = QLocale::system().decimalPoint();
+  return symbol.isEmpty() ? '.' : symbol.at(0).toLatin1();
+}
+
+void QtPlatform::Beep() {
+  QApplication::beep();
+}
+
+void QtPlatform::Help(std::string_view page) {
+  if (!guide_) guide_ = new GuideWindow(window);
+  guide_->ShowPage(ToQString(page));
+}
+
+void QtPlatform::BringToFront(Form&) {
+  if (!window) return;
+  window->raise();
+  window->activateWindow();
+}
+
+std::string QtPlatform::SavePicture(std::string_view path) {
+  return savePicture ? savePicture(path) : "There is no window to make a picture of.";
+}
+
+void QtPlatform::CopyText(std::string_view text) {
+  QGuiApplication::clipboard()->setText(ToQString(text));
+}
+
+void QtPlatform::Quit() {
+  QCoreApplication::exit(0);
+}
+
+}  // namespace lumivex

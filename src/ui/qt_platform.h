@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QPointer>
+#include <QWidget>
+#include <functional>
+
+#include "session/record/platform.h"
+#include "ui/command_gate.h"
+
+namespace lumivex {
+
+class GuideWindow;
+
+/// The window system as the session's outside world.
+class QtPlatform final : public Platform {
+ public:
+  explicit QtPlatform(CommandGate& gate);
+  ~QtPlatform() override;
+
+  void Message(std::string_view title, std::string_view text) override;
+  bool Question(std::string_view title, std::string_view text) override;
+  std::optional<std::string> OpenFileName(const FileDialog& dialog) override;
+  std::optional<std::string> SaveFileName(const FileDialog& dialog) override;
+  bool ShowModal(Form& form) override;
+  void Yield() override;
+  double Timer() override;
+  ScreenSize Screen() override;
+  char DecimalSymbol() override;
+  void Beep() override;
+  void Help(std::string_view page) override;
+  void BringToFront(Form& form) override;
+  std::string SavePicture(std::string_view path) override;
+  void CopyText(std::string_view text) override;
+  void Quit() override;
+
+  // What the main window does for it once it is there.
+  QPointer<QWidget> window;                                  ///< parent of every dialog
+  std::function<bool(Form&)> showModal;                      ///< true is OK
+  std::function<std::string(std::string_view)> savePicture;  ///< returns a sentence on what went wrong
+
+ private:
+  CommandGate& gate_;
+  QElapsedTimer clock_;
+  QPointer<GuideWindow> guide_;
+};
+
+}  // namespace lumivex

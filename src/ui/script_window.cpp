@@ -1,0 +1,49 @@
+#include "ui/script_window.h"
+
+#include <QCoreApplication>
+#include <fstream>
+#include <iostream>
+
+#include "scripts/script_runner.h"
+#include "ui/main_window.h"
+
+namespace lumivex {
+
+namespace {
+
+ScriptWindow FunctionsOf(MainWindow& window) {
+  ScriptWindow functions;
+  functions.picture = [&window](std::string_view file, int widthPx, int heightPx) {
+    return window.SavePicture(file, widthPx, heightPx);
+  };
+  functions.screenshot = [&window](std::string_view file) { return window.SaveScreenshot(file); };
+  functions.resize = [&window](int widthPx, int heightPx) {
+    window.resize(widthPx, heightPx);
+    window.Settle();
+  };
+  functions.reset = [&window](Session& session) { window.Attach(session); };
+  return functions;
+}
+
+}  // namespace
+
+int RunScript(const std::string& path) {
+  const bool fromInput = path == "-";
+  std::ifstream file;
+  if (!fromInput) file.open(path);
+  if (!fromInput && !file) {
+    std::cerr << "lumivex: " << path << " cannot be read\n";
+    return ScriptRunner::scriptError;
+  }
+  CommandGate gate;
+  MainWindow window(gate);
+  ScriptRunner runner(std::cout, std::cerr);
+  runner.UseWindow(window.Surface(), FunctionsOf(window));
+  window.show();
+  runner.Start();
+  const int result = runner.Run(fromInput ? std::cin : file);
+  window.hide();
+  return result;
+}
+
+}  // namespace lumivex

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "session/open_session.h"
+#include "ui/command_gate.h"
+#include "ui/main_window.h"
+#include "ui/qt_platform.h"
+
+namespace lumivex {
+
+/// The program as a user sees it: a session in a window, with the window system as its outside world.
+class WindowedSession {
+ public:
+  WindowedSession();
+
+  /// Opens the session, as far as its first plot; the window is not shown by it.
+  void Load();
+
+  CommandGate& Gate() { return gate_; }
+  QtPlatform& World() { return platform_; }
+  MainWindow& Window() { return window_; }
+  Session& Current() { return open_.Get(); }
+
+ private:
+  CommandGate gate_;
+  QtPlatform platform_;
+  MainWindow window_;
+  OpenSession open_;
+};
+
+}  // namespace lumivex

@@ -1,0 +1,27 @@
+#!/usr/bin/env bash
+# Tests Lumivex: sets up what is missing, builds with warnings as errors, runs every test, then the core's tests once more
+# under the address and undefined-behaviour sanitizers. --tidy runs clang-tidy over the sources as well.
+set -euo pipefail
+cd "$(dirname "$0")"
+. cmake/setup.sh
+lumivex_setup
+jobs=$(nproc)
+
+echo "== format"
+git ls-files 'src/*.h' 'src/*.cpp' 'tests/*.h' 'tests/*.cpp' 'bench/*.h' 'bench/*.cpp' |
+  xargs -r clang-format --dry-run --Werror
+
+echo "== release"
+cmake --preset release -DLUMIVEX_WERROR=ON -DLUMIVEX_TESTS=ON -DLUMIVEX_BENCH=ON >/dev/null
+cmake --build --preset release -j "$jobs"
+ctest --preset release -j "$jobs"
+
+if [ "${1:-}" = --tidy ]; then
+  echo "== clang-tidy"
+  git ls-files 'src/*.cpp' | grep -v /tables/ | xargs -P "$jobs" -n 4 clang-tidy -p build/release --quiet
+fi
+
+echo "== sanitizers"
+cmake --preset asan -DLUMIVEX_WERROR=ON >/dev/null
+cmake --build --preset asan -j "$jobs"
+ctest --preset asan -j "$jobs"

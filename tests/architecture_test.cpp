@@ -1,0 +1,71 @@
+/// The storeys of the house: includes point down only.
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <regex>
+#include <string>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+const fs::path sourceRoot = fs::path(LUMIVEX_SOURCE_DIR) / "src";
+
+/// Height of a file by its folder, from the bottom: numerics, record, routines, session, scripts and files, window.
+int Storey(const std::string& file) {
+  if (std::regex_search(file, std::regex("(^|/)(kernel|tables)/"))) return 0;
+  if (file.starts_with("session/record/") || file == "session/main_form_state.h") return 1;
+  if (file.starts_with("ui/")) return 5;
+  if (file.starts_with("scripts/") || file.starts_with("files/")) return 4;
+  if (file.starts_with("session/")) return 3;
+  return 2;
+}
+
+struct Include {
+  std::string from, what;
+  bool quoted;
+};
+
+std::vector<Include> AllIncludes() {
+  std::vector<Include> includes;
+  const std::regex line("^\\s*#\\s*include\\s*([<\"])([^>\"]+)[>\"]");
+  for (const auto& entry : fs::recursive_directory_iterator(sourceRoot)) {
+    if (entry.path().extension() != ".h" && entry.path().extension() != ".cpp") continue;
+    std::ifstream file(entry.path());
+    std::smatch match;
+    for (std::string text; std::getline(file, text);)
+      if (std::regex_search(text, match, line))
+        includes.push_back({fs::relative(entry.path(), sourceRoot).generic_string(), match[2], match[1] == "\""});
+  }
+  return includes;
+}
+
+TEST(Architecture, IncludesPointDown) {
+  int seen = 0;
+  for (const auto& include : AllIncludes()) {
+    if (!include.quoted) continue;
+    ++seen;
+    EXPECT_TRUE(fs::exists(sourceRoot / include.what)) << include.from << " includes " << include.what;
+    EXPECT_GE(Storey(include.from), Storey(include.what)) << include.from << " includes " << include.what;
+  }
+  EXPECT_GT(seen, 100);
+}
+
+TEST(Architecture, OnlyTheWindowKnowsTheWindowSystem) {
+  for (const auto& include : AllIncludes()) {
+    if (include.quoted || include.from.starts_with("ui/")) continue;
+    const bool standard = include.what.find_first_of("/.") == std::string::npos && include.what[0] != 'Q';
+    EXPECT_TRUE(standard) << include.from << " includes <" << include.what << ">";
+  }
+}
+
+TEST(Architecture, TheConsoleProgramKnowsNoWindowSystem) {
+  for (const auto& include : AllIncludes())
+    if (include.from.starts_with("ui/console/") && include.quoted) {
+      EXPECT_LT(Storey(include.what), 5) << include.from << " includes " << include.what;
+    }
+}
+
+}  // namespace

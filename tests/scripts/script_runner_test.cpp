@@ -1,0 +1,108 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+
+#include "session/record/text_file.h"
+#include "session/session_fixture.h"
+
+namespace lumivex {
+namespace {
+
+class Script : public ScriptedSession {
+ protected:
+  /// Runs lines that must fail, and returns what was said.
+  std::string Fail(const std::string& lines) {
+    errors.str("");
+    std::istringstream script(lines);
+    EXPECT_EQ(runner.Run(script), ScriptRunner::scriptError) << lines;
+    return errors.str();
+  }
+};
+
+TEST_F(Script, ErrorsTellTheLine) {
+  EXPECT_EQ(Fail("# fine\n\nget txtRadius\nfly away\n"), "line 4: unknown command fly\n");
+  EXPECT_NE(Fail("set txtNothing 1").find("txtNothing"), std::string::npos);
+  EXPECT_NE(Fail("get Nothing").find("Nothing"), std::string::npos);
+  EXPECT_NE(Fail("get txtRadius.Colour").find("Colour"), std::string::npos);
+  EXPECT_NE(Fail("click txtRadius").find("txtRadius"), std::string::npos);
+  EXPECT_NE(Fail("click cmdStop").find("disabled or hidden"), std::string::npos);
+  EXPECT_NE(Fail("choose cboType Astrology").find("Astrology"), std::string::npos);
+  EXPECT_NE(Fail("choose cboPol both").find("both"), std::string::npos);
+  EXPECT_NE(Fail("dialog dlogNone ok").find("dlogNone"), std::string::npos);
+  EXPECT_NE(Fail("dialog dlogTemp ok txtNone=3").find("txtNone"), std::string::npos);
+  EXPECT_NE(Fail("array Nothing").find("Nothing"), std::string::npos);
+  EXPECT_NE(Fail("size wide").find("WIDTHxHEIGHT"), std::string::npos);
+  EXPECT_NE(Fail("size 1e9x1").find("WIDTHxHEIGHT"), std::string::npos);
+  EXPECT_NE(Fail("picture x.png").find("window"), std::string::npos);
+  EXPECT_NE(Fail("table /nowhere/at/all.csv").find("could not be written"), std::string::npos);
+}
+
+TEST_F(Script, NamesAndValues) {
+  EXPECT_EQ(Get("TXTRADIUS"), "10");
+  EXPECT_EQ(Get("optLog"), "true");
+  EXPECT_EQ(Get("dlogTemp.txtTemp"), "5");
+  EXPECT_EQ(Get("cmdNewPlot.Caption"), "New plot");
+  EXPECT_EQ(Get("cboPol.Items"), "Perpendicular|Parallel|Both|Unpolarised|All 3");
+  EXPECT_EQ(Get("txtRadius.BackColour"), "16777215");
+  EXPECT_EQ(Get("lambda"), "0.65000000000000002");
+  Do("click optLinear");
+  EXPECT_EQ(Get("OptLog"), "false");
+}
+
+TEST_F(Script, DialogsAnswerOnceAndThenStandAsTheyAre) {
+  Do("dialog dlogTemp cancel txtTemp=30\nclick mnuRI_IAPWS");
+  EXPECT_EQ(Get("lblSphere"), "Sphere: Water (IAPWS 5C Complex)");
+  Do("dialog dlogTemp ok txtTemp=15 chkRI_Complex=0\nclick mnuRI_IAPWS");
+  EXPECT_EQ(Get("lblSphere"), "Sphere: Water (IAPWS 15C)");
+  Do("click cmdNewPlot");
+  EXPECT_EQ(Number("RefRelImag"), 0);
+}
+
+TEST_F(Script, ArraysTablesAndDrawingsGoToFilesToo) {
+  const auto path = std::filesystem::temp_directory_path() / "lumivex script test.csv";
+  Do("table " + path.string());
+  const auto file = ReadWholeFile(path.string());
+  std::filesystem::remove(path);
+  ASSERT_TRUE(file);
+  output.str("");
+  Do("table");
+  EXPECT_EQ(*file, output.str());
+  output.str("");
+  Do("array Iperp");
+  const std::string rows = output.str();
+  EXPECT_EQ(std::count(rows.begin(), rows.end(), '\n'), 1901);
+  output.str("");
+  Do("drawing");
+  EXPECT_NE(output.str().find("\"Scattering angle (deg.)\""), std::string::npos);
+  EXPECT_NE(output.str().find("\"Mie scattering:  Water in a vacuum\""), std::string::npos);
+  EXPECT_NE(output.str().find("\"Qsca = "), std::string::npos);
+}
+
+TEST_F(Script, ResetOpensAFreshSession) {
+  const std::string fresh = Get("Qext");
+  Do("set txtRadius 3\nclick cmdNewPlot\nreset");
+  EXPECT_EQ(Get("txtRadius"), "10");
+  EXPECT_EQ(Get("Qext"), fresh);
+}
+
+TEST_F(Script, ResizePlacesTheGraphInTheNewSurface) {
+  Do("size 1000x700");
+  EXPECT_NEAR(Number("GraphRight"), 0.97 * 15000, 1);
+  EXPECT_NEAR(Number("GraphBottom"), 0.86 * 10500, 1);
+}
+
+TEST_F(Script, WritingNeverLeavesHalfAFile) {
+  const auto folder = std::filesystem::temp_directory_path() / "lumivex_write_test";
+  std::filesystem::create_directories(folder / "taken");
+  EXPECT_FALSE(WriteWholeFile((folder / "taken").string(), "text").empty());
+  EXPECT_TRUE(WriteWholeFile((folder / "new.txt").string(), "text").empty());
+  EXPECT_EQ(ReadWholeFile((folder / "new.txt").string()), "text");
+  int files = 0;
+  for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(folder)) ++files;
+  EXPECT_EQ(files, 2);
+  std::filesystem::remove_all(folder);
+}
+
+}  // namespace
+}  // namespace lumivex

@@ -1,0 +1,94 @@
+#include <QPushButton>
+
+#include "window_fixture.h"
+
+namespace lumivex {
+namespace {
+
+/// A run of some seconds, watched from inside: `during` is called once, from a timer that fires in a yield.
+class RunningTest : public WindowTest {
+ protected:
+  void RunLong(const std::function<void()>& during) {
+    Now().state.CalibrationState = 3;  // no question about the duration
+    Type(Form().txtRadius, "8000");
+    program.Gate().Do([this] { Form().cboStep.Text = "0.01"; });
+    QTimer::singleShot(0, &program.Window(), [this, during] {
+      wasRunning = program.Gate().Running();
+      during();
+    });
+    Press(Form().txtRadius, Qt::Key_Return);
+    EXPECT_TRUE(wasRunning) << "the run was over before the window was served";
+    EXPECT_FALSE(program.Gate().Running());
+  }
+  bool wasRunning = false;
+};
+
+TEST_F(RunningTest, OnlyStopActsAndOtherClicksWait) {
+  bool optionDuring = true, menuDuring = true, progressShown = false;
+  const bool dataShown = Form().mnuDataVisible.Checked;
+  int plots = 0;
+  RunLong([&] {
+    progressShown = !program.Window().findChild<QProgressBar*>()->isHidden();
+    Click(Form().optLinear);
+    program.Window().ActionOf(Form().mnuDataVisible)->trigger();
+    Click(Form().cmdNewPlot);  // switched off during a run: a click on it is no wish for later
+    QTest::keyClick(WidgetOf(Form().txtXmin), Qt::Key_5);
+    optionDuring = Form().optLinear.Checked;
+    menuDuring = Form().mnuDataVisible.Checked != dataShown;
+    ++plots;
+    ASSERT_TRUE(WidgetOf(Form().cmdStop)->isVisible());
+    Click(Form().cmdStop);
+  });
+  EXPECT_TRUE(progressShown);
+  EXPECT_FALSE(optionDuring);
+  EXPECT_FALSE(menuDuring);
+  ASSERT_FALSE(messages.empty());
+  EXPECT_NE(messages.front().find("Do you want to stop the calculation?"), std::string::npos);
+  EXPECT_EQ(Now().state.PlotMode, 1);
+  const double seconds = Now().state.LastRunSeconds;
+
+  QTest::qWait(50);
+  EXPECT_TRUE(Form().optLinear.Checked) << "the click was kept for the end of the run";
+  EXPECT_NE(Form().txtXmin.Text.find('5'), std::string::npos) << "and so was the key";
+  EXPECT_EQ(Now().state.LastRunSeconds, seconds) << "the click on New plot started another run";
+}
+
+TEST_F(RunningTest, EscStopsAndAnsweredNoTheRunGoesOn) {
+  answer = QMessageBox::No;
+  double stopped = -1;
+  RunLong([&] {
+    QTest::keyClick(&program.Window(), Qt::Key_Escape);
+    stopped = Now().state.PlotMode;
+  });
+  EXPECT_EQ(messages.size(), 1U);
+  EXPECT_NE(stopped, 4);
+  EXPECT_EQ(Now().state.StopAnswer, 0);
+  EXPECT_EQ(Now().state.Radius, 8000);
+
+  answer = QMessageBox::Yes;
+  messages.clear();
+  RunLong([&] { QTest::keyClick(&program.Window(), Qt::Key_Escape); });
+  EXPECT_EQ(messages.size(), 1U);
+}
+
+TEST_F(RunningTest, ClosingAndResizingWaitForTheEnd) {
+  const double width = Now().surface->ScaleWidth();
+  bool closedDuring = true;
+  double widthDuring = 0;
+  RunLong([&] {
+    program.Window().resize(1600, 850);
+    program.Window().close();
+    closedDuring = !program.Window().isVisible();
+    QTest::qWait(60);
+    widthDuring = Now().surface->ScaleWidth();
+    Click(Form().cmdStop);
+  });
+  EXPECT_FALSE(closedDuring);
+  EXPECT_EQ(widthDuring, width);
+  EXPECT_GT(Now().surface->ScaleWidth(), width) << "taken up at the end";
+  QTest::qWait(50);
+  EXPECT_FALSE(program.Window().isVisible());
+}
+
+}  // namespace
+}  // namespace lumivex

@@ -1,0 +1,120 @@
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QTemporaryDir>
+
+#include "ui/guide_window.h"
+#include "window_fixture.h"
+
+namespace lumivex {
+namespace {
+
+using MainWindowTest = WindowTest;
+
+QByteArray Content(const QString& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+TEST_F(MainWindowTest, MenuTicksFollowTheEntries) {
+  QAction* data = program.Window().ActionOf(Form().mnuDataVisible);
+  QAction* radius = program.Window().ActionOf(Form().mnuRadius);
+  QAction* diameter = program.Window().ActionOf(Form().mnuDiameter);
+  ASSERT_TRUE(data && radius && diameter);
+  EXPECT_TRUE(radius->isChecked());
+  const bool shown = Form().mnuDataVisible.Checked;
+  data->trigger();
+  EXPECT_EQ(Form().mnuDataVisible.Checked, !shown);
+  EXPECT_EQ(data->isChecked(), !shown);
+  diameter->trigger();
+  EXPECT_TRUE(diameter->isChecked());
+  EXPECT_FALSE(radius->isChecked()) << "the tick of a group moves";
+  diameter->trigger();
+  EXPECT_TRUE(diameter->isChecked()) << "an entry that stays on keeps its tick when it is chosen again";
+}
+
+TEST_F(MainWindowTest, ADialogFromDataSetsItsValuesOnOk) {
+  auto& dialog = Now().forms.dlogTemp;
+  const auto typeAnd = [](const char* text, QDialogButtonBox::StandardButton button) {
+    return [text, button](QDialog& open) {
+      auto* edit = open.findChild<QLineEdit*>("txtTemp");
+      ASSERT_NE(edit, nullptr);
+      edit->selectAll();
+      QTest::keyClicks(edit, text);
+      QTest::mouseClick(open.findChild<QDialogButtonBox*>()->button(button), Qt::LeftButton);
+    };
+  };
+  bool ok = false;
+  const auto show = [&] { program.Gate().Do([&] { ok = program.World().ShowModal(dialog); }); };
+
+  dialogs = {typeAnd("20", QDialogButtonBox::Ok)};
+  show();
+  EXPECT_TRUE(ok);
+  EXPECT_EQ(dialog.txtTemp.Text, "20");
+
+  dialogs = {typeAnd("30", QDialogButtonBox::Cancel)};
+  show();
+  EXPECT_FALSE(ok);
+  EXPECT_EQ(dialog.txtTemp.Text, "20") << "Cancel puts back what stood there";
+
+  // Marked as bad, the value keeps the dialog open.
+  bool wasOpen = false;
+  dialogs = {[&](QDialog& open) {
+    dialog.txtTemp.BackColour = colours::BadInput;
+    open.accept();
+    wasOpen = open.isVisible();
+    dialog.txtTemp.BackColour = colours::White;
+    open.reject();
+  }};
+  show();
+  EXPECT_TRUE(wasOpen);
+}
+
+TEST_F(MainWindowTest, PicturesAreWrittenInAllThreeKinds) {
+  QTemporaryDir folder;
+  const auto path = [&](const char* name) { return folder.filePath(name).toStdString(); };
+  const float right = Now().state.GraphRight;
+  for (const char* name : {"page.png", "page.svg", "page.pdf"})
+    EXPECT_EQ(program.World().SavePicture(path(name)), "") << name;
+  const QByteArray svg = Content(folder.filePath("page.svg"));
+  EXPECT_TRUE(svg.contains(">Scattering angle (deg.)</text>")) << "text is text";
+  EXPECT_TRUE(Content(folder.filePath("page.pdf")).startsWith("%PDF"));
+  const QImage png(folder.filePath("page.png"));
+  EXPECT_EQ(png.size(), program.Window().Drawing().size());
+
+  EXPECT_EQ(program.Window().SavePicture(path("large.png"), 2000, 1000), "");
+  EXPECT_EQ(QImage(folder.filePath("large.png")).size(), QSize(2000, 1000));
+  EXPECT_EQ(Now().state.GraphRight, right) << "the window's own graph is left as it was";
+  EXPECT_EQ(Now().surface, &program.Window().Surface());
+
+  EXPECT_NE(program.World().SavePicture(path("page.bmp")), "");
+  EXPECT_NE(program.World().SavePicture("/nowhere/page.png"), "");
+  EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 4) << "nothing half-written is left behind";
+}
+
+TEST_F(MainWindowTest, AResizeDrawsThePageAnewAtTheNewSize) {
+  program.Window().resize(1500, 800);
+  QTest::qWait(120);
+  const auto& canvas = program.Window().Drawing();
+  EXPECT_FALSE(canvas.IsStale());
+  EXPECT_NEAR(Now().surface->ScaleWidth(), canvas.width() / canvas.Unit(), 1);
+  EXPECT_NEAR(Now().state.GraphRight, 0.97 * Now().surface->ScaleWidth(), 5);
+}
+
+TEST_F(MainWindowTest, F1OpensTheGuide) {
+  ASSERT_FALSE(GuideWindow::Path().isEmpty());
+  QAction* help = program.Window().ActionOf(Form().mnuHelpContents);
+  ASSERT_NE(help, nullptr);
+  EXPECT_EQ(help->shortcut(), QKeySequence("F1"));
+  help->trigger();
+  const auto* guide = program.Window().findChild<GuideWindow*>();
+  ASSERT_NE(guide, nullptr);
+  EXPECT_TRUE(guide->isVisible());
+  EXPECT_TRUE(guide->toPlainText().contains("New plot"));
+}
+
+}  // namespace
+}  // namespace lumivex
