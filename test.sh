@@ -8,8 +8,7 @@ lumivex_setup
 jobs=$(nproc)
 
 echo "== format"
-git ls-files 'src/*.h' 'src/*.cpp' 'tests/*.h' 'tests/*.cpp' 'bench/*.h' 'bench/*.cpp' |
-  xargs -r clang-format --dry-run --Werror
+find src tests bench -name '*.h' -o -name '*.cpp' | xargs clang-format --dry-run --Werror
 
 echo "== release"
 cmake --preset release -DLUMIVEX_WERROR=ON -DLUMIVEX_TESTS=ON -DLUMIVEX_BENCH=ON >/dev/null
@@ -18,7 +17,7 @@ ctest --preset release -j "$jobs"
 
 if [ "${1:-}" = --tidy ]; then
   echo "== clang-tidy"
-  git ls-files 'src/*.cpp' | grep -v /tables/ | xargs -P "$jobs" -n 4 clang-tidy -p build/release --quiet
+  find src -name '*.cpp' | grep -v /tables/ | xargs -P "$jobs" -n 4 clang-tidy -p build/release --quiet
 fi
 
 echo "== sanitizers"

@@ -122,6 +122,7 @@ std::vector<std::string> OfferedGraphs() {
     if (row.place > 0 && IsAvailable(row.feature)) rows.push_back(&row);
   std::ranges::sort(rows, {}, &GraphRow::place);
   std::vector<std::string> texts;
+  texts.reserve(rows.size());
   for (const auto* row : rows) texts.emplace_back(row->text);
   return texts;
 }

@@ -141,6 +141,7 @@ void WriteCaptions(Form1& f) {
   const std::string micro = "\u00B5", degree = "\u00B0";
   f.Label7.Caption = "Radius (" + micro + "m)";
   f.Label6.Caption = "Wavelength (" + micro + "m) in vacuo";
+  f.Frame2.Caption = "Forward scattering = 0" + degree + ", back-scattering = 180" + degree;
 }
 
 /// The water model at the start: 5 C with the absorption of water.

@@ -15,7 +15,8 @@ void DrawingSurface::Image(const CellBlock& block, std::span<const Colour> cells
   for (std::size_t i = 0; i < cells.size(); ++i) {
     const auto columns = static_cast<std::size_t>(block.columns);
     const double x = block.left + width * static_cast<double>(i % columns);
-    const double y = block.top + height * static_cast<double>(i / columns);
+    const std::size_t row = i / columns;
+    const double y = block.top + height * static_cast<double>(row);
     ForeColour = cells[i];
     Line(x, y, x + width, y + height, LineKind::FilledBox);
   }

@@ -49,7 +49,7 @@ constexpr LayoutLine commandLines[] = {
 // Columns of even height: what is rarely shown shares a column with what is short.
 constexpr FrameLayout mainFrames[] = {
     {"Frame1", 0, calculationLines, 11}, {"Frame3", 1, sizeLines, 5},     {"Frame4", 2, lightLines, 5},
-    {"Frame5", 3, indexLines, 8},        {"Frame8", 3, verticalLines, 9}, {"Frame2", 4, horizontalLines, 5},
+    {"Frame5", 3, indexLines, 8},        {"Frame8", 3, verticalLines, 9}, {"Frame2", 4, horizontalLines, 5, true},
     {"Frame9", 4, furtherLines, 7},      {"", 5, commandLines, 8},
 };
 

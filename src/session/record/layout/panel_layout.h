@@ -17,7 +17,8 @@ struct FrameLayout {
   std::string_view frame;  ///< name of the Frame; "" for lines without a frame around them
   int column = 0;          ///< from the left; frames of one column stand below each other
   std::span<const LayoutLine> lines;
-  int fieldChars = 8;  ///< digits that the inputs behind a label have room for
+  int fieldChars = 8;      ///< digits that the inputs behind a label have room for
+  bool longTitle = false;  ///< the title may take two lines
 };
 
 /// The input panel of the main window.
