@@ -55,6 +55,11 @@ void FormView::AddLine(Form& form, const LayoutLine& line, const ControlActions&
     widget->setVisible(true);  // so that the first measure counts everything; the next Sync hides what is hidden
     const bool isLabel = control->Kind() == ControlKind::Label;
     if (style_.compact && IsInput(*control)) widget->setFixedHeight(widget->fontMetrics().height() + compactMargin);
+    if (style_.compact && control->Kind() == ControlKind::CommandButton) {
+      widget->setMinimumWidth(widget->fontMetrics().horizontalAdvance(ToQString(control->ShownCaption())) +
+                              arrowWidth_);
+      widget->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    }
     if (labelled && IsInput(*control)) {
       const int share = static_cast<int>((fieldWidth_ - (inputs - 1) * row->spacing()) / inputs);
       widget->setFixedWidth(share);

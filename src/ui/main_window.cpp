@@ -26,7 +26,7 @@ namespace lumivex {
 namespace {
 
 constexpr double panelWidth = 12000, panelHeight = 2800;  // the strip of the input panel (surface units)
-constexpr double leastWidth = 13500, leastHeight = 7000;  // below that the drawing is scrolled
+constexpr double leastWidth = 13750, leastHeight = 7000;  // below that the drawing is scrolled
 constexpr double marginRight = 600, marginBottom = 900;   // around a graph of fixed size (surface units)
 constexpr double leastFontShare = 0.75;
 constexpr double panelFontShare = 0.9;  // the panel's font against the application's
@@ -114,7 +114,16 @@ void MainWindow::Attach(Session& session) {
   info_ = new InfoOverlay(session.form1.Frame6, canvas_);
   delete std::exchange(panel_, nullptr);
   FitPanel();
-  // The first drawing is made before the window is shown; the scroll area hands sizes on only after that.
+  // The first thing to type is a size.
+  if (auto* radius = qobject_cast<QLineEdit*>(WidgetOf(session.form1.txtRadius))) {
+    radius->setFocus();
+    radius->selectAll();
+  }
+  RenewDrawing();
+}
+
+void MainWindow::RenewDrawing() {
+  // The scroll area hands its size on later, and before the window is shown not at all.
   canvas_->resize(scroll_->maximumViewportSize().expandedTo(canvas_->minimumSize()));
   canvas_->Renew();
 }
@@ -127,15 +136,12 @@ void MainWindow::FitPanel() {
     layout()->activate();
   }
   // In a narrow window the panel takes a smaller font, down to what can still be read, rather than push the readings
-  // out. The frames around the text do not shrink with it, so one guess is not enough.
+  // out. Fonts come in steps and the frames around the text do not shrink with it, so one guess is not enough.
   const double room = scroll_->maximumViewportSize().width();
-  for (int guess = 0; guess < 3; ++guess) {
-    const double fits = fontShare_ * room / (leastWidth * canvas_->Unit());
-    const double share = std::clamp(fits, leastFontShare, panelFontShare);
-    const bool isNear = std::abs(share - fontShare_) < 0.01 && (fits >= 1 || share < panelFontShare);
-    if (share == fontShare_ || (isNear && leastWidth * canvas_->Unit() <= room)) break;
-    BuildPanel(share);
-  }
+  const auto fits = [&] { return room / (leastWidth * canvas_->Unit()); };
+  if (fits() > 1.02 && fontShare_ < panelFontShare) BuildPanel(std::min(panelFontShare, fontShare_ * fits()));
+  for (int guess = 0; guess < 6 && fits() < 1 && fontShare_ > leastFontShare; ++guess)
+    BuildPanel(std::max(leastFontShare, fontShare_ * std::min(fits(), 0.985)));
 }
 
 void MainWindow::BuildPanel(double fontShare) {
@@ -164,7 +170,8 @@ void MainWindow::BuildPanel(double fontShare) {
 
 void MainWindow::ReserveRoom() {
   double width = leastWidth, height = leastHeight;
-  if (!session_->form1.mnuVLarge.Checked) {
+  const bool isLoaded = session_->state.PrevGraphType != 0;
+  if (isLoaded && !session_->form1.mnuVLarge.Checked) {
     // A graph of fixed size keeps it in a smaller window, which is then scrolled.
     width = std::max(width, session_->state.GraphRight + marginRight);
     height = std::max(height, session_->state.GraphBottom + marginBottom);
@@ -222,16 +229,19 @@ void MainWindow::Resized() {
   if (!session_ || gate_.Running()) return;
   gate_.Do([this] {
     FitPanel();
-    canvas_->Renew();
+    RenewDrawing();
     Form_Resize(*session_);
     canvas_->update();
   });
 }
 
 void MainWindow::Settle() {
-  QCoreApplication::sendPostedEvents();
-  layout()->activate();
-  if (canvas_->IsStale()) Resized();
+  // Twice: a panel of another size changes the room that the scroll area needs.
+  for (int pass = 0; pass < 2; ++pass) {
+    QCoreApplication::sendPostedEvents();
+    layout()->activate();
+    if (canvas_->IsStale()) Resized();
+  }
 }
 
 void MainWindow::ShowStatus() {

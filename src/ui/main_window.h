@@ -63,6 +63,7 @@ class MainWindow final : public QMainWindow {
   void FitPanel();
   void BuildPanel(double fontShare);
   void ReserveRoom();
+  void RenewDrawing();
   void WatchInputs();
   void ShowStatus();
   void Act(const CommandGate::Action& command);

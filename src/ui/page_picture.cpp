@@ -67,7 +67,9 @@ void PrintParameters(Session& session) {
   const auto lines = RunParameters(session);
   if (lines.empty()) return;
   const std::size_t columns = (lines.size() + mostLines - 1) / mostLines;
-  const std::size_t linesPerColumn = (lines.size() + columns - 1) / columns;
+  std::size_t linesPerColumn = (lines.size() + columns - 1) / columns;
+  // An indented line stays below the one that it belongs to.
+  while (linesPerColumn < std::min(mostLines, lines.size()) && lines[linesPerColumn].starts_with(' ')) ++linesPerColumn;
   double x = left, columnWidth = 0;
   for (std::size_t i = 0; i < lines.size(); ++i) {
     if (i > 0 && i % linesPerColumn == 0) {

@@ -7,6 +7,7 @@
 #include <map>
 
 #include "ui/look.h"
+#include "ui/wrap_label.h"
 
 namespace lumivex {
 
@@ -73,11 +74,12 @@ void PanelView::AddBox(Form& form, const FrameLayout& layout, const ControlActio
   auto* frame = layout.frame.empty() ? nullptr : dynamic_cast<Frame*>(form.Find(layout.frame));
   QWidget* box = frame ? new FrameBox(&column) : new QWidget(&column);
   auto* lines = new QVBoxLayout(box);
-  lines->setContentsMargins(frame ? 6 : 1, frame ? 2 : 1, frame ? 6 : 1, frame ? 4 : 1);
+  lines->setContentsMargins(frame ? 5 : 1, frame ? 2 : 1, frame ? 5 : 1, frame ? 4 : 1);
   lines->setSpacing(frame ? 2 : 4);
   QLabel* title = nullptr;
   if (frame) {
-    title = new QLabel(ShownText(frame->Caption), box);
+    title = new WrapLabel(layout.longTitle, box);
+    title->setText(ToQString(frame->Caption));
     QFont bold = title->font();
     bold.setWeight(QFont::DemiBold);
     title->setFont(bold);
@@ -94,7 +96,7 @@ void PanelView::Sync() {
   for (auto& box : boxes_) {
     box.lines->Sync();
     if (!box.frame) continue;
-    const QString caption = ShownText(box.frame->Caption);
+    const QString caption = ToQString(box.frame->Caption);
     if (box.title->text() != caption) {
       box.title->setText(caption);
       box.widget->setAccessibleName(ToQString(box.frame->Caption));

@@ -159,6 +159,15 @@ TEST_F(PanelTest, NothingIsClippedWithEverythingShownAndLargeFonts) {
       EXPECT_LE(corner.x(), 12000 * unit) << name << " at " << points << " points";
       EXPECT_LE(corner.y(), 2800 * unit) << name << " at " << points << " points";
     }
+    // The title of the start is the longest; no graph shows it together with the further axis.
+    Form().Frame9.Visible = false;
+    Form().Frame2.Caption = "Forward scattering = 0\u00B0, back-scattering = 180\u00B0";
+    program.Window().Refresh();
+    QTest::qWait(50);
+    for (const auto* label : program.Window().Drawing().findChildren<QLabel*>()) {
+      if (!label->isVisible()) continue;
+      EXPECT_EQ(Clipped(*label), "") << "at " << points << " points";
+    }
   }
   QApplication::setFont(normal);
 }
