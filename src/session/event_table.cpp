@@ -83,6 +83,8 @@ constexpr EventRow eventRows[] = {
     {"mnuRadiusX_Click", mnuRadiusX_Click},
     {"mnuSize_Click", mnuSize_Click},
     {"mnuClassicStart_Click", mnuClassicStart_Click},
+    {"mnuConstantVolume_Click", mnuConstantVolume_Click},
+    {"mnuXStepLog_Click", mnuXStepLog_Click},
     {"mnuRI_IAPWS_Click", mnuRI_IAPWS_Click},
     {"mnuRI_Vacuum1_Click", mnuRI_Vacuum1_Click},
     {"mnuRI_Fixed1_Click", mnuRI_Fixed1_Click},

@@ -2,7 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <initializer_list>
+#include <iterator>
 
+#include "session/axis_graphs.h"
 #include "session/record/number_text.h"
 
 namespace lumivex {
@@ -73,28 +76,47 @@ constexpr std::array graphRows = {
     GraphRow{33, 0, "Vol: Int v. radius", 0, VolumeGraphs},
 };
 
-/// Captions of the inputs that a family of graphs renames. An empty caption leaves what stands.
-struct FamilyCaptions {
-  int firstType, lastType;
-  std::string_view frame2, label5, label2, label3;
-};
-constexpr std::array familyCaptions = {
-    FamilyCaptions{1, 1, "Angle scale", "Angular resolution", "Maximum angle", "Minimum angle"},
-};
+constexpr std::string_view setByUser[] = {"Sphere: Refractive index set by user", "Sphere: Fixed refractive index",
+                                          "Sphere: Variable refractive index"};
+
+std::string WithUnit(std::string_view caption, std::string_view unit) {
+  return unit.empty() ? std::string(caption) : std::string(caption) + " (" + std::string(unit) + ")";
+}
+
+void AngleCaptions(Form1& form) {
+  form.Frame2.Caption = "Angle scale";
+  form.Label5.Caption = "Angular resolution";
+  form.Label2.Caption = "Maximum angle";
+  form.Label3.Caption = "Minimum angle";
+}
+
+void AxisCaptionsOf(Form1& form, const AxisGraph& graph) {
+  const AxisCaptions captions = CaptionsOf(graph);
+  form.Frame2.Caption = captions.frame;
+  form.Label2.Caption = WithUnit("Maximum", captions.unit);
+  form.Label3.Caption = WithUnit("Minimum", captions.unit);
+  form.Label5.Caption = form.mnuXStepLog.Checked ? "No. of steps" : WithUnit("Step", captions.unit);
+}
 
 /// The further axis is for Lee diagrams, maps, impulse and power graphs, and for the angle of x-axis graphs.
-void ShowFurtherAxis(Session& session) {
+void ShowFurtherAxis(Session& session, const AxisGraph* graph) {
   auto& form = session.form1;
   const int type = session.state.GraphType;
-  const bool angleOnly = type >= 10 && type <= 18;
-  const bool axis = type >= 19 && type < 30 && type != 20;
-  form.Frame9.Visible = angleOnly || axis;
-  form.Label19.Visible = form.txtAngle.Visible = angleOnly;
-  for (Control* control : {static_cast<Control*>(&form.Label30), static_cast<Control*>(&form.txtF9_fixed),
-                           static_cast<Control*>(&form.Label32), static_cast<Control*>(&form.txtF9_min),
-                           static_cast<Control*>(&form.txtF9_max), static_cast<Control*>(&form.Label35),
-                           static_cast<Control*>(&form.txtF9_step)})
+  const bool power = graph != nullptr && graph->quantity == AxisQuantity::Power;
+  const bool angle = graph != nullptr && !NeedsNoAngle(*graph) && !power;
+  const bool axis = power || (type >= 19 && type < 30 && type != 20);
+  form.Frame9.Visible = angle || axis;
+  form.Label19.Visible = form.txtAngle.Visible = angle;
+  for (Control* control : std::initializer_list<Control*>{&form.Label32, &form.txtF9_min, &form.txtF9_max,
+                                                          &form.Label35, &form.txtF9_step})
     control->Visible = axis;
+  form.Label30.Visible = form.txtF9_fixed.Visible = axis && !power;
+  if (graph == nullptr) return;
+  form.Label19.Caption = "Scattering angle";
+  form.Frame9.Caption = power ? "Scattering angle" : "Angle";
+  if (!power) return;
+  form.Label32.Caption = "Minimum, maximum";
+  form.Label35.Caption = "Step size";
 }
 
 const GraphRow* FindGraph(std::string_view text) {
@@ -103,11 +125,71 @@ const GraphRow* FindGraph(std::string_view text) {
   return row == graphRows.end() ? nullptr : &*row;
 }
 
-void AngleStartValues(Session& session, bool familyChanged) {
+/// Values that a change of family brings; a change of sub-type leaves the user's ranges.
+void AngleStartValues(Session& session) {
   auto& form = session.form1;
   form.cboYmin.Text = "Automatic";
   form.cboWave.Text = "1";
-  if (familyChanged) form.cboPol.Text = "Both";
+  form.cboPol.Text = "Both";
+  form.txtXmin.Text = "0";
+  form.txtXmax.Text = "180";
+  form.cboStep.Text = "0.1";
+}
+
+void AxisStartValues(Session& session, const AxisGraph& graph) {
+  auto& form = session.form1;
+  const bool efficiencies = graph.type >= 14;
+  form.cboYmin.Text = form.cboYmax.Text = "Automatic";
+  form.cboWave.Text = "1";
+  form.cboPol.Text = efficiencies ? "All 3" : "Both";
+  form.txtXmin.Text = graph.xmin;
+  form.txtXmax.Text = graph.xmax;
+  form.cboStep.Text = graph.step;
+  if (graph.variable != AxisVariable::Wavelength && efficiencies) form.txtLambda.Text = "0.65";
+  if (graph.type == 16 || graph.type == 17) {
+    form.txtRadius.Text = graph.variable == AxisVariable::Wavelength ? "1" : "10";
+    form.txtAngle.Text = "0";
+  }
+  if (graph.type >= 12 && graph.type != 15) form.cboDistrib.Text = "Log-normal";
+  if (graph.quantity == AxisQuantity::Power) {
+    form.txtF9_min.Text = "0";
+    form.txtF9_max.Text = "180";
+    form.txtF9_step.Text = "0.1";
+  }
+}
+
+/// Start values of a new family, unless the user keeps the parameters; the sphere of a family that varied its index is
+/// water again.
+void ChangeFamily(Session& session, int oldType) {
+  auto& s = session.state;
+  auto& form = session.form1;
+  if (oldType == s.GraphType) return;
+  const AxisGraph* graph = FindAxisGraph(s.GraphType, s.GraphSubType);
+  if (oldType == 12) {
+    form.lblSphere.Caption = s.KeptSphereLabel;
+    s.SphereName = s.KeptSphereName;
+  }
+  if (graph != nullptr && graph->variable == AxisVariable::RefractiveIndex)
+    form.lblSphere.Caption = "Sphere: Variable refractive index";
+  form.mnuXStepLog.Checked = graph != nullptr && graph->logSteps && !form.mnuKeepParameters.Checked;
+  if (form.mnuKeepParameters.Checked) return;
+  if (graph != nullptr) {
+    AxisStartValues(session, *graph);
+  } else if (s.GraphType == 1) {
+    AngleStartValues(session);
+  }
+  session.events.Raise("txtLambda_change");
+}
+
+/// Graphs in absolute units of light ask how far the observer is and how strong the light.
+void AskForDistance(Session& session) {
+  const auto& s = session.state;
+  const bool absolute = s.GraphType == 1 && s.GraphSubType >= 3 && s.GraphSubType <= 5;
+  if (absolute || s.GraphType == 18) {
+    session.events.Raise("dlogIncident.Show");
+  } else {
+    session.form1.lblWatts.Visible = session.form1.lblDistance.Visible = false;
+  }
 }
 
 }  // namespace
@@ -130,20 +212,26 @@ std::vector<std::string> OfferedGraphs() {
 void ShowFamilyInputs(Session& session) {
   auto& form = session.form1;
   const int type = session.state.GraphType;
-  for (const auto& row : familyCaptions) {
-    if (type < row.firstType || type > row.lastType) continue;
-    form.Frame2.Caption = row.frame2;
-    form.Label5.Caption = row.label5;
-    form.Label2.Caption = row.label2;
-    form.Label3.Caption = row.label3;
+  const AxisGraph* graph = FindAxisGraph(type, session.state.GraphSubType);
+  if (graph != nullptr) {
+    AxisCaptionsOf(form, *graph);
+  } else {
+    AngleCaptions(form);
   }
+  form.Frame8.Caption = type == 18 ? "Calculation of Watts/sq m" : "Intensity scale";
   form.Label18.Caption = "Brightness";
   form.Label26.Caption = "Lee diagram";
   const bool coloured = Trim(form.cboWave.Text) != "1" || type >= 20;
   form.Label18.Visible = form.cboBright.Visible = coloured;
   form.Label26.Visible = form.cboLee.Visible = type >= 20 && type < 30;
   form.Label24.Visible = form.txtRmax.Visible = form.txtRstep.Visible = type == 20;
-  ShowFurtherAxis(session);
+  const bool sizeOnAxis =
+      graph != nullptr && (graph->variable == AxisVariable::Radius || graph->variable == AxisVariable::Diameter ||
+                           graph->variable == AxisVariable::SizeParameter);
+  form.Label7.Visible = form.txtRadius.Visible = !sizeOnAxis;
+  const bool wavelengthOnAxis = graph != nullptr && graph->variable == AxisVariable::Wavelength;
+  form.Label6.Visible = form.txtLambda.Visible = !wavelengthOnAxis && Trim(form.cboWave.Text) == "1";
+  ShowFurtherAxis(session, graph);
 }
 
 void cboGraph_Click(Session& session) {
@@ -155,6 +243,10 @@ void cboGraph_Click(Session& session) {
     return;
   }
   form.cboGraph.BackColour = colours::White;
+  if (std::ranges::find(setByUser, form.lblSphere.Caption) == std::end(setByUser)) {
+    s.KeptSphereLabel = form.lblSphere.Caption;
+    s.KeptSphereName = s.SphereName;
+  }
   form.mnuRadiusDiameter.Enabled = form.mnuDiameter.Enabled = form.mnuRadius.Enabled = true;
   form.mnuRadiusX.Enabled = false;
   for (Picture* picture : {&form.Picture1, &form.Picture2, &form.Picture3, &form.Picture1a, &form.Picture2a,
@@ -165,18 +257,20 @@ void cboGraph_Click(Session& session) {
   form.mnuAmpPhase.Enabled = form.mnuIntPol.Enabled = false;
   form.OptXLinear.Select();
 
-  const bool familyChanged = row->type != s.GraphType;
+  const int oldType = s.GraphType;
   s.GraphType = row->type;
   if (row->subType != 0) s.GraphSubType = row->subType;
-  if (familyChanged && !form.mnuKeepParameters.Checked && s.GraphType == 1) AngleStartValues(session, familyChanged);
+  ChangeFamily(session, oldType);
   if (s.GraphType == 1) {
     form.mnuInvWavelength.Checked = Trim(form.cboWave.Text) != "1";
-    form.mnuAmpPhase.Enabled = form.mnuIntPol.Enabled = true;
+    form.mnuAmpPhase.Enabled = form.mnuIntPol.Enabled = s.GraphSubType == 1;
     form.mnuRadiusX.Enabled = Trim(form.cboWave.Text) == "1";
   }
+  if (form.mnuRadiusX.Checked && !form.mnuRadiusX.Enabled) session.events.Raise("mnuRadius_Click");
   ShowFamilyInputs(session);
   form.cmdReplot.Enabled = form.cmdOverPlot.Enabled = false;
   form.cmdNewPlot.Enabled = true;
+  AskForDistance(session);
 }
 
 }  // namespace lumivex

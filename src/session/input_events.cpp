@@ -3,6 +3,7 @@
 #include <string>
 
 #include "materials/refractive_index.h"
+#include "session/graph_types.h"
 #include "session/record/number_text.h"
 #include "solvers/visible_data.h"
 
@@ -99,6 +100,15 @@ void mnuSize_Click(Session& session) {
 
 void mnuClassicStart_Click(Session& session) {
   Toggle(session, session.form1.mnuClassicStart);
+}
+
+void mnuConstantVolume_Click(Session& session) {
+  Toggle(session, session.form1.mnuConstantVolume);
+}
+
+void mnuXStepLog_Click(Session& session) {
+  Toggle(session, session.form1.mnuXStepLog);
+  ShowFamilyInputs(session);
 }
 
 void mnuSpectrumBand_Click(Session& session) {

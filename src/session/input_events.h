@@ -28,6 +28,9 @@ void mnuRadiusX_Click(Session& session);
 /// Toggles that need a new calculation.
 void mnuSize_Click(Session& session);
 void mnuClassicStart_Click(Session& session);
+void mnuConstantVolume_Click(Session& session);
+/// Logarithmic steps of an x axis: the step is then a number of steps.
+void mnuXStepLog_Click(Session& session);
 
 /// Readings shown or not; start values kept when the graph changes.
 void mnuDataVisible_Click(Session& session);

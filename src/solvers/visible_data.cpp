@@ -69,6 +69,10 @@ void VisibleData(Session& session) {
       std::ranges::find(withEfficiencies, s.CalcMethod) != withEfficiencies.end()) {
     ReadingColumn column(surface);
     PrintEfficiencies(s, column);
+    if (s.GraphType == 1 && s.GraphSubType == 3) {
+      column.Line("Scattered power = " + Significant(s.ScatteredPower, digitsShown) + " W");
+      column.Line("Backscattered power = " + Significant(s.BackscatteredPower, digitsShown) + " W");
+    }
     if (s.GraphType == 1) PrintEndIntensities(session, column);
   }
   surface.ForeColour = before;

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "graphs/sun_disc.h"
+#include "session/driver/angle_quantities.h"
 #include "session/driver/solver_chain.h"
 #include "session/record/number_text.h"
 #include "solvers/kernel/phase_degrees.h"
@@ -21,22 +22,18 @@ double Contrast(double perpendicular, double parallel) {
   return sum == 0 ? 0 : (perpendicular - parallel) / sum;
 }
 
-void FillRow(MainFormState& s, int row, bool amplitude) {
-  const auto j = static_cast<std::size_t>(row);
-  double perpendicular = std::sqrt(s.S1.Intensity(row)), parallel = std::sqrt(s.S2.Intensity(row));
-  if (!amplitude) {
-    perpendicular = s.S1.Intensity(row) / s.IntensityNorm;
-    parallel = s.S2.Intensity(row) / s.IntensityNorm;
-  }
-  s.Iperp[j] = perpendicular;
-  s.Ipar[j] = parallel;
-  s.Iunpol[j] = (perpendicular + parallel) / 2;
-  s.Extra1[j] = Contrast(perpendicular, parallel);
-  s.Extra2[j] = PhaseDegrees(s.S1.Re(row), s.S1.Im(row));
-  s.Extra3[j] = PhaseDegrees(s.S2.Re(row), s.S2.Im(row));
-}
-
 }  // namespace
+
+void FillCurvePoint(MainFormState& s, std::size_t i, const AmplitudePair& pair, bool amplitude) {
+  const double intensity1 = pair.S1.re * pair.S1.re + pair.S1.im * pair.S1.im;
+  const double intensity2 = pair.S2.re * pair.S2.re + pair.S2.im * pair.S2.im;
+  s.Iperp[i] = amplitude ? std::sqrt(intensity1) : intensity1 / s.IntensityNorm;
+  s.Ipar[i] = amplitude ? std::sqrt(intensity2) : intensity2 / s.IntensityNorm;
+  s.Iunpol[i] = (s.Iperp[i] + s.Ipar[i]) / 2;
+  s.Extra1[i] = Contrast(s.Iperp[i], s.Ipar[i]);
+  s.Extra2[i] = PhaseDegrees(pair.S1.re, pair.S1.im);
+  s.Extra3[i] = PhaseDegrees(pair.S2.re, pair.S2.im);
+}
 
 void SetIntensityNorm(Session& session) {
   auto& s = session.state;
@@ -50,13 +47,15 @@ void SetIntensityNorm(Session& session) {
 void FillAngleCurves(Session& session) {
   auto& s = session.state;
   const int last = std::min(s.AngleHigh, s.S1.Rows());
+  const bool amplitude = s.GraphSubType == 1 && session.form1.mnuAmplitude.Checked;
   for (int row = s.AngleLow; row <= last; ++row) {
     s.XValues[static_cast<std::size_t>(row)] = (row - 1) * s.Xstep;
-    FillRow(s, row, session.form1.mnuAmplitude.Checked);
+    FillCurvePoint(s, static_cast<std::size_t>(row), {s.S1.Value(row), s.S2.Value(row)}, amplitude);
     if (s.SummedRows.Contains(row)) continue;
     for (auto* curve : {&s.Iperp, &s.Ipar, &s.Iunpol, &s.Extra1, &s.Extra2, &s.Extra3})
       (*curve)[static_cast<std::size_t>(row)] = notComputed;
   }
+  ApplyAngleQuantity(session);
 }
 
 void CalculateAngles(Session& session) {
@@ -74,6 +73,10 @@ void CalculateAngles(Session& session) {
   const double margin = Int(0.25 / s.Xstep);
   s.AngleLow = std::max(1, ToWhole(s.FirstPoint - margin));
   s.AngleHigh = std::min(s.NN, ToWhole(s.LastPoint + margin));
+  if (NeedsAllRows(s)) {
+    s.AngleLow = 1;
+    s.AngleHigh = s.NN;
+  }
   SetIntensityNorm(session);
 
   AmplitudeTable S1(s.ArrayRows), S2(s.ArrayRows);

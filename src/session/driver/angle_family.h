@@ -1,6 +1,7 @@
 #pragma once
 
 #include "session/record/session.h"
+#include "solvers/kernel/complex_pairs.h"
 
 namespace lumivex {
 
@@ -11,6 +12,13 @@ void CalculateAngles(Session& session);
 /// Fills the curve arrays from S1 and S2, as amplitudes or intensities, with the degree of polarisation (Extra1) and
 /// the phases (Extra2, Extra3); a row that was not computed to the end holds not-a-number.
 void FillAngleCurves(Session& session);
+
+/// Amplitudes of one row or point.
+struct AmplitudePair {
+  ComplexD S1, S2;
+};
+/// Element i of the curve arrays from its amplitudes: moduli, or intensities over IntensityNorm.
+void FillCurvePoint(MainFormState& s, std::size_t i, const AmplitudePair& pair, bool amplitude);
 
 /// WaveNumber, and IntensityNorm after mnuInvWavelength and mnuAmplitude.
 void SetIntensityNorm(Session& session);

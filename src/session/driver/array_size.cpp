@@ -41,7 +41,7 @@ void Array_Size(Session& session) {
     s.Xmin = Val(form.txtXmin.Text);
     s.Xmax = Val(form.txtXmax.Text);
     s.Xstep = Val(form.cboStep.Text);
-    SizeForAngles(session);
+    if (s.GraphType < 10) SizeForAngles(session);
   } else if (s.GraphType == 19) {
     SizeCurves(s, impulseRows);
     s.S1.Resize(impulseRows);

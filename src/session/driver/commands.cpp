@@ -3,6 +3,7 @@
 #include "graphs/sun_disc.h"
 #include "session/checks/range_check.h"
 #include "session/driver/angle_family.h"
+#include "session/driver/axis_family.h"
 #include "session/driver/display_run.h"
 #include "session/driver/duration.h"
 #include "session/driver/lock.h"
@@ -122,6 +123,8 @@ void cmdReplot_Click(Session& session) {
   if (s.GraphType == 1) {
     SetIntensityNorm(session);
     FillAngleCurves(session);
+  } else if (s.GraphType == 10 || s.GraphType == 11 || s.GraphType == 12) {
+    FillAxisCurves(session);
   }
   DisplayRun(session);
   s.PlotMode = 1;

@@ -10,7 +10,8 @@ namespace lumivex {
 void DisplayRun(Session& session) {
   const auto& s = session.state;
   const auto& form = session.form1;
-  const bool panels = s.GraphType == 1 && (form.mnuAmpPhase.Checked || form.mnuIntPol.Checked);
+  const bool matrix = (s.GraphType == 1 && s.GraphSubType == 6) || (s.GraphType == 10 && s.GraphSubType == 2);
+  const bool panels = matrix || (s.GraphType == 1 && (form.mnuAmpPhase.Checked || form.mnuIntPol.Checked));
   if (panels) {
     DisplayTwoPanels(session);
   } else {

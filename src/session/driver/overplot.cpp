@@ -3,6 +3,7 @@
 #include "materials/refractive_index.h"
 #include "session/driver/angle_family.h"
 #include "session/driver/array_size.h"
+#include "session/driver/axis_family.h"
 #include "session/driver/display_run.h"
 #include "session/driver/progress.h"
 #include "session/info.h"
@@ -72,7 +73,9 @@ bool ReadSphere(Session& session) {
 }
 
 void Calculate(Session& session) {
-  if (session.state.GraphType == 1) CalculateAngles(session);
+  const int type = session.state.GraphType;
+  if (type < 10) CalculateAngles(session);
+  if (type >= 10 && type < 19) CalculateAxis(session);
 }
 
 }  // namespace

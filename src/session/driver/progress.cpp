@@ -70,6 +70,7 @@ void EndProgress(Session& session) {
 bool SessionMonitor::Report(std::size_t index, std::size_t count) {
   auto& s = session_.state;
   const double share = count > 0 ? static_cast<double>(index) / static_cast<double>(count) : 1;
+  if (share_ == Share::Points) s.ProgressFraction = static_cast<float>(share);
   s.AngleLoopIndex = static_cast<int>(share * s.NN);
   s.SeriesLoopIndex = static_cast<int>(share * s.NSTOP);
   Progress(session_);

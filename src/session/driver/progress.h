@@ -16,11 +16,14 @@ void EndProgress(Session& session);
 /// What a kernel of the present run reports to: moves the loop variables, shows progress, sees a Stop.
 class SessionMonitor final : public RunMonitor {
  public:
-  explicit SessionMonitor(Session& session) : session_(session) {}
+  /// What the kernel's share of work is a share of: the angles of one sphere, or the points of an x axis.
+  enum class Share { Angles, Points };
+  explicit SessionMonitor(Session& session, Share share = Share::Angles) : session_(session), share_(share) {}
   bool Report(std::size_t index, std::size_t count) override;
 
  private:
   Session& session_;
+  Share share_;
 };
 
 }  // namespace lumivex

@@ -40,9 +40,8 @@ enum class Feature {
 
 /// The one place that says what is there.
 inline constexpr std::array availableFeatures = {
-    Feature::Always,
-    Feature::MieSeries,
-    Feature::AngleIntensity,
+    Feature::Always,      Feature::MieSeries,    Feature::AngleIntensity,
+    Feature::AngleFamily, Feature::AxisFamilies,
 };
 
 constexpr bool IsAvailable(Feature feature) {

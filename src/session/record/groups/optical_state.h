@@ -7,24 +7,30 @@ namespace lumivex {
 
 /// The light, the sphere and the medium of the present calculation, and what came out.
 struct OpticalState {
-  double Lambda = 0.65;      ///< wavelength in vacuum (um)
-  double Radius = 10;        ///< radius of the sphere (um)
-  double SizeParameter = 0;  ///< x = 2 pi Radius n_medium / Lambda
-  double RefRelReal = 1;     ///< real part of the index of the sphere over the real index of the medium
-  double RefRelImag = 0;     ///< its imaginary part, positive for absorption
-  double SphereRIReal = 1;   ///< index of the sphere in the present run, n
-  double SphereRIImag = 0;   ///< k
-  double MediumRIReal = 1;   ///< index of the medium in the present run; an entry of 0 counts as 1
-  double MediumRIImag = 0;   ///< always 0
-  double WaveNumber = 0;     ///< 2 pi n_medium / (Lambda 1e-6) (1/m)
-  double IntensityNorm = 1;  ///< what intensities are divided by
-  std::string SphereName;    ///< as titles print it
-  std::string MediumName;    ///< as titles print it, after "in"
-  double Qext = 0;           ///< extinction efficiency of the last solver call
-  double Qsca = 0;           ///< scattering efficiency
-  double Qback = 0;          ///< |S1(180)|^2 / (pi x^2)
-  double Gsca = 0;           ///< asymmetry parameter, mean cosine of the scattering angle
-  std::string RunTitle;      ///< title line over the graph
+  double Lambda = 0.65;         ///< wavelength in vacuum (um)
+  double Radius = 10;           ///< radius of the sphere (um)
+  double SizeParameter = 0;     ///< x = 2 pi Radius n_medium / Lambda
+  double RefRelReal = 1;        ///< real part of the index of the sphere over the real index of the medium
+  double RefRelImag = 0;        ///< its imaginary part, positive for absorption
+  double SphereRIReal = 1;      ///< index of the sphere in the present run, n
+  double SphereRIImag = 0;      ///< k
+  double MediumRIReal = 1;      ///< index of the medium in the present run; an entry of 0 counts as 1
+  double MediumRIImag = 0;      ///< always 0
+  double WaveNumber = 0;        ///< 2 pi n_medium / (Lambda 1e-6) (1/m)
+  double IntensityNorm = 1;     ///< what intensities are divided by
+  std::string SphereName;       ///< as titles print it
+  std::string MediumName;       ///< as titles print it, after "in"
+  double Qext = 0;              ///< extinction efficiency of the last solver call
+  double Qsca = 0;              ///< scattering efficiency
+  double Qback = 0;             ///< |S1(180)|^2 / (pi x^2)
+  double Gsca = 0;              ///< asymmetry parameter, mean cosine of the scattering angle
+  std::string KeptSphereLabel;  ///< label and name of the sphere before a graph varied its index
+  std::string KeptSphereName;
+  double IncidentDensity = 100;   ///< of the light (W/m2)
+  double Distance = 1;            ///< of the observer (m)
+  double ScatteredPower = 0;      ///< of a graph in Watts: into all directions (W)
+  double BackscatteredPower = 0;  ///< into 90 to 180 degrees (W)
+  std::string RunTitle;           ///< title line over the graph
 };
 
 template <class Group, class Visitor>
@@ -47,6 +53,12 @@ void ForEachField(Group& g, Visitor&& visit) {
   visit("Qsca", g.Qsca);
   visit("Qback", g.Qback);
   visit("Gsca", g.Gsca);
+  visit("KeptSphereLabel", g.KeptSphereLabel);
+  visit("KeptSphereName", g.KeptSphereName);
+  visit("IncidentDensity", g.IncidentDensity);
+  visit("Distance", g.Distance);
+  visit("ScatteredPower", g.ScatteredPower);
+  visit("BackscatteredPower", g.BackscatteredPower);
   visit("RunTitle", g.RunTitle);
 }
 

@@ -24,8 +24,10 @@ struct ResultArrays {
   std::vector<double> Extra2;   ///< phase of S1 (degrees)
   std::vector<double> Extra3;   ///< phase of S2 (degrees)
   std::vector<double> Extra4;
-  Table2D MapPerp;  ///< map, perpendicular polarisation
-  Table2D MapPar;   ///< map, parallel polarisation
+  std::vector<double> WaveNumbers;  ///< by point of the x axis (1/m)
+  int PointsDone = 0;               ///< points of the x axis that were calculated, from the first
+  Table2D MapPerp;                  ///< map, perpendicular polarisation
+  Table2D MapPar;                   ///< map, parallel polarisation
   Table2D MapPerpSum;
   Table2D MapParSum;
 };
@@ -47,6 +49,8 @@ void ForEachField(Group& g, Visitor&& visit) {
   visit("Extra2", g.Extra2);
   visit("Extra3", g.Extra3);
   visit("Extra4", g.Extra4);
+  visit("WaveNumbers", g.WaveNumbers);
+  visit("PointsDone", g.PointsDone);
   visit("MapPerp", g.MapPerp);
   visit("MapPar", g.MapPar);
   visit("MapPerpSum", g.MapPerpSum);

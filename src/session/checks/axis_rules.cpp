@@ -1,0 +1,205 @@
+/// Rules on numbers, axes and their steps.
+
+#include <algorithm>
+#include <cmath>
+#include <initializer_list>
+
+#include "session/axis_graphs.h"
+#include "session/checks/check.h"
+#include "session/checks/number_input.h"
+#include "session/driver/array_size.h"
+#include "session/record/number_text.h"
+
+namespace lumivex {
+
+namespace {
+
+constexpr double largestInput = 1e9, largestIndex = 1000;
+constexpr double mostSteps = 18000, largestShareOfRange = 0.45;
+
+struct AxisWords {
+  std::string_view order, positive;
+};
+
+/// Minimum below maximum, above 0, and a number of steps that can be drawn.
+Verdict CheckAxis(Check& check, const AxisWords& words) {
+  auto& form = check.form;
+  const double low = Val(form.txtXmin.Text), high = Val(form.txtXmax.Text), step = Val(form.cboStep.Text);
+  if (low >= high) return Refuse(check, {&form.txtXmin, &form.txtXmax}, words.order);
+  if (low <= 0) return Refuse(check, {&form.txtXmin}, words.positive);
+  if (form.mnuXStepLog.Checked) {
+    if (step <= 0) return Refuse(check, {&form.cboStep}, "Number of steps must be >=1");
+    if (step > mostSteps) return Refuse(check, {&form.cboStep}, "Select a larger step size");
+    return Verdict::GoOn;
+  }
+  if (step <= 0) return Refuse(check, {&form.cboStep}, "Step size must be greater than zero");
+  if ((high - low) / step > mostSteps) return Refuse(check, {&form.cboStep}, "Select a larger step size");
+  if (step > largestShareOfRange * (high - low)) return Refuse(check, {&form.cboStep}, "Select a smaller step size");
+  return Verdict::GoOn;
+}
+
+bool AgainstAngle(const RunState& s) {
+  return s.GraphType < 10;
+}
+
+}  // namespace
+
+Verdict LogarithmicSteps(Check& check) {
+  auto& list = check.form.cboStep;
+  if (!check.form.mnuXStepLog.Checked || !IsAxisGraph(check.state) || Val(list.Text) > 1) return Verdict::GoOn;
+  return Refuse(check, {&list}, "Number of steps must be 1 or more");
+}
+
+Verdict FurtherAxisRange(Check& check) {
+  auto& form = check.form;
+  const int type = check.state.GraphType;
+  if (type != 19 && (type < 26 || type > 28)) return Verdict::GoOn;
+  const double low = Val(form.txtF9_min.Text), high = Val(form.txtF9_max.Text);
+  if (low >= high)
+    return Refuse(check, {&form.txtF9_min, &form.txtF9_max}, "Minimum value must be less than maximum value");
+  if (low < 0 && type != 19) return Refuse(check, {&form.txtF9_min}, "Value must be positive or zero");
+  if (high <= 0) return Refuse(check, {&form.txtF9_max}, "Value must be positive");
+  if (Val(form.txtF9_fixed.Text) < 0) return Refuse(check, {&form.txtF9_fixed}, "Value must be positive or zero");
+  if (type == 26 && check.state.GraphSubType != 3 && Val(form.txtF9_step.Text) <= 1)
+    return Refuse(check, {&form.txtF9_step}, "Number of steps must be greater than 1");
+  return Verdict::GoOn;
+}
+
+Verdict MapRange(Check& check) {
+  auto& form = check.form;
+  if (check.state.GraphType < 22 || check.state.GraphType > 28) return Verdict::GoOn;
+  const double low = Val(form.txtXmin.Text), high = Val(form.txtXmax.Text);
+  if (low >= high)
+    return Refuse(check, {&form.txtXmin, &form.txtXmax}, "Minimum value must be less than maximum value");
+  if (low < 0 && !form.optXLog.Checked) return Refuse(check, {&form.txtXmin}, "Value must be positive or zero");
+  return Verdict::GoOn;
+}
+
+Verdict NumericInputs(Check& check) {
+  auto& form = check.form;
+  auto& session = check.session;
+  for (SelectionList* limit : {&form.cboYmax, &form.cboYmin})
+    if (limit->Text != automaticLimit && !getval(session, *limit, 1e300, NumberSign::Any)) return Verdict::End;
+  if (form.mnuPlaneWave.Checked) {
+    for (TextInput* limit : {&form.txtXmin, &form.txtXmax})
+      if (!getval(session, *limit, largestInput, NumberSign::PositiveOrZero)) return Verdict::End;
+  }
+  struct Number {
+    Control* control;
+    double upperLimit;
+    NumberSign sign;
+  };
+  for (const auto& number : {Number{&form.cboStep, largestInput, NumberSign::PositiveOrZero},
+                             Number{&form.txtRadius, largestInput, NumberSign::Positive},
+                             Number{&form.txtLambda, largestInput, NumberSign::Positive},
+                             Number{&form.txtRefractReal, largestIndex, NumberSign::Positive},
+                             Number{&form.txtRefractImag, largestIndex, NumberSign::PositiveOrZero},
+                             Number{&form.txtRefractMedium, largestIndex, NumberSign::PositiveOrZero}})
+    if (!getval(session, *number.control, number.upperLimit, number.sign)) return Verdict::End;
+  check.Xmin = Val(form.txtXmin.Text);
+  check.Xmax = Val(form.txtXmax.Text);
+  if (!IsAxisGraph(check.state)) return Verdict::GoOn;
+  if (!getval(session, form.txtAngle, largestInput, NumberSign::Any)) return Verdict::End;
+  const double angle = Val(form.txtAngle.Text);
+  if (angle < 0) return Refuse(check, {&form.txtAngle}, "Scattering angle < 0");
+  if (angle > 180) return Refuse(check, {&form.txtAngle}, "Scattering angle > 180");
+  return Verdict::GoOn;
+}
+
+Verdict LeeDiagramAxis(Check& check) {
+  auto& form = check.form;
+  if (!form.cboGraph.Text.starts_with("Lee diagram")) return Verdict::GoOn;
+  for (TextInput* input : {&form.txtRmax, &form.txtRstep})
+    if (!getval(check.session, *input, largestInput, NumberSign::Positive)) return Verdict::End;
+  const double steps = Val(form.txtRstep.Text);
+  if (steps < 1 || steps != Int(steps)) return Refuse(check, {&form.txtRstep}, "Number of steps not valid");
+  if (Val(form.txtRadius.Text) >= Val(form.txtRmax.Text))
+    return Refuse(check, {&form.txtRadius, &form.txtRmax}, "Minimum value >= Maximum value");
+  return Verdict::GoOn;
+}
+
+Verdict ColourCount(Check& check) {
+  auto& list = check.form.cboWave;
+  constexpr double mostColours = 2000;
+  if (Val(list.Text) <= mostColours) return Verdict::GoOn;
+  return Refuse(check, {&list}, "Maximum number of colors = 2000");
+}
+
+Verdict SizeAxis(Check& check) {
+  const AxisGraph* graph = FindAxisGraph(check.state.GraphType, check.state.GraphSubType);
+  if (graph == nullptr || graph->type != 11) return Verdict::GoOn;
+  if (graph->variable == AxisVariable::SizeParameter)
+    return CheckAxis(
+        check, {"Minimum value of size parameter x must be less than maximum value", "Size parameter x must be > 0"});
+  return CheckAxis(check, {"Minimum value of radius must be less than maximum value", "Radius must be > 0"});
+}
+
+Verdict WavelengthAxis(Check& check) {
+  if (check.state.GraphType != 10 || check.state.GraphSubType == 10) return Verdict::GoOn;
+  return CheckAxis(check, {"Minimum value of wavelength must be less than maximum value", "Wavelength must be > 0"});
+}
+
+Verdict LeeSteps(Check& check) {
+  auto& form = check.form;
+  if (check.state.GraphType != 20) return Verdict::GoOn;
+  const double columns = Val(form.txtRstep.Text);
+  if (columns > 400) return Refuse(check, {&form.txtRstep}, "Maximum number of steps = 400");
+  if (columns <= 0) return Refuse(check, {&form.txtRstep}, "Number of steps must be 1 or more");
+  return Verdict::GoOn;
+}
+
+Verdict AxisStepCount(Check& check) {
+  auto& form = check.form;
+  const auto& s = check.state;
+  if (!IsAxisGraph(s) || s.GraphType == 13 || (s.GraphType == 10 && s.GraphSubType == 10)) return Verdict::GoOn;
+  const Verdict axis = CheckAxis(check, {"Minimum value must be less than maximum value", "Value must be positive"});
+  if (axis != Verdict::GoOn) return axis;
+  const double count =
+      form.mnuXStepLog.Checked ? Val(form.cboStep.Text) : (check.Xmax - check.Xmin) / Val(form.cboStep.Text);
+  if (count > mostSteps)
+    return Refuse(check, {&form.cboStep}, "Increase the step size or reduce the maximum/minimum range");
+  if (s.GraphType != 18) return Verdict::GoOn;
+  const double low = Val(form.txtF9_min.Text), high = Val(form.txtF9_max.Text), step = Val(form.txtF9_step.Text);
+  if (low >= high || low < 0 || high > 180)
+    return Refuse(check, {&form.txtF9_min, &form.txtF9_max}, "Minimum value must be less than maximum value");
+  if (!(step > 0) || (high - low) / step > mostSteps)
+    return Refuse(check, {&form.txtF9_step}, "Increase the step size or reduce the maximum/minimum range");
+  return Verdict::GoOn;
+}
+
+Verdict AngularStep(Check& check) {
+  if (!AgainstAngle(check.state)) return Verdict::GoOn;
+  auto& list = check.form.cboStep;
+  const double step = Val(list.Text);
+  if (!(step > 0)) return Refuse(check, {&list}, "Step size must be greater than zero");
+  constexpr double submultipleTolerance = 0.001;
+  const double steps = 90 / step;
+  if (steps - Int(steps) > submultipleTolerance) return Refuse(check, {&list}, "Must be a sub-multiple of 90 degrees");
+  if (2 * steps + 1 > mostAngleRows) return Refuse(check, {&list}, "Select a larger step size");
+  return Verdict::GoOn;
+}
+
+Verdict AngleScale(Check& check) {
+  if (!AgainstAngle(check.state)) return Verdict::GoOn;
+  auto& form = check.form;
+  constexpr int heiligenschein = 16;
+  const auto refuse = [&](std::string_view text) { return Refuse(check, {&form.txtXmin, &form.txtXmax}, text); };
+  if (form.mnuPlaneWave.Checked) {
+    const bool beyond = check.state.CalcMethod != heiligenschein;
+    if (check.Xmin < 0) return refuse("Minimum angle < 0 degrees");
+    if (beyond && check.Xmin > 180) return refuse("Minimum angle > 180 degrees");
+    if (check.Xmax < 0) return refuse("Maximum angle < 0 degrees");
+    if (beyond && check.Xmax > 180) return refuse("Maximum angle > 180 degrees");
+  }
+  if (check.Xmin > check.Xmax) return refuse("Minimum angle > Maximum angle");
+  if (check.Xmin == check.Xmax) return refuse("Minimum angle = Maximum angle");
+  return Verdict::GoOn;
+}
+
+Verdict LastLogarithmicStep(Check& check) {
+  auto& list = check.form.cboStep;
+  if (!check.form.mnuXStepLog.Checked || !IsAxisGraph(check.state) || Val(list.Text) > 1) return Verdict::GoOn;
+  return Refuse(check, {&list}, "Number of steps must be >=1");
+}
+
+}  // namespace lumivex

@@ -1,0 +1,327 @@
+#include "session/driver/axis_family.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <vector>
+
+#include "materials/refractive_index.h"
+#include "session/axis_graphs.h"
+#include "session/driver/angle_family.h"
+#include "session/driver/angle_quantities.h"
+#include "session/driver/point_solver.h"
+#include "session/driver/progress.h"
+#include "session/driver/solver_chain.h"
+#include "session/record/number_text.h"
+#include "solvers/arithmetic_guard.h"
+#include "solvers/kernel/angle_grid.h"
+#include "solvers/kernel/mie_efficiencies.h"
+
+namespace lumivex {
+
+namespace {
+
+constexpr double pi = 3.14159265358979324;
+constexpr double notComputed = std::numeric_limits<double>::quiet_NaN();
+constexpr int mieMethod = 1;
+constexpr int stopRequested = 4;
+
+/// The points of the axis, what was found at each, first index 1.
+struct AxisRun {
+  const AxisGraph* graph = nullptr;
+  int points = 0;
+  std::vector<double> x;                       ///< in the axis' unit
+  std::vector<double> size, mRe, mIm, radius;  ///< size parameter, relative index, radius (um)
+  std::vector<double> waveNumber;              ///< 1/m
+  std::vector<double> Qext, Qsca, Qback, g;
+  std::vector<double> powerPerp, powerPar;  ///< scattered into the range of angles chosen (W)
+  int done = 0;                             ///< points done, from the first
+
+  void Resize(int count) {
+    points = count;
+    const auto elements = static_cast<std::size_t>(count) + 1;
+    for (auto* list : {&x, &size, &mRe, &mIm, &radius, &waveNumber, &Qext, &Qsca, &Qback, &g, &powerPerp, &powerPar})
+      list->assign(elements, 0.0);
+  }
+};
+
+void ReadAxis(Session& session, AxisRun& run) {
+  auto& s = session.state;
+  const auto& form = session.form1;
+  s.Xmin = Val(form.txtXmin.Text);
+  s.Xmax = Val(form.txtXmax.Text);
+  s.Xstep = Val(form.cboStep.Text);
+  s.FirstPoint = 1;
+  int last = 1;
+  if (form.mnuXStepLog.Checked) {
+    s.LogStepRatio = std::pow(s.Xmax / s.Xmin, 1 / s.Xstep);
+    last = ToWhole(s.Xstep) + 1;
+  } else {
+    last = ToWhole(Int((s.Xmax - s.Xmin) / s.Xstep + 1.0001));
+  }
+  run.Resize(std::clamp(last, 1, mostPoints));
+  s.LastPoint = run.points;
+}
+
+double AxisPosition(const Session& session, int point) {
+  const auto& s = session.state;
+  const double position =
+      session.form1.mnuXStepLog.Checked ? s.Xmin * std::pow(s.LogStepRatio, point - 1) : s.Xmin + (point - 1) * s.Xstep;
+  return std::min(position, s.Xmax);
+}
+
+/// Size, wavelength and index at a point; false where there is no index.
+bool PlacePoint(Session& session, AxisRun& run, int point) {
+  using enum AxisVariable;
+  auto& s = session.state;
+  const auto i = static_cast<std::size_t>(point);
+  const double x = run.x[i] = AxisPosition(session, point);
+  double radius = s.Radius, mRe = s.RefRelReal;
+  double mIm = s.RefRelImag;
+  switch (run.graph->variable) {
+    case Wavelength: {
+      s.Lambda = x / 1000;
+      const auto relative = RefRel(session, s.Lambda);
+      if (!relative) return false;
+      mRe = *relative;
+      mIm = s.RefRelImag;
+      s.MediumRIReal = s.RefractMedium == 0 ? 1 : s.RefractMedium;
+      break;
+    }
+    case Radius:
+      radius = x;
+      break;
+    case Diameter:
+      radius = x / 2;
+      break;
+    case AxisVariable::SizeParameter:
+      radius = x * s.Lambda / (2 * pi * s.MediumRIReal);
+      break;
+    case RefractiveIndex:
+      mRe = x / s.MediumRIReal;
+      break;
+    case Iterations:
+      break;
+  }
+  run.radius[i] = radius;
+  run.mRe[i] = mRe;
+  run.mIm[i] = mIm;
+  run.size[i] = run.graph->variable == AxisVariable::SizeParameter ? x : 2 * pi * radius * s.MediumRIReal / s.Lambda;
+  run.waveNumber[i] = 2 * pi * s.MediumRIReal / (s.Lambda * 1e-6);
+  return true;
+}
+
+bool Stopped(const Session& session) {
+  return session.state.PlotMode == stopRequested;
+}
+
+/// Efficiencies of all points at once, without angles.
+void SolveEfficienciesOfAll(Session& session, AxisRun& run) {
+  const auto from1 = [&](std::vector<double>& list) { return std::span(list).subspan(1); };
+  for (int point = 1; point <= run.points; ++point) {
+    const auto i = static_cast<std::size_t>(point);
+    if (RefuseBeyondMie(session, run.size[i], run.mRe[i], run.mIm[i])) return;
+  }
+  SessionMonitor monitor(session, SessionMonitor::Share::Points);
+  const ArithmeticGuard guard;
+  const EfficiencyOptions options{session.form1.mnuSize.Checked, session.form1.mnuClassicStart.Checked};
+  run.done = static_cast<int>(SolveEfficiencies({from1(run.size), from1(run.mRe), from1(run.mIm)},
+                                                {from1(run.Qext), from1(run.Qsca), from1(run.Qback), from1(run.g)},
+                                                options, monitor));
+  guard.Passed(session);
+}
+
+/// Power scattered into the angles from txtF9_min to txtF9_max, by rows txtF9_step apart: the incident density times
+/// 2 pi/k^2 times the integral of |S|^2 sin(theta).
+void SolvePower(Session& session, AxisRun& run, std::size_t i) {
+  auto& s = session.state;
+  const auto& form = session.form1;
+  const double step = Val(form.txtF9_step.Text);
+  s.NANG = ToWhole(90 / step) + 1;
+  s.NN = 2 * s.NANG - 1;
+  const AngleGrid grid(s.NANG);
+  const double rowsPerDegree = (s.NANG - 1) / 90.0;
+  const int low = std::clamp(ToWhole(Val(form.txtF9_min.Text) * rowsPerDegree) + 1, 1, s.NN);
+  const int high = std::clamp(ToWhole(Val(form.txtF9_max.Text) * rowsPerDegree) + 1, low, s.NN);
+  CallSolver(session, low, high);
+  if (Stopped(session)) return;
+  const double k = run.waveNumber[i];
+  const double scale = s.IncidentDensity * 2 * pi / (k * k) * grid.DANG;
+  double perpendicular = 0, parallel = 0;
+  for (int row = low; row <= high; ++row) {
+    const double weight = std::sin(grid.Angle(row)) * (row == low || row == high ? 0.5 : 1);
+    perpendicular += weight * s.S1.Intensity(row);
+    parallel += weight * s.S2.Intensity(row);
+  }
+  run.powerPerp[i] = scale * perpendicular;
+  run.powerPar[i] = scale * parallel;
+  run.Qext[i] = s.Qext;
+  run.Qsca[i] = s.Qsca;
+  run.Qback[i] = s.Qback;
+  run.g[i] = s.Gsca;
+}
+
+void SolvePointByPoint(Session& session, AxisRun& run) {
+  auto& s = session.state;
+  const double angle = NeedsNoAngle(*run.graph) ? 0 : Val(session.form1.txtAngle.Text) * pi / 180;
+  s.S1ofPoint.Resize(run.points);
+  s.S2ofPoint.Resize(run.points);
+  for (int point = 1; point <= run.points && !Stopped(session); ++point) {
+    const auto i = static_cast<std::size_t>(point);
+    s.PointIndex = point;
+    s.ProgressFraction = static_cast<float>((point - s.FirstPoint) / (s.LastPoint - s.FirstPoint + 1));
+    s.Radius = run.radius[i];
+    s.SizeParameter = run.size[i];
+    s.RefRelReal = run.mRe[i];
+    s.RefRelImag = run.mIm[i];
+    if (run.graph->quantity == AxisQuantity::Power) {
+      SolvePower(session, run, i);
+      if (Stopped(session)) return;
+      run.done = point;
+      Progress(session);
+      continue;
+    }
+    const auto found = SolvePoint(session, angle);
+    if (!found) return;
+    s.S1ofPoint.Set(point, found->S1.re, found->S1.im);
+    s.S2ofPoint.Set(point, found->S2.re, found->S2.im);
+    run.Qext[i] = found->efficiencies.Qext;
+    run.Qsca[i] = found->efficiencies.Qsca;
+    run.Qback[i] = found->efficiencies.Qback;
+    run.g[i] = found->efficiencies.g;
+    run.done = point;
+    Progress(session);
+  }
+}
+
+struct PointCurves {
+  double perpendicular = 0, parallel = 0, unpolarised = 0;
+};
+
+/// The three curves of a quantity at a point.
+PointCurves QuantityAt(const Session& session, const AxisRun& run, std::size_t i) {
+  using enum AxisQuantity;
+  const auto all = [](double value) { return PointCurves{value, value, value}; };
+  const double area = pi * run.radius[i] * run.radius[i] * 1e-12;   // m2
+  const double volume = 4.0 / 3 * pi * std::pow(run.radius[i], 3);  // um3
+  const bool constantVolume = session.form1.mnuConstantVolume.Checked;
+  double factor = 1;
+  switch (run.graph->quantity) {
+    case Q:
+      // Per volume: many small spheres in place of one large.
+      factor = constantVolume ? pi * run.radius[i] * run.radius[i] / volume : 1;
+      break;
+    case CrossSection:
+      factor = constantVolume ? area / volume : area;
+      break;
+    case AxisQuantity::Qback:
+      return all(run.Qback[i]);
+    case Qradar:
+      return all(4 * pi * run.Qback[i]);
+    case Asymmetry:
+      return all(run.g[i]);
+    case Albedo:
+      return all(run.Qext[i] == 0 ? 0 : run.Qsca[i] / run.Qext[i]);
+    case Power:
+      return {run.powerPerp[i], run.powerPar[i], (run.powerPerp[i] + run.powerPar[i]) / 2};
+    default:
+      return {};
+  }
+  return {factor * run.Qext[i], factor * run.Qsca[i], factor * (run.Qext[i] - run.Qsca[i])};
+}
+
+void StoreQuantities(Session& session, const AxisRun& run) {
+  auto& s = session.state;
+  for (int point = 1; point <= run.done; ++point) {
+    const auto i = static_cast<std::size_t>(point);
+    const PointCurves curves = QuantityAt(session, run, i);
+    s.Iperp[i] = curves.perpendicular;
+    s.Ipar[i] = curves.parallel;
+    s.Iunpol[i] = curves.unpolarised;
+    s.Extra1[i] = s.Extra2[i] = s.Extra3[i] = 0;
+  }
+}
+
+void StoreCurves(Session& session, AxisRun& run) {
+  auto& s = session.state;
+  for (auto* curve : {&s.Iperp, &s.Ipar, &s.Iunpol, &s.Extra1, &s.Extra2, &s.Extra3})
+    curve->assign(static_cast<std::size_t>(run.points) + 1, notComputed);
+  s.XValues = run.x;
+  s.PointsDone = run.done;
+  if (NeedsNoAngle(*run.graph) || run.graph->quantity == AxisQuantity::Power) {
+    StoreQuantities(session, run);
+  } else {
+    s.WaveNumbers = run.waveNumber;
+    FillAxisCurves(session);
+  }
+  if (run.done < 1) return;
+  const auto last = static_cast<std::size_t>(run.done);
+  s.Qext = run.Qext[last];
+  s.Qsca = run.Qsca[last];
+  s.Qback = run.Qback[last];
+  s.Gsca = run.g[last];
+  s.SizeParameter = run.size[last];
+}
+
+/// The running sums of one sphere at the angle typed, term by term.
+void CalculateConvergence(Session& session) {
+  auto& s = session.state;
+  constexpr int rowsTo90 = 901;
+  s.NANG = rowsTo90;
+  s.NN = 2 * s.NANG - 1;
+  s.SelectedAngleIndex = std::clamp(ToWhole(Val(session.form1.txtAngle.Text) * 10) + 1, 1, s.NN);
+  CallSolver(session, s.SelectedAngleIndex, s.SelectedAngleIndex);
+  if (Stopped(session) && s.StopAnswer == 0) return;
+  s.Xmin = 1;
+  s.Xmax = s.NSTOP;
+  s.Xstep = 1;
+  s.FirstPoint = 1;
+  s.LastPoint = s.NSTOP;
+  session.form1.txtXmin.Text = "1";
+  session.form1.cboStep.Text = "1";
+  s.XValues.assign(static_cast<std::size_t>(s.NSTOP) + 1, 0.0);
+  for (int n = 1; n <= s.NSTOP; ++n) s.XValues[static_cast<std::size_t>(n)] = n;
+  for (auto* curve : {&s.Extra1, &s.Extra2, &s.Extra3}) curve->assign(s.XValues.size(), 0.0);
+  s.PlotXmin = s.Xmin;
+  s.PlotXmax = s.Xmax;
+}
+
+}  // namespace
+
+void FillAxisCurves(Session& session) {
+  auto& s = session.state;
+  const auto& form = session.form1;
+  const bool matrix = s.GraphType == 10 && s.GraphSubType == 2;
+  const bool amplitude = form.mnuAmplitude.Checked;
+  for (int point = 1; point <= s.PointsDone; ++point) {
+    const auto i = static_cast<std::size_t>(point);
+    double norm = 1;
+    if (form.mnuInvWavelength.Checked) norm = amplitude ? s.WaveNumbers[i] : s.WaveNumbers[i] * s.WaveNumbers[i];
+    s.IntensityNorm = norm;
+    FillCurvePoint(s, i, {s.S1ofPoint.Value(point), s.S2ofPoint.Value(point)}, amplitude);
+    if (matrix) FillMatrixPoint(s, i, {s.S1ofPoint.Value(point), s.S2ofPoint.Value(point)});
+  }
+}
+
+void CalculateAxis(Session& session) {
+  auto& s = session.state;
+  if (s.GraphType == 13) return CalculateConvergence(session);
+  AxisRun run;
+  run.graph = FindAxisGraph(s.GraphType, s.GraphSubType);
+  if (run.graph == nullptr) return;
+  ReadAxis(session, run);
+  for (int point = 1; point <= run.points; ++point) {
+    if (PlacePoint(session, run, point)) continue;
+    s.PlotMode = stopRequested;
+    return;
+  }
+  if (s.CalcMethod == mieMethod && NeedsNoAngle(*run.graph)) {
+    SolveEfficienciesOfAll(session, run);
+  } else {
+    SolvePointByPoint(session, run);
+  }
+  const bool refused = Stopped(session) && s.StopAnswer == 0;
+  if (!refused) StoreCurves(session, run);
+}
+
+}  // namespace lumivex

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <optional>
+
+#include "session/record/session.h"
+#include "solvers/kernel/complex_pairs.h"
+#include "solvers/kernel/mie_efficiencies.h"
+
+namespace lumivex {
+
+/// What a solver finds of one sphere at one angle.
+struct PointResult {
+  ComplexD S1, S2;
+  Efficiencies efficiencies;
+};
+
+/// The sphere that stands in the record (SizeParameter, RefRelReal, RefRelImag), seen at one angle (radians), by the
+/// solver of CalcMethod. Methods that only fill tables are asked for the nearest row of a grid of 0.01 degrees.
+/// Nothing after a failure, which sets PlotMode to 4 and is told.
+std::optional<PointResult> SolvePoint(Session& session, double angle);
+
+/// Whether a sphere lies beyond the limits of the Mie series; it is then told and PlotMode is 4.
+bool RefuseBeyondMie(Session& session, double x, double mRe, double mIm);
+
+}  // namespace lumivex

@@ -1,0 +1,187 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "session/graph_types.h"
+#include "session/methods.h"
+#include "session/session_fixture.h"
+#include "solvers/kernel/scattering_pattern.h"
+
+namespace lumivex {
+namespace {
+
+constexpr double pi = 3.14159265358979324;
+
+class AxisGraphs : public ScriptedSession {
+ protected:
+  const MainFormState& State() { return runner.Current().state; }
+  void Choose(const std::string& graph) { Do("choose cboGraph " + graph); }
+};
+
+TEST_F(AxisGraphs, EveryPairOfGraphAndMethodGivesNumbersOrAMessage) {
+  for (const auto& graph : OfferedGraphs())
+    for (const auto& method : OfferedMethods()) {
+      SCOPED_TRACE(graph + " by " + method);
+      Do("reset\nchoose cboGraph " + graph + "\nchoose cboType " + method);
+      // Few points are enough to see whether the pair works.
+      if (State().GraphType >= 10) Do("set cboStep " + std::string(Get("mnuXStepLog") == "true" ? "20" : "1"));
+      if (State().GraphType == 12) Do("set cboStep 0.02");
+      runner.World().messages.clear();
+      Do("click cmdNewPlot");
+      if (!Shown().empty()) continue;
+      ASSERT_EQ(State().PrevGraphType, State().GraphType);
+      output.str("");
+      Do("table");
+      EXPECT_GT(output.str().size(), 200U);
+      EXPECT_EQ(output.str().find("nan"), std::string::npos);
+      EXPECT_EQ(output.str().find("inf"), std::string::npos);
+    }
+}
+
+TEST_F(AxisGraphs, ChoosingAGraphShowsItsCaptionsAndKeepsRangesWithinAFamily) {
+  Choose("Qext/Qsca/Qabs v. radius");
+  EXPECT_EQ(Get("Frame2.Caption"), "Radius");
+  EXPECT_EQ(Get("Label2"), "Maximum (\u00B5m)");
+  EXPECT_EQ(Get("Label5"), "No. of steps");
+  EXPECT_EQ(Get("cboPol"), "All 3");
+  EXPECT_EQ(Get("txtRadius.Visible"), "false");
+  Do("set txtXmax 50");
+  Choose("Cext/Csca/Cabs v. radius");
+  EXPECT_EQ(Get("txtXmax"), "50");
+  Choose("Intensity v. wavelength");
+  EXPECT_EQ(Get("txtXmin"), "400");
+  EXPECT_EQ(Get("Label5"), "Step (nm)");
+  EXPECT_EQ(Get("txtAngle.Visible"), "true");
+  EXPECT_EQ(Get("txtLambda.Visible"), "false");
+  Choose("Intensity v. scattering angle");
+  EXPECT_EQ(Get("Frame2.Caption"), "Angle scale");
+  EXPECT_EQ(Get("txtXmax"), "180");
+  EXPECT_EQ(Get("txtRadius.Visible"), "true");
+  Do("click mnuKeepParameters");
+  Choose("Intensity v. radius");
+  EXPECT_EQ(Get("txtXmax"), "180");
+}
+
+TEST_F(AxisGraphs, PointsAreThoseOfSingleRuns) {
+  const double Qext = Number("Qext"), Qback = Number("Qback");
+  Do("set txtXmin 0\nset txtXmax 180");
+  const double S1 = State().Iperp[1381], S2 = State().Ipar[1381];  // 138 degrees
+  Choose("Intensity v. radius");
+  Do("set txtXmin 9\nset txtXmax 11\nset cboStep 0.1\nset txtAngle 138\nclick cmdNewPlot");
+  ASSERT_EQ(State().LastPoint, 21);
+  EXPECT_NEAR(State().XValues[11], 10, 1e-12);
+  EXPECT_NEAR(State().Iperp[11], S1, 1e-8 * S1);
+  EXPECT_NEAR(State().Ipar[11], S2, 1e-8 * S2);
+  Choose("Intensity v. diameter");
+  Do("set txtXmin 18\nset txtXmax 22\nset cboStep 0.2\nclick cmdNewPlot");
+  EXPECT_NEAR(State().Iperp[11], S1, 1e-8 * S1);
+  Choose("Intensity v. wavelength");
+  Do("set txtXmin 600\nset txtXmax 700\nset cboStep 10\nclick cmdNewPlot");
+  EXPECT_NEAR(State().Iperp[6], S1, 1e-8 * S1);
+  Choose("Qext/Qsca/Qabs v. wavelength");
+  Do("click cmdNewPlot");
+  Choose("Qback v. wavelength");
+  Do("set txtXmin 600\nset txtXmax 700\nset cboStep 10\nclick cmdNewPlot");
+  EXPECT_NEAR(State().Iperp[6], Qback, 1e-9 * Qback);
+  Choose("Qext/Qsca/Qabs v. radius");
+  Do("set txtXmin 1\nset txtXmax 100\nset cboStep 2\nclick cmdNewPlot");
+  ASSERT_EQ(State().LastPoint, 3);
+  EXPECT_NEAR(State().XValues[2], 10, 1e-12);
+  EXPECT_NEAR(State().Iperp[2], Qext, 1e-12);
+  EXPECT_TRUE(Shown().empty()) << LastText();
+}
+
+TEST_F(AxisGraphs, DerivedQuantitiesFollowFromTheEfficiencies) {
+  Do("set txtRefractReal 1.4\nset txtRefractImag 0.05\nclick mnuSize\nclick mnuSize");
+  const auto run = [&](const std::string& graph) {
+    Choose(graph);
+    Do("set txtXmin 1\nset txtXmax 4\nset cboStep 2\nclick cmdNewPlot");
+    EXPECT_TRUE(Shown().empty()) << graph << ": " << LastText();
+    return std::array{State().Iperp[2], State().Ipar[2], State().Iunpol[2]};
+  };
+  const auto Q = run("Qext/Qsca/Qabs v. radius");
+  EXPECT_NEAR(Q[2], Q[0] - Q[1], 1e-14);
+  const auto C = run("Cext/Csca/Cabs v. radius");
+  EXPECT_NEAR(C[0], Q[0] * pi * 4e-12, 1e-24);  // radius 2 um
+  const auto back = run("Qback v. radius"), radar = run("Qradar v. radius");
+  EXPECT_NEAR(radar[0], 4 * pi * back[0], 1e-12);
+  EXPECT_NEAR(run("Albedo v. radius")[0], Q[1] / Q[0], 1e-14);
+  const double g = run("Asymmetry g v. radius")[0];
+  EXPECT_GT(g, 0.5);
+  EXPECT_LT(g, 1);
+}
+
+TEST_F(AxisGraphs, ScatteredPowerIntoAllAnglesIsTheCrossSectionTimesTheDensity) {
+  Do("set txtRefractReal 1.33\nset txtRefractImag 0");
+  Choose("Scattered power v. radius");
+  Do("set txtXmin 1\nset txtXmax 5\nset cboStep 1\nclick cmdNewPlot");
+  ASSERT_TRUE(Shown().empty()) << LastText();
+  const double power = State().Iunpol[5];
+  EXPECT_NEAR(power, 100 * Number("Qsca") * pi * 25e-12, 3e-4 * power);
+  Do("set txtF9_max 90\nclick cmdNewPlot");
+  EXPECT_LT(State().Iunpol[5], power);
+}
+
+TEST_F(AxisGraphs, TheRangeOfTheIndexIsThatOfTheAxis) {
+  Choose("Intensity v. refractive index");
+  EXPECT_EQ(Get("lblSphere"), "Sphere: Variable refractive index");
+  Do("set txtXmin 1.3\nset txtXmax 1.5\nset cboStep 0.05\nclick cmdNewPlot");
+  const double at14 = State().Iperp[3];
+  Choose("Intensity v. scattering angle");
+  EXPECT_EQ(Get("lblSphere"), "Sphere: Water (IAPWS 5C Complex)");
+  Do("set txtRefractReal 1.4\nset txtRefractImag " + Exact(Number("RefRelImag")) + "\nclick cmdNewPlot");
+  EXPECT_NEAR(State().Iperp[1381], at14, 1e-6 * at14);
+}
+
+TEST_F(AxisGraphs, ConvergenceShowsTheSumRunningPastItsStop) {
+  runner.Current().form1.cboGraph.Items.push_back("Convergence");
+  Choose("Convergence");
+  Do("set txtAngle 0\nclick cmdNewPlot");
+  EXPECT_TRUE(Shown().empty()) << LastText();
+  EXPECT_EQ(Get("NSTOP"), "162");  // 1.2 times 135
+  EXPECT_EQ(Get("txtXmax"), "162");
+  EXPECT_NEAR(State().Iperp[162] / State().Iperp[140], 1, 1e-9);
+  EXPECT_LT(State().Iperp[50], State().Iperp[162]);
+}
+
+TEST_F(AxisGraphs, IntegralsOverTheSphereAreRight) {
+  Choose("Phase function");
+  Do("set cboStep 0.05\nclick cmdNewPlot");
+  const auto rows = [&](const std::vector<double>& curve) {
+    return std::span(curve).subspan(1, static_cast<std::size_t>(State().NN));
+  };
+  EXPECT_NEAR(SphereMean(rows(State().Iunpol)), 1, 3e-4);
+  Choose("CPDF");
+  Do("click cmdNewPlot");
+  const auto cumulative = rows(State().Iunpol);
+  EXPECT_EQ(cumulative.front(), 0);
+  EXPECT_EQ(cumulative.back(), 1);
+  EXPECT_TRUE(std::ranges::is_sorted(cumulative));
+  // Half of the light goes into the diffraction peak of some two degrees.
+  EXPECT_NEAR(cumulative[40], 0.4, 0.15);
+}
+
+TEST_F(AxisGraphs, TheScatteringMatrixOfASphereHasItsSymmetry) {
+  Choose("Scattering matrix");
+  Do("click cmdNewPlot");
+  for (std::size_t i = 1; i <= 1801; i += 50) {
+    const double a = State().Extra1[i], b = State().Extra2[i], c = State().Extra3[i];
+    EXPECT_NEAR(a * a + b * b + c * c, 1, 1e-12) << i;
+  }
+  EXPECT_NEAR(State().Extra2[1], 1, 1e-12);      // forward: S33 = S11
+  EXPECT_NEAR(State().Extra2[1801], -1, 1e-12);  // backward: S33 = -S11
+}
+
+TEST_F(AxisGraphs, AStopLeavesThePointsThatWereDone) {
+  Choose("Intensity v. radius");
+  Do("set txtXmin 10\nset txtXmax 100\nset cboStep 0.1\nstop-at 50\nclick cmdNewPlot");
+  EXPECT_EQ(LastTitle(), "Calculation in progress!");
+  EXPECT_GT(State().PointsDone, 400);
+  EXPECT_LT(State().PointsDone, 500);
+  EXPECT_TRUE(std::isfinite(State().Iperp[400]));
+  EXPECT_TRUE(std::isnan(State().Iperp[600]));
+  Do("click cmdReplot");
+}
+
+}  // namespace
+}  // namespace lumivex
