@@ -12,6 +12,7 @@
 #include "session/input_events.h"
 #include "session/methods.h"
 #include "session/start_up.h"
+#include "session/undo.h"
 #include "session/window_events.h"
 
 namespace lumivex {
@@ -66,6 +67,8 @@ constexpr EventRow eventRows[] = {
     {"mnuCopyData_Click", mnuCopyData_Click},
     {"mnuSaveData_Click", mnuSaveData_Click},
     {"mnuExit_Click", mnuExit_Click},
+    {"mnuUndo_Click", mnuUndo_Click},
+    {"mnuRedo_Click", mnuRedo_Click},
     {"mnuRestoreDefaults_Click", cmdDefault_Click},
     {"mnuInfo_Click", cmdInfo_Click},
     {"mnuDataVisible_Click", mnuDataVisible_Click},

@@ -231,6 +231,8 @@ void ShowFamilyInputs(Session& session) {
   form.Label7.Visible = form.txtRadius.Visible = !sizeOnAxis;
   const bool wavelengthOnAxis = graph != nullptr && graph->variable == AxisVariable::Wavelength;
   form.Label6.Visible = form.txtLambda.Visible = !wavelengthOnAxis && Trim(form.cboWave.Text) == "1";
+  form.Frame3.Visible = form.txtRadius.Visible || form.optMono.Visible;
+  form.Frame4.Visible = form.txtLambda.Visible || form.cboWave.Visible || form.optPoint.Visible;
   ShowFurtherAxis(session, graph);
 }
 

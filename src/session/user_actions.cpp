@@ -3,6 +3,7 @@
 #include <string>
 
 #include "session/checks/number_input.h"
+#include "session/undo.h"
 
 namespace lumivex {
 
@@ -24,6 +25,7 @@ bool UserTypes(Session& session, Control& control, std::string_view text) {
   std::string* field = TextOf(control);
   if (field == nullptr || !Takes(control)) return false;
   if (*field == text) return true;
+  RememberInputs(session, EventName(control, "Change"));
   *field = text;
   if (!session.events.Raise(EventName(control, "Change"))) session.events.Raise(EventName(control, "Click"));
   return true;
@@ -31,6 +33,7 @@ bool UserTypes(Session& session, Control& control, std::string_view text) {
 
 bool UserChooses(Session& session, SelectionList& list, std::string_view item) {
   if (!Takes(list)) return false;
+  RememberInputs(session, "");
   list.Text = item;
   if (!session.events.Raise(EventName(list, "Click"))) session.events.Raise(EventName(list, "Change"));
   return true;
@@ -38,6 +41,8 @@ bool UserChooses(Session& session, SelectionList& list, std::string_view item) {
 
 bool UserClicks(Session& session, Control& control) {
   if (!Takes(control)) return false;
+  const bool history = control.Name() == "mnuUndo" || control.Name() == "mnuRedo";
+  if (control.Kind() != ControlKind::CommandButton && !history) RememberInputs(session, "");
   if (control.Kind() == ControlKind::OptionButton) static_cast<OptionButton&>(control).Select();
   if (control.Kind() == ControlKind::CheckBox) {
     auto& box = static_cast<CheckBox&>(control);

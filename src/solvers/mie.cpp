@@ -13,17 +13,6 @@ namespace {
 
 constexpr int convergenceGraph = 13;
 
-/// The title names the materials unless the graph varies them or the user typed an index.
-void WriteTitle(Session& session) {
-  auto& s = session.state;
-  const auto& form = session.form1;
-  const std::initializer_list<int> variesMaterial = {12, 22, 23, 26, 27, 28};
-  const std::string materials = std::string(Trim(s.SphereName)) + " in " + std::string(Trim(s.MediumName));
-  const bool named = std::ranges::find(variesMaterial, s.GraphType) == variesMaterial.end() && s.RIUserEdited == 0;
-  if (form.cboType.Text == "Mie") s.RunTitle = named ? "Mie scattering:  " + materials : "Mie scattering";
-  if (form.cboType.Text == "Debye" && form.cboRays.Text == "0") s.RunTitle = "Debye series (p = 0):  " + materials;
-}
-
 MieRequest ReadRequest(const Session& session, const SolverCall& call) {
   MieRequest request;
   request.x = call.x;
@@ -54,12 +43,22 @@ void StoreConvergence(Session& session, MieResult& result) {
 
 }  // namespace
 
+void WriteMieTitle(Session& session) {
+  auto& s = session.state;
+  const auto& form = session.form1;
+  const std::initializer_list<int> variesMaterial = {12, 22, 23, 26, 27, 28};
+  const std::string materials = std::string(Trim(s.SphereName)) + " in " + std::string(Trim(s.MediumName));
+  const bool named = std::ranges::find(variesMaterial, s.GraphType) == variesMaterial.end() && s.RIUserEdited == 0;
+  if (form.cboType.Text == "Mie") s.RunTitle = named ? "Mie scattering:  " + materials : "Mie scattering";
+  if (form.cboType.Text == "Debye" && form.cboRays.Text == "0") s.RunTitle = "Debye series (p = 0):  " + materials;
+}
+
 void BHMIE(Session& session, const SolverCall& call, AmplitudeTable& S1, AmplitudeTable& S2, double& Qext, double& Qsca,
            double& Qback, double& g, RunMonitor& monitor) {
   auto& s = session.state;
   session.form1.lblDebyeRays.Caption = "Mie (plane wave)";
   if (s.PlotMode == 4) return;
-  WriteTitle(session);
+  WriteMieTitle(session);
 
   const MieRequest request = ReadRequest(session, call);
   const ArithmeticGuard guard;

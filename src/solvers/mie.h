@@ -16,4 +16,7 @@ namespace lumivex {
 void BHMIE(Session& session, const SolverCall& call, AmplitudeTable& S1, AmplitudeTable& S2, double& Qext, double& Qsca,
            double& Qback, double& g, RunMonitor& monitor);
 
+/// Writes the title of a Mie run; it names the materials unless the graph varies them or the user typed an index.
+void WriteMieTitle(Session& session);
+
 }  // namespace lumivex

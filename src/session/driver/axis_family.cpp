@@ -15,7 +15,9 @@
 #include "session/record/number_text.h"
 #include "solvers/arithmetic_guard.h"
 #include "solvers/kernel/angle_grid.h"
+#include "solvers/kernel/mie_coefficients.h"
 #include "solvers/kernel/mie_efficiencies.h"
+#include "solvers/mie.h"
 
 namespace lumivex {
 
@@ -261,6 +263,7 @@ void StoreCurves(Session& session, AxisRun& run) {
   s.Qback = run.Qback[last];
   s.Gsca = run.g[last];
   s.SizeParameter = run.size[last];
+  if (s.CalcMethod == mieMethod) s.NSTOP = NStopEstimate(run.size[last]);
 }
 
 /// The running sums of one sphere at the angle typed, term by term.
@@ -315,6 +318,7 @@ void CalculateAxis(Session& session) {
     s.PlotMode = stopRequested;
     return;
   }
+  if (s.CalcMethod == mieMethod) WriteMieTitle(session);
   if (s.CalcMethod == mieMethod && NeedsNoAngle(*run.graph)) {
     SolveEfficienciesOfAll(session, run);
   } else {

@@ -5,6 +5,7 @@
 #include "session/record/events.h"
 #include "session/record/forms/dialogs.h"
 #include "session/record/platform.h"
+#include "session/record/undo_history.h"
 
 namespace lumivex {
 
@@ -22,6 +23,7 @@ struct Session {
   Platform& platform;
   DrawingSurface* surface;  ///< never null; exchanged while a picture is drawn anew on another surface
   Events& events;
+  UndoHistory undo;
 };
 
 }  // namespace lumivex

@@ -20,6 +20,8 @@ struct Form1Menus : Form1Inputs {
   MenuEntry mnuExit{*this, "mnuExit", "Exit"};
 
   // Edit.
+  MenuEntry mnuUndo{*this, "mnuUndo", "Undo"};
+  MenuEntry mnuRedo{*this, "mnuRedo", "Redo"};
   MenuEntry mnuRestoreDefaults{*this, "mnuRestoreDefaults", "Restore defaults"};
   MenuEntry mnuKeepParameters{*this, "mnuKeepParameters", "Keep parameters when the graph changes"};
 

@@ -24,6 +24,9 @@ constexpr std::array menuRows = {
     MenuRow{"File", "-"},
     MenuRow{"File", "mnuExit", Always, "Ctrl+Q"},
 
+    MenuRow{"Edit", "mnuUndo", Always, "Ctrl+Z"},
+    MenuRow{"Edit", "mnuRedo", Always, "Ctrl+Y"},
+    MenuRow{"Edit", "-"},
     MenuRow{"Edit", "mnuRestoreDefaults"},
     MenuRow{"Edit", "mnuKeepParameters", AxisFamilies},
 

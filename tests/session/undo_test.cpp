@@ -1,0 +1,81 @@
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "session/session_fixture.h"
+#include "session/user_actions.h"
+
+namespace lumivex {
+namespace {
+
+class Undo : public ScriptedSession {};
+
+TEST_F(Undo, GoesBackActionByActionWithTypingMerged) {
+  Do("set txtRadius 1\nset txtRadius 12\nset txtRadius 12.5\nclick optLinear\nset txtLambda 0.5");
+  const std::string Qext = Get("Qext");
+  Do("click mnuUndo");
+  EXPECT_EQ(Get("txtLambda"), "0.65");
+  Do("click mnuUndo");
+  EXPECT_EQ(Get("OptLog"), "true");
+  EXPECT_EQ(Get("optLinear"), "false");
+  Do("click mnuUndo");
+  EXPECT_EQ(Get("txtRadius"), "10");
+  Do("click mnuUndo");
+  EXPECT_EQ(Get("txtRadius"), "10");
+  Do("click mnuRedo\nclick mnuRedo");
+  EXPECT_EQ(Get("txtRadius"), "12.5");
+  EXPECT_EQ(Get("OptLog"), "false");
+  EXPECT_EQ(Get("Qext"), Qext);
+  Do("set txtRadius 3\nclick mnuRedo");
+  EXPECT_EQ(Get("txtLambda"), "0.65") << "a new action leaves nothing to redo";
+}
+
+TEST_F(Undo, TakesBackAGraphWithItsCaptionsAndRanges) {
+  Do("choose cboGraph Qext/Qsca/Qabs v. radius\nclick mnuUndo");
+  EXPECT_EQ(Get("GraphType"), "1");
+  EXPECT_EQ(Get("txtXmax"), "180");
+  EXPECT_EQ(Get("txtRadius.Visible"), "true");
+  Do("click cmdNewPlot");
+  EXPECT_TRUE(Shown().empty()) << LastText();
+  Do("dialog dlogTemp ok txtTemp=20\nclick mnuRI_IAPWS\nclick mnuUndo\nclick cmdNewPlot");
+  EXPECT_EQ(Get("lblSphere"), "Sphere: Water (IAPWS 5C Complex)");
+}
+
+/// A user who clicks, types and runs anything in any order breaks nothing.
+TEST(AnyUser, DoesNoHarm) {
+  std::ostringstream output, errors;
+  ScriptRunner runner(output, errors);
+  runner.Start();
+  std::mt19937 random(20240229);
+  const auto pick = [&](std::size_t count) { return static_cast<std::size_t>(random() % count); };
+  const std::vector<std::string> texts = {"",     "0",   "-1",  "1e999", "nan",       "abc",  "0.1",
+                                          "1",    "1,5", "180", "90",    "0.5",       "10",   "100",
+                                          "1e-9", "5e5", "   ", "RGB",   "Automatic", "1.33", "0.01"};
+  for (int step = 0; step < 1500; ++step) {
+    Session& session = runner.Current();
+    runner.World().answers.assign(4, random() % 2 == 0);
+    const auto forms = session.forms.All();
+    const auto& controls = forms[pick(4) == 0 ? pick(forms.size()) : 0]->Controls();
+    Control& control = *controls[pick(controls.size())];
+    if (control.Kind() == ControlKind::SelectionList && pick(2) == 0) {
+      auto& list = static_cast<SelectionList&>(control);
+      if (!list.Items.empty()) UserChooses(session, list, list.Items[pick(list.Items.size())]);
+    } else if (control.Kind() == ControlKind::TextInput ||
+               (control.Kind() == ControlKind::SelectionList && static_cast<SelectionList&>(control).Editable)) {
+      UserTypes(session, control, texts[pick(texts.size())]);
+    } else {
+      UserClicks(session, control);
+    }
+    if (step % 5 == 0) session.events.Raise("cmdNewPlot_Click");
+    if (step % 97 == 0) session.events.Raise("mnuUndo_Click");
+    ASSERT_EQ(session.state.PlotMode, 1) << step << " " << control.Name();
+    ASSERT_EQ(session.state.Busy, 0) << step << " " << control.Name();
+  }
+  std::ostringstream freshOutput, freshErrors;
+  ScriptRunner fresh(freshOutput, freshErrors);
+  fresh.Start();
+  EXPECT_EQ(fresh.Current().state.NSTOP, 135);
+}
+
+}  // namespace
+}  // namespace lumivex
