@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "graphs/kernel/curve_smoothing.h"
+#include "graphs/kernel/polar_coordinates.h"
 #include "graphs/polar_plot.h"
 
 namespace lumivex {
@@ -136,14 +137,20 @@ std::vector<SurfacePoint> InterpolatedPoints(const std::vector<SurfacePoint>& po
 
 void DrawMarks(Session& session, const KeptPanel& panel, const KeptCurve& curve) {
   auto& surface = *session.surface;
-  const bool polar = session.state.Drawn.kind.polar;
+  const bool polar = session.state.Drawn.kind.polar, matrix = session.state.Drawn.kind.IsMatrix();
   const GraphBox box = WithRounding(panel.box);
   for (const auto& [row, p] : PlacedRows(session.state, panel, curve)) {
     if (!IsFinite(p) || (!polar && !box.Holds(p.x, p.y))) continue;
     if (curve.kind == 1) surface.Circle(p.x, p.y, markSize, curve.colour);
-    if (curve.kind != 2) continue;
-    surface.Line(p.x - markSize, p.y - markSize, p.x + markSize, p.y + markSize);
-    surface.Line(p.x - markSize, p.y + markSize, p.x + markSize, p.y - markSize);
+    if (curve.kind == 2) {
+      surface.Line(p.x - markSize, p.y - markSize, p.x + markSize, p.y + markSize);
+      surface.Line(p.x - markSize, p.y + markSize, p.x + markSize, p.y - markSize);
+    }
+    // The mean of the other two has no mark; the third ratio of the matrix is a curve of its own.
+    if (curve.kind == 3 && matrix) {
+      surface.Line(p.x - markSize, p.y, p.x + markSize, p.y);
+      surface.Line(p.x, p.y - markSize, p.x, p.y + markSize);
+    }
   }
 }
 
@@ -162,7 +169,7 @@ RowSpan RowsWithin(std::span<const double> x, XRange range) {
 }
 
 double DrawnValue(const KeptCurve& curve, std::size_t row, RowSpan shown) {
-  if (!(curve.averageRows > 1) || row < shown.first || row > shown.last) return curve.y[row];
+  if (!(curve.averageRows > 0) || row < shown.first || row > shown.last) return curve.y[row];
   return RunningMean(curve.y, row, curve.averageRows, shown.first, shown.last);
 }
 
@@ -175,7 +182,9 @@ double PolarMap::Distance(double value) const {
 
 SurfacePoint PolarMap::Point(double angleDegrees, double value) const {
   const double r = Distance(value);
-  return {centreX + r * std::cos(angleDegrees * degree), centreY + r * std::sin(angleDegrees * degree)};
+  SurfacePoint p;
+  PolarRectangular(r, angleDegrees * degree, p.x, p.y);
+  return {centreX + p.x, centreY + p.y};
 }
 
 PolarMap PolarMapOf(const GraphState& graph, const GraphKind& kind, const AxisLimits& limits) {
@@ -213,7 +222,14 @@ std::vector<PlacedRow> PlacedRows(const GraphState& graph, const KeptPanel& pane
 std::vector<std::vector<SurfacePoint>> CurveRuns(const GraphState& graph, const KeptPanel& panel,
                                                  const KeptCurve& curve) {
   std::vector<SurfacePoint> points;
-  for (const auto& placed : PlacedRows(graph, panel, curve)) points.push_back(placed.point);
+  std::size_t before = 0;
+  for (const auto& placed : PlacedRows(graph, panel, curve)) {
+    // From 360 degrees back to 0 there is no line.
+    if (curve.wraps && before > 0 && std::abs(curve.y[placed.row] - curve.y[before]) > 180)
+      points.push_back({notThere, notThere});
+    points.push_back(placed.point);
+    before = placed.row;
+  }
   if (graph.Drawn.kind.polar) return UnclippedRuns(points);
   return ClippedRuns(curve.interpolate ? InterpolatedPoints(points) : points, panel.box);
 }

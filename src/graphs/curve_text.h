@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <vector>
 
@@ -7,11 +8,13 @@
 
 namespace lumivex {
 
-/// The curves of the graph on the screen as tab separated text: a heading line, then a line a point of the first
-/// curve's x, with a column a curve. Curves on other x follow as blocks of their own.
+/// The numbers behind the picture, as far as it shows them: x once for curves that share it, then a column a curve,
+/// with a line of names above. Values that were not computed are empty. Numbers read back as the same values.
+
+/// Parted by tabs, as a spreadsheet takes them from the clipboard; empty without a curve.
 std::string CurvesAsText(const Session& session);
 
-/// The same as comma separated values, after the header lines, each behind "# ".
-std::string CurvesAsCsv(const Session& session, const std::vector<std::string>& header);
+/// Parted by commas, after the header lines, each made a comment with "# ".
+std::string CurvesAsCsv(const Session& session, std::span<const std::string> headerLines);
 
 }  // namespace lumivex

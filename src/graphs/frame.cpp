@@ -14,17 +14,6 @@ constexpr double gapBetweenPanels = 800;
 
 constexpr double slideFont = 14;
 
-void ClearWhereDue(Session& session, const GraphKind& kind) {
-  auto& surface = *session.surface;
-  const bool twoPanels = kind.ampPhase || kind.intPol;
-  const bool matrix =
-      (kind.graphType == 1 && kind.graphSubType == 6) || (kind.graphType == 10 && kind.graphSubType == 2);
-  const bool polarPair = kind.polar && twoPanels;
-  const bool plain = matrix ? session.state.PlotMode != 2 && session.state.SecondPanel != 1 : !twoPanels;
-  const bool colours = kind.numberWavelengths != 1 && kind.intPol && session.state.SecondPanel != 1;
-  if (polarPair || plain || colours) surface.Cls();
-}
-
 /// Small, medium, large and very large logos.
 double LogoFontSize(GraphSize size) {
   switch (size) {
@@ -51,7 +40,7 @@ void PlaceLogo(Session& session, const FramePaint& paint) {
   logo.FontSize = LogoFontSize(paint.size);
   if (paint.kind.polar) {
     // The corner above the circle is free, the foot of the page is not.
-    logo.Top = box.top + 80;
+    logo.Top = 3200;
     if (paint.special) logo.FontSize = 24;
   }
   const bool mono = paint.kind.numberWavelengths == 1;
@@ -62,13 +51,19 @@ void PlaceLogo(Session& session, const FramePaint& paint) {
 }
 
 void PaintLogo(FramePaint& paint) {
-  const auto& logo = paint.session.form1.lblLogo;
+  auto& logo = paint.session.form1.lblLogo;
   if (!logo.Visible) return;
   auto& surface = paint.surface;
   const SurfacePen pen = surface;
   surface.FontSize = logo.FontSize;
   surface.FontBold = paint.kind.polar && paint.special;
   surface.ForeColour = logo.ForeColour;
+  if (paint.kind.polar &&
+      !paint.labels.HasRoom(logo.Left, logo.Top, surface.TextWidth(logo.Caption), surface.TextHeight(logo.Caption))) {
+    // A number of the rim stands there: beside the circle there is room.
+    const auto& graph = paint.session.state;
+    logo.Left = graph.PolarCentreX + 1.25 * graph.PolarRadius;
+  }
   surface.CurrentX = std::max(0.0, std::min(logo.Left, surface.ScaleWidth() - surface.TextWidth(logo.Caption)));
   surface.CurrentY = logo.Top;
   surface.Print(logo.Caption, false);
@@ -121,9 +116,9 @@ GraphKind KindNow(const Session& session) {
   kind.numberWavelengths = session.state.NumberWavelengths;
   kind.logX = form.optXLog.Checked && form.Frame8.Visible;
   kind.logY = form.OptLog.Checked;
-  kind.polar = form.mnuPolarPlot.Checked;
-  kind.ampPhase = form.mnuAmpPhase.Checked;
-  kind.intPol = form.mnuIntPol.Checked;
+  kind.polar = form.mnuPolarPlot.Checked && !kind.IsMatrix();
+  kind.ampPhase = form.mnuAmpPhase.Checked && !kind.IsMatrix();
+  kind.intPol = form.mnuIntPol.Checked && !kind.IsMatrix();
   kind.amplitude = form.mnuAmplitude.Checked;
   kind.fourier = form.mnuFFT.Checked;
   return kind;
@@ -153,7 +148,8 @@ void Grid(Session& session, double left, double right, double top, double bottom
   }
   state.Drawn.panels.push_back(panel);
   PrepareSurface(session);
-  ClearWhereDue(session, kind);
+  // The second panel joins the first; every other frame begins a page.
+  if (!panel.second) session.surface->Cls();
   PaintFrame(session, kind, panel);
 }
 
@@ -171,9 +167,9 @@ void PaintFrame(Session& session, const GraphKind& kind, const KeptPanel& panel)
         kind.numberWavelengths == 1 ? session.state.PlotBackColourMono : session.state.PlotBackColourSpectrum;
     surface.Line(box.left, box.top, box.right, box.bottom, LineKind::FilledBox);
     surface.ForeColour = colours::Black;
-    PaintLogo(paint);
     PaintXAxis(paint);
     PaintYAxis(paint);
+    PaintLogo(paint);
     surface.ForeColour = colours::Black;
     surface.Line(box.left, box.top, box.right, box.bottom, LineKind::Box);
     PaintAxisTitles(paint);

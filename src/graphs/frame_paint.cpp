@@ -50,6 +50,13 @@ bool TickLabels::Print(std::string_view text, double x, double y) {
   return true;
 }
 
+double TickLabels::HighestTop(double left, double right, double otherwise) const {
+  double top = otherwise;
+  for (const auto& box : taken_)
+    if (box.left < right && box.right > left) top = std::min(top, box.top);
+  return top;
+}
+
 void TickLabels::Take(double x, double y, double width, double height) {
   taken_.push_back({x, x + width, y, y + height});
 }

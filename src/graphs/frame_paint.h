@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "graphs/kernel/panel_map.h"
@@ -16,14 +17,19 @@ GraphSize SizeTicked(const Form1& form);
 /// The texts along an axis: a text that would touch one placed before it is left out.
 class TickLabels {
  public:
-  explicit TickLabels(DrawingSurface& surface) : surface_(&surface) {}
+  /// @param taken  places taken already.
+  explicit TickLabels(DrawingSurface& surface, std::vector<GraphBox> taken = {})
+      : surface_(&surface), taken_(std::move(taken)) {}
 
   /// Whether a text of that size has room with its top left corner at the place.
   bool HasRoom(double x, double y, double width, double height) const;
   /// Prints the text where there is room, and remembers the place. @return whether there was room.
   bool Print(std::string_view text, double x, double y);
+  /// Top of the highest text from left to right, or `otherwise` where there is none.
+  double HighestTop(double left, double right, double otherwise) const;
   /// Remembers a place taken by other means.
   void Take(double x, double y, double width, double height);
+  const std::vector<GraphBox>& Taken() const { return taken_; }
 
  private:
   DrawingSurface* surface_;

@@ -6,18 +6,15 @@ namespace lumivex {
 
 namespace {
 
-/// Room that the highest number of the vertical axis takes above the box, its exponent included.
-constexpr double roomOfTopLabel = 215;
+/// Air between the title of the vertical axis and its highest number.
+constexpr double aboveNumbers = 15;
+
+constexpr double smallestFont = 6;
 
 void Restore(DrawingSurface& surface) {
   surface.FontName = "MS Sans Serif";
   surface.FontSize = 8;
   surface.FontBold = false;
-}
-
-/// Where the title of the vertical axis may start: its line ends above the highest number.
-double AboveTopLabel(const FramePaint& paint, double wanted) {
-  return std::min(wanted, paint.Box().top - roomOfTopLabel - paint.surface.TextHeight("X"));
 }
 
 void PrintAt(DrawingSurface& surface, double x, double y, std::string_view text) {
@@ -26,12 +23,27 @@ void PrintAt(DrawingSurface& surface, double x, double y, std::string_view text)
   surface.Print(text, false);
 }
 
+/// Title of the vertical axis at x 50, its line above the highest number; the title of the run stands to the right.
+/// @param y  where it starts if there is room.
+void PrintAbove(FramePaint& paint, double y, std::string_view title) {
+  auto& surface = paint.surface;
+  const double fontSize = surface.FontSize;
+  const double margin = paint.Box().left - 70;
+  while (50 + surface.TextWidth(title) > margin && surface.FontSize > smallestFont) surface.FontSize -= 0.5;
+  const double highest = paint.labels.HighestTop(0, paint.Box().left, paint.Box().top);
+  const double height = surface.TextHeight(title);
+  const double top = std::min(y, highest - aboveNumbers - height);
+  PrintAt(surface, 50, top, title);
+  paint.labels.Take(50, top, surface.TextWidth(title), height);
+  surface.FontSize = fontSize;
+}
+
 void PaintXTitle(FramePaint& paint) {
   auto& surface = paint.surface;
   const auto& box = paint.Box();
   const std::string_view title = XAxisTitle(paint.kind);
   // Larger numbers reach further down.
-  const double belowNumbers = 150 + surface.TextHeight("X");
+  const double belowNumbers = std::max(150.0, 0.5 * surface.TextHeight("X") + 4) + surface.TextHeight("X");
   const double y = box.bottom + std::max(paint.special ? 450.0 : 350.0, belowNumbers);
   PrintAt(surface, 0.5 * (box.left + box.right) - 0.5 * surface.TextWidth(title), y, title);
 }
@@ -51,7 +63,8 @@ void PaintBackscatterTitle(FramePaint& paint, std::string_view title) {
 
 void PaintWattsTitle(FramePaint& paint) {
   auto& surface = paint.surface;
-  const double y = AboveTopLabel(paint, paint.Box().top - 480);
+  const double highest = paint.labels.HighestTop(0, paint.Box().left, paint.Box().top);
+  const double y = std::min(paint.Box().top - 480, highest - aboveNumbers - surface.TextHeight("X"));
   PrintAt(surface, 140, y, "Watts/m");
   surface.FontName = "Small Fonts";
   surface.FontSize = 7;
@@ -67,25 +80,26 @@ void PaintYTitle(FramePaint& paint) {
   const bool efficiencies = type == 14 || type == 15;
   const bool intensities = (type == 1 && sub == 1) || (type == 10 && sub == 1) || type == 11 || type == 12;
   if (efficiencies && (sub == 2 || sub == 4)) {
-    PrintAt(surface, 50, AboveTopLabel(paint, top - 500), "Area (sq m)");
+    PrintAbove(paint, top - 500, "Area (sq m)");
   } else if (efficiencies && sub >= 7 && sub <= 9) {
     PaintBackscatterTitle(paint, "Qback");
   } else if (efficiencies && sub >= 10 && sub <= 12) {
     PaintBackscatterTitle(paint, "Qradar");
   } else if (type == 16) {
-    const double second = AboveTopLabel(paint, top - 400);
-    PrintAt(surface, 50, std::min(top - 600, second - line), "Asymmetry");
-    PrintAt(surface, 50, second, "Parameter");
+    PrintAbove(paint, top - 400, "Parameter");
+    PrintAbove(paint, top - 600, "Asymmetry");
   } else if (type == 17) {
-    PrintAt(surface, 50, AboveTopLabel(paint, top - 600), "Albedo");
+    PrintAbove(paint, top - 600, "Albedo");
   } else if (type == 18) {
-    PrintAt(surface, 50, AboveTopLabel(paint, top - 600), "Power (W)");
+    PrintAbove(paint, top - 600, "Power (W)");
+  } else if (kind.IsMatrix()) {
+    if (!paint.second) PrintAbove(paint, top - 600 + line, " S11");
   } else if (paint.second) {
     const double y = std::min(top - 350, top - 0.5 * line - line);
     PrintAt(surface, 50, y, kind.ampPhase ? "Phase angle" : "Degree of linear polarisation");
   } else if (intensities) {
     // One blank line below the place of the title.
-    PrintAt(surface, 50, AboveTopLabel(paint, top - 600 + line), kind.amplitude ? " Amplitude" : " Intensity");
+    PrintAbove(paint, top - 600 + line, kind.amplitude ? " Amplitude" : " Intensity");
   } else if (type == 1 && sub == 3) {
     PaintWattsTitle(paint);
   }

@@ -66,6 +66,11 @@ LinearTicks ChooseTicks(FramePaint& paint) {
   return {step, labelStep, TickDecimals(range, limits.xmax, step)};
 }
 
+/// Top of the numbers: clear of the lowest number of the vertical axis, which reaches below the box by half a line.
+double TopOfNumbers(const FramePaint& paint, double belowBox) {
+  return paint.Box().bottom + std::max(belowBox, 0.5 * paint.surface.TextHeight("X") + 4);
+}
+
 void PaintLinear(FramePaint& paint) {
   const auto& box = paint.Box();
   const auto& limits = paint.map.limits;
@@ -82,7 +87,7 @@ void PaintLinear(FramePaint& paint) {
     paint.TickBelow(x, minorTick);
   });
 
-  const double labelY = box.bottom + labelBelowBox;
+  const double labelY = TopOfNumbers(paint, labelBelowBox);
   for (const double end : {limits.xmin, limits.xmax}) {
     paint.TickBelow(paint.map.X(end), majorTick);
     paint.LabelBelow(EndText(end, range), paint.map.X(end), labelY);
@@ -104,7 +109,7 @@ void GridXLabel(FramePaint& paint, double value) {
   const double rounded = RoundTo(value, limits.xmax - limits.xmin >= 0.1 ? 4 : 6);
   // Rounding to decimals would print the smallest values as 0.
   const bool plain = value < scientificFrom && std::abs(rounded - value) < 0.01 * value;
-  paint.LabelBelow(plain ? TickText(rounded) : Format(value, "Scientific"), x, paint.Box().bottom + logLabelBelowBox);
+  paint.LabelBelow(plain ? TickText(rounded) : Format(value, "Scientific"), x, TopOfNumbers(paint, logLabelBelowBox));
 }
 
 /// Values 1 to 9 times a power of ten from xmin to xmax, with the fractional part of their logarithm.
@@ -146,7 +151,7 @@ void PaintLogarithmic(FramePaint& paint) {
   for (const double end : {limits.xmin, limits.xmax}) {
     paint.TickBelow(paint.map.X(end), 50);
     const std::string text = end >= scientificFrom ? Format(end, "Scientific") : std::string(Trim(Str(end)));
-    paint.LabelBelow(text, paint.map.X(end), paint.Box().bottom + logLabelBelowBox);
+    paint.LabelBelow(text, paint.map.X(end), TopOfNumbers(paint, logLabelBelowBox));
   }
   if (!minor) return;
   ForEachLogTick(limits, [&](double value, double fraction) {

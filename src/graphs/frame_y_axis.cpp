@@ -126,7 +126,7 @@ void GridYLabel(FramePaint& paint, double value) {
   const double height = surface.TextHeight("10");
   const std::string factor = mantissa == 1 ? "" : std::string(Trim(Str(mantissa))) + "x ";
   const double left = tens - surface.TextWidth(factor);
-  const double exponentTop = y - std::max(look.exponentRaise, height);
+  const double exponentTop = y - look.exponentRaise;
   if (!paint.labels.HasRoom(left, exponentTop, tens - left, y + 0.5 * height - exponentTop)) return;
   paint.labels.Take(left, exponentTop, paint.Box().left - left, y + 0.5 * height - exponentTop);
 

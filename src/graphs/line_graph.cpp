@@ -9,6 +9,7 @@
 #include "graphs/curve_path.h"
 #include "graphs/frame.h"
 #include "graphs/kernel/curve_smoothing.h"
+#include "graphs/kernel/polar_coordinates.h"
 #include "graphs/scale.h"
 #include "session/record/number_text.h"
 
@@ -43,6 +44,8 @@ RowSpan RowsOfRun(const Session& session, std::size_t size) {
     return {std::max<std::size_t>(1, row(s.AngleLow)), row(lastRow)};
   }
   if (s.GraphType >= 30) return {1, row(s.PlotXmax - s.PlotXmin + 1.0001)};
+  // A zoom changes the limits, not the points that are stored.
+  if (s.GraphType >= 10 && s.XValues.size() == size) return {1, last};
   if (HasLogSteps(session)) return {1, row(s.Xstep + 1)};
   return {1, row(s.Xstep > 0 ? (s.PlotXmax - s.PlotXmin) / s.Xstep + 1.0001 : 0)};
 }
@@ -88,8 +91,10 @@ void TakeComplexAmplitude(const MainFormState& s, KeptCurve& curve) {
     if (row > rows || !std::isfinite(curve.x[i])) continue;
     ComplexD S = s.CurveKind == 2 ? s.S2.Value(row) : s.S1.Value(row);
     if (s.CurveKind == 3) S = {(s.S1.Re(row) + s.S2.Re(row)) / 2, (s.S1.Im(row) + s.S2.Im(row)) / 2};
-    curve.y[i] = std::hypot(S.re, S.im);
-    curve.x[i] = std::atan2(S.im, S.re) * 180 / 3.14159265358979;
+    double modulus = 0, phase = 0;
+    RectangularPolar(S.re, S.im, modulus, phase);
+    curve.y[i] = modulus;
+    curve.x[i] = phase * 180 / 3.14159265358979;
   }
 }
 
@@ -114,6 +119,7 @@ KeptCurve Captured(Session& session, std::span<const double> y, std::size_t pane
   if (s.Drawn.kind.polar && s.Drawn.kind.ampPhase) TakeComplexAmplitude(s, curve);
   if (form.mnuAverage.Checked && s.Xstep > 0)
     curve.averageRows = Val(session.forms.dlogAverage.txtAverage.Text) / s.Xstep;
+  curve.wraps = phases;
   curve.interpolate = form.mnuInterpolate.Checked;
   curve.markers = form.mnuDrawWidth0.Checked;
   curve.colour = session.surface->ForeColour;
@@ -164,7 +170,7 @@ void DrawCurves(Session& session, const CurveSet& curves) {
 bool DrawsOver(const Session& session) {
   const auto& s = session.state;
   const bool asked = s.PlotMode == 2 || s.OverplotFromFile == 1;
-  return asked && !s.Drawn.panels.empty() && s.Drawn.kind.graphType == s.GraphType;
+  return asked && !s.Drawn.panels.empty() && s.Drawn.kind.SharesAxesWith(KindNow(session));
 }
 
 void Display(Session& session, std::span<const double> y1, std::span<const double> y2, std::span<const double> y3) {
@@ -172,23 +178,26 @@ void Display(Session& session, std::span<const double> y1, std::span<const doubl
 }
 
 void DisplayInBox(Session& session, const GraphBox& box, const CurveSet& curves) {
-  auto& s = session.state;
-  if (s.PlotMode == stopRequested) return;
-  if (s.GraphType == 13) s.YAxisMode = 1;
-  if (!DrawsOver(session)) {
-    double xmin = 0, xmax = 0;
-    ChooseXLimits(session, xmin, xmax);
-    if (s.PlotMode == 0 && s.SecondPanel == 0) {
-      s.Ymin = IsAutomatic(session.form1.cboYmin) ? s.YAutoMin : Val(session.form1.cboYmin.Text);
-      s.Ymax = IsAutomatic(session.form1.cboYmax) ? s.YAutoMax : Val(session.form1.cboYmax.Text);
-    } else {
-      s.PlotMode = 1;
-      ChooseYLimits(session, curves, {xmin, xmax});
-    }
-    Grid(session, box.left, box.right, box.top, box.bottom, xmin, xmax, s.Ymin, s.Ymax);
-    s.PlotMode = 2;
-  }
+  if (session.state.PlotMode == stopRequested) return;
+  FrameInBox(session, box, curves);
   DrawCurves(session, curves);
+}
+
+void FrameInBox(Session& session, const GraphBox& box, const CurveSet& curves) {
+  auto& s = session.state;
+  if (s.GraphType == 13) s.YAxisMode = 1;
+  if (DrawsOver(session)) return;
+  double xmin = 0, xmax = 0;
+  ChooseXLimits(session, xmin, xmax);
+  if (s.PlotMode == 0 && s.SecondPanel == 0) {
+    s.Ymin = IsAutomatic(session.form1.cboYmin) ? s.YAutoMin : Val(session.form1.cboYmin.Text);
+    s.Ymax = IsAutomatic(session.form1.cboYmax) ? s.YAutoMax : Val(session.form1.cboYmax.Text);
+  } else {
+    s.PlotMode = 1;
+    ChooseYLimits(session, curves, {xmin, xmax});
+  }
+  Grid(session, box.left, box.right, box.top, box.bottom, xmin, xmax, s.Ymin, s.Ymax);
+  s.PlotMode = 2;
 }
 
 void Plot(Session& session, std::span<const double> y, std::size_t panel) {

@@ -24,6 +24,9 @@ void Display(Session& session, std::span<const double> y1, std::span<const doubl
 /// The same in a part of the page.
 void DisplayInBox(Session& session, const GraphBox& box, const CurveSet& curves);
 
+/// Draws the frame for those curves, unless they go over the one on the screen.
+void FrameInBox(Session& session, const GraphBox& box, const CurveSet& curves);
+
 /// Whether the next Display draws over the graph on the screen.
 bool DrawsOver(const Session& session);
 

@@ -263,6 +263,16 @@ void mnuInterpolate_Click(Session& session) {
   Replot(session);
 }
 
+void mnuInvWavelength_Click(Session& session) {
+  Toggle(session, &M::mnuInvWavelength);
+  Replot(session);
+}
+
+void mnuSun_Click(Session& session) {
+  Toggle(session, &M::mnuSun);
+  Replot(session);
+}
+
 void mnuAverage_Click(Session& session) {
   auto& menu = session.form1.mnuAverage;
   auto& dialog = session.forms.dlogAverage;
@@ -322,11 +332,13 @@ std::span<const GraphEvent> LookEvents() {
       GraphEvent{"mnuLogoPositionBL_Click", PlaceLogo<&M::mnuLogoPositionBL>},
       GraphEvent{"mnuHideLogo_Click", mnuHideLogo_Click},
       GraphEvent{"mnuAmplitude_Click", mnuAmplitude_Click},
+      GraphEvent{"mnuInvWavelength_Click", mnuInvWavelength_Click},
       GraphEvent{"mnuAmpPhase_Click", mnuAmpPhase_Click},
       GraphEvent{"mnuIntPol_Click", mnuIntPol_Click},
       GraphEvent{"mnuPolarPlot_Click", mnuPolarPlot_Click},
       GraphEvent{"mnuAverage_Click", mnuAverage_Click},
       GraphEvent{"mnuInterpolate_Click", mnuInterpolate_Click},
+      GraphEvent{"mnuSun_Click", mnuSun_Click},
       GraphEvent{"mnuPhoto_Click", mnuPhoto_Click},
       GraphEvent{"mnuFreeze_Click", PickSaturation<&M::mnuFreeze>},
       GraphEvent{"mnuPeakWhite_Click", PickSaturation<&M::mnuPeakWhite>},

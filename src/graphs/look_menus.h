@@ -52,6 +52,10 @@ void mnuIntPol_Click(Session& session);
 /// Moduli instead of intensities; replots.
 void mnuAmplitude_Click(Session& session);
 void mnuInterpolate_Click(Session& session);
+/// Intensities freed of the square of the wave number; the replot fills the curves anew.
+void mnuInvWavelength_Click(Session& session);
+/// A rectangular sun instead of a round one, for curves folded with its disc.
+void mnuSun_Click(Session& session);
 /// Turned on, asks for the width in dlogAverage (not while settings are restored); a cancelled dialog leaves it off.
 void mnuAverage_Click(Session& session);
 

@@ -16,6 +16,9 @@ constexpr double pi = 3.14159265358979;
 
 constexpr int mostRings = 20;
 
+/// Ticks keep so far from each other (surface units); where a curve turns back on itself they would cover it.
+constexpr double betweenTicks = 100;
+
 /// A ring at the very centre or on the rim says nothing new.
 constexpr double ringRounding = 1e-9;
 
@@ -62,7 +65,11 @@ void PaintRimAngles(FramePaint& paint, const PolarMap& map) {
     const double reach = map.radius * 3080 / 3000;
     const double x = map.centreX + (reach + 0.5 * width) * c - 0.5 * width;
     const double y = map.centreY + (reach + 0.5 * height) * s - 0.5 * height;
-    paint.labels.Print(text, x, y);
+    // The highest one stands inside: the title of the run is printed above the circle.
+    if (a == 270)
+      paint.labels.Print(text, map.centreX + 50, map.centreY - map.radius + 50);
+    else
+      paint.labels.Print(text, x, y);
   }
 }
 
@@ -73,6 +80,7 @@ void PaintScaleText(FramePaint& paint, const PolarMap& map) {
     surface.CurrentX = map.centreX - 0.5 * surface.TextWidth(text);
     surface.CurrentY = y;
     surface.Print(text, false);
+    paint.labels.Take(surface.CurrentX - surface.TextWidth(text), y, surface.TextWidth(text), surface.TextHeight(text));
     y += surface.TextHeight(text);
   };
   if (paint.kind.ampPhase) line("Amplitude");
@@ -120,6 +128,7 @@ void PaintPolarFrame(FramePaint& paint) {
   paint.surface.ForeColour = colours::Black;
   PaintRimAngles(paint, map);
   PaintScaleText(paint, map);
+  paint.session.state.Drawn.labelPlaces = paint.labels.Taken();
   paint.surface.FontBold = false;
 }
 
@@ -130,15 +139,18 @@ void PaintPolarTicks(Session& session, const KeptPanel& panel, const KeptCurve& 
   surface.ForeColour = curve.colour;
   surface.FontSize = 7;
   surface.FontBold = false;
-  TickLabels labels(surface);
+  auto& places = session.state.Drawn.labelPlaces;
+  TickLabels labels(surface, places);
   const auto angleAt = [&](std::size_t row) { return curve.angle.empty() ? curve.x[row] : curve.angle[row]; };
   bool started = false;
   std::size_t count = 0;
+  SurfacePoint last;
   for (std::size_t i = 0; i < rows.size(); ++i) {
     const SurfacePoint& p = rows[i].point;
     if (!std::isfinite(p.x) || !std::isfinite(p.y)) continue;
     if (!started) {
       started = true;
+      last = p;
       surface.Circle(p.x, p.y, 20, curve.colour);
       labels.Print(TickText(RoundTo(angleAt(rows[i].row), 1)), p.x - 100, p.y + 100);
     } else if (count % 10 == 0 && i > 0) {
@@ -150,6 +162,11 @@ void PaintPolarTicks(Session& session, const KeptPanel& panel, const KeptCurve& 
         continue;
       }
       const bool longTick = count % 100 == 0;
+      if (!longTick && std::hypot(p.x - last.x, p.y - last.y) < betweenTicks) {
+        ++count;
+        continue;
+      }
+      last = p;
       // Across the curve: 50 units to each side, 90 at the hundreds.
       const double half = longTick ? std::sqrt(8100.0) : std::sqrt(2500.0);
       const double x = -half * dy / length, y = half * dx / length;
@@ -158,6 +175,7 @@ void PaintPolarTicks(Session& session, const KeptPanel& panel, const KeptCurve& 
     }
     ++count;
   }
+  places = labels.Taken();
   static_cast<SurfacePen&>(surface) = pen;
 }
 

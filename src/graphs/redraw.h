@@ -9,12 +9,4 @@ namespace lumivex {
 /// clears the surface.
 void RedrawGraph(Session& session);
 
-/// Shows another range of the x axis: changes the limits of the graph on the screen, txtXmin and txtXmax, chooses
-/// automatic y limits for what is now in view, and draws anew with every kept curve.
-/// @return whether the whole range has data; where it has not, a new calculation shows the rest.
-bool ShowXRange(Session& session, XRange range);
-
-/// The range as ShowXRange would show it: ends rounded to what the size of the range resolves.
-XRange RoundedRange(XRange range);
-
 }  // namespace lumivex

@@ -90,6 +90,10 @@ struct ArrayReader {
     found.emplace();
     for (std::size_t i = 1; i < values.size(); ++i) *found += Row({values[i]});
   }
+  void Print(const std::vector<float>& values) {
+    found.emplace();
+    for (std::size_t i = 1; i < values.size(); ++i) *found += Row({static_cast<double>(values[i])});
+  }
   void Print(const AmplitudeTable& table) {
     found.emplace();
     for (int row = 1; row <= table.Rows(); ++row) *found += Row({table.Re(row), table.Im(row)});

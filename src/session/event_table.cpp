@@ -4,7 +4,7 @@
 #include <cctype>
 
 #include "graphs/look_menus.h"
-#include "materials/material_menus.h"
+#include "materials/material_events.h"
 #include "session/driver/commands.h"
 #include "session/file_menu.h"
 #include "session/graph_types.h"
@@ -44,9 +44,6 @@ constexpr EventRow eventRows[] = {
     {"Inputs_Changed", Inputs_Changed},
     {"txtLambda_change", txtLambda_change},
     {"txtRadius_Change", txtRadius_Change},
-    {"txtRefractReal_Change", txtRefractReal_Change},
-    {"txtRefractImag_Change", txtRefractImag_Change},
-    {"txtRefractMedium_Change", txtRefractMedium_Change},
     {"txtXmin_Change", Picture_Changed},
     {"txtXmax_Change", Picture_Changed},
     {"cboStep_Change", Step_Changed},
@@ -76,10 +73,6 @@ constexpr EventRow eventRows[] = {
     {"mnuHelpContents_Click", mnuHelpContents_Click},
     {"mnuAbout_Click", mnuAbout_Click},
 
-    // Light.
-    {"mnuSpectrumBand_Click", mnuSpectrumBand_Click},
-    {"mnuSpectrumLee_Click", mnuSpectrumLee_Click},
-
     // Sphere, medium, solver.
     {"mnuRadius_Click", mnuRadius_Click},
     {"mnuDiameter_Click", mnuDiameter_Click},
@@ -88,14 +81,6 @@ constexpr EventRow eventRows[] = {
     {"mnuClassicStart_Click", mnuClassicStart_Click},
     {"mnuConstantVolume_Click", mnuConstantVolume_Click},
     {"mnuXStepLog_Click", mnuXStepLog_Click},
-    {"mnuRI_IAPWS_Click", mnuRI_IAPWS_Click},
-    {"mnuRI_Vacuum1_Click", mnuRI_Vacuum1_Click},
-    {"mnuRI_Fixed1_Click", mnuRI_Fixed1_Click},
-    {"mnuRI_Vacuum2_Click", mnuRI_Vacuum2_Click},
-    {"mnuRI_Fixed2_Click", mnuRI_Fixed2_Click},
-
-    // Dialogs.
-    {"dlogTemp.txtTemp_Change", dlogTemp_txtTemp_Change},
 };
 
 std::string LowerCase(std::string_view text) {
@@ -109,6 +94,7 @@ std::string LowerCase(std::string_view text) {
 EventTable::EventTable() {
   for (const auto& row : eventRows) Add(row.name, row.handler);
   for (const auto& row : LookEvents()) Add(row.name, row.handler);
+  for (const auto& row : MaterialEvents()) Add(row.name, row.handler);
 }
 
 void EventTable::Add(std::string_view name, Handler handler) {

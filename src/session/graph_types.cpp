@@ -5,6 +5,7 @@
 #include <initializer_list>
 #include <iterator>
 
+#include "particles/size_menus.h"
 #include "session/axis_graphs.h"
 #include "session/record/number_text.h"
 
@@ -228,7 +229,8 @@ void ShowFamilyInputs(Session& session) {
   const bool sizeOnAxis =
       graph != nullptr && (graph->variable == AxisVariable::Radius || graph->variable == AxisVariable::Diameter ||
                            graph->variable == AxisVariable::SizeParameter);
-  form.Label7.Visible = form.txtRadius.Visible = !sizeOnAxis;
+  ShowSizeInputs(session);
+  if (sizeOnAxis) form.Label7.Visible = form.txtRadius.Visible = false;
   const bool wavelengthOnAxis = graph != nullptr && graph->variable == AxisVariable::Wavelength;
   form.Label6.Visible = form.txtLambda.Visible = !wavelengthOnAxis && Trim(form.cboWave.Text) == "1";
   form.Frame3.Visible = form.txtRadius.Visible || form.optMono.Visible;

@@ -33,8 +33,10 @@ std::vector<std::string> RunParameters(const Session& session) {
   lines.push_back("   n = " + IndexWords(s.SphereRIReal, s.SphereRIImag));
   lines.push_back(form.lblRI_Medium.Caption);
   lines.push_back("   n = " + Number(s.MediumRIReal));
-  lines.push_back("Angles: " + Number(s.Xmin) + " to " + Number(s.Xmax) + "\u00B0 in steps of " + Number(s.Xstep) +
-                  "\u00B0");
+  const std::string unit = s.PrevGraphType < 10 ? "\u00B0" : "";
+  lines.push_back(
+      form.Frame2.Caption + ": " + Number(s.Xmin) + unit + " to " + Number(s.Xmax) + unit +
+      (form.mnuXStepLog.Checked ? " in " + Number(s.Xstep) + " steps" : " in steps of " + Number(s.Xstep) + unit));
   lines.push_back("Series: " + std::to_string(s.NSTOP) + " terms, " + TimeWords(s.LastRunSeconds));
   return lines;
 }

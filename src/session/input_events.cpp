@@ -111,22 +111,4 @@ void mnuXStepLog_Click(Session& session) {
   ShowFamilyInputs(session);
 }
 
-void mnuSpectrumBand_Click(Session& session) {
-  auto& dialog = session.forms.dlogSpectrumBand;
-  auto& s = session.state;
-  if (s.RestoringSettings == 0 && !session.platform.ShowModal(dialog)) return;
-  s.SpectrumMin = static_cast<float>(Val(dialog.txtSpectrumMin.Text) / 1000);
-  s.SpectrumMax = static_cast<float>(Val(dialog.txtSpectrumMax.Text) / 1000);
-  session.form1.lblSpectrumBand.Caption = dialog.txtSpectrumMin.Text + " - " + dialog.txtSpectrumMax.Text + " nm band";
-}
-
-void mnuSpectrumLee_Click(Session& session) {
-  auto& f = session.form1;
-  for (MenuEntry* entry :
-       {&f.mnuSpectrumWernand, &f.mnuSpectrumWernand2, &f.mnuSpectrumFlat, &f.mnuBlackBody, &f.mnuSpectrumFile})
-    entry->Checked = false;
-  f.mnuSpectrumLee.Checked = true;
-  f.lblSpectrum.Caption = "Sun (Lee)";
-}
-
 }  // namespace lumivex

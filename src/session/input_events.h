@@ -36,9 +36,4 @@ void mnuXStepLog_Click(Session& session);
 void mnuDataVisible_Click(Session& session);
 void mnuKeepParameters_Click(Session& session);
 
-/// The band of a calculation with several wavelengths, asked for in its dialog.
-void mnuSpectrumBand_Click(Session& session);
-/// The source is Lee's solar spectrum.
-void mnuSpectrumLee_Click(Session& session);
-
 }  // namespace lumivex

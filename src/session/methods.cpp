@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "particles/size_distribution.h"
 #include "session/record/number_text.h"
 #include "solvers/debye_label.h"
 
@@ -90,6 +91,7 @@ void cboType_click(Session& session) {
 
 void NumberWavelengths(Session& session) {
   auto& s = session.state;
+  TakeSpecialRadius(session);
   const std::string& text = session.form1.cboWave.Text;
   s.NumberWavelengths = std::clamp(ToWhole(Val(text)), 0, 32767);
   if (text == "RGB") s.NumberWavelengths = 3;
@@ -106,8 +108,8 @@ void cboWave_Click(Session& session) {
   form.cmdNewPlot.Enabled = true;
   const bool one = Trim(form.cboWave.Text) == "1";
   form.Label6.Visible = form.txtLambda.Visible = one;
-  form.txtRefractReal.Visible = form.Label10.Visible = form.txtRefractImag.Visible = form.txtRefractMedium.Visible =
-      one;
+  form.txtRefractReal.Visible = form.Label10.Visible = form.txtRefractImag.Visible = one || form.mnuRI_Fixed1.Checked;
+  form.txtRefractMedium.Visible = one || form.mnuRI_Fixed2.Checked;
   form.lblSpectrum.Visible = form.lblSpectrumBand.Visible = form.mnuSpectrum.Visible = !one;
   form.mnuAverage.Visible = one;
   form.Label18.Visible = form.cboBright.Visible = !one;

@@ -1,6 +1,7 @@
 #include "session/page.h"
 
 #include "graphs/redraw.h"
+#include "particles/size_distribution_display.h"
 #include "solvers/visible_data.h"
 
 namespace lumivex {
@@ -9,6 +10,7 @@ void DrawPage(Session& session) {
   RedrawGraph(session);
   PrintTitle(session);
   VisibleData(session);
+  DistDisplay(session, false);
 }
 
 }  // namespace lumivex

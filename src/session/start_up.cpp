@@ -1,13 +1,16 @@
 #include "session/start_up.h"
 
 #include <array>
-#include <cmath>
+#include <filesystem>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 #include "graphs/frame.h"
 #include "graphs/look_menus.h"
+#include "materials/sellmeier_catalogue.h"
+#include "particles/kernel/gamma_function.h"
 #include "session/driver/array_size.h"
 #include "session/driver/commands.h"
 #include "session/graph_types.h"
@@ -95,7 +98,8 @@ void FillLists(Form1& f) {
   f.cboPol.Items = {"Perpendicular", "Parallel", "Both", "Unpolarised", "All 3"};
   f.cboSD.Items = {"20", "10", "5", "2", "1", "0.5", "0.2", "0.1", "0.05", "0.02", "0.01", "5", "10", "20", "50"};
   f.cboN.Items = samples;
-  f.cboDistrib.Items = {"Normal", "Log-normal", "Multimodal", "Gamma", "Cumulus cloud", "Haze", "Special"};
+  f.cboDistrib.Items = {"Normal", "Log-normal", "Multimodal", "Gamma",     "Cumulus cloud",
+                        "Haze",   "Special",    "Aerosol m0", "Aerosol m6"};
   f.cboBright.Items = {"100", "50",  "30", "20",  "18",  "15",  "10", "8",   "6",   "5",   "4",
                        "3",   "2.5", "2",  "1.8", "1.5", "1.2", "1",  "0.8", "0.5", "0.2", "0.1"};
   f.cboLee.Items = {"Normalised", "Absolute"};
@@ -120,6 +124,13 @@ void HideUnavailable(Form1& f) {
   f.lblWatts.Visible = f.lblDistance.Visible = false;
 }
 
+/// Where the running program lies; empty where the system does not tell.
+std::string ProgramFolder() {
+  std::error_code error;
+  const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
+  return error ? std::string() : program.parent_path().string();
+}
+
 void PlaceGraph(Session& session) {
   auto& s = session.state;
   auto& f = session.form1;
@@ -141,7 +152,7 @@ void WriteCaptions(Form1& f) {
   const std::string micro = "\u00B5", degree = "\u00B0";
   f.Label7.Caption = "Radius (" + micro + "m)";
   f.Label6.Caption = "Wavelength (" + micro + "m) in vacuo";
-  f.Frame2.Caption = "Forward scattering = 0" + degree + ", back-scattering = 180" + degree;
+  f.Frame2.Tip = "Forward scattering = 0" + degree + ", back-scattering = 180" + degree;
 }
 
 /// The water model at the start: 5 C with the absorption of water.
@@ -180,6 +191,8 @@ void Form_Load(Session& session) {
   f.cboYmax.Text = f.cboYmin.Text = "Automatic";
   CheckDecimalSymbol(session);
   FillLists(f);
+  if (session.state.CatalogueFolder.empty()) session.state.CatalogueFolder = FindCatalogueFolder(ProgramFolder());
+  LoadCatalogue(session);
 
   f.OptXLinear.Select();
   f.mnuMajorGridX.Checked = f.mnuMajorGridY.Checked = true;
@@ -224,11 +237,11 @@ void Form_Load(Session& session) {
 void cmdDefault_Click(Session& session) {
   auto& s = session.state;
   auto& f = session.form1;
-  s.GammaThird = std::tgamma(1.0 / 3);
-  s.GammaHalf = std::tgamma(0.5);
-  s.GammaMinusHalf = std::tgamma(-0.5);
-  s.GammaMinusThreeHalves = std::tgamma(-1.5);
-  s.GammaFive = std::tgamma(5.0);
+  GammaFunction(1.0 / 3, s.GammaThird);
+  GammaFunction(0.5, s.GammaHalf);
+  GammaFunction(-0.5, s.GammaMinusHalf);
+  GammaFunction(-1.5, s.GammaMinusThreeHalves);
+  GammaFunction(5.0, s.GammaFive);
 
   const int restoring = s.RestoringSettings;
   s.RestoringSettings = 1;

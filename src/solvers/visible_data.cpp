@@ -81,11 +81,11 @@ void VisibleData(Session& session) {
 void PrintTitle(Session& session) {
   const auto& s = session.state;
   auto& surface = *session.surface;
-  constexpr double titleTop = 520, titleSize = 10;  // above the graph box
+  constexpr double titleTop = 520, titleSize = 10;  // above the graph box; no more than its own lines is wiped
   const Colour before = surface.ForeColour;
   const double top = s.GraphTop - titleTop;
   surface.ForeColour = surface.BackColour;
-  surface.Line(s.GraphLeft, top, s.GraphRight, s.GraphTop - 120, LineKind::FilledBox);
+  surface.Line(s.GraphLeft, top + 70, s.GraphRight, s.GraphTop - 190, LineKind::FilledBox);
   surface.ForeColour = colours::Black;
   surface.FontSize = titleSize;
   surface.FontBold = true;

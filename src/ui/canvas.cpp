@@ -1,5 +1,6 @@
 #include "ui/canvas.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
@@ -12,13 +13,14 @@ namespace {
 
 constexpr int resizePauseMs = 30;
 constexpr double wheelStep = 120;  // eighths of a degree to a click of a wheel
+constexpr double markRadiusPx = 4;
 
 }  // namespace
 
 Canvas::Canvas(QWidget* parent) : QWidget(parent), surface_(1, 1, unitPx_, 1) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
-  setFocusPolicy(Qt::ClickFocus);
+  setFocusPolicy(Qt::StrongFocus);
   setAccessibleName("Graph");
   resizeTimer_.setSingleShot(true);
   resizeTimer_.setInterval(resizePauseMs);
@@ -48,6 +50,15 @@ void Canvas::paintEvent(QPaintEvent*) {
   const QRectF shown(QPointF(0, 0), QSizeF(picture.size()) / ratio);
   if (shown.width() < width() || shown.height() < height()) painter.fillRect(rect(), ToQColor(surface_.BackColour));
   painter.drawImage(shown, picture);
+  if (mark_) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QPointF centre(mark_->x * unitPx_, mark_->y * unitPx_);
+    // White around black: seen on every background.
+    painter.setPen(QPen(Qt::white, 3));
+    painter.drawEllipse(centre, markRadiusPx, markRadiusPx);
+    painter.setPen(QPen(Qt::black, 1.2));
+    painter.drawEllipse(centre, markRadiusPx, markRadiusPx);
+  }
   if (firstPainted) QTimer::singleShot(0, this, std::exchange(firstPainted, nullptr));
   if (IsStale() && !resizeTimer_.isActive()) resizeTimer_.start();  // moved to a screen of another density
 }
@@ -80,11 +91,24 @@ void Canvas::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void Canvas::wheelEvent(QWheelEvent* event) {
   const QPointF at = UnitsAt(event->position());
-  if (mouse.wheel) {
-    mouse.wheel(at.x(), at.y(), event->angleDelta().y() / wheelStep);
-  } else {
-    event->ignore();  // scrolls
-  }
+  if (!mouse.wheel || !mouse.wheel(at.x(), at.y(), event->angleDelta().y() / wheelStep)) event->ignore();
+}
+
+QRect Canvas::MarkArea() const {
+  if (!mark_) return {};
+  const int reach = static_cast<int>(markRadiusPx) + 4;
+  const QPoint centre(static_cast<int>(mark_->x * unitPx_), static_cast<int>(mark_->y * unitPx_));
+  return {centre - QPoint(reach, reach), centre + QPoint(reach, reach)};
+}
+
+void Canvas::SetMark(std::optional<SurfacePoint> mark) {
+  const QRect before = MarkArea();
+  mark_ = mark;
+  update(before.united(MarkArea()));
+}
+
+void Canvas::keyPressEvent(QKeyEvent* event) {
+  if (!key || !key(*event)) QWidget::keyPressEvent(event);
 }
 
 void Canvas::leaveEvent(QEvent*) {

@@ -3,6 +3,7 @@
 #include <QTimer>
 #include <QWidget>
 #include <functional>
+#include <optional>
 
 #include "ui/painter_surface.h"
 
@@ -15,7 +16,8 @@ struct CanvasMouse {
   std::function<void(double x, double y)> drag;  ///< moved with the left button down
   std::function<void(double x, double y)> release;
   std::function<void(double x, double y)> doubleClick;
-  std::function<void(double x, double y, double steps)> wheel;  ///< steps up are positive
+  /// Steps up are positive; false where the wheel is to scroll.
+  std::function<bool(double x, double y, double steps)> wheel;
   std::function<void()> leave;
 };
 
@@ -40,7 +42,13 @@ class Canvas final : public QWidget {
   /// Repaints if the drawing has changed since the last time.
   void ShowChanges();
 
+  /// A small ring on the drawing, at a place in surface units: the point that is read out.
+  void SetMark(std::optional<SurfacePoint> mark);
+  const std::optional<SurfacePoint>& Mark() const { return mark_; }
+
   CanvasMouse mouse;
+  /// A key while the graph has the focus; true when it meant something.
+  std::function<bool(const QKeyEvent& event)> key;
   /// The widget has a new size and the drawing has not: called when it is time to renew it.
   std::function<void()> resized;
   /// Called once, when the drawing has been painted for the first time.
@@ -55,11 +63,15 @@ class Canvas final : public QWidget {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   void leaveEvent(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   QPointF UnitsAt(const QPointF& px) const { return px / unitPx_; }
 
+  QRect MarkArea() const;
+
   double unitPx_ = 1.0 / 15;
+  std::optional<SurfacePoint> mark_;
   ImageSurface surface_;
   QTimer resizeTimer_;
 };

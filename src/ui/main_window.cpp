@@ -47,7 +47,11 @@ QSize RoomOnScreen(const QWidget& window) {
 
 }  // namespace
 
-MainWindow::MainWindow(CommandGate& gate) : gate_(gate), scroll_(new QScrollArea(this)), canvas_(new Canvas(scroll_)) {
+MainWindow::MainWindow(CommandGate& gate)
+    : gate_(gate),
+      scroll_(new QScrollArea(this)),
+      canvas_(new Canvas(scroll_)),
+      pointer_(*canvas_, [this](const CommandGate::Action& command) { Act(command); }) {
   setWindowTitle("Lumivex");
   scroll_->setFrameShape(QFrame::NoFrame);
   scroll_->setWidgetResizable(true);
@@ -56,7 +60,12 @@ MainWindow::MainWindow(CommandGate& gate) : gate_(gate), scroll_(new QScrollArea
   setCentralWidget(scroll_);
   MakeStatusLine();
   canvas_->resized = [this] { Resized(); };
-  canvas_->mouse.press = [this](double x, double y) { Act([this, x, y] { Form_MouseDown(*session_, x, y); }); };
+  canvas_->mouse.press = [this](double x, double y) {
+    Act([this, x, y] { Form_MouseDown(*session_, x, y); });
+    pointer_.Press({x, y});
+  };
+  canvas_->key = [this](const QKeyEvent& event) { return pointer_.Key(event); };
+  pointer_.readingChanged = [this] { ShowReadOut(); };
   gate_.refresh = [this] { Refresh(); };
   gate_.whenFree = [this] {
     if (canvas_->IsStale()) Resized();
@@ -75,6 +84,11 @@ MainWindow::~MainWindow() {
 void MainWindow::MakeStatusLine() {
   status_ = new QLabel(this);
   status_->setTextFormat(Qt::PlainText);
+  readOut_ = new QLabel(this);
+  readOut_->setTextFormat(Qt::PlainText);
+  readOut_->setAccessibleName("Reading of the graph");
+  readOut_->setContentsMargins(4, 0, 12, 0);
+  readOut_->hide();
   average_ = new QLabel(this);
   progress_ = new QProgressBar(this);
   progress_->setAccessibleName("Progress of the calculation");
@@ -83,6 +97,7 @@ void MainWindow::MakeStatusLine() {
   progress_->setMaximumHeight(fontMetrics().height() + 2);
   progress_->hide();
   status_->setContentsMargins(4, 0, 0, 0);
+  statusBar()->addWidget(readOut_);
   statusBar()->addWidget(status_, 1);
   statusBar()->addPermanentWidget(average_);
   statusBar()->addPermanentWidget(progress_);
@@ -107,6 +122,7 @@ ControlActions MainWindow::Actions() {
 
 void MainWindow::Attach(Session& session) {
   session_ = &session;
+  pointer_.Attach(session);
   menuBar()->clear();
   menu_ = std::make_unique<MenuView>(*menuBar(), session.form1,
                                      [this](Control& entry) { Act([this, &entry] { UserClicks(*session_, entry); }); });
@@ -244,6 +260,12 @@ void MainWindow::Settle() {
   }
 }
 
+void MainWindow::ShowReadOut() {
+  const QString text = pointer_.Text();
+  if (readOut_->text() != text) readOut_->setText(text);
+  readOut_->setVisible(!text.isEmpty());
+}
+
 void MainWindow::ShowStatus() {
   const auto& form = session_->form1;
   const QString text = ToQString(StatusText(*session_));
@@ -263,6 +285,8 @@ void MainWindow::Refresh() {
   info_->Sync(canvas_->Unit(), scroll_->maximumViewportSize().width());
   ShowStatus();
   for (DialogView* dialog : dialogs_) dialog->Sync();
+  pointer_.Renew();
+  ShowReadOut();
   ReserveRoom();
   canvas_->ShowChanges();
 }

@@ -12,6 +12,7 @@
 #include "ui/canvas.h"
 #include "ui/command_gate.h"
 #include "ui/dialog_view.h"
+#include "ui/graph_pointer.h"
 #include "ui/info_overlay.h"
 #include "ui/menu_view.h"
 #include "ui/page_picture.h"
@@ -66,6 +67,7 @@ class MainWindow final : public QMainWindow {
   void RenewDrawing();
   void WatchInputs();
   void ShowStatus();
+  void ShowReadOut();
   void Act(const CommandGate::Action& command);
   void NewPlot();
   void Resized();
@@ -75,10 +77,12 @@ class MainWindow final : public QMainWindow {
   Session* session_ = nullptr;
   QScrollArea* scroll_;
   Canvas* canvas_;
+  GraphPointer pointer_;
   PanelView* panel_ = nullptr;
   InfoOverlay* info_ = nullptr;
   double fontShare_ = 1;  ///< the panel's font against the application's
   std::unique_ptr<MenuView> menu_;
+  QLabel* readOut_ = nullptr;
   QLabel* status_ = nullptr;
   QLabel* average_ = nullptr;
   QProgressBar* progress_ = nullptr;

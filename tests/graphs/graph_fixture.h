@@ -62,7 +62,6 @@ class RaisedEvents final : public Events {
 struct GraphSession {
   GraphSession() {
     platform.state = &session.state;
-    auto& form = session.form1;
     form.mnuMajorGridX.Checked = form.mnuMajorGridY.Checked = true;
     form.mnuDrawWidth1.Checked = true;
     form.mnuLogoPositionBL.Checked = true;

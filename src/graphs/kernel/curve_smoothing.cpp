@@ -12,7 +12,7 @@ constexpr int mostDiscRows = 100000;     // a step so small is a slip of the pen
 }  // namespace
 
 double RunningMean(std::span<const double> y, std::size_t i, double w, std::size_t first, std::size_t last) {
-  if (!(w > 1) || !std::isfinite(y[i])) return y[i];
+  if (!(w > 0) || !std::isfinite(y[i])) return y[i];
   const double middle = static_cast<double>(i);
   const double low = std::max(std::floor(middle - w / 2), static_cast<double>(first));
   const double high = std::min(std::floor(middle + w / 2), static_cast<double>(last));

@@ -7,7 +7,8 @@
 namespace lumivex {
 
 /// Mean of the values j from Int(i - w/2) to Int(i + w/2) that lie within first..last; values that are not numbers do
-/// not count. Not a number where the value itself is none. A width of 0 or 1 gives the value.
+/// not count. Not a number where the value itself is none. A width of 0 gives the value, one of 1 the
+/// mean with the value before.
 /// @param y  first index 1.
 double RunningMean(std::span<const double> y, std::size_t i, double w, std::size_t first, std::size_t last);
 

@@ -5,7 +5,9 @@
 #include <limits>
 
 #include "graphs/sun_disc.h"
+#include "particles/size_distribution.h"
 #include "session/driver/angle_quantities.h"
+#include "session/driver/progress.h"
 #include "session/driver/solver_chain.h"
 #include "session/record/number_text.h"
 #include "solvers/kernel/phase_degrees.h"
@@ -82,7 +84,10 @@ void CalculateAngles(Session& session) {
   AmplitudeTable S1(s.ArrayRows), S2(s.ArrayRows);
   std::swap(S1, s.S1);
   std::swap(S2, s.S2);
-  CallSolver(session, s.AngleLow, s.AngleHigh);
+  if (form.optDisp.Checked)
+    DispCalc(session, s.AngleLow, s.AngleHigh, {CallSolver, Progress});
+  else
+    CallSolver(session, s.AngleLow, s.AngleHigh);
   const bool refused = s.PlotMode == 4 && s.StopAnswer == 0;
   if (refused) {
     std::swap(S1, s.S1);

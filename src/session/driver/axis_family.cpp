@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <vector>
 
 #include "materials/refractive_index.h"
+#include "particles/size_distribution.h"
 #include "session/axis_graphs.h"
 #include "session/driver/angle_family.h"
 #include "session/driver/angle_quantities.h"
@@ -145,7 +147,10 @@ void SolvePower(Session& session, AxisRun& run, std::size_t i) {
   const double rowsPerDegree = (s.NANG - 1) / 90.0;
   const int low = std::clamp(ToWhole(Val(form.txtF9_min.Text) * rowsPerDegree) + 1, 1, s.NN);
   const int high = std::clamp(ToWhole(Val(form.txtF9_max.Text) * rowsPerDegree) + 1, low, s.NN);
-  CallSolver(session, low, high);
+  if (form.optDisp.Checked)
+    DispCalc(session, low, high, {CallSolver, Progress});
+  else
+    CallSolver(session, low, high);
   if (Stopped(session)) return;
   const double k = run.waveNumber[i];
   const double scale = s.IncidentDensity * 2 * pi / (k * k) * grid.DANG;
@@ -163,9 +168,29 @@ void SolvePower(Session& session, AxisRun& run, std::size_t i) {
   run.g[i] = s.Gsca;
 }
 
+/// The cloud of the size distribution about the radius of the point, seen at one angle: its roots of mean intensities
+/// stand for moduli without phase.
+std::optional<PointResult> SolveCloud(Session& session, double angle) {
+  const auto solve = [&]() -> std::optional<SpherePoint> {
+    const auto found = SolvePoint(session, angle);
+    if (!found) return std::nullopt;
+    const Efficiencies& e = found->efficiencies;
+    return SpherePoint{found->S1, found->S2, e.Qext, e.Qsca, e.Qback, e.g};
+  };
+  const auto cloud = DispCalcPoint(session, solve, Progress);
+  if (!cloud) {
+    session.state.PlotMode = stopRequested;
+    return std::nullopt;
+  }
+  return PointResult{{std::sqrt(cloud->perpendicular), 0},
+                     {std::sqrt(cloud->parallel), 0},
+                     {cloud->Qext, cloud->Qsca, cloud->Qback, cloud->g}};
+}
+
 void SolvePointByPoint(Session& session, AxisRun& run) {
   auto& s = session.state;
   const double angle = NeedsNoAngle(*run.graph) ? 0 : Val(session.form1.txtAngle.Text) * pi / 180;
+  const bool disperse = session.form1.optDisp.Checked;
   s.S1ofPoint.Resize(run.points);
   s.S2ofPoint.Resize(run.points);
   for (int point = 1; point <= run.points && !Stopped(session); ++point) {
@@ -183,7 +208,7 @@ void SolvePointByPoint(Session& session, AxisRun& run) {
       Progress(session);
       continue;
     }
-    const auto found = SolvePoint(session, angle);
+    const auto found = disperse ? SolveCloud(session, angle) : SolvePoint(session, angle);
     if (!found) return;
     s.S1ofPoint.Set(point, found->S1.re, found->S1.im);
     s.S2ofPoint.Set(point, found->S2.re, found->S2.im);
@@ -319,7 +344,7 @@ void CalculateAxis(Session& session) {
     return;
   }
   if (s.CalcMethod == mieMethod) WriteMieTitle(session);
-  if (s.CalcMethod == mieMethod && NeedsNoAngle(*run.graph)) {
+  if (s.CalcMethod == mieMethod && NeedsNoAngle(*run.graph) && !session.form1.optDisp.Checked) {
     SolveEfficienciesOfAll(session, run);
   } else {
     SolvePointByPoint(session, run);

@@ -1,6 +1,7 @@
 #include "session/driver/overplot.h"
 
 #include "materials/refractive_index.h"
+#include "particles/size_distribution_display.h"
 #include "session/driver/angle_family.h"
 #include "session/driver/array_size.h"
 #include "session/driver/axis_family.h"
@@ -99,7 +100,10 @@ void Overplot(Session& session) {
     s.PrevGraphSubType = s.GraphSubType;
   }
   EndProgress(session);
-  if (s.PlotMode != stopRequested) DisplayRun(session);
+  if (s.PlotMode != stopRequested) {
+    DisplayRun(session);
+    DistDisplay(session);
+  }
   ShowEnded(session);
   s.PlotMode = 1;
 }

@@ -40,8 +40,8 @@ enum class Feature {
 
 /// The one place that says what is there.
 inline constexpr std::array availableFeatures = {
-    Feature::Always,      Feature::MieSeries,    Feature::AngleIntensity,
-    Feature::AngleFamily, Feature::AxisFamilies,
+    Feature::Always,         Feature::MieSeries,   Feature::AllMaterials, Feature::SizeDistributions,
+    Feature::AngleIntensity, Feature::AngleFamily, Feature::AxisFamilies, Feature::GraphLook,
 };
 
 constexpr bool IsAvailable(Feature feature) {

@@ -3,7 +3,10 @@
 #include <vector>
 
 #include "session/record/form.h"
+#include "session/record/forms/light_dialogs.h"
 #include "session/record/forms/main_form.h"
+#include "session/record/forms/material_dialogs.h"
+#include "session/record/forms/size_dialogs.h"
 
 namespace lumivex {
 
@@ -48,7 +51,7 @@ struct DlogPlotColour final : Form {
 };
 
 /// Every window and dialog of a session.
-struct Forms {
+struct Forms : MaterialDialogs, LightDialogs, SizeDialogs {
   Form1 form1;
   DlogTemp dlogTemp;
   DlogSpectrumBand dlogSpectrumBand;
@@ -56,7 +59,12 @@ struct Forms {
   DlogPlotColour dlogPlotColour;
 
   /// All of them, the main window first.
-  std::vector<Form*> All() { return {&form1, &dlogTemp, &dlogSpectrumBand, &dlogAverage, &dlogPlotColour}; }
+  std::vector<Form*> All() {
+    std::vector<Form*> all = {&form1, &dlogTemp, &dlogSpectrumBand, &dlogAverage, &dlogPlotColour};
+    for (const auto& more : {MaterialForms(), LightForms(), SizeForms()})
+      all.insert(all.end(), more.begin(), more.end());
+    return all;
+  }
   /// The form of that name, whatever its case; null where there is none.
   Form* Find(std::string_view name);
 };

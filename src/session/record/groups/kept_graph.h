@@ -21,6 +21,13 @@ struct GraphKind {
   bool intPol = false;     ///< with the degree of polarisation in a second panel
   bool amplitude = false;  ///< moduli instead of intensities
   bool fourier = false;    ///< frequencies instead of the quantity of the axis
+
+  /// Scattering matrix: S11 above, the ratios of the other elements to it below.
+  bool IsMatrix() const { return (graphType == 1 && graphSubType == 6) || (graphType == 10 && graphSubType == 2); }
+  /// Whether one may be drawn over the other, on its axes.
+  bool SharesAxesWith(const GraphKind& other) const {
+    return graphType == other.graphType && IsMatrix() == other.IsMatrix();
+  }
 };
 
 /// Where a panel stands, so that it finds its place again when the graph changes its size.
@@ -39,13 +46,14 @@ struct KeptPanel {
 /// computed: they lift the pen.
 struct KeptCurve {
   std::size_t panel = 0;      ///< index of its panel
-  int kind = 1;               ///< 1 perpendicular, 2 parallel, 3 unpolarised
+  int kind = 1;               ///< 1 perpendicular, 2 parallel, 3 unpolarised; a ratio of the matrix in this order
   std::string name;           ///< as the legend prints it
   std::vector<double> x;      ///< in the unit of the x axis; in a polar plot the polar angle (degrees)
   std::vector<double> y;      ///< after the fold with the solar disc
   std::vector<double> angle;  ///< scattering angle (degrees) where x is a phase, otherwise empty
   double averageRows = 0;     ///< rows of the running mean; 0 without
   bool interpolate = false;   ///< cubic interpolation between the points
+  bool wraps = false;         ///< an angle: it goes on at 0 after 360
   bool markers = false;       ///< marks instead of lines
   Colour colour;
   int drawStyle = 0;  ///< 0 solid, 1 dash, 2 dot
@@ -58,9 +66,10 @@ struct KeptGraph {
   GraphKind kind;
   std::vector<KeptPanel> panels;
   std::vector<KeptCurve> curves;
-  XRange home;             ///< x range of the frame before any zoom
-  bool legend = false;     ///< whether the legend was printed
-  std::string legendNote;  ///< what the legend prints in place of the curves' names, or empty
+  std::vector<GraphBox> labelPlaces;  ///< where a polar plot has numbers: those of the next curve keep clear of them
+  XRange home;                        ///< x range of the frame before any zoom
+  bool legend = false;                ///< whether the legend was printed
+  std::string legendNote;             ///< what the legend prints in place of the curves' names, or empty
 };
 
 }  // namespace lumivex

@@ -1,10 +1,13 @@
 #pragma once
 
+#include <array>
+#include <string>
 #include <type_traits>
+#include <vector>
 
 namespace lumivex {
 
-/// Refractive indices at the last wavelength looked up, and the water model's parameters.
+/// Refractive indices at the last wavelength looked up, the parameters of their models and the tables read from files.
 struct MaterialState {
   double RefractReal = 0;               ///< n of the sphere
   double RefractImag = 0;               ///< k of the sphere
@@ -15,6 +18,25 @@ struct MaterialState {
   float WaterDensity = 0.99996382F;     ///< g/cm3
   float LookupWavelength = 0;           ///< wavelength rounded to single precision, as the tables are searched (um)
   int RIUserEdited = 0;                 ///< 1 when an index was typed in since the last evaluation
+  std::string SphereCaptionBefore;      ///< caption of lblSphere before an index was typed in
+
+  // The four points of the user-defined materials, first index 1; wavelengths in um.
+  std::vector<double> UserLambda1 = std::vector<double>(5);
+  std::vector<double> UserRI1 = std::vector<double>(5);
+  std::vector<double> UserLambda2 = std::vector<double>(5);
+  std::vector<double> UserRI2 = std::vector<double>(5);
+
+  // Tables from files, sphere (1) and medium (2): rows 1 to FileRows, um; columns 0 n, 1 k, 2 unused.
+  std::vector<float> FileLambda1, FileLambda2;
+  std::vector<std::array<float, 3>> FileData1, FileData2;
+  int FileRows1 = 0, FileRows2 = 0;
+  float FileFirst1 = 0, FileLast1 = 0;  ///< first and last wavelength of the sphere's table (um)
+  float FileFirst2 = 0, FileLast2 = 0;  ///< the same of the medium's
+  std::string FileName1, FileName2;     ///< the material's name in the file
+
+  std::string LastFile;         ///< path of the last input file chosen
+  std::string CatalogueFolder;  ///< where Dispersion.rxi and DispersionBackup.rxi lie; empty is the working folder
+  int CatalogueIndex = 0;       ///< entry of the catalogue last chosen, from 0
 };
 
 template <class Group, class Visitor>
@@ -29,6 +51,26 @@ void ForEachField(Group& g, Visitor&& visit) {
   visit("WaterDensity", g.WaterDensity);
   visit("LookupWavelength", g.LookupWavelength);
   visit("RIUserEdited", g.RIUserEdited);
+  visit("SphereCaptionBefore", g.SphereCaptionBefore);
+  visit("UserLambda1", g.UserLambda1);
+  visit("UserRI1", g.UserRI1);
+  visit("UserLambda2", g.UserLambda2);
+  visit("UserRI2", g.UserRI2);
+  visit("FileLambda1", g.FileLambda1);
+  visit("FileData1", g.FileData1);
+  visit("FileRows1", g.FileRows1);
+  visit("FileFirst1", g.FileFirst1);
+  visit("FileLast1", g.FileLast1);
+  visit("FileName1", g.FileName1);
+  visit("FileLambda2", g.FileLambda2);
+  visit("FileData2", g.FileData2);
+  visit("FileRows2", g.FileRows2);
+  visit("FileFirst2", g.FileFirst2);
+  visit("FileLast2", g.FileLast2);
+  visit("FileName2", g.FileName2);
+  visit("LastFile", g.LastFile);
+  visit("CatalogueFolder", g.CatalogueFolder);
+  visit("CatalogueIndex", g.CatalogueIndex);
 }
 
 }  // namespace lumivex

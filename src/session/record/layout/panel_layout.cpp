@@ -1,5 +1,11 @@
 #include "session/record/layout/panel_layout.h"
 
+#include <vector>
+
+#include "session/record/layout/light_dialog_lines.h"
+#include "session/record/layout/material_dialog_lines.h"
+#include "session/record/layout/size_dialog_lines.h"
+
 namespace lumivex {
 
 namespace {
@@ -63,9 +69,21 @@ constexpr LayoutLine bandLines[] = {
     {{"lblSpectrumMax", "txtSpectrumMax"}},
 };
 
+constexpr LayoutLine averageLines[] = {
+    {{"lblAverageWidth", "txtAverage"}},
+};
+constexpr LayoutLine plotColourLines[] = {
+    {{"lblPalette", "cboPalette"}},
+    {{"lblRed", "txtRed"}},
+    {{"lblGreen", "txtGreen"}},
+    {{"lblBlue", "txtBlue"}},
+};
+
 constexpr DialogLayout dialogLayouts[] = {
     {"dlogTemp", temperatureLines},
     {"dlogSpectrumBand", bandLines},
+    {"dlogAverage", averageLines},
+    {"dlogPlotColour", plotColourLines},
 };
 
 }  // namespace
@@ -75,7 +93,17 @@ std::span<const FrameLayout> MainPanel() {
 }
 
 std::span<const DialogLayout> Dialogs() {
-  return dialogLayouts;
+  static const std::vector<DialogLayout> all = [] {
+    std::vector<DialogLayout> layouts(std::begin(dialogLayouts), std::end(dialogLayouts));
+    const auto add = [&layouts](std::span<const DialogLayout> more) {
+      layouts.insert(layouts.end(), more.begin(), more.end());
+    };
+    add(materialDialogLayouts);
+    add(lightDialogLayouts);
+    add(sizeDialogLayouts);
+    return layouts;
+  }();
+  return all;
 }
 
 }  // namespace lumivex

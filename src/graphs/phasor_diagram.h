@@ -1,0 +1,28 @@
+#pragma once
+
+#include "session/record/session.h"
+#include "solvers/kernel/amplitude_table.h"
+
+namespace lumivex {
+
+/// Which terms of the diagram have their number beside the dot.
+struct DotLabels {
+  enum class Rule {
+    All,       ///< every term
+    UpToTerm,  ///< terms up to the number
+    AboveSize  ///< terms of at least 10^-number times the top of the scale
+  };
+  Rule rule = Rule::All;
+  int number = 0;
+};
+
+/// The phasor diagram: the terms of a series at one point as dots in the complex plane, phase clockwise from the top,
+/// modulus outward on the scale from ymin to ymax. On a plain run (PlotMode 1) the circle with its decades is drawn
+/// first. Term 1 is labelled " Mie", term j with j - 1.
+///
+/// @param a            terms, rows 1 to `count`.
+/// @param ymin, ymax   values at the centre and at the rim.
+void PlotDots(Session& session, const AmplitudeTable& a, int count, double ymin, double ymax,
+              const DotLabels& labels = {});
+
+}  // namespace lumivex

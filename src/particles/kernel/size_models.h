@@ -1,0 +1,60 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+namespace lumivex {
+
+/// n(r) proportional to r^alpha exp(-b r^gamma), r in um: the modified gamma distribution.
+struct GammaSizes {
+  double alpha = 0, b = 0, gamma = 1;
+};
+
+/// A log-normal mode: dn/dln r = fraction/(sqrt(2 pi) ln spread) exp(-(ln(r/median)/ln spread)^2/2).
+struct SizeMode {
+  double median = 0;    ///< um
+  double spread = 0;    ///< geometric standard deviation, above 1
+  double fraction = 0;  ///< number, relative to the other modes
+};
+
+using SizeModel = std::variant<GammaSizes, std::vector<SizeMode>>;
+
+/// Cumulus cloud C1 (D. Deirmendjian, Electromagnetic Scattering on Spherical Polydispersions, 1969): r^6 exp(-1.5 r).
+inline constexpr GammaSizes CumulusCloud{6, 1.5, 1};
+/// Haze M of the same source: r exp(-8.944 sqrt r).
+inline constexpr GammaSizes Haze{1, 8.944, 0.5};
+
+/// The standard gamma distribution of a shape with an effective radius (the ratio of the third to the second moment):
+/// r^(shape - 1) exp(-r (shape + 2)/effectiveRadius). Nothing where one of them is not positive.
+std::optional<GammaSizes> GammaOfShape(double shape, double effectiveRadius);
+
+/// Aerosols of three log-normal modes (R. Jaenicke, Tropospheric aerosols, in Aerosol-Cloud-Climate Interactions, 1993;
+/// weighted by number): "Aerosol m0" maritime, "Aerosol m6" rural. Empty for another name.
+std::vector<SizeMode> AerosolModes(std::string_view name);
+
+/// Whether all modes can be used: median and fraction not below 0, spread above 1, and some number in them.
+bool AreUsable(const std::vector<SizeMode>& modes);
+
+/// Number per unit of radius, to a constant factor that depends on the model only.
+double NumberDensity(const SizeModel& model, double radius);
+/// Share of the particles smaller than a radius.
+double NumberBelow(const SizeModel& model, double radius);
+
+enum class SizeSteps { Ratio, Equal };
+
+/// Samples of a model; first index 1.
+struct SizeSamples {
+  std::vector<double> radius;  ///< um
+  std::vector<double> weight;  ///< share of the particles in the slice; the sum is 1
+  float lowest = 0;            ///< range that holds all but 1e-4 of the particles
+  float highest = 0;
+  double ratio = 1;  ///< of neighbouring radii; 1 with equal steps
+};
+
+/// Cuts the range into slices of equal ratio or width and takes the middle of each; its weight is the density there
+/// times the slice's width.
+SizeSamples SampleModel(const SizeModel& model, int count, SizeSteps steps);
+
+}  // namespace lumivex

@@ -1,0 +1,85 @@
+/// Fuzzes the readers of input files: the first byte of the input chooses the reader. Whatever the bytes are, a reader
+/// must end, keep within its rows and hand out a table of consistent length.
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <sstream>
+#include <string>
+
+#include "materials/kernel/catalogue_file.h"
+#include "materials/kernel/index_import.h"
+#include "materials/kernel/spectrum_file.h"
+#include "materials/kernel/spectrum_weight.h"
+#include "particles/kernel/size_file.h"
+
+namespace {
+
+using namespace lumivex;
+
+void Require(bool condition) {
+  if (!condition) std::abort();
+}
+
+void CheckIndex(const IndexFileResult& result) {
+  if (result.fault != IndexFileFault::None) return;
+  const auto rows = static_cast<std::size_t>(result.table.count) + 1;
+  Require(rows >= 2 && result.table.lambda.size() == rows && result.table.rows.size() == rows);
+  for (const double lambda : {1e-3, 0.5, static_cast<double>(result.table.lambda[1]), 1e6})
+    for (const TableRule rule : {TableRule::Linear, TableRule::Cubic})
+      LookUpFile(result.table.View(), lambda, rule, {result.table.count, lambda > 0.5});
+}
+
+void CheckSpectrum(const SpectrumFile& file) {
+  if (file.fault != SpectrumFileFault::None) return;
+  const auto rows = static_cast<std::size_t>(file.points) + 1;
+  Require(rows >= 2 && file.wavelength.size() == rows && file.value.size() == rows);
+  for (const double lambda : {0.0, 0.38, 0.55, 1e9})
+    MeasuredWeight({file.wavelength, file.value, file.points, file.nonUniform}, lambda);
+}
+
+void CheckSizes(const SizeFile& file) {
+  if (file.fault != SizeFileFault::None) return;
+  const auto rows = static_cast<std::size_t>(file.count) + 1;
+  Require(rows >= 2 && file.size.size() == rows && file.upper.size() == rows && file.number.size() == rows);
+  Require(file.total > 0);
+}
+
+void CheckCatalogue(const Catalogue& catalogue) {
+  if (!catalogue.failure.empty()) return;
+  std::istringstream again(CatalogueText(catalogue.entries));
+  Require(ReadCatalogueFile(again).entries.size() == catalogue.entries.size());
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  if (size == 0) return 0;
+  std::istringstream stream(std::string(reinterpret_cast<const char*>(data) + 1, size - 1));
+  switch (data[0]) {
+    case 'r':
+      CheckIndex(ReadIndexFile(stream));
+      break;
+    case 'c':
+      CheckIndex(ReadIndexCsv(stream));
+      break;
+    case 'y':
+      CheckIndex(ReadIndexYaml(stream));
+      break;
+    case 's':
+      CheckSpectrum(ReadSpectrumFile(stream));
+      break;
+    case 'd':
+      CheckSizes(ReadSizeFile(stream, {true, true}));
+      break;
+    case 'D':
+      CheckSizes(ReadSizeFile(stream, {false, false}));
+      break;
+    case 'x':
+      CheckCatalogue(ReadCatalogueFile(stream));
+      break;
+    default:
+      break;
+  }
+  return 0;
+}

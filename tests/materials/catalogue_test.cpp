@@ -1,0 +1,101 @@
+#include <sstream>
+
+#include "materials/kernel/catalogue_file.h"
+#include "materials/material_fixture.h"
+#include "materials/sellmeier_catalogue.h"
+#include "session/record/text_file.h"
+
+namespace lumivex {
+namespace {
+
+class SellmeierCatalogue : public MaterialSession {
+ protected:
+  SellmeierCatalogue() {
+    for (const char* name : {"Dispersion.rxi", "DispersionBackup.rxi"})
+      std::filesystem::copy(std::string(LUMIVEX_SOURCE_DIR) + "/data/" + name, Path(name));
+    State().CatalogueFolder = folder_.string();
+    LoadCatalogue(Now());
+  }
+  const std::vector<std::string>& Items() { return Now().forms.dlogRI_Formula.cboMaterial.Items; }
+};
+
+TEST_F(SellmeierCatalogue, ShowsTheCoefficientsAsTheyStandInTheFile) {
+  EXPECT_EQ(Items().size(), 39U);
+  EXPECT_EQ(Items().front(), "Schott BK7");
+  Do("choose dlogRI_Formula.cboMaterial Fused silica");
+  EXPECT_EQ(Get("dlogRI_Formula.txtC3"), "97.93400254");
+  EXPECT_EQ(Get("dlogRI_Formula.txtLambdaMin.Enabled"), "true");
+  Do("choose dlogRI_Formula.cboMaterial Schott BK7");
+  EXPECT_EQ(Get("dlogRI_Formula.txtB1"), "1.03961212E+00");
+  EXPECT_EQ(Get("dlogRI_Formula.Frame1.Enabled"), "false");
+  EXPECT_EQ(Get("dlogRI_Formula.chkIgnore.Enabled"), "false");
+  Do("click dlogRI_Formula.cmdRange");
+  EXPECT_EQ(Get("dlogRI_Formula.txtLambdaMax.Enabled"), "true");
+  EXPECT_TRUE(Shown().empty());
+}
+
+TEST_F(SellmeierCatalogue, AddsRemovesAndRestores) {
+  Do("choose dlogRI_Formula.cboMaterial Diamond\nset dlogRI_Formula.cboMaterial Ice, \"thin\"\n"
+     "set dlogRI_Formula.txtLambdaMin  \nset dlogRI_Formula.txtLambdaMax  \nclick dlogRI_Formula.cmdSave");
+  ASSERT_EQ(Items().size(), 40U);
+  EXPECT_EQ(Get("dlogRI_Formula.cmdSave.Enabled"), "false");
+  LoadCatalogue(Now());
+  EXPECT_EQ(Items().back(), "Ice, 'thin'");
+  Do("set dlogRI_Formula.cboMaterial Ice\nclick dlogRI_Formula.cmdSave\n"
+     "set dlogRI_Formula.cboMaterial Ice,\nset dlogRI_Formula.cboMaterial Ice\nclick dlogRI_Formula.cmdSave");
+  EXPECT_EQ(Items().size(), 42U);  // the same name twice
+  Do("choose dlogRI_Formula.cboMaterial Diamond\nclick dlogRI_Formula.cmdRemove");
+  EXPECT_EQ(Items().size(), 41U);
+  EXPECT_EQ(Get("dlogRI_Formula.cboMaterial"), "Schott BK7");
+  Do("click dlogRI_Formula.cmdRestore");
+  EXPECT_EQ(Items().size(), 39U);
+  // The numbers are singles: nothing else is lost on the way.
+  EXPECT_NEAR(Number("dlogRI_Formula.txtB1"), 1.03961212, 6e-8);
+  EXPECT_TRUE(Shown().empty());
+}
+
+TEST_F(SellmeierCatalogue, CanBeEmptied) {
+  Write("Dispersion.rxi", CatalogueText({{"Only", {"1", "0", "0", "0", "0", "0", "0", "0"}}}));
+  LoadCatalogue(Now());
+  Do("choose dlogRI_Formula.cboMaterial Only\nclick dlogRI_Formula.cmdRemove");
+  EXPECT_TRUE(Items().empty());
+  EXPECT_NE(ReadWholeFile(Path("Dispersion.rxi")).value().find("4000\n 0\n"), std::string::npos);
+  EXPECT_TRUE(Shown().empty());
+}
+
+TEST_F(SellmeierCatalogue, ADamagedFileIsToldAndLeftAlone) {
+  const std::string whole = ReadWholeFile(Path("Dispersion.rxi")).value();
+  const auto with = [&](const std::string& from, const std::string& to) {
+    std::string text = whole;
+    return text.replace(text.find(from), from.size(), to);
+  };
+  for (const auto& damaged : {with("4000", "3999"), with("Lumivex:", "Lumivox:"), whole.substr(0, whole.size() / 2),
+                              with("1.08511833", "one"), with(" 39", " 99999"), std::string()}) {
+    Write("Dispersion.rxi", damaged);
+    for (const char* step : {"click dlogRI_Formula.cmdRemove", "choose dlogRI_Formula.cboMaterial Diamond",
+                             "set dlogRI_Formula.cboMaterial New"}) {
+      Now().forms.dlogRI_Formula.cmdSave.Enabled = true;
+      Do(step);
+    }
+    Do("click dlogRI_Formula.cmdSave");
+    EXPECT_TRUE(LastText().starts_with("Error in data file: " + Path("Dispersion.rxi"))) << LastText();
+    EXPECT_EQ(ReadWholeFile(Path("Dispersion.rxi")), damaged);
+    Now().forms.dlogRI_Formula.cboMaterial.Text = "Schott BK7";
+  }
+}
+
+TEST(CatalogueFile, DeliveredCataloguesAreGlasses) {
+  std::ifstream file(std::string(LUMIVEX_SOURCE_DIR) + "/data/Dispersion.rxi");
+  const Catalogue catalogue = ReadCatalogueFile(file);
+  EXPECT_EQ(catalogue.failure, "");
+  std::istringstream again(CatalogueText(catalogue.entries));
+  const Catalogue rewritten = ReadCatalogueFile(again);
+  ASSERT_EQ(rewritten.entries.size(), catalogue.entries.size());
+  for (std::size_t i = 0; i < catalogue.entries.size(); ++i)
+    for (std::size_t j = 0; j < 8; ++j)
+      EXPECT_EQ(static_cast<float>(Val(rewritten.entries[i].numbers[j])),
+                static_cast<float>(Val(catalogue.entries[i].numbers[j])));
+}
+
+}  // namespace
+}  // namespace lumivex

@@ -1,0 +1,182 @@
+#include <sys/stat.h>
+
+#include "materials/dropped_file.h"
+#include "materials/kernel/index_import.h"
+#include "materials/kernel/spectrum_file.h"
+#include "materials/material_fixture.h"
+#include "materials/read_ref_index.h"
+#include "materials/read_spectrum.h"
+#include "materials/refractive_index.h"
+#include "particles/kernel/size_file.h"
+#include "particles/read_size_dist.h"
+
+namespace lumivex {
+namespace {
+
+class InputFiles : public MaterialSession {
+ protected:
+  /// The message of a sphere's index file with this content, and that the table before stands.
+  std::string IndexMessage(const std::string& content) {
+    EXPECT_FALSE(ReadRefIndex1(Now(), Write("bad.rix", content)));
+    EXPECT_EQ(State().FileRows1, 3);
+    EXPECT_EQ(State().FileName1, "Testite");
+    return LastText();
+  }
+};
+
+std::string With(std::string text, const std::string& from, const std::string& to) {
+  return text.replace(text.find(from), from.size(), to);
+}
+
+TEST_F(InputFiles, IndexFilesInEveryUnitAndLineEnd) {
+  std::string dos;
+  for (const char c : IndexFileText(3, "nm")) dos += c == '\n' ? std::string("\r\n") : std::string(1, c);
+  ASSERT_TRUE(ReadRefIndex1(Now(), Write("dos.rix", "\xEF\xBB\xBF" + dos)));
+  EXPECT_FLOAT_EQ(State().FileLambda1[3], 0.003F);
+  EXPECT_FLOAT_EQ(State().FileData1[2][1], 0.002F);
+  EXPECT_EQ(State().FileName1, "Testite");
+  ASSERT_TRUE(ReadRefIndex2(Now(), Write("real.rix", IndexFileText(3, "mm", "Real"))));
+  EXPECT_FLOAT_EQ(State().FileLambda2[1], 1000.0F);
+  EXPECT_EQ(State().FileData2[3][1], 0.0F);
+  EXPECT_EQ(State().MediumName, "Testite");
+}
+
+TEST_F(InputFiles, DamagedIndexFilesAreToldAndKeepTheTable) {
+  ASSERT_TRUE(ReadRefIndex1(Now(), Write("good.rix", IndexFileText(3))));
+  const std::string good = IndexFileText(3), opening = "Error in refractive index data file: " + Path("bad.rix");
+  EXPECT_EQ(IndexMessage("Lumivex 200\n"),
+            opening + "\n\nThe first line of this file should be \"Lumivex 300\"\nbut it reads \"Lumivex 200\"");
+  EXPECT_EQ(IndexMessage(With(good, "\num\n", "\ninch\n")),
+            opening + "\n\nLine 14 must specify the units of wavelength (m or mm or um or nm)");
+  EXPECT_EQ(IndexMessage(With(good, "\nComplex\n", "\n\n")),
+            opening + "\n\nLine 15 must indicate whether the data is Complex or Real");
+  EXPECT_EQ(IndexMessage(good.substr(0, good.size() - 8)), opening + "\n\nLine 19: the file ends too early");
+  EXPECT_EQ(IndexMessage(With(good, "1.02", "1.0x2")), opening + "\n\nLine 18: \"1.0x2\" is not a number");
+  EXPECT_EQ(IndexMessage(With(good, "2, 1.02", "-2, 1.02")), opening + "\n\nLine 18: a wavelength must be positive");
+  EXPECT_EQ(IndexMessage(With(good, " 3\n", " 10000000\n")),
+            opening + "\n\nLine 16: a number from 1 to 32767 is needed");
+  EXPECT_EQ(IndexMessage(""), opening + "\n\nThe first line of this file should be \"Lumivex 300\"\nbut it reads \"\"");
+  EXPECT_FALSE(ReadRefIndex1(Now(), folder_.string()));
+  EXPECT_NE(LastText().find("This is a folder, not a file"), std::string::npos);
+  EXPECT_FALSE(ReadRefIndex2(Now(), Write("bad.rix", "x\n")));
+  EXPECT_EQ(LastText(), opening);
+  ASSERT_EQ(mkfifo(Path("pipe.rix").c_str(), 0600), 0);
+  EXPECT_FALSE(ReadRefIndex1(Now(), Path("pipe.rix")));  // does not wait for a writer
+  EXPECT_EQ(State().FileRows1, 3);
+}
+
+TEST_F(InputFiles, SpectraMustAgreeWithTheirHeader) {
+  ASSERT_TRUE(ReadSpectrum(Now(), exampleFolder + "white_led.spe"));
+  EXPECT_EQ(State().SpectrumFilePoints, 33);
+  const std::string good = "Lumivex\n\nuniform\n\n380, 400, 10\n\n\n380.0, 1\n390, 2\n400 3\n";
+  const auto message = [&](const std::string& content) {
+    EXPECT_FALSE(ReadSpectrum(Now(), Write("bad.spe", content)));
+    EXPECT_EQ(State().SpectrumFilePoints, 33);
+    return LastText();
+  };
+  EXPECT_EQ(message(With(good, "Lumivex", "lumivex")), "Error in spectrum data file");
+  EXPECT_EQ(message(With(good, "380.0", "380.0001")), "Error in spectrum data file: minimum wavelength incorrect");
+  EXPECT_EQ(message(With(good, "\n400", "\n401")), "Error in spectrum data file: maximum wavelength incorrect");
+  EXPECT_NE(message(With(good, "390, 2", "390, two")).find("Line 9: \"two\" is not a number"), std::string::npos);
+  EXPECT_NE(message(With(good, ", 10", ", 0")).find("Line 5:"), std::string::npos);
+  EXPECT_NE(message(With(good, ", 10", ", 1e-9")).find("Line 5:"), std::string::npos);
+  EXPECT_NE(message(good.substr(0, good.size() - 6)).find("the file ends too early"), std::string::npos);
+  EXPECT_TRUE(ReadSpectrum(Now(), Write("good.spe", With(good, "380.0", "380.000001"))));  // the same single
+  EXPECT_TRUE(ReadSpectrum(Now(), exampleFolder + "mercury_lamp.spe"));
+  EXPECT_EQ(State().SpectrumFileNonUniform, 1);
+}
+
+TEST_F(InputFiles, SizeFilesKeepTheirPeculiarities) {
+  const std::string free = "\na\na\na\na\na\na\na\na\na\na\na\na\n";
+  const auto read = [](const std::string& text, SizeFileOptions options = {false, false}) {
+    std::istringstream stream(text);
+    return ReadSizeFile(stream, options);
+  };
+  // A uniform table is in micrometres whatever its unit says; a diameter halves size and number.
+  SizeFile file = read("Lumivex 301" + free + "diameter\nnm\nUniform\n2\n4, 10\n6, 30\n");
+  EXPECT_EQ(file.fault, SizeFileFault::None);
+  EXPECT_EQ(file.size[2], 3.0F);
+  EXPECT_EQ(file.number[2], 15.0F);
+  EXPECT_EQ(file.lowest, 1.5F);
+  EXPECT_EQ(file.highest, 3.5F);
+  // Classes follow the unit; a metre is 1e9.
+  file = read("Lumivex 300" + free + "m\nNon uniform\n1\n1e-9 3e-9 5\n");
+  EXPECT_FLOAT_EQ(file.middle[1], 2.0F);
+  EXPECT_EQ(file.number[1], 5.0F);
+  file = read("Lumivex 301" + free + "diameter\num\nNon uniform\n2\n0 4 5\n4 8 15\n", {true, true});
+  EXPECT_EQ(file.middle[2], 3.0F);
+  EXPECT_FLOAT_EQ(file.number[2], 0.75F);
+  EXPECT_NEAR(file.total, 1, 1e-6);
+  // Neither word: told, and read on.
+  file = read("Lumivex 301" + free + "girth\num\nUniform\n1\n4, 10\n");
+  EXPECT_TRUE(file.sizeWordMissing);
+  EXPECT_EQ(file.size[1], 4.0F);
+  for (const char* bad : {"um\nuniform\n1\n1 1\n", "um\n\n1\n1 1\n"})
+    EXPECT_EQ(read("Lumivex 300" + free + bad).fault, SizeFileFault::Format) << bad;
+  for (const char* bad : {"um\nUniform\n2\n1 1\n", "um\nUniform\n10000000\n1 1\n", "um\nUniform\n1\n-1 1\n",
+                          "um\nUniform\n1\n1 -1\n", "um\nUniform\n1\n1 0\n", "um\nUniform\n1\n1e30 1e39\n",
+                          "um\nUniform\n0\n", "ell\nUniform\n1\n1 1\n", "um\nUniform\n1\nnan 1\n"})
+    EXPECT_EQ(read("Lumivex 300" + free + bad).fault, SizeFileFault::Data) << bad;
+}
+
+TEST_F(InputFiles, ACancelledOrDamagedSizeFileKeepsTheTable) {
+  ASSERT_TRUE(ReadSizeDist(Now(), exampleFolder + "fog_classes.dis"));
+  EXPECT_EQ(State().SizeFileCount, 9);
+  EXPECT_FALSE(ReadSizeDist(Now(), Write("bad.dis", "Lumivex 302\n")));
+  EXPECT_EQ(LastText(), "Error in radius distribution file: " + Path("bad.dis"));
+  EXPECT_EQ(State().SizeFileCount, 9);
+  Now().form1.cboDistrib.Text = "Haze";
+  EXPECT_FALSE(ReadSizeDist(Now()));
+  EXPECT_EQ(Get("cboDistrib"), "Log-normal");
+}
+
+TEST_F(InputFiles, TablesOfOtherProgramsAreImported) {
+  const auto csv = [](const std::string& text) {
+    std::istringstream stream(text);
+    return ReadIndexCsv(stream);
+  };
+  auto result = csv("# made by hand\nwavelength (nm);n;k\n600;1.5;0.1\n400;1.6;0.2\n");
+  ASSERT_EQ(result.fault, IndexFileFault::None) << result.detail;
+  EXPECT_FLOAT_EQ(result.table.lambda[1], 0.4F);
+  EXPECT_FLOAT_EQ(result.table.rows[1][1], 0.2F);
+  result = csv("wl,n\r\n0.4,1.5\r\n0.6,1.4\r\n\r\nwl,k\r\n0.3,0.1\r\n0.5,0.3\r\n");
+  ASSERT_EQ(result.table.count, 2);
+  EXPECT_FLOAT_EQ(result.table.rows[1][1], 0.2F);  // k between its own rows
+  EXPECT_EQ(result.table.rows[2][1], 0.0F);
+  EXPECT_EQ(csv("0.4 1.5\n0.5 1.4").table.count, 2);
+  EXPECT_EQ(csv("0.4 1.5\n-0.5 1.4").detail, "Line 2: a wavelength and its index are needed");
+  EXPECT_EQ(csv("nothing\n").fault, IndexFileFault::Data);
+
+  std::istringstream yaml("DATA:\n  - type: tabulated nk\n    data: |\n        0.4 1.5 0.01\n        0.5 1.4 0.02\n");
+  EXPECT_FLOAT_EQ(ReadIndexYaml(yaml).table.rows[2][1], 0.02F);
+  std::istringstream noRange("DATA:\n  - type: formula 3\n    coefficients: 1 2 3\n");
+  EXPECT_EQ(ReadIndexYaml(noRange).fault, IndexFileFault::Data);
+
+  ASSERT_TRUE(ReadDroppedFile(Now(), exampleFolder + "fused_silica.yml"));
+  EXPECT_EQ(Get("lblSphere"), "Sphere: fused_silica");
+  EXPECT_TRUE(RefRel(Now(), 0.5876));
+  EXPECT_NEAR(State().RefractReal, 1.45846, 2e-5);
+}
+
+TEST_F(InputFiles, EveryExampleIsRead) {
+  for (const auto& entry : std::filesystem::directory_iterator(exampleFolder)) {
+    if (entry.path().extension() == ".md") continue;
+    EXPECT_TRUE(ReadDroppedFile(Now(), entry.path().string())) << entry.path();
+    EXPECT_TRUE(Shown().empty()) << entry.path() << LastText();
+  }
+  EXPECT_EQ(Get("cboDistrib"), "Special");
+  EXPECT_EQ(Get("optDisp"), "true");
+  EXPECT_FALSE(ReadDroppedFile(Now(), "holiday.jpg"));
+}
+
+TEST_F(InputFiles, TheMenuReadsAFileAndCancelLeavesTheModel) {
+  Do("click mnuRI_File1");
+  EXPECT_EQ(Get("mnuRI_IAPWS"), "true");
+  Do("open " + exampleFolder + "crown_glass.rix\nclick mnuRI_File1");
+  EXPECT_EQ(Get("lblSphere"), "Sphere: Crown glass");
+  EXPECT_EQ(Get("mnuRI_File1"), "true");
+  EXPECT_NEAR(Number("txtRefractReal"), 1.51452, 1e-4);
+}
+
+}  // namespace
+}  // namespace lumivex

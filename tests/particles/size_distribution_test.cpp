@@ -1,0 +1,275 @@
+#include "particles/size_distribution.h"
+
+#include <functional>
+
+#include "materials/material_fixture.h"
+#include "particles/kernel/gamma_function.h"
+#include "particles/kernel/normal_samples.h"
+#include "particles/kernel/size_models.h"
+#include "particles/read_size_dist.h"
+#include "particles/size_distribution_display.h"
+#include "particles/size_menus.h"
+#include "session/driver/solver_chain.h"
+#include "solvers/kernel/mie_series.h"
+
+namespace lumivex {
+namespace {
+
+TEST(GammaFunction, AgreesWithTheLibrary) {
+  for (const double x : {1.0 / 3, 0.5, -0.5, -1.5, 5.0, 1.0, 12.25, -7.3, 100.5}) {
+    double value = 0;
+    GammaFunction(x, value);
+    EXPECT_NEAR(value / std::tgamma(x), 1, 1e-13) << x;
+  }
+  double pole = 0;
+  for (const double x : {0.0, -1.0, -5.0}) {
+    GammaFunction(x, pole);
+    EXPECT_EQ(pole, 1e100) << x;
+  }
+}
+
+TEST(NormalSamples, AreSymmetricSlicesOfUnitDeviation) {
+  EXPECT_EQ(NormalSamples(5), (std::vector<float>{0, 0, 0.59881F, 1.46336F, -0.59881F, -1.46336F}));
+  EXPECT_TRUE(NormalSamples(7).empty());
+  for (const int count : {10, 20, 50}) {
+    const auto samples = NormalSamples(count);
+    ASSERT_EQ(samples.size(), static_cast<std::size_t>(count) + 1);
+    double sum = 0, squares = 0;
+    for (std::size_t i = 1; i < samples.size(); ++i) {
+      sum += double{samples[i]};
+      squares += double{samples[i]} * double{samples[i]};
+    }
+    EXPECT_NEAR(sum, 0, 1e-6);
+    EXPECT_NEAR(squares / count, 1, 0.07) << count;
+  }
+}
+
+struct ModelCase {
+  const char* name;
+  SizeModel model;
+  double tolerance;
+};
+
+std::vector<ModelCase> Models() {
+  return {{"cloud", CumulusCloud, 1e-3},
+          {"haze", Haze, 2e-3},
+          {"gamma", *GammaOfShape(2, 10), 1e-3},
+          {"maritime", AerosolModes("Aerosol m0"), 0.02},
+          {"rural", AerosolModes("Aerosol m6"), 0.02},
+          {"modes", std::vector<SizeMode>{{10, 1.2, 1}, {5, 1.1, 0.5}}, 2e-3}};
+}
+
+TEST(SizeModels, RangesHoldAllButOneInTenThousand) {
+  for (const auto& c : Models()) {
+    const auto samples = SampleModel(c.model, 20, SizeSteps::Ratio);
+    EXPECT_NEAR(NumberBelow(c.model, samples.lowest), 5e-5, 1e-7) << c.name;
+    EXPECT_NEAR(NumberBelow(c.model, samples.highest), 1 - 5e-5, 1e-7) << c.name;
+  }
+}
+
+TEST(SizeModels, FiftySamplesMeetAFineIntegration) {
+  for (const auto& c : Models())
+    for (const auto steps : {SizeSteps::Ratio, SizeSteps::Equal}) {
+      const auto few = SampleModel(c.model, 50, steps), many = SampleModel(c.model, 20000, SizeSteps::Ratio);
+      const auto mean = [](const SizeSamples& s, double power) {
+        double sum = 0;
+        for (std::size_t i = 1; i < s.radius.size(); ++i) sum += s.weight[i] * std::pow(s.radius[i], power);
+        return sum;
+      };
+      // Wide distributions need equal ratios.
+      const bool wide = few.highest > 100 * few.lowest;
+      if (wide && steps == SizeSteps::Equal) continue;
+      EXPECT_NEAR(mean(few, 1) / mean(many, 1), 1, c.tolerance) << c.name;
+      EXPECT_NEAR(mean(few, 2) / mean(many, 2), 1, 2 * c.tolerance) << c.name;
+    }
+}
+
+TEST(SizeModels, HaveTheirPublishedMoments) {
+  const auto effective = [](const SizeModel& model) {
+    const auto s = SampleModel(model, 20000, SizeSteps::Ratio);
+    double two = 0, three = 0;
+    for (std::size_t i = 1; i < s.radius.size(); ++i) {
+      two += s.weight[i] * std::pow(s.radius[i], 2);
+      three += s.weight[i] * std::pow(s.radius[i], 3);
+    }
+    return three / two;
+  };
+  EXPECT_NEAR(effective(CumulusCloud), 6, 0.01);
+  EXPECT_NEAR(effective(Haze), 0.9, 0.03);  // its tail is cut off
+  EXPECT_NEAR(effective(*GammaOfShape(3, 7)), 7, 0.02);
+  EXPECT_FALSE(GammaOfShape(0, 7));
+  EXPECT_FALSE(AreUsable({{1, 1, 1}}));
+  EXPECT_FALSE(AreUsable({{1, 2, 0}}));
+}
+
+class SizeDistribution : public MaterialSession {
+ protected:
+  void Disperse(const std::string& name, const std::string& samples, const std::string& deviation) {
+    Do("click optDisp");
+    Now().form1.cboDistrib.Text = name;
+    Now().form1.cboN.Text = samples;
+    Now().form1.cboSD.Text = deviation;
+  }
+};
+
+/// Qext of a sphere of water at 0.65 um.
+double ExtinctionOfWater(double radius, double n) {
+  MieRequest request;
+  request.x = 2 * 3.14159265358979324 * radius / 0.65;
+  request.mRe = n;
+  request.NANG = 2;
+  request.window = {1, 1};
+  SilentMonitor silent;
+  return SolveMie(request, silent).efficiencies.Qext;
+}
+
+TEST_F(SizeDistribution, TheMeanOfALogNormalCloudMeetsItsIntegral) {
+  Do("click mnuRI_Vacuum2\nclick mnuRI_Perm1\nclick optDisp\nset txtRadius 2");
+  Disperse("Log-normal", "50", "20");
+  Do("click cmdNewPlot");
+  ASSERT_TRUE(Shown().empty()) << LastText();
+  const double n = State().RefractReal, width = std::log(1.2);
+  double sum = 0, weights = 0;
+  for (int i = -2000; i <= 2000; ++i) {
+    const double z = i * 0.0025, weight = std::exp(-z * z / 2);
+    sum += weight * ExtinctionOfWater(2 * std::exp(z * width), n);
+    weights += weight;
+  }
+  EXPECT_NEAR(State().Qext / (sum / weights), 1, 0.01);
+  EXPECT_EQ(State().NumberSamples, 50);
+  EXPECT_EQ(State().Radius, 2);
+  EXPECT_EQ(State().Waves.Terms(), 0);
+}
+
+TEST_F(SizeDistribution, NoDeviationIsOneSphere) {
+  Do("click cmdNewPlot");
+  const auto one = State().Iperp;
+  const double Qext = State().Qext, g = State().Gsca;
+  Disperse("Log-normal", "20", "0");
+  Do("click cmdNewPlot");
+  ASSERT_EQ(State().Iperp.size(), one.size());
+  for (std::size_t j = 1; j + 101 < one.size(); ++j) ASSERT_NEAR(State().Iperp[j] / one[j], 1, 1e-12) << j;
+  EXPECT_NEAR(State().Qext, Qext, 1e-12);
+  EXPECT_NEAR(State().Gsca, g, 1e-12);
+}
+
+TEST_F(SizeDistribution, EveryDistributionRuns) {
+  ASSERT_TRUE(ReadSizeDist(Now(), exampleFolder + "fog_classes.dis"));
+  State().RestoringSettings = 1;
+  for (const char* name : {"Normal", "Log-normal", "Multimodal", "Gamma", "Cumulus cloud", "Haze", "Special",
+                           "Aerosol m0", "Aerosol m6"}) {
+    Disperse(name, "10", "5");
+    DistDisplay(Now());
+    Do("click cmdNewPlot");
+    EXPECT_TRUE(Shown().empty()) << name << LastText();
+    EXPECT_GT(State().Qext, 0) << name;
+    EXPECT_EQ(State().NumberSamples, std::string(name) == "Special" ? 9 : 10) << name;
+  }
+}
+
+TEST_F(SizeDistribution, OneAngleMeetsTheSameRowOfAllAngles) {
+  Disperse("Gamma", "10", "3");
+  Do("click cmdNewPlot");
+  const int row = 601;
+  const double perpendicular = State().S1.Intensity(row), parallel = State().S2.Intensity(row);
+  const double g = State().Gsca, crossRe = State().CloudCrossRe[row];
+  const auto solve = [&]() -> std::optional<SpherePoint> {
+    CallSolver(Now(), row, row);
+    const auto& s = State();
+    return SpherePoint{s.S1.Value(row), s.S2.Value(row), s.Qext, s.Qsca, s.Qback, s.Gsca};
+  };
+  const auto point = DispCalcPoint(Now(), solve, [](Session&) {});
+  ASSERT_TRUE(point);
+  EXPECT_NEAR(point->perpendicular / perpendicular, 1, 1e-12);
+  EXPECT_NEAR(point->parallel / parallel, 1, 1e-12);
+  EXPECT_NEAR(point->cross.re / crossRe, 1, 1e-9);
+  EXPECT_NEAR(point->g, g, 1e-12);
+}
+
+TEST_F(SizeDistribution, AStopLeavesTheMeanOfTheSamplesDone) {
+  Disperse("Log-normal", "20", "5");
+  State().Radius = 10;
+  State().NANG = 91;
+  static int solved;
+  solved = 0;
+  const auto solve = [](Session& session, int low, int high) {
+    CallSolver(session, low, high);
+    if (++solved < 5) return;
+    session.state.PlotMode = 4;
+    session.state.StopAnswer = 1;
+  };
+  DispCalc(Now(), 1, 181, {solve, [](Session&) {}});
+  EXPECT_EQ(solved, 5);
+  EXPECT_GT(State().S1.Intensity(1), 0);
+  EXPECT_GT(State().Qext, 1.5);
+  EXPECT_LT(State().Qext, 2.5);
+  EXPECT_EQ(State().Radius, 10);
+  State().PlotMode = 1;
+}
+
+TEST_F(SizeDistribution, ActualNumbersAreNotDividedOut) {
+  Now().forms.dlogDistOption.optActual.Select();
+  const std::string table = "Lumivex 300\na\na\na\na\na\na\na\na\na\na\na\na\num\nUniform\n2\n1, 30\n2, 10\n";
+  ASSERT_TRUE(ReadSizeDist(Now(), Write("few.dis", table)));
+  UseSizeFile(Now());
+  Do("click optDisp\nclick cmdNewPlot");
+  const double actual = State().Iperp[1], Qext = State().Qext;
+  Now().forms.dlogDistOption.optNormalise.Select();
+  Do("click cmdNewPlot");
+  EXPECT_NEAR(actual / State().Iperp[1], 40, 1e-9);
+  EXPECT_NEAR(Qext / State().Qext, 40, 1e-9);
+}
+
+TEST_F(SizeDistribution, NegativeRadiiAreRefused) {
+  Disperse("Normal", "50", "50");
+  DistDisplay(Now());
+  EXPECT_EQ(LastTitle(), "Input error");
+  EXPECT_EQ(LastText(), "Reduce standard deviation to avoid negative values of radius");
+}
+
+TEST_F(SizeDistribution, InputsFollowTheDistribution) {
+  Do("click optDisp");
+  EXPECT_EQ(Get("cboN"), "20");
+  EXPECT_EQ(Get("Label11"), "Std Dev %");
+  Do("choose cboDistrib Gamma");
+  EXPECT_EQ(Get("Label11"), "Gamma");
+  EXPECT_EQ(Get("cboSD"), "2");
+  Do("choose cboDistrib Haze");
+  EXPECT_EQ(Get("txtRadius.Visible"), "false");
+  EXPECT_EQ(Get("cboSD.Visible"), "false");
+  EXPECT_EQ(Get("cboN.Visible"), "true");
+  Do("choose cboDistrib Special");  // no file is chosen
+  EXPECT_EQ(Get("cboDistrib"), "Log-normal");
+  EXPECT_EQ(Get("txtRadius.Visible"), "true");
+  State().GraphType = 20;
+  Do("choose cboDistrib Special");
+  EXPECT_EQ(LastText(), "Special distributions are not available for Lee diagrams");
+  EXPECT_EQ(Get("cboDistrib"), "Log-normal");
+  State().GraphType = 1;
+  Do("click optMono");
+  EXPECT_EQ(Get("cboDistrib.Visible"), "false");
+  EXPECT_EQ(Get("txtRadius.Visible"), "true");
+}
+
+TEST_F(SizeDistribution, TheStripShowsTheSamples) {
+  Disperse("Log-normal", "20", "10");
+  RecordingSurface strip(19200, 15360);
+  Now().surface = &strip;
+  DistDisplay(Now());
+  int bars = 0;
+  double highest = 1e9;
+  std::string texts;
+  for (const auto& operation : strip.Operations()) {
+    const std::string line = operation.Describe();
+    texts += line + "\n";
+    if (operation.kind != DrawnOperation::Kind::Line || operation.points[0].x != operation.points[1].x) continue;
+    bars += operation.points[0].y == 2100;
+    highest = std::min(highest, operation.points[1].y);
+  }
+  EXPECT_EQ(bars, 20) << texts;
+  EXPECT_NEAR(highest, 100, 1e-9);
+  EXPECT_NE(texts.find("20-point approximation of Log-normal distribution"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace lumivex
