@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <string>
+#include <vector>
 
 #include "graphs/curve_path.h"
 #include "graphs/scale.h"
@@ -73,20 +75,27 @@ void PaintRimAngles(FramePaint& paint, const PolarMap& map) {
   }
 }
 
+/// Below the circle, or beside it where the page ends before.
 void PaintScaleText(FramePaint& paint, const PolarMap& map) {
   auto& surface = paint.surface;
-  double y = map.centreY + map.radius * 3080 / 3000 + 1.3 * surface.TextHeight("X") + 60;
-  const auto line = [&](const std::string& text) {
-    surface.CurrentX = map.centreX - 0.5 * surface.TextWidth(text);
+  std::vector<std::string> lines;
+  if (paint.kind.ampPhase) lines.emplace_back("Amplitude");
+  lines.emplace_back(map.logarithmic ? "Logarithmic scale" : "Linear scale");
+  lines.push_back("Value at outer circle = " + Format(map.outer, "Scientific"));
+  lines.push_back("Value at centre = " + Format(map.logarithmic ? map.inner : 0, "Scientific"));
+
+  const double height = surface.TextHeight("X"), total = height * static_cast<double>(lines.size());
+  double y = map.centreY + map.radius * 3080 / 3000 + 1.3 * height + 60;
+  const bool below = y + total <= surface.ScaleHeight();
+  if (!below) y = map.centreY - 0.5 * total;
+  for (const auto& text : lines) {
+    const double width = surface.TextWidth(text);
+    surface.CurrentX = below ? map.centreX - 0.5 * width : map.centreX + 1.25 * map.radius;
     surface.CurrentY = y;
+    paint.labels.Take(surface.CurrentX, y, width, height);
     surface.Print(text, false);
-    paint.labels.Take(surface.CurrentX - surface.TextWidth(text), y, surface.TextWidth(text), surface.TextHeight(text));
-    y += surface.TextHeight(text);
-  };
-  if (paint.kind.ampPhase) line("Amplitude");
-  line(map.logarithmic ? "Logarithmic scale" : "Linear scale");
-  line("Value at outer circle = " + Format(map.outer, "Scientific"));
-  line("Value at centre = " + Format(map.logarithmic ? map.inner : 0, "Scientific"));
+    y += height;
+  }
 }
 
 bool RangeIsWhole(const Form1& form) {
