@@ -4,7 +4,7 @@
 
 #include <filesystem>
 #include <fstream>
-#include <regex>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -15,7 +15,8 @@ const fs::path sourceRoot = fs::path(LUMIVEX_SOURCE_DIR) / "src";
 
 /// Height of a file by its folder, from the bottom: numerics, record, routines, session, scripts and files, window.
 int Storey(const std::string& file) {
-  if (std::regex_search(file, std::regex("(^|/)(kernel|tables)/"))) return 0;
+  const std::string path = "/" + file;
+  if (path.find("/kernel/") != std::string::npos || path.find("/tables/") != std::string::npos) return 0;
   if (file.starts_with("session/record/") || file == "session/main_form_state.h") return 1;
   if (file.starts_with("ui/")) return 5;
   if (file.starts_with("scripts/") || file.starts_with("files/")) return 4;
@@ -28,16 +29,25 @@ struct Include {
   bool quoted;
 };
 
+/// What a line includes: the delimiter and the name, or nothing.
+std::optional<std::pair<char, std::string>> ReadInclude(const std::string& line) {
+  const auto word = line.find("#include");
+  if (word == std::string::npos || line.find_first_not_of(" \t") != word) return std::nullopt;
+  const auto open = line.find_first_of("<\"", word);
+  if (open == std::string::npos) return std::nullopt;
+  const auto close = line.find_first_of(">\"", open + 1);
+  return std::pair{line[open], line.substr(open + 1, close - open - 1)};
+}
+
 std::vector<Include> AllIncludes() {
   std::vector<Include> includes;
-  const std::regex line("^\\s*#\\s*include\\s*([<\"])([^>\"]+)[>\"]");
   for (const auto& entry : fs::recursive_directory_iterator(sourceRoot)) {
     if (entry.path().extension() != ".h" && entry.path().extension() != ".cpp") continue;
     std::ifstream file(entry.path());
-    std::smatch match;
     for (std::string text; std::getline(file, text);)
-      if (std::regex_search(text, match, line))
-        includes.push_back({fs::relative(entry.path(), sourceRoot).generic_string(), match[2], match[1] == "\""});
+      if (const auto include = ReadInclude(text))
+        includes.push_back(
+            {fs::relative(entry.path(), sourceRoot).generic_string(), include->second, include->first == '"'});
   }
   return includes;
 }
