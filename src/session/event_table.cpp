@@ -14,6 +14,7 @@
 #include "session/start_up.h"
 #include "session/undo.h"
 #include "session/window_events.h"
+#include "solvers/debye_menus.h"
 
 namespace lumivex {
 
@@ -39,6 +40,11 @@ constexpr EventRow eventRows[] = {
     {"cboGraph_Click", cboGraph_Click},
     {"cboWave_Click", cboWave_Click},
     {"cboPol_Click", Scale_Click},
+    {"mnuDiffractionNew_Click", mnuDiffractionNew_Click},
+    {"mnuHuygens_Click", mnuHuygens_Click},
+    {"mnuAperture_Click", mnuAperture_Click},
+    {"mnuvdh_Click", mnuvdh_Click},
+    {"mnuDebyeSequence_Click", mnuDebyeSequence_Click},
 
     // Inputs.
     {"Inputs_Changed", Inputs_Changed},
@@ -95,6 +101,7 @@ EventTable::EventTable() {
   for (const auto& row : eventRows) Add(row.name, row.handler);
   for (const auto& row : LookEvents()) Add(row.name, row.handler);
   for (const auto& row : MaterialEvents()) Add(row.name, row.handler);
+  for (const auto& row : SolverEvents()) Add(row.name, row.handler);
 }
 
 void EventTable::Add(std::string_view name, Handler handler) {

@@ -99,12 +99,19 @@ void AxisCaptionsOf(Form1& form, const AxisGraph& graph) {
   form.Label5.Caption = form.mnuXStepLog.Checked ? "No. of steps" : WithUnit("Step", captions.unit);
 }
 
+bool IsDebyeAnalysis(const RunState& s) {
+  return s.GraphType == 10 && s.GraphSubType == 10;
+}
+
 /// The further axis is for Lee diagrams, maps, impulse and power graphs, and for the angle of x-axis graphs.
 void ShowFurtherAxis(Session& session, const AxisGraph* graph) {
   auto& form = session.form1;
   const int type = session.state.GraphType;
   const bool power = graph != nullptr && graph->quantity == AxisQuantity::Power;
-  const bool angle = graph != nullptr && !NeedsNoAngle(*graph) && !power;
+  const int method = session.state.CalcMethod;
+  const bool strips = (type == 1 || type == 19) && (method == 9 || method == 10);
+  const bool onePoint = IsDebyeAnalysis(session.state);
+  const bool angle = (graph != nullptr && !NeedsNoAngle(*graph) && !power) || strips || onePoint;
   const bool axis = power || (type >= 19 && type < 30 && type != 20);
   form.Frame9.Visible = angle || axis;
   form.Label19.Visible = form.txtAngle.Visible = angle;
@@ -112,8 +119,10 @@ void ShowFurtherAxis(Session& session, const AxisGraph* graph) {
                                                           &form.Label35, &form.txtF9_step})
     control->Visible = axis;
   form.Label30.Visible = form.txtF9_fixed.Visible = axis && !power;
+  form.Label19.Caption = !strips ? "Scattering angle" : method == 9 ? "Number of rays" : "Number of strips";
+  if (strips) form.Frame9.Caption = method == 9 ? "Wavefront" : "Aperture";
+  if (onePoint) form.Frame9.Caption = "Angle";
   if (graph == nullptr) return;
-  form.Label19.Caption = "Scattering angle";
   form.Frame9.Caption = power ? "Scattering angle" : "Angle";
   if (!power) return;
   form.Label32.Caption = "Minimum, maximum";
@@ -219,6 +228,7 @@ void ShowFamilyInputs(Session& session) {
   } else {
     AngleCaptions(form);
   }
+  form.Frame2.Visible = !IsDebyeAnalysis(session.state);
   form.Frame8.Caption = type == 18 ? "Calculation of Watts/sq m" : "Intensity scale";
   form.Label18.Caption = "Brightness";
   form.Label26.Caption = "Lee diagram";

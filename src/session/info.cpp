@@ -18,6 +18,15 @@ std::string TimeWords(double seconds) {
   return seconds < 1 ? Significant(seconds * 1000, 2) + " ms" : Significant(seconds, 3) + " s";
 }
 
+bool BySeries(const MainFormState& s) {
+  return s.CalcMethod <= 2 || s.CalcMethod == 13;
+}
+
+/// "117 terms, 3 ms"; the time alone for methods that sum no series.
+std::string RunWords(const MainFormState& s) {
+  return (BySeries(s) ? std::to_string(s.NSTOP) + " terms, " : "") + TimeWords(s.LastRunSeconds);
+}
+
 }  // namespace
 
 std::vector<std::string> RunParameters(const Session& session) {
@@ -37,7 +46,7 @@ std::vector<std::string> RunParameters(const Session& session) {
   lines.push_back(
       form.Frame2.Caption + ": " + Number(s.Xmin) + unit + " to " + Number(s.Xmax) + unit +
       (form.mnuXStepLog.Checked ? " in " + Number(s.Xstep) + " steps" : " in steps of " + Number(s.Xstep) + unit));
-  lines.push_back("Series: " + std::to_string(s.NSTOP) + " terms, " + TimeWords(s.LastRunSeconds));
+  lines.push_back((BySeries(s) ? "Series: " : "Calculated in ") + RunWords(s));
   return lines;
 }
 
@@ -54,7 +63,7 @@ std::string StatusText(const Session& session) {
   const auto& s = session.state;
   if (session.form1.txtProgress.Visible) return session.form1.txtProgress.Text;
   if (s.PrevGraphType == 0) return "Ready";
-  return session.form1.cboType.Text + ", " + std::to_string(s.NSTOP) + " terms, " + TimeWords(s.LastRunSeconds);
+  return session.form1.cboType.Text + ", " + RunWords(s);
 }
 
 }  // namespace lumivex

@@ -8,6 +8,7 @@
 #include "session/record/groups/light_state.h"
 #include "session/record/groups/material_state.h"
 #include "session/record/groups/optical_state.h"
+#include "session/record/groups/ray_state.h"
 #include "session/record/groups/result_arrays.h"
 #include "session/record/groups/run_state.h"
 #include "session/record/groups/series_state.h"
@@ -26,7 +27,8 @@ struct MainFormState : RunState,
                        LightState,
                        SizeState,
                        ColourState,
-                       GraphState {};
+                       GraphState,
+                       RayState {};
 
 /// Visits every field of the record as visit(name, field), group by group in the order above. State is MainFormState,
 /// const or not.
@@ -47,6 +49,7 @@ void ForEachStateField(State& state, Visitor&& visit) {
   group(as(std::type_identity<SizeState>{}));
   group(as(std::type_identity<ColourState>{}));
   group(as(std::type_identity<GraphState>{}));
+  group(as(std::type_identity<RayState>{}));
 }
 
 }  // namespace lumivex

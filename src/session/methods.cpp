@@ -4,8 +4,10 @@
 #include <array>
 
 #include "particles/size_distribution.h"
+#include "session/graph_types.h"
 #include "session/record/number_text.h"
 #include "solvers/debye_label.h"
+#include "solvers/rays_check.h"
 
 namespace lumivex {
 
@@ -50,6 +52,36 @@ bool OneOf(int code, std::initializer_list<int> codes) {
   return std::ranges::find(codes, code) != codes.end();
 }
 
+/// Wavefronts and strips are counted by the angle's input; small spheres around the rainbow show them best.
+void StripStartValues(Session& session) {
+  auto& form = session.form1;
+  const auto& s = session.state;
+  if (!OneOf(s.CalcMethod, {9, 10}) || !OneOf(s.GraphType, {1, 19}) || s.RestoringSettings != 0) return;
+  form.txtRadius.Text = "100";
+  form.cboRays.Text = "2";
+  form.txtXmin.Text = "120";
+  form.txtXmax.Text = "150";
+  form.cboStep.Text = "0.1";
+}
+
+/// Which illumination a method can have.
+void IlluminationOf(Session& session) {
+  auto& form = session.form1;
+  const int method = session.state.CalcMethod;
+  const bool beams = OneOf(method, {1, 2, 8, 11, 14});
+  form.mnuIllumination.Enabled = beams;
+  if (!beams) {
+    form.mnuPlaneWave.Checked = true;
+    form.mnuGaussian.Checked = form.mnuTopHat.Checked = form.mnuCentralBeam.Checked = false;
+  }
+  const bool rays = OneOf(method, {8, 14});
+  form.mnuTopHat.Visible = rays;
+  if (!rays) return;
+  form.mnuTopHat.Caption = "Top hat beam";
+  form.mnuGaussian.Caption = "Gaussian beam";
+  if (session.state.RestoringSettings == 0) form.txtAngle.Text = "90";
+}
+
 }  // namespace
 
 std::span<const MethodRow> MethodTable() {
@@ -85,8 +117,54 @@ void cboType_click(Session& session) {
   TypeCalc(session);
   const bool byRays = OneOf(s.CalcMethod, {2, 5, 6, 7, 8, 9, 10, 11, 14});
   form.cboRays.Visible = form.Label9.Visible = byRays;
+  if (s.CalcMethod == 5 && (form.cboRays.Text == "0" || form.cboRays.Text == "1")) form.cboRays.Text = "2";
+  if (byRays) cborays_Click(session);
+  form.chkDiffraction.Visible = OneOf(s.CalcMethod, {6, 7, 8, 14});
+  form.mnuHidden.Visible = OneOf(s.CalcMethod, {3, 8, 14});
+  StripStartValues(session);
+  IlluminationOf(session);
+  const bool surfaceWave = s.CalcMethod == 11;
+  form.cboQmin.Visible = form.cboQmax.Visible = form.lblQminQmax.Visible = form.txtSWAmp.Visible = surfaceWave;
+  form.mnuSurfaceWave.Visible = surfaceWave;
+  if (surfaceWave) form.txtSWAmp.Text = "1";
+  ShowFamilyInputs(session);
   form.cmdNewPlot.Enabled = true;
   DebyeLabel(session);
+}
+
+void ChooseMethod(Session& session, std::string_view text) {
+  auto& list = session.form1.cboType;
+  if (!list.Holds(text)) list.Items.emplace_back(text);
+  list.Text = text;
+  cboType_click(session);
+}
+
+void mnuDiffractionNew_Click(Session& session) {
+  ChooseMethod(session, "Diffraction new");
+}
+
+void mnuHuygens_Click(Session& session) {
+  ChooseMethod(session, "Huygens");
+}
+
+void mnuAperture_Click(Session& session) {
+  ChooseMethod(session, "Aperture");
+}
+
+void mnuvdh_Click(Session& session) {
+  ChooseMethod(session, "van de Hulst");
+}
+
+void mnuDebyeSequence_Click(Session& session) {
+  auto& dialog = session.forms.dlogDebyeSeq;
+  const FormSnapshot before = dialog.Snapshot();
+  if (session.state.RestoringSettings == 0 && !session.platform.ShowModal(dialog)) return dialog.Restore(before);
+  ChooseMethod(session, "Debye");
+  auto& graphs = session.form1.cboGraph;
+  constexpr std::string_view analysis = "Debye analysis";
+  if (!graphs.Holds(analysis)) graphs.Items.emplace_back(analysis);
+  graphs.Text = analysis;
+  session.events.Raise("cboGraph_Click");
 }
 
 void NumberWavelengths(Session& session) {

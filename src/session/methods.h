@@ -32,6 +32,18 @@ void TypeCalc(Session& session);
 /// cboType_click: what shows and what is allowed with the chosen method.
 void cboType_click(Session& session);
 
+/// Chooses a method by its text, which joins the list where it is not in it: the way of the methods that have a menu
+/// entry instead of a place in the list.
+void ChooseMethod(Session& session, std::string_view text);
+
+void mnuDiffractionNew_Click(Session& session);
+void mnuHuygens_Click(Session& session);
+void mnuAperture_Click(Session& session);
+void mnuvdh_Click(Session& session);
+
+/// Asks how far the Debye terms of one point are followed, and chooses the graph that shows them.
+void mnuDebyeSequence_Click(Session& session);
+
 /// Settles NumberWavelengths from cboWave ("RGB" is 3; "High", "Med." and "Low" depend on the radius).
 void NumberWavelengths(Session& session);
 

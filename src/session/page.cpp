@@ -1,5 +1,6 @@
 #include "session/page.h"
 
+#include "graphs/huygens_drawing.h"
 #include "graphs/redraw.h"
 #include "particles/size_distribution_display.h"
 #include "solvers/visible_data.h"
@@ -11,6 +12,7 @@ void DrawPage(Session& session) {
   PrintTitle(session);
   VisibleData(session);
   DistDisplay(session, false);
+  DrawHuygens(session);
 }
 
 }  // namespace lumivex

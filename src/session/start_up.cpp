@@ -117,6 +117,7 @@ void HideUnavailable(Form1& f) {
   f.txtSWAmp.Visible = f.cboQmin.Visible = f.cboQmax.Visible = f.lblQminQmax.Visible = false;
   f.chkDiffraction.Visible = f.chkComponents.Visible = false;
   f.Label9.Visible = f.cboRays.Visible = false;
+  f.mnuHidden.Visible = f.mnuBessel.Visible = f.mnuAiry.Visible = f.mnuReadDiff.Visible = false;
   f.lblSpectrum.Visible = f.lblSpectrumBand.Visible = f.mnuSpectrum.Visible = false;
   f.optPoint.Visible = f.optSun.Visible = IsAvailable(Feature::GraphLook);
   f.Label4.Visible = f.cboWave.Visible = IsAvailable(Feature::SeveralWavelengths);

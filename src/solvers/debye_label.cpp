@@ -1,6 +1,7 @@
 #include "solvers/debye_label.h"
 
 #include "session/record/number_text.h"
+#include "solvers/rays_check.h"
 
 namespace lumivex {
 
@@ -21,8 +22,9 @@ std::string BeamLabel(const Details& d) {
 
 /// " (p = 2)" or ": Pmin = 0, Pmax = 4, Step = 1".
 std::string RayText(const Details& d) {
-  if (d.p == "Multiple")
-    return " (p = Multiple) : Pmin = " + d.range.Pmin + ", Pmax = " + d.range.Pmax + ", Step = " + d.range.Pstep;
+  if (d.p == "Multiple" && d.range)
+    return " (p = Multiple) : Pmin = " + d.range->Pmin + ", Pmax = " + d.range->Pmax + ", Step = " + d.range->Pstep;
+  if (d.p == "Multiple") return " (p = " + d.selected + ")";
   if (Val(d.p) < 0) return " (p = 0 to " + Shortest(-Val(d.p)) + ")";
   return " (p = " + d.p + ")";
 }
@@ -37,11 +39,16 @@ std::string DebyeText(const Details& d) {
   const std::string name = d.difference == MinusGo   ? "Debye series - GO"
                            : d.difference == FromMie ? "Mie - Debye series"
                                                      : "Debye series";
-  return name + BeamSuffix(d.beam) + RayText(d);
+  const std::string waves = d.partial ? ": " + d.partial->first + "x - " + d.partial->last + "x" : "";
+  return name + waves + BeamSuffix(d.beam) + RayText(d);
 }
 
 std::string RayTheory(const char* name, const Details& d) {
-  return name + BeamSuffix(d.beam) + RayText(d) + (d.diffraction ? "+ Diffraction" : "");
+  return name + BeamSuffix(d.beam) + RayText(d);
+}
+
+std::string RaySum(const char* name, const Details& d) {
+  return RayTheory(name, d) + (d.diffraction ? "+ Diffraction" : "");
 }
 
 std::string SurfaceWaveText(const Details& d) {
@@ -93,14 +100,18 @@ std::string DebyeLabelText(const DebyeLabelDetails& d) {
       return d.beam == Details::Beam::Gaussian ? BeamLabel(d) : "Mie (plane wave)";
     case 2:
       return DebyeText(d);
+    case 4:
+      return "Diffraction";
+    case 3:
+      return "Rayleigh scattering";
     case 5:
       return RayTheory("Airy theory", d);
     case 6:
-      return RayTheory("Descartes", d);
+      return RaySum("Descartes", d);
     case 7:
-      return RayTheory("Young", d);
+      return RaySum("Young", d);
     case 8:
-      return RayTheory("Young mod.", d);
+      return RaySum("Young mod.", d);
     case 9:
       return RayTheory("Huygens", d);
     case 11:
@@ -108,7 +119,7 @@ std::string DebyeLabelText(const DebyeLabelDetails& d) {
     case 13:
       return CoatedText(d.coating);
     case 14:
-      return RayTheory("Young + Airy", d);
+      return RaySum("Young + Airy", d);
     case 16:
       return "Heiligenschein (L = " + d.heiligenscheinL + ", gamma = " + d.heiligenscheinGamma + ")";
     case 17:
@@ -123,7 +134,17 @@ void DebyeLabel(Session& session) {
   Details details;
   details.method = session.state.CalcMethod;
   details.p = form.cboRays.Text;
-  details.diffraction = form.chkDiffraction.Checked;
+  if (details.p == "Multiple") {
+    const auto& dialog = session.forms.dlogP;
+    RaysCheck(session);
+    if (dialog.chkMultStep.Checked)
+      details.range = {dialog.txtPmin.Text, dialog.txtPmax.Text, dialog.txtPstep.Text};
+    else
+      details.selected = SelectedRaysText(session.state.RayEnabled);
+  }
+  const auto& partial = session.forms.dlogPartial;
+  if (partial.optPartial.Checked) details.partial = {partial.txtMin.Text, partial.txtMax.Text};
+  details.diffraction = WithDiffraction(session);
   if (form.mnuGODebye.Checked || form.mnuSWsub.Checked) details.difference = Details::Difference::MinusGo;
   if (form.mnuMieDebye.Checked) details.difference = Details::Difference::FromMie;
   session.form1.lblDebyeRays.Caption = DebyeLabelText(details);

@@ -22,6 +22,10 @@ struct DebyeLabelDetails {
   struct RayRange {
     std::string Pmin, Pmax, Pstep;
   };
+  /// Ends of the partial waves summed, over x.
+  struct PartialRange {
+    std::string first, last;
+  };
   /// A coated sphere: version 1 or 2; N, A, B of its Debye series where that is what is summed.
   struct Coating {
     int version = 1;
@@ -37,8 +41,10 @@ struct DebyeLabelDetails {
   Beam beam = Beam::PlaneWave;
   BeamNumbers beamNumbers;
   Difference difference = Difference::None;
-  std::string p = "0";  ///< text of cboRays
-  RayRange range;       ///< used when p reads "Multiple"
+  std::string p = "0";                  ///< text of cboRays
+  std::optional<RayRange> range;        ///< for "Multiple" by a range of p
+  std::string selected;                 ///< for "Multiple" one by one: "0, 3"
+  std::optional<PartialRange> partial;  ///< of a Debye term
   Path path = Path::ShortAndLong;
   bool diffraction = false;
   Coating coating;

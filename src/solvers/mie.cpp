@@ -5,6 +5,7 @@
 
 #include "session/record/number_text.h"
 #include "solvers/arithmetic_guard.h"
+#include "solvers/kernel/mie_point.h"
 #include "solvers/kernel/mie_series.h"
 
 namespace lumivex {
@@ -31,6 +32,25 @@ MieRequest ReadRequest(const Session& session, const SolverCall& call) {
 void StoreRows(const AmplitudeTable& from, AmplitudeTable& to) {
   to.Resize(std::max(from.Rows(), to.Rows()));
   for (int row = 1; row <= from.Rows(); ++row) to.Set(row, from.Re(row), from.Im(row));
+}
+
+/// One angle in place of a table.
+void SolveAtAngle(Session& session, const MieRequest& request, double angle, AmplitudeTable& S1, AmplitudeTable& S2,
+                  Efficiencies& efficiencies) {
+  auto& s = session.state;
+  SilentMonitor silent;
+  const MiePoint point =
+      SolveMiePoint({request.x, request.mRe, request.mIm, angle, request.divideBySize, request.classicStart}, silent);
+  S1.Set(1, point.S1.re, point.S1.im);
+  S2.Set(1, point.S2.re, point.S2.im);
+  s.NSTOP = point.NSTOP;
+  s.NMX = point.NMX;
+  efficiencies = point.efficiencies;
+}
+
+void RefuseSize(Session& session) {
+  session.platform.Message("Error in BHMIE sub-routine", "Reduce radius or increase wavelength");
+  session.state.PlotMode = 4;
 }
 
 void StoreConvergence(Session& session, MieResult& result) {
@@ -62,12 +82,19 @@ void BHMIE(Session& session, const SolverCall& call, AmplitudeTable& S1, Amplitu
 
   const MieRequest request = ReadRequest(session, call);
   const ArithmeticGuard guard;
-  MieResult result = SolveMie(request, monitor);
-  if (result.refusal != MieRefusal::None) {
-    session.platform.Message("Error in BHMIE sub-routine", "Reduce radius or increase wavelength");
-    s.PlotMode = 4;
+  if (call.angle) {
+    if (CheckMieLimits(call.x, call.mRe, call.mIm) != MieRefusal::None) return RefuseSize(session);
+    Efficiencies efficiencies;
+    SolveAtAngle(session, request, *call.angle, S1, S2, efficiencies);
+    if (!guard.Passed(session)) return;
+    Qext = efficiencies.Qext;
+    Qsca = efficiencies.Qsca;
+    Qback = efficiencies.Qback;
+    g = efficiencies.g;
     return;
   }
+  MieResult result = SolveMie(request, monitor);
+  if (result.refusal != MieRefusal::None) return RefuseSize(session);
   if (!guard.Passed(session)) return;
 
   const AngleGrid grid(request.NANG);

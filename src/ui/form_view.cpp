@@ -13,7 +13,9 @@ namespace lumivex {
 
 namespace {
 
-constexpr int compactMargin = 6;  // frame and a dot of air above and below the text (pixels)
+constexpr std::size_t mostApart = 4;  // controls of a line that share its width by their contents
+constexpr int boxWidth = 28;          // a tick box and the air about it (pixels)
+constexpr int compactMargin = 6;      // frame and a dot of air above and below the text (pixels)
 
 bool IsInput(const Control& control) {
   return control.Kind() == ControlKind::TextInput || control.Kind() == ControlKind::SelectionList;
@@ -73,6 +75,10 @@ void FormView::AddLine(Form& form, const LayoutLine& line, const ControlActions&
         widget->setMinimumWidth(widget->fontMetrics().horizontalAdvance(text) + frameWidth_ +
                                 (isList ? arrowWidth_ : 0));
         widget->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+      }
+      if (controls.size() > mostApart) {
+        // Many small boxes: one below the other in every line.
+        widget->setFixedWidth(widget->fontMetrics().horizontalAdvance(QStringLiteral("00")) + boxWidth);
       }
       const bool isBetweenInputs = isLabel && inputs > 0 && !labelled;
       row->addWidget(widget, isBetweenInputs ? 0 : 1);

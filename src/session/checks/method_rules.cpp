@@ -8,6 +8,7 @@
 #include "session/checks/check.h"
 #include "session/methods.h"
 #include "session/record/number_text.h"
+#include "solvers/rays_check.h"
 #include "solvers/sphere_size.h"
 
 namespace lumivex {
@@ -87,9 +88,13 @@ Verdict MethodAgainstGraph(Check& check) {
     form.cboType.Text = "Mie";
     TypeCalc(check.session);
   }
+  if (s.GraphType == 10 && s.GraphSubType == 10 && s.CalcMethod != 2)
+    return Refuse(check, {&form.cboGraph}, onlyMieAndDebye);
   const bool onlyAgainstAngle = OneOf(s.CalcMethod, {10, 12, 17}) && IsAxisGraph(s);
   if (onlyAgainstAngle) return Refuse(check, {&form.cboGraph}, onlyMieAndDebye);
-  if (s.CalcMethod <= 2 || s.CalcMethod == 13 || s.GraphType == 14) return Verdict::GoOn;
+  if (s.CalcMethod <= 2 || s.CalcMethod == 13) return Verdict::GoOn;
+  // Of the other methods only the closed forms have efficiencies to plot against size.
+  if (s.GraphType == 14 && !OneOf(s.CalcMethod, {3, 4})) return Refuse(check, {&form.cboGraph}, onlyMieAndDebye);
   if (s.GraphType == 13) return Refuse(check, {&form.cboGraph}, onlyMie);
   if (OneOf(s.GraphType, {15, 16, 17})) return Refuse(check, {&form.cboGraph}, onlyMieAndDebye);
   return Verdict::GoOn;
@@ -130,8 +135,13 @@ Verdict DebyeInputs(Check& check) {
 Verdict AiryInputs(Check& check) {
   auto& form = check.form;
   if (check.state.CalcMethod != 5) return Verdict::GoOn;
-  if (form.cboRays.Text != "Multiple" && Val(form.cboRays.Text) < 2)
-    return Refuse(check, {&form.cboRays}, "Airy theory is valid only for p > 1");
+  bool below2 = Val(form.cboRays.Text) < 2;
+  if (form.cboRays.Text == "Multiple") {
+    RaysCheck(check.session);
+    const auto& enabled = check.state.RayEnabled;
+    below2 = (!enabled.empty() && enabled[0] != 0) || (enabled.size() > 1 && enabled[1] != 0);
+  }
+  if (below2) return Refuse(check, {&form.cboRays}, "Airy theory is valid only for p > 1");
   if (Val(form.txtRefractImag.Text) == 0) return Verdict::GoOn;
   Refuse(check, {&form.txtRefractImag}, "Airy theory is not valid for complex values of refractive index");
   form.txtRefractImag.Text = "0";

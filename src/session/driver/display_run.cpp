@@ -1,5 +1,6 @@
 #include "session/driver/display_run.h"
 
+#include "graphs/huygens_drawing.h"
 #include "graphs/line_graph.h"
 #include "graphs/polar_plot.h"
 #include "graphs/two_panels.h"
@@ -20,6 +21,7 @@ void DisplayRun(Session& session) {
   if (form.mnuPolarPlot.Checked) PolarLabel(session);
   PrintTitle(session);
   VisibleData(session);
+  DrawHuygens(session);
 }
 
 }  // namespace lumivex

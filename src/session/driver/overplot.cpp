@@ -86,6 +86,7 @@ void Overplot(Session& session) {
   s.YAxisMode = 0;
   ReadAxes(session);
   s.WavelengthPos = s.SamplePos = 1;
+  s.HuygensWaves.clear();
   ShowRunning(session);
   if (!ReadSphere(session)) s.PlotMode = stopRequested;
   if (s.GraphType < 19 && s.PlotMode != stopRequested) {

@@ -2,46 +2,16 @@
 
 #include <algorithm>
 
-#include "session/driver/progress.h"
 #include "session/driver/solver_chain.h"
 #include "session/record/number_text.h"
-#include "solvers/arithmetic_guard.h"
 #include "solvers/kernel/angle_grid.h"
-#include "solvers/kernel/mie_point.h"
+#include "solvers/kernel/mie_coefficients.h"
 
 namespace lumivex {
 
 namespace {
 
-constexpr int mieMethod = 1;
 constexpr int fineRowsTo90 = 9001;  // 0.01 degrees
-
-std::optional<PointResult> SolveMieAt(Session& session, double angle) {
-  auto& s = session.state;
-  if (RefuseBeyondMie(session, s.SizeParameter, s.RefRelReal, s.RefRelImag)) return std::nullopt;
-  SilentMonitor silent;
-  const ArithmeticGuard guard;
-  const MiePoint point = SolveMiePoint({s.SizeParameter, s.RefRelReal, s.RefRelImag, angle,
-                                        session.form1.mnuSize.Checked, session.form1.mnuClassicStart.Checked},
-                                       silent);
-  if (!guard.Passed(session)) return std::nullopt;
-  s.NSTOP = point.NSTOP;
-  s.NMX = point.NMX;
-  return PointResult{point.S1, point.S2, point.efficiencies};
-}
-
-/// By the method's table, of which one row is asked for.
-std::optional<PointResult> SolveByTable(Session& session, double angle) {
-  auto& s = session.state;
-  s.NANG = fineRowsTo90;
-  s.NN = 2 * s.NANG - 1;
-  const AngleGrid grid(s.NANG);
-  s.SelectedAngleIndex = std::clamp(ToWhole(angle / grid.DANG) + 1, 1, grid.RowCount());
-  CallSolver(session, s.SelectedAngleIndex, s.SelectedAngleIndex);
-  if (s.PlotMode == 4) return std::nullopt;
-  return PointResult{
-      s.S1.Value(s.SelectedAngleIndex), s.S2.Value(s.SelectedAngleIndex), {s.Qext, s.Qsca, s.Qback, s.Gsca}};
-}
 
 }  // namespace
 
@@ -53,7 +23,14 @@ bool RefuseBeyondMie(Session& session, double x, double mRe, double mIm) {
 }
 
 std::optional<PointResult> SolvePoint(Session& session, double angle) {
-  return session.state.CalcMethod == mieMethod ? SolveMieAt(session, angle) : SolveByTable(session, angle);
+  auto& s = session.state;
+  s.NANG = fineRowsTo90;
+  s.NN = 2 * s.NANG - 1;
+  s.SelectedAngleIndex = std::clamp(ToWhole(angle / AngleGrid(s.NANG).DANG) + 1, 1, s.NN);
+  AmplitudeTable S1(1), S2(1);
+  CallSolverAt(session, angle, S1, S2);
+  if (s.PlotMode == 4) return std::nullopt;
+  return PointResult{S1.Value(1), S2.Value(1), {s.Qext, s.Qsca, s.Qback, s.Gsca}};
 }
 
 }  // namespace lumivex

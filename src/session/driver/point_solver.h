@@ -15,8 +15,8 @@ struct PointResult {
 };
 
 /// The sphere that stands in the record (SizeParameter, RefRelReal, RefRelImag), seen at one angle (radians), by the
-/// solver of CalcMethod. Methods that only fill tables are asked for the nearest row of a grid of 0.01 degrees.
-/// Nothing after a failure, which sets PlotMode to 4 and is told.
+/// solver of CalcMethod. The record's grid becomes that of 0.01 degrees, SelectedAngleIndex its row nearest to the
+/// angle; what is calculated stands at the angle itself. Nothing after a failure, which sets PlotMode to 4 and is told.
 std::optional<PointResult> SolvePoint(Session& session, double angle);
 
 /// Whether a sphere lies beyond the limits of the Mie series; it is then told and PlotMode is 4.

@@ -1,9 +1,13 @@
 #include "session/driver/solver_chain.h"
 
+#include <algorithm>
 #include <array>
 
 #include "session/driver/progress.h"
+#include "solvers/debye.h"
 #include "solvers/mie.h"
+#include "solvers/rays.h"
+#include "solvers/simple_methods.h"
 
 namespace lumivex {
 
@@ -15,19 +19,33 @@ struct SolverRow {
                  RunMonitor&);
 };
 
-// One row a method, in the order of their codes.
+// One row a method, in the order of their codes. The differences of the Debye series stand in the row of the series.
 constexpr std::array solverRows = {
-    SolverRow{1, BHMIE},
+    SolverRow{1, BHMIE},    SolverRow{2, DebyeDifference},
+    SolverRow{3, Rayleigh}, SolverRow{4, Diffraction},
+    SolverRow{5, Airy},     SolverRow{6, GO},
+    SolverRow{7, GO},       SolverRow{8, GO},
+    SolverRow{9, Huygens},  SolverRow{10, Aperture},
+    SolverRow{12, vdh},     SolverRow{14, GO},
 };
+
+void Call(Session& session, const SolverCall& call, AmplitudeTable& S1, AmplitudeTable& S2) {
+  auto& s = session.state;
+  SessionMonitor monitor(session);
+  const auto row = std::ranges::find(solverRows, s.CalcMethod, &SolverRow::method);
+  if (row != solverRows.end()) row->solver(session, call, S1, S2, s.Qext, s.Qsca, s.Qback, s.Gsca, monitor);
+}
 
 }  // namespace
 
 void CallSolver(Session& session, int rowLow, int rowHigh) {
   auto& s = session.state;
-  SessionMonitor monitor(session);
-  const SolverCall call{s.SizeParameter, s.RefRelReal, s.RefRelImag, s.NANG, rowLow, rowHigh};
-  for (const auto& row : solverRows)
-    if (row.method == s.CalcMethod) row.solver(session, call, s.S1, s.S2, s.Qext, s.Qsca, s.Qback, s.Gsca, monitor);
+  Call(session, {s.SizeParameter, s.RefRelReal, s.RefRelImag, s.NANG, rowLow, rowHigh}, s.S1, s.S2);
+}
+
+void CallSolverAt(Session& session, double angle, AmplitudeTable& S1, AmplitudeTable& S2) {
+  const auto& s = session.state;
+  Call(session, {s.SizeParameter, s.RefRelReal, s.RefRelImag, s.NANG, 1, 1, angle}, S1, S2);
 }
 
 }  // namespace lumivex

@@ -8,4 +8,8 @@ namespace lumivex {
 /// efficiencies. A method without a solver does nothing.
 void CallSolver(Session& session, int rowLow, int rowHigh);
 
+/// The same for one scattering angle (radians) exactly, into row 1 of tables of the caller; S1 and S2 of the record
+/// stay.
+void CallSolverAt(Session& session, double angle, AmplitudeTable& S1, AmplitudeTable& S2);
+
 }  // namespace lumivex

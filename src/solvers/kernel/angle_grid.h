@@ -10,21 +10,33 @@ inline constexpr double AngleGridQuarterTurn = 1.570796326794895;
 
 /// The rows of scattering angles: NANG rows from 0 to 90 degrees inclusive, mirrored to 180 degrees.
 ///
-/// The first row is 1, at 0 degrees; row NANG is 90 degrees, row 2 NANG - 1 is 180 degrees.
+/// The first row is 1, at 0 degrees; row NANG is 90 degrees, row 2 NANG - 1 is 180 degrees. A grid of one angle (At)
+/// has row 1 alone, wherever that angle is.
 struct AngleGrid {
-  int NANG = 2;                        ///< Rows from 0 to 90 degrees, at least 2.
+  int NANG = 2;                        ///< Rows from 0 to 90 degrees, at least 2; 1 for a single angle.
   double DANG = AngleGridQuarterTurn;  ///< Step between rows, radians.
+  double first = 0.0;                  ///< Angle of row 1, radians; not 0 for a single angle only.
 
   AngleGrid() = default;
 
   /// @param rows  wanted NANG; below 2 becomes 2.
   explicit AngleGrid(int rows) : NANG(std::max(rows, 2)), DANG(AngleGridQuarterTurn / (NANG - 1)) {}
 
+  /// The grid whose only row is that angle (radians).
+  static AngleGrid At(double angle) {
+    AngleGrid grid;
+    grid.NANG = 1;
+    grid.first = angle;
+    return grid;
+  }
+
+  bool Single() const { return NANG == 1; }
+
   /// Rows over 0 to 180 degrees: 2 NANG - 1.
   int RowCount() const { return 2 * NANG - 1; }
 
   /// Angle of row j = 1..RowCount() in radians: (j - 1) DANG.
-  double Angle(int row) const { return (row - 1) * DANG; }
+  double Angle(int row) const { return first + (row - 1) * DANG; }
 
   /// The row of the same cosine apart from its sign: row NANG is its own mirror.
   int Mirror(int row) const { return 2 * NANG - row; }

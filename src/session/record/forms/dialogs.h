@@ -6,6 +6,7 @@
 #include "session/record/forms/light_dialogs.h"
 #include "session/record/forms/main_form.h"
 #include "session/record/forms/material_dialogs.h"
+#include "session/record/forms/ray_dialogs.h"
 #include "session/record/forms/size_dialogs.h"
 
 namespace lumivex {
@@ -51,7 +52,7 @@ struct DlogPlotColour final : Form {
 };
 
 /// Every window and dialog of a session.
-struct Forms : MaterialDialogs, LightDialogs, SizeDialogs {
+struct Forms : MaterialDialogs, LightDialogs, SizeDialogs, RayDialogs {
   Form1 form1;
   DlogTemp dlogTemp;
   DlogSpectrumBand dlogSpectrumBand;
@@ -61,7 +62,7 @@ struct Forms : MaterialDialogs, LightDialogs, SizeDialogs {
   /// All of them, the main window first.
   std::vector<Form*> All() {
     std::vector<Form*> all = {&form1, &dlogTemp, &dlogSpectrumBand, &dlogAverage, &dlogPlotColour};
-    for (const auto& more : {MaterialForms(), LightForms(), SizeForms()})
+    for (const auto& more : {MaterialForms(), LightForms(), SizeForms(), RayForms()})
       all.insert(all.end(), more.begin(), more.end());
     return all;
   }

@@ -121,6 +121,15 @@ struct Form1Menus : Form1Inputs {
   MenuEntry mnuGODebye{*this, "mnuGODebye", "GO - Debye"};
   MenuEntry mnuSWsub{*this, "mnuSWsub", "Debye series - GO"};
   MenuEntry mnuDebyeRecursion{*this, "mnuDebyeRecursion", "Recursion for Debye coefficients"};
+  MenuEntry mnuPartial{*this, "mnuPartial", "Partial waves of Debye terms ..."};
+  MenuEntry mnuDebyeSequence{*this, "mnuDebyeSequence", "Debye terms of one point ..."};
+  MenuEntry mnuDiffractionNew{*this, "mnuDiffractionNew", "Diffraction by partial waves"};
+  MenuEntry mnuHuygens{*this, "mnuHuygens", "Huygens' wavefronts"};
+  MenuEntry mnuAperture{*this, "mnuAperture", "Aperture of strips"};
+  MenuEntry mnuvdh{*this, "mnuvdh", "Glory of a ring (van de Hulst)"};
+  MenuEntry mnuBessel{*this, "mnuBessel", "Bessel functions"};
+  MenuEntry mnuAiry{*this, "mnuAiry", "Airy function"};
+  MenuEntry mnuReadDiff{*this, "mnuReadDiff", "Read a table of Bessel functions ..."};
   MenuEntry mnuSurfaceWave{*this, "mnuSurfaceWave", "Surface wave"};
   MenuEntry mnuMieGConv{*this, "mnuMieGConv", "Convergence against L"};
   MenuEntry mnuMieGConv2{*this, "mnuMieGConv2", "Convergence against M"};

@@ -4,6 +4,7 @@
 
 #include "session/record/layout/light_dialog_lines.h"
 #include "session/record/layout/material_dialog_lines.h"
+#include "session/record/layout/ray_dialog_lines.h"
 #include "session/record/layout/size_dialog_lines.h"
 
 namespace lumivex {
@@ -101,6 +102,7 @@ std::span<const DialogLayout> Dialogs() {
     add(materialDialogLayouts);
     add(lightDialogLayouts);
     add(sizeDialogLayouts);
+    add(rayDialogLayouts);
     return layouts;
   }();
   return all;

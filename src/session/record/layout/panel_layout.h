@@ -6,10 +6,10 @@
 
 namespace lumivex {
 
-/// A line of a frame or dialog: the names of up to four controls, from left to right ("" where there are fewer). A
+/// A line of a frame or dialog: the names of up to ten controls, from left to right ("" where there are fewer). A
 /// control that is not Visible gives up its place, a line without visible controls vanishes.
 struct LayoutLine {
-  std::array<std::string_view, 4> controls{};
+  std::array<std::string_view, 10> controls{};
 };
 
 /// A frame of the input panel and its lines from the top.
