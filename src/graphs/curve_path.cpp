@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <iterator>
 #include <limits>
+#include <span>
 
 #include "graphs/kernel/curve_smoothing.h"
 #include "graphs/kernel/polar_coordinates.h"
@@ -141,7 +143,8 @@ void DrawMarks(Session& session, const KeptPanel& panel, const KeptCurve& curve)
   const GraphBox box = WithRounding(panel.box);
   for (const auto& [row, p] : PlacedRows(session.state, panel, curve)) {
     if (!IsFinite(p) || (!polar && !box.Holds(p.x, p.y))) continue;
-    if (curve.kind == 1) surface.Circle(p.x, p.y, markSize, curve.colour);
+    surface.ForeColour = row < curve.colours.size() ? curve.colours[row] : curve.colour;
+    if (curve.kind == 1) surface.Circle(p.x, p.y, markSize, surface.ForeColour);
     if (curve.kind == 2) {
       surface.Line(p.x - markSize, p.y - markSize, p.x + markSize, p.y + markSize);
       surface.Line(p.x - markSize, p.y + markSize, p.x + markSize, p.y - markSize);
@@ -151,6 +154,40 @@ void DrawMarks(Session& session, const KeptPanel& panel, const KeptCurve& curve)
       surface.Line(p.x - markSize, p.y, p.x + markSize, p.y);
       surface.Line(p.x, p.y - markSize, p.x, p.y + markSize);
     }
+  }
+}
+
+void DrawRun(DrawingSurface& surface, std::span<const SurfacePoint> run) {
+  if (run.size() > 1)
+    surface.Polyline(run);
+  else
+    surface.PSet(run.front().x, run.front().y, surface.ForeColour);
+}
+
+/// Runs of a curve that changes its colour from row to row: pieces of one colour, which meet.
+void DrawColoured(Session& session, const KeptPanel& panel, const KeptCurve& curve) {
+  auto& surface = *session.surface;
+  auto rows = PlacedRows(session.state, panel, curve);
+  std::erase_if(rows, [](const PlacedRow& placed) { return !std::isfinite(placed.point.x); });
+  const auto colourAt = [&](double x) {
+    const auto after = std::ranges::lower_bound(rows, x, {}, [](const PlacedRow& placed) { return placed.point.x; });
+    const auto nearest =
+        after == rows.end() || (after != rows.begin() && x - std::prev(after)->point.x < after->point.x - x)
+            ? std::prev(after)
+            : after;
+    return nearest->row < curve.colours.size() ? curve.colours[nearest->row] : curve.colour;
+  };
+  for (const auto& run : CurveRuns(session.state, panel, curve)) {
+    std::size_t first = 0;
+    surface.ForeColour = colourAt(run.front().x);
+    for (std::size_t i = 1; i < run.size(); ++i) {
+      const Colour colour = colourAt(0.5 * (run[i - 1].x + run[i].x));
+      if (colour == surface.ForeColour) continue;
+      if (i > first + 1) DrawRun(surface, std::span(run).subspan(first, i - first));
+      first = i - 1;
+      surface.ForeColour = colour;
+    }
+    DrawRun(surface, std::span(run).subspan(first));
   }
 }
 
@@ -242,13 +279,10 @@ void DrawCurve(Session& session, const KeptPanel& panel, const KeptCurve& curve)
   surface.FillStyle = 1;
   if (curve.markers) {
     DrawMarks(session, panel, curve);
+  } else if (!curve.colours.empty() && !session.state.Drawn.kind.polar) {
+    DrawColoured(session, panel, curve);
   } else {
-    for (const auto& run : CurveRuns(session.state, panel, curve)) {
-      if (run.size() > 1)
-        surface.Polyline(run);
-      else
-        surface.PSet(run.front().x, run.front().y, curve.colour);
-    }
+    for (const auto& run : CurveRuns(session.state, panel, curve)) DrawRun(surface, run);
   }
   surface.DrawStyle = 0;
   surface.DrawWidth = 1;

@@ -98,36 +98,6 @@ void TakeComplexAmplitude(const MainFormState& s, KeptCurve& curve) {
   }
 }
 
-KeptCurve Captured(Session& session, std::span<const double> y, std::size_t panel) {
-  const auto& s = session.state;
-  const auto& form = session.form1;
-  KeptCurve curve;
-  curve.panel = panel;
-  curve.kind = s.CurveKind;
-  const bool second = s.Drawn.panels[panel].second;
-  curve.name = CurveName(s.Drawn.kind, s.CurveKind, second);
-  curve.y.assign(y.begin(), y.end());
-  curve.x = RowPositions(session, y.size());
-  for (std::size_t i = 1; i < curve.y.size(); ++i)
-    if (!std::isfinite(curve.x[i])) curve.y[i] = notComputed;
-  const bool phases = second && s.Drawn.kind.ampPhase;
-  if (form.optSun.Checked && s.GraphType < 10 && !phases && s.SunDiscWeight.size() > 1) {
-    const DiscWeights disc{s.SunDiscWeight, s.SunDiscRows, s.SunDiscTotal};
-    const bool mirrored = s.CalcMethod != heiligenschein && HasSolverRows(session);
-    curve.y = FoldedWithDisc(curve.y, disc, mirrored ? static_cast<std::size_t>(2 * s.NANG - 1) : 0);
-  }
-  if (s.Drawn.kind.polar && s.Drawn.kind.ampPhase) TakeComplexAmplitude(s, curve);
-  if (form.mnuAverage.Checked && s.Xstep > 0)
-    curve.averageRows = Val(session.forms.dlogAverage.txtAverage.Text) / s.Xstep;
-  curve.wraps = phases;
-  curve.interpolate = form.mnuInterpolate.Checked;
-  curve.markers = form.mnuDrawWidth0.Checked;
-  curve.colour = session.surface->ForeColour;
-  curve.drawStyle = form.mnuDash.Checked ? 1 : form.mnuDot.Checked ? 2 : 0;
-  curve.drawWidth = form.mnuDrawWidth2.Checked ? 2 : 1;
-  return curve;
-}
-
 /// Colour of a curve: of the wavelength where there are several, otherwise that of the menu.
 void TakeLineColour(Session& session) {
   const auto& s = session.state;
@@ -203,7 +173,37 @@ void FrameInBox(Session& session, const GraphBox& box, const CurveSet& curves) {
 void Plot(Session& session, std::span<const double> y, std::size_t panel) {
   session.platform.Yield();
   if (session.state.PlotMode == stopRequested || panel >= session.state.Drawn.panels.size()) return;
-  PlotCurve(session, Captured(session, y, panel));
+  PlotCurve(session, CapturedCurve(session, y, panel));
+}
+
+KeptCurve CapturedCurve(Session& session, std::span<const double> y, std::size_t panel) {
+  const auto& s = session.state;
+  const auto& form = session.form1;
+  KeptCurve curve;
+  curve.panel = panel;
+  curve.kind = s.CurveKind;
+  const bool second = s.Drawn.panels[panel].second;
+  curve.name = CurveName(s.Drawn.kind, s.CurveKind, second);
+  curve.y.assign(y.begin(), y.end());
+  curve.x = RowPositions(session, y.size());
+  for (std::size_t i = 1; i < curve.y.size(); ++i)
+    if (!std::isfinite(curve.x[i])) curve.y[i] = notComputed;
+  const bool phases = second && s.Drawn.kind.ampPhase;
+  if (form.optSun.Checked && s.GraphType < 10 && !phases && s.SunDiscWeight.size() > 1) {
+    const DiscWeights disc{s.SunDiscWeight, s.SunDiscRows, s.SunDiscTotal};
+    const bool mirrored = s.CalcMethod != heiligenschein && HasSolverRows(session);
+    curve.y = FoldedWithDisc(curve.y, disc, mirrored ? static_cast<std::size_t>(2 * s.NANG - 1) : 0);
+  }
+  if (s.Drawn.kind.polar && s.Drawn.kind.ampPhase) TakeComplexAmplitude(s, curve);
+  if (form.mnuAverage.Checked && s.Xstep > 0)
+    curve.averageRows = Val(session.forms.dlogAverage.txtAverage.Text) / s.Xstep;
+  curve.wraps = phases;
+  curve.interpolate = form.mnuInterpolate.Checked;
+  curve.markers = form.mnuDrawWidth0.Checked;
+  curve.colour = session.surface->ForeColour;
+  curve.drawStyle = form.mnuDash.Checked ? 1 : form.mnuDot.Checked ? 2 : 0;
+  curve.drawWidth = form.mnuDrawWidth2.Checked ? 2 : 1;
+  return curve;
 }
 
 void PlotCurve(Session& session, KeptCurve curve) {

@@ -36,6 +36,10 @@ bool DrawsOver(const Session& session);
 /// @param panel  index of the panel of the graph on the screen.
 void Plot(Session& session, std::span<const double> y, std::size_t panel = 0);
 
+/// What Plot draws of a result array: values folded with the disc of the sun where it shines, x by the rows of the last
+/// run, the pen of the menus, the colour of the surface.
+KeptCurve CapturedCurve(Session& session, std::span<const double> y, std::size_t panel);
+
 /// Draws a curve whose x, y and look are given, and keeps it.
 void PlotCurve(Session& session, KeptCurve curve);
 

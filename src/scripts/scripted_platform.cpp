@@ -55,6 +55,7 @@ void ScriptedPlatform::Yield() {
 }
 
 double ScriptedPlatform::Timer() {
+  if (clock) return clock();
   return std::chrono::duration<double>(std::chrono::steady_clock::now() - start_).count();
 }
 

@@ -47,6 +47,7 @@ class ScriptedPlatform final : public Platform {
   bool quit = false;
   // What happens on a yield, how a dialog's field is set, how a picture is saved.
   std::function<void()> onYield;
+  std::function<double()> clock;  ///< what the clock shows; the time since the start where there is none
   std::function<void(Form&, const std::string& field, const std::string& text)> setField;
   std::function<std::string(std::string_view path)> savePicture;
 

@@ -45,6 +45,7 @@ constexpr EventRow eventRows[] = {
     {"mnuAperture_Click", mnuAperture_Click},
     {"mnuvdh_Click", mnuvdh_Click},
     {"mnuDebyeSequence_Click", mnuDebyeSequence_Click},
+    {"chkComponents_Click", Scale_Click},
 
     // Inputs.
     {"Inputs_Changed", Inputs_Changed},

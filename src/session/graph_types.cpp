@@ -7,6 +7,7 @@
 
 #include "particles/size_menus.h"
 #include "session/axis_graphs.h"
+#include "session/methods.h"
 #include "session/record/number_text.h"
 
 namespace lumivex {
@@ -232,8 +233,7 @@ void ShowFamilyInputs(Session& session) {
   form.Frame8.Caption = type == 18 ? "Calculation of Watts/sq m" : "Intensity scale";
   form.Label18.Caption = "Brightness";
   form.Label26.Caption = "Lee diagram";
-  const bool coloured = Trim(form.cboWave.Text) != "1" || type >= 20;
-  form.Label18.Visible = form.cboBright.Visible = coloured;
+  ShowWavelengthInputs(session);
   form.Label26.Visible = form.cboLee.Visible = type >= 20 && type < 30;
   form.Label24.Visible = form.txtRmax.Visible = form.txtRstep.Visible = type == 20;
   const bool sizeOnAxis =
@@ -242,7 +242,7 @@ void ShowFamilyInputs(Session& session) {
   ShowSizeInputs(session);
   if (sizeOnAxis) form.Label7.Visible = form.txtRadius.Visible = false;
   const bool wavelengthOnAxis = graph != nullptr && graph->variable == AxisVariable::Wavelength;
-  form.Label6.Visible = form.txtLambda.Visible = !wavelengthOnAxis && Trim(form.cboWave.Text) == "1";
+  if (wavelengthOnAxis) form.Label6.Visible = form.txtLambda.Visible = false;
   form.Frame3.Visible = form.txtRadius.Visible || form.optMono.Visible;
   form.Frame4.Visible = form.txtLambda.Visible || form.cboWave.Visible || form.optPoint.Visible;
   ShowFurtherAxis(session, graph);

@@ -1,5 +1,8 @@
 #include "session/info.h"
 
+#include <algorithm>
+
+#include "session/driver/progress.h"
 #include "session/record/number_text.h"
 
 namespace lumivex {
@@ -27,6 +30,13 @@ std::string RunWords(const MainFormState& s) {
   return (BySeries(s) ? std::to_string(s.NSTOP) + " terms, " : "") + TimeWords(s.LastRunSeconds);
 }
 
+/// Shortest and longest wavelength of the results.
+std::string SpectrumRange(const MainFormState& s) {
+  const double first = 1000 * double{s.WavelengthList[1]};
+  const double last = 1000 * double{s.WavelengthList[static_cast<std::size_t>(s.ResultWavelengths)]};
+  return Significant(std::min(first, last), 6) + " to " + Significant(std::max(first, last), 6) + " nm";
+}
+
 }  // namespace
 
 std::vector<std::string> RunParameters(const Session& session) {
@@ -35,18 +45,27 @@ std::vector<std::string> RunParameters(const Session& session) {
   std::vector<std::string> lines;
   lines.push_back("Method: " + form.cboType.Text);
   lines.push_back("Graph: " + form.cboGraph.Text);
-  lines.push_back("Wavelength: " + Number(s.Lambda) + " \u00B5m in vacuo");
+  const bool spectrum = s.ResultWavelengths > 1;
+  if (spectrum) {
+    lines.push_back(std::to_string(s.ResultWavelengths) + " wavelengths, " + SpectrumRange(s));
+    lines.push_back("Light: " + s.ResultSource);
+  } else {
+    lines.push_back("Wavelength: " + Number(s.Lambda) + " \u00B5m in vacuo");
+  }
+  // Of several wavelengths the one in the middle stands for the others.
+  const std::string middle = spectrum ? " at " + Significant(1000 * s.Lambda, 6) + " nm" : "";
   lines.push_back("Radius: " + Number(s.Radius) + " \u00B5m");
-  lines.push_back("Size parameter x: " + Number(s.SizeParameter));
+  lines.push_back("Size parameter x: " + Number(s.SizeParameter) + middle);
   lines.push_back(form.lblSphere.Caption);
-  lines.push_back("   n = " + IndexWords(s.SphereRIReal, s.SphereRIImag));
+  lines.push_back("   n = " + IndexWords(s.SphereRIReal, s.SphereRIImag) + middle);
   lines.push_back(form.lblRI_Medium.Caption);
-  lines.push_back("   n = " + Number(s.MediumRIReal));
+  lines.push_back("   n = " + Number(s.MediumRIReal) + middle);
   const std::string unit = s.PrevGraphType < 10 ? "\u00B0" : "";
   lines.push_back(
       form.Frame2.Caption + ": " + Number(s.Xmin) + unit + " to " + Number(s.Xmax) + unit +
       (form.mnuXStepLog.Checked ? " in " + Number(s.Xstep) + " steps" : " in steps of " + Number(s.Xstep) + unit));
-  lines.push_back((BySeries(s) ? "Series: " : "Calculated in ") + RunWords(s));
+  lines.push_back((spectrum || !BySeries(s) ? "Calculated in " : "Series: ") +
+                  (spectrum ? TimeWords(s.LastRunSeconds) : RunWords(s)));
   return lines;
 }
 
@@ -61,9 +80,13 @@ void cmdInfo_Click(Session& session) {
 
 std::string StatusText(const Session& session) {
   const auto& s = session.state;
-  if (session.form1.txtProgress.Visible) return session.form1.txtProgress.Text;
+  if (session.form1.txtProgress.Visible) {
+    const std::string left = TimeLeftWords(s.SecondsLeft);
+    return session.form1.txtProgress.Text + (left.empty() ? "" : "   " + left);
+  }
   if (s.PrevGraphType == 0) return "Ready";
-  return session.form1.cboType.Text + ", " + RunWords(s);
+  lines.push_back((spectrum || !BySeries(s) ? "Calculated in " : "Series: ") +
+                  (spectrum ? TimeWords(s.LastRunSeconds) : RunWords(s)));
 }
 
 }  // namespace lumivex

@@ -4,6 +4,7 @@
 
 #include "materials/refractive_index.h"
 #include "session/graph_types.h"
+#include "session/methods.h"
 #include "session/record/number_text.h"
 #include "solvers/visible_data.h"
 
@@ -71,6 +72,7 @@ void txtLambda_change(Session& session) {
   auto& form = session.form1;
   if (session.state.LoadingFlag != 0) return;
   form.txtLambda.BackColour = colours::White;
+  ShowIndexInputs(form);
   const bool one = Trim(form.cboWave.Text) == "1";
   if (one && IsNumber(form.txtLambda.Text) && !RefRel(session, Val(form.txtLambda.Text), LookupVoice::Quiet))
     form.txtLambda.BackColour = colours::Warning;

@@ -13,6 +13,7 @@
 #include "session/record/groups/run_state.h"
 #include "session/record/groups/series_state.h"
 #include "session/record/groups/size_state.h"
+#include "session/record/groups/spectrum_results.h"
 
 namespace lumivex {
 
@@ -22,6 +23,7 @@ struct MainFormState : RunState,
                        OpticalState,
                        SeriesState,
                        ResultArrays,
+                       SpectrumResults,
                        AxisState,
                        MaterialState,
                        LightState,
@@ -43,6 +45,7 @@ void ForEachStateField(State& state, Visitor&& visit) {
   group(as(std::type_identity<OpticalState>{}));
   group(as(std::type_identity<SeriesState>{}));
   group(as(std::type_identity<ResultArrays>{}));
+  group(as(std::type_identity<SpectrumResults>{}));
   group(as(std::type_identity<AxisState>{}));
   group(as(std::type_identity<MaterialState>{}));
   group(as(std::type_identity<LightState>{}));

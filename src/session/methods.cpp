@@ -180,19 +180,35 @@ void NumberWavelengths(Session& session) {
   if (s.NumberWavelengths < 1) s.NumberWavelengths = 1;
 }
 
+void ShowIndexInputs(Form1& form) {
+  const bool one = Trim(form.cboWave.Text) == "1";
+  form.txtRefractReal.Visible = form.Label10.Visible = form.txtRefractImag.Visible = one || form.mnuRI_Fixed1.Checked;
+  form.txtRefractMedium.Visible = one || form.mnuRI_Fixed2.Checked;
+}
+
+void ShowWavelengthInputs(Session& session) {
+  auto& form = session.form1;
+  const int type = session.state.GraphType;
+  const bool one = Trim(form.cboWave.Text) == "1";
+  form.Label6.Visible = form.txtLambda.Visible = one;
+  ShowIndexInputs(form);
+  form.lblSpectrum.Visible = form.mnuSpectrum.Visible = !one;
+  // Red, green and blue stand where they stand, whatever the band.
+  form.lblSpectrumBand.Visible = !one && form.cboWave.Text != "RGB";
+  form.mnuAverage.Visible = one;
+  form.Label18.Visible = form.cboBright.Visible = IsAvailable(Feature::ColourBars) && (!one || type >= 20);
+  form.chkComponents.Visible = form.cboWave.Text == "RGB";
+  // A size parameter belongs to one wavelength.
+  form.mnuRadiusX.Enabled = one && type == 1;
+  if (form.mnuRadiusX.Checked && !form.mnuRadiusX.Enabled) session.events.Raise("mnuRadius_Click");
+}
+
 void cboWave_Click(Session& session) {
   auto& form = session.form1;
   form.cmdReplot.Enabled = form.cmdOverPlot.Enabled = false;
   form.cmdNewPlot.Enabled = true;
-  const bool one = Trim(form.cboWave.Text) == "1";
-  form.Label6.Visible = form.txtLambda.Visible = one;
-  form.txtRefractReal.Visible = form.Label10.Visible = form.txtRefractImag.Visible = one || form.mnuRI_Fixed1.Checked;
-  form.txtRefractMedium.Visible = one || form.mnuRI_Fixed2.Checked;
-  form.lblSpectrum.Visible = form.lblSpectrumBand.Visible = form.mnuSpectrum.Visible = !one;
-  form.mnuAverage.Visible = one;
-  form.Label18.Visible = form.cboBright.Visible = !one;
-  form.chkComponents.Visible = form.cboWave.Text == "RGB";
-  if (one) session.events.Raise("txtLambda_change");
+  ShowWavelengthInputs(session);
+  if (Trim(form.cboWave.Text) == "1") session.events.Raise("txtLambda_change");
 }
 
 }  // namespace lumivex

@@ -47,6 +47,12 @@ void mnuDebyeSequence_Click(Session& session);
 /// Settles NumberWavelengths from cboWave ("RGB" is 3; "High", "Med." and "Low" depend on the radius).
 void NumberWavelengths(Session& session);
 
+/// The indices of sphere and medium have one value each only at one wavelength, or where they are fixed.
+void ShowIndexInputs(Form1& form);
+
+/// Shows the inputs of one wavelength or those of a spectrum, after cboWave.
+void ShowWavelengthInputs(Session& session);
+
 /// A new number of wavelengths needs a new calculation; one wavelength shows its inputs, several the spectrum's.
 void cboWave_Click(Session& session);
 

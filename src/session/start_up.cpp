@@ -9,6 +9,7 @@
 
 #include "graphs/frame.h"
 #include "graphs/look_menus.h"
+#include "graphs/spectrum_sums.h"
 #include "materials/sellmeier_catalogue.h"
 #include "particles/kernel/gamma_function.h"
 #include "session/driver/array_size.h"
@@ -215,6 +216,7 @@ void Form_Load(Session& session) {
   PlaceGraph(session);
   NameMaterials(session);
   Array_Size(session);
+  SizeColourTables(s);
   f.lblAverage.Caption = "Average  " + f.mnuAverage.Caption;
   f.lblDebyeRays.Caption = "Mie (plane wave)";
 

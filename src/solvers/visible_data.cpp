@@ -17,9 +17,22 @@ constexpr double left = 12000, firstLine = 600, lineHeight = 200, stripBottom = 
 constexpr double pi = 3.14159265358979324;
 constexpr int digitsShown = 6;
 
+/// A wavelength's colour as text on the page: light ones are darkened.
+Colour TextColour(Colour c) {
+  constexpr double lightest = 130;
+  const double lightness = 0.3 * c.Red() + 0.59 * c.Green() + 0.11 * c.Blue();
+  const double factor = lightness > lightest ? lightest / lightness : 1;
+  return RGB(factor * c.Red(), factor * c.Green(), factor * c.Blue());
+}
+
 class ReadingColumn {
  public:
   explicit ReadingColumn(DrawingSurface& surface) : surface_(surface) {}
+  void Line(const std::string& text, Colour colour) {
+    surface_.ForeColour = colour;
+    Line(text);
+    surface_.ForeColour = colours::Black;
+  }
   void Line(const std::string& text) {
     surface_.CurrentX = left;
     surface_.CurrentY = y_;
@@ -40,6 +53,27 @@ void PrintEfficiencies(const MainFormState& s, ReadingColumn& column) {
                                                                           {"Qradar = ", pi / 4 * s.Qback},
                                                                           {"g = ", s.Gsca}};
   for (const auto& [name, value] : readings) column.Line(name + Significant(value, digitsShown));
+}
+
+/// Wavelengths of a sum over a spectrum: the efficiencies belong to one wavelength and say nothing about it.
+void PrintSpectrum(const MainFormState& s, ReadingColumn& column) {
+  std::string count = std::to_string(s.ResultWavelengths) + " wavelengths";
+  if (s.WavelengthsDone < s.ResultWavelengths) count = std::to_string(s.WavelengthsDone) + " of " + count;
+  column.Line(count);
+  column.Line(s.ResultSource);
+  const auto nanometres = [&](int i) {
+    return Format(1000 * double{s.WavelengthList[static_cast<std::size_t>(i)]}, "0.#") + " nm";
+  };
+  if (s.ResultSamples > 1) column.Line(std::to_string(s.ResultSamples) + " sizes");
+  constexpr int mostNamed = 7;
+  if (s.ResultWavelengths <= mostNamed) {
+    // The key of the curves, which have these colours.
+    for (int i = 1; i <= s.WavelengthsDone; ++i)
+      column.Line(nanometres(i), TextColour(s.WavelengthColours[static_cast<std::size_t>(i)]));
+    return;
+  }
+  const bool falling = s.WavelengthList[1] > s.WavelengthList.back();
+  column.Line(nanometres(falling ? s.ResultWavelengths : 1) + " to " + nanometres(falling ? 1 : s.ResultWavelengths));
 }
 
 /// Intensities straight forward and straight back, of the sphere even where the graph leaves those rows out.
@@ -68,6 +102,11 @@ void VisibleData(Session& session) {
   if (shown && form.mnuPlaneWave.Checked &&
       std::ranges::find(withEfficiencies, s.CalcMethod) != withEfficiencies.end()) {
     ReadingColumn column(surface);
+    if (s.ResultWavelengths > 1) {
+      PrintSpectrum(s, column);
+      surface.ForeColour = before;
+      return;
+    }
     PrintEfficiencies(s, column);
     if (s.GraphType == 1 && s.GraphSubType == 3) {
       column.Line("Scattered power = " + Significant(s.ScatteredPower, digitsShown) + " W");

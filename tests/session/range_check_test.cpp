@@ -84,7 +84,8 @@ const RuleCase ruleCases[] = {
     {"interpolated colours",
      [](Session& s) {
        s.form1.mnuInterpolate.Checked = true;
-       s.state.NumberWavelengths = 0;
+       s.state.NumberWavelengths = 3;
+       s.form1.cboWave.Text = "3";
      },
      "", "Input error", "Cubic interpolation is implemented only for 1 wavelength or for more than 7 wavelengths",
      false},
@@ -92,6 +93,7 @@ const RuleCase ruleCases[] = {
      [](Session& s) {
        Graph(s, 1, 2);
        s.state.NumberWavelengths = 3;
+       s.form1.cboWave.Text = "3";
      },
      "cboGraph", "Input error", "This graph type is available only for single wavelength calculations"},
     {"disperse matrix",
@@ -129,6 +131,62 @@ const RuleCase ruleCases[] = {
      },
      "txtXmin", "Refractive index of water",
      "IAPWS values for refractive index of water are valid only for the 200 - 2000 nm band"},
+    {"axis beyond the equation",
+     [](Session& s) {
+       Graph(s, 15, 1);
+       s.form1.mnuRI_IAPWS.Checked = false;
+       s.form1.mnuRI_Formula.Checked = true;
+       s.forms.dlogRI_Formula.txtLambdaMin.Text = "0.3";
+       s.forms.dlogRI_Formula.txtLambdaMax.Text = "2.5";
+       s.form1.txtXmin.Text = "200";
+       s.form1.txtXmax.Text = "900";
+     },
+     "", "Refractive index calculations",
+     "Wavelength range is beyond the specified limits for mthe Sellmeier equation for Schott BK7\nChange the range of "
+     "wavelengths or select \"Ignore warnings\" in next dialog box"},
+    {"file at one wavelength",
+     [](Session& s) {
+       s.form1.mnuRI_IAPWS.Checked = false;
+       s.form1.mnuRI_File1.Checked = true;
+       s.state.FileFirst1 = 0.7F;
+       s.state.FileLast1 = 1.25F;
+       s.state.FileName1 = "Testite";
+     },
+     "txtLambda", "Refractive index of Testite",
+     "Values for refractive index of Testite are valid only for the band 700 - 1250 nm (0.7 - 1.25 \u00B5m)"},
+    {"sunlight beyond its table",
+     [](Session& s) {
+       s.state.NumberWavelengths = 10;
+       s.form1.cboWave.Text = "10";
+       s.forms.dlogSpectrumBand.txtSpectrumMax.Text = "720";
+     },
+     "lblSpectrumBand", "Spectrum of sunlight", "Lee's spectrum of sunlight is valid only for 380 nm to 700 nm band"},
+    {"Wernand's sun beyond its table",
+     [](Session& s) {
+       s.state.NumberWavelengths = 10;
+       s.form1.cboWave.Text = "10";
+       s.form1.mnuSpectrumLee.Checked = false;
+       s.form1.mnuSpectrumWernand.Checked = true;
+       s.forms.dlogSpectrumBand.txtSpectrumMin.Text = "340";
+     },
+     "lblSpectrumBand", "Spectrum of sunlight",
+     "Wernand's spectrum of sunlight is valid only for 350 nm to 1000 nm band"},
+    {"phases of a spectrum",
+     [](Session& s) {
+       s.state.NumberWavelengths = 3;
+       s.form1.cboWave.Text = "3";
+       s.form1.mnuAmpPhase.Checked = true;
+     },
+     "cboGraph", "Input error", "This graph type is available only for single wavelength calculations"},
+    {"more intensities than are stored",
+     [](Session& s) {
+       s.state.NumberWavelengths = 2000;
+       s.form1.cboWave.Text = "2000";
+       s.form1.cboStep.Text = "0.01";
+     },
+     "cboStep", "Input error", "Increase the step size or reduce the maximum/minimum range"},
+    {"no number of colours", [](Session& s) { s.form1.cboWave.Text = "many"; }, "cboWave", "Input error",
+     "    The red highlighted data entry is incorrect.    "},
     {"text for a number", [](Session& s) { s.form1.txtRadius.Text = "x"; }, "txtRadius", "Input error",
      "    The red highlighted data entry is incorrect.    "},
     {"angle beyond",

@@ -1,13 +1,16 @@
 /// Rules on numbers, axes and their steps.
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <initializer_list>
 
+#include "graphs/spectrum_sums.h"
 #include "session/axis_graphs.h"
 #include "session/checks/check.h"
 #include "session/checks/number_input.h"
 #include "session/driver/array_size.h"
+#include "session/driver/spectrum_family.h"
 #include "session/record/number_text.h"
 
 namespace lumivex {
@@ -89,13 +92,17 @@ Verdict NumericInputs(Check& check) {
     double upperLimit;
     NumberSign sign;
   };
+  // What the wavelengths of a spectrum put in its place is not looked at.
+  const bool oneWavelength = check.state.NumberWavelengths == 1 && IsNumber(form.cboWave.Text);
   for (const auto& number : {Number{&form.cboStep, largestInput, NumberSign::PositiveOrZero},
                              Number{&form.txtRadius, largestInput, NumberSign::Positive},
                              Number{&form.txtLambda, largestInput, NumberSign::Positive},
                              Number{&form.txtRefractReal, largestIndex, NumberSign::Positive},
                              Number{&form.txtRefractImag, largestIndex, NumberSign::PositiveOrZero},
                              Number{&form.txtRefractMedium, largestIndex, NumberSign::PositiveOrZero}})
-    if (!getval(session, *number.control, number.upperLimit, number.sign)) return Verdict::End;
+    if ((number.control != &form.txtLambda || oneWavelength) &&
+        !getval(session, *number.control, number.upperLimit, number.sign))
+      return Verdict::End;
   check.Xmin = Val(form.txtXmin.Text);
   check.Xmax = Val(form.txtXmax.Text);
   if (!IsAxisGraph(check.state)) return Verdict::GoOn;
@@ -121,6 +128,9 @@ Verdict LeeDiagramAxis(Check& check) {
 Verdict ColourCount(Check& check) {
   auto& list = check.form.cboWave;
   constexpr double mostColours = 2000;
+  constexpr std::array<std::string_view, 4> words = {"RGB", "High", "Med.", "Low"};
+  const bool word = std::ranges::find(words, list.Text) != words.end();
+  if (!word && !getval(check.session, list, 1e300, NumberSign::Positive)) return Verdict::End;
   if (Val(list.Text) <= mostColours) return Verdict::GoOn;
   return Refuse(check, {&list}, "Maximum number of colors = 2000");
 }
@@ -176,6 +186,10 @@ Verdict AngularStep(Check& check) {
   const double steps = 90 / step;
   if (steps - Int(steps) > submultipleTolerance) return Refuse(check, {&list}, "Must be a sub-multiple of 90 degrees");
   if (2 * steps + 1 > mostAngleRows) return Refuse(check, {&list}, "Select a larger step size");
+  // What is stored of several wavelengths must fit into the memory of any computer in use.
+  const double rows = (check.Xmax - check.Xmin) / std::max(step, 180.0 / (mostSpectrumRows - 1)) + 1;
+  if (check.state.NumberWavelengths > 1 && rows * check.state.NumberWavelengths > mostSpectrumValues)
+    return Refuse(check, {&list, &check.form.cboWave}, "Increase the step size or reduce the maximum/minimum range");
   return Verdict::GoOn;
 }
 

@@ -40,6 +40,7 @@ bool IsAxisGraph(const RunState& s);
 
 // The rules, in the order in which they stand in range_check.cpp.
 Verdict CoatedSphereGraphs(Check& check);
+Verdict SellmeierLimits(Check& check);
 Verdict BeamMethods(Check& check);
 Verdict NegativeAbsorption(Check& check);
 Verdict MethodKnown(Check& check);

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <initializer_list>
+#include <optional>
 #include <string>
 
 #include "session/checks/check.h"
@@ -49,6 +50,42 @@ constexpr double metalLow = 0.188, metalHigh = 1.934;
 
 constexpr std::string_view waterTitle = "Refractive index of water";
 
+/// Wavelengths of a run that has more than one: those of its axis, or those of its spectrum.
+struct Range {
+  double low = 0, high = 0;  ///< um
+  bool onAxis = false;       ///< typed as the limits of the axis
+  bool Exceeds(double bandLow, double bandHigh) const { return low < bandLow || high > bandHigh; }
+};
+
+std::optional<Range> RangeOf(const Check& check) {
+  const auto& form = check.form;
+  if (HasWavelengthAxis(check.state)) return Range{Val(form.txtXmin.Text) / 1000, Val(form.txtXmax.Text) / 1000, true};
+  if (check.state.NumberWavelengths <= 1) return std::nullopt;
+  if (form.cboWave.Text == "RGB") return Range{0.44, 0.65, false};
+  const auto& band = check.session.forms.dlogSpectrumBand;
+  return Range{Val(band.txtSpectrumMin.Text) / 1000, Val(band.txtSpectrumMax.Text) / 1000, false};
+}
+
+/// Marks where the range was typed.
+Verdict RefuseRange(Check& check, const Range& range, const std::string& text, std::string_view title) {
+  auto& form = check.form;
+  if (range.onAxis) return Refuse(check, {&form.txtXmin, &form.txtXmax}, text, title);
+  return Refuse(check, {&form.lblSpectrumBand}, text, title);
+}
+
+/// A table from a file, at one wavelength; its limits are singles.
+Verdict FileBand(Check& check, double lambda, float low, float high, const std::string& name) {
+  const auto wavelength = static_cast<float>(lambda);
+  if (wavelength >= low && wavelength <= high) return Verdict::GoOn;
+  const auto band = [&](double factor) {
+    return Significant(factor * double{low}, 6) + " - " + Significant(factor * double{high}, 6);
+  };
+  return Refuse(check, {&check.form.txtLambda},
+                "Values for refractive index of " + name + " are valid only for the band " + band(1000) + " nm (" +
+                    band(1) + " " + micro + "m)",
+                "Refractive index of " + name);
+}
+
 bool SegelsteinIsThere(const Check& check) {
   return IsAvailable(Feature::AllMaterials) && !check.form.mnuRI_Segelstein.Checked;
 }
@@ -66,6 +103,24 @@ Verdict ExchangeWater(Check& check) {
 
 }  // namespace
 
+Verdict SellmeierLimits(Check& check) {
+  if (!check.form.mnuRI_Formula.Checked) return Verdict::GoOn;
+  const auto range = RangeOf(check);
+  if (!range) return Verdict::GoOn;  // a single wavelength is told when its index is looked up
+  auto& dialog = check.session.forms.dlogRI_Formula;
+  const auto exceeds = [&] {
+    const double low = Val(dialog.txtLambdaMin.Text), high = Val(dialog.txtLambdaMax.Text);
+    return low > 0 && high > 0 && !dialog.chkIgnore.Checked && range->Exceeds(low, high);
+  };
+  if (!exceeds()) return Verdict::GoOn;
+  Warn(check,
+       "Wavelength range is beyond the specified limits for mthe Sellmeier equation for " + dialog.cboMaterial.Text +
+           "\nChange the range of wavelengths or select \"Ignore warnings\" in next dialog box",
+       "Refractive index calculations");
+  if (check.state.RestoringSettings == 0) check.session.platform.ShowModal(dialog);
+  return exceeds() ? Verdict::End : Verdict::GoOn;
+}
+
 Verdict SingleWavelengthBand(Check& check) {
   auto& form = check.form;
   if (check.state.NumberWavelengths != 1 || HasWavelengthAxis(check.state) || !IsNumber(form.txtLambda.Text))
@@ -78,6 +133,13 @@ Verdict SingleWavelengthBand(Check& check) {
       return ExchangeWater(check);
     return Refuse(check, {&form.txtLambda}, band.one, waterTitle);
   }
+  const auto& s = check.state;
+  if (form.mnuRI_File1.Checked)
+    if (const Verdict file = FileBand(check, lambda, s.FileFirst1, s.FileLast1, s.FileName1); file != Verdict::GoOn)
+      return file;
+  if (form.mnuRI_File2.Checked)
+    if (const Verdict file = FileBand(check, lambda, s.FileFirst2, s.FileLast2, s.FileName2); file != Verdict::GoOn)
+      return file;
   for (const auto& metal : metals)
     if ((form.*metal.entry).Checked && (lambda < metalLow || lambda > metalHigh))
       return Refuse(check, {&form.txtLambda},
@@ -89,12 +151,13 @@ Verdict SingleWavelengthBand(Check& check) {
 
 Verdict WavelengthAxisBand(Check& check) {
   auto& form = check.form;
-  if (!HasWavelengthAxis(check.state)) return Verdict::GoOn;
-  const double low = Val(form.txtXmin.Text) / 1000, high = Val(form.txtXmax.Text) / 1000;
-  const auto within = [&](double bandLow, double bandHigh) { return low >= bandLow && high <= bandHigh; };
+  const auto range = RangeOf(check);
+  if (!range) return Verdict::GoOn;
+  const auto within = [&](double bandLow, double bandHigh) { return !range->Exceeds(bandLow, bandHigh); };
   const auto refuse = [&](const std::string& text, std::string_view title) {
-    return Refuse(check, {&form.txtXmin, &form.txtXmax}, text, title);
+    return RefuseRange(check, *range, text, title);
   };
+  // On an axis of wavelength every wavelength counts the same: the light source has no say.
   if (check.state.NumberWavelengths > 1) {
     if (form.mnuSpectrumLee.Checked && !within(0.38, 0.7))
       return refuse("Lee's spectrum of sunlight is valid only for 380 nm to 700 nm band", "Spectrum of sunlight");

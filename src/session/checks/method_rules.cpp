@@ -80,6 +80,11 @@ Verdict MethodAgainstGraph(Check& check) {
   auto& s = check.state;
   if (s.NumberWavelengths > 1 && (NeedsOneWavelength(s) || !IsAvailable(Feature::SeveralWavelengths)))
     return Refuse(check, {&form.cboGraph}, "This graph type is available only for single wavelength calculations");
+  if (s.NumberWavelengths > 1 && form.mnuAmpPhase.Checked) {
+    // Phases of different wavelengths have no sum.
+    form.mnuAmpPhase.Checked = false;
+    return Refuse(check, {&form.cboGraph}, "This graph type is available only for single wavelength calculations");
+  }
   if (form.optDisp.Checked && NeedsOneSphere(s))
     return Refuse(check, {&form.cboGraph}, "This graph type is available only for monodisperse calculations");
   const bool matrix = (s.GraphType == 1 && s.GraphSubType == 6) || (s.GraphType == 10 && s.GraphSubType == 2);

@@ -12,6 +12,7 @@ namespace {
 // The order is part of the design: the first rule that ends the check decides the message.
 constexpr std::array rules = {
     CoatedSphereGraphs,
+    SellmeierLimits,
     BeamMethods,
     NegativeAbsorption,
     MethodKnown,

@@ -60,7 +60,7 @@ void FillAngleCurves(Session& session) {
   ApplyAngleQuantity(session);
 }
 
-void CalculateAngles(Session& session) {
+void PrepareAngleRows(Session& session) {
   auto& s = session.state;
   const auto& form = session.form1;
   s.Xmin = Val(form.txtXmin.Text);
@@ -79,23 +79,38 @@ void CalculateAngles(Session& session) {
     s.AngleLow = 1;
     s.AngleHigh = s.NN;
   }
+}
+
+void SolveAngles(Session& session) {
+  const auto& s = session.state;
+  if (session.form1.optDisp.Checked)
+    DispCalc(session, s.AngleLow, s.AngleHigh, {CallSolver, Progress});
+  else
+    CallSolver(session, s.AngleLow, s.AngleHigh);
+}
+
+void SizeAngleCurves(MainFormState& s) {
+  for (auto* curve : {&s.XValues, &s.Iperp, &s.Ipar, &s.Iunpol, &s.Extra1, &s.Extra2, &s.Extra3})
+    curve->assign(static_cast<std::size_t>(s.ArrayRows) + 1, 0.0);
+}
+
+void CalculateAngles(Session& session) {
+  auto& s = session.state;
+  PrepareAngleRows(session);
   SetIntensityNorm(session);
 
   AmplitudeTable S1(s.ArrayRows), S2(s.ArrayRows);
   std::swap(S1, s.S1);
   std::swap(S2, s.S2);
-  if (form.optDisp.Checked)
-    DispCalc(session, s.AngleLow, s.AngleHigh, {CallSolver, Progress});
-  else
-    CallSolver(session, s.AngleLow, s.AngleHigh);
+  SolveAngles(session);
   const bool refused = s.PlotMode == 4 && s.StopAnswer == 0;
   if (refused) {
     std::swap(S1, s.S1);
     std::swap(S2, s.S2);
     return;
   }
-  for (auto* curve : {&s.XValues, &s.Iperp, &s.Ipar, &s.Iunpol, &s.Extra1, &s.Extra2, &s.Extra3})
-    curve->assign(static_cast<std::size_t>(s.ArrayRows) + 1, 0.0);
+  SizeAngleCurves(s);
+  s.ResultWavelengths = 1;
   FillAngleCurves(session);
 }
 

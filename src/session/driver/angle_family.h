@@ -9,6 +9,16 @@ namespace lumivex {
 /// Size, wavelength and index stand in the record. Refused or failed runs leave PlotMode 4 and the old results.
 void CalculateAngles(Session& session);
 
+/// Reads the axis of angles into the record: NANG, NN, ArrayRows, FirstPoint, LastPoint, the window AngleLow to
+/// AngleHigh with the neighbours that averages need, and the weights of the solar disc.
+void PrepareAngleRows(Session& session);
+
+/// Fills S1 and S2 in that window for the sphere that stands in the record, or for the cloud about it with optDisp.
+void SolveAngles(Session& session);
+
+/// Gives the curve arrays ArrayRows rows, all 0.
+void SizeAngleCurves(MainFormState& s);
+
 /// Fills the curve arrays from S1 and S2, as amplitudes or intensities, with the degree of polarisation (Extra1) and
 /// the phases (Extra2, Extra3); a row that was not computed to the end holds not-a-number.
 void FillAngleCurves(Session& session);

@@ -1,5 +1,6 @@
 #include "session/driver/commands.h"
 
+#include "graphs/spectrum_sums.h"
 #include "graphs/sun_disc.h"
 #include "session/checks/range_check.h"
 #include "session/driver/angle_family.h"
@@ -54,7 +55,8 @@ bool ResultsFitInputs(const Session& session) {
 void OfferCommands(Session& session) {
   auto& form = session.form1;
   const auto& s = session.state;
-  const bool single = s.NumberWavelengths == 1;
+  // A curve of one wavelength over the colours of several would have no scale in common with them.
+  const bool single = s.NumberWavelengths == 1 && s.ResultWavelengths == 1;
   form.cmdReplot.Visible = HasRun(s);
   form.cmdReplot.Enabled = HasRun(s);
   form.cmdOverPlot.Visible = HasRun(s);
@@ -113,6 +115,8 @@ void cmdReplot_Click(Session& session) {
     return;
   }
   s.CommandAborted = 0;
+  // What was calculated counts, whatever the list says by now.
+  s.NumberWavelengths = s.ResultWavelengths;
   double Ymin = s.Ymin, Ymax = s.Ymax;
   RangeCheck(session, s.Xmin, s.Xmax, Ymin, Ymax, s.CommandAborted);
   if (s.CommandAborted != 0) return;
@@ -120,7 +124,9 @@ void cmdReplot_Click(Session& session) {
   s.PlotXmax = s.Xmax;
   s.PlotMode = 1;
   SunCorrection(session);
-  if (s.GraphType == 1) {
+  if (s.ResultWavelengths > 1) {
+    FoldSpectrum(session);
+  } else if (s.GraphType == 1) {
     SetIntensityNorm(session);
     FillAngleCurves(session);
   } else if (s.GraphType == 10 || s.GraphType == 11 || s.GraphType == 12) {

@@ -3,6 +3,7 @@
 #include "graphs/huygens_drawing.h"
 #include "graphs/line_graph.h"
 #include "graphs/polar_plot.h"
+#include "graphs/spectrum_graph.h"
 #include "graphs/two_panels.h"
 #include "solvers/visible_data.h"
 
@@ -13,7 +14,9 @@ void DisplayRun(Session& session) {
   const auto& form = session.form1;
   const bool matrix = (s.GraphType == 1 && s.GraphSubType == 6) || (s.GraphType == 10 && s.GraphSubType == 2);
   const bool panels = matrix || (s.GraphType == 1 && (form.mnuAmpPhase.Checked || form.mnuIntPol.Checked));
-  if (panels) {
+  if (s.ResultWavelengths > 1) {
+    PlotNColour(session);
+  } else if (panels) {
     DisplayTwoPanels(session);
   } else {
     Display(session, s.Iperp, s.Ipar, s.Iunpol);

@@ -33,11 +33,23 @@ double MeasurePairTerm(Platform& platform) {
   return best / (static_cast<double>(terms) * rows);
 }
 
+/// Calculations of one sphere that the run takes: its wavelengths times its sizes.
+double SpheresOf(const Session& session) {
+  const double sizes = session.form1.optDisp.Checked ? std::max(1.0, Val(session.form1.cboN.Text)) : 1;
+  return std::max(1, session.state.NumberWavelengths) * sizes;
+}
+
+/// One wavelength (um) that stands for those of the run.
+double TypicalWavelength(const Session& session) {
+  constexpr double middleOfSpectrum = 0.515;
+  return session.state.NumberWavelengths > 1 ? middleOfSpectrum : Val(session.form1.txtLambda.Text);
+}
+
 double SecondsHere(Session& session) {
   auto& s = session.state;
-  const double x = 2 * 3.14159265358979 * SphereRadius(session) / Val(session.form1.txtLambda.Text);
+  const double x = 2 * 3.14159265358979 * SphereRadius(session) / TypicalWavelength(session);
   const double terms = x + 4 * std::cbrt(std::max(x, 0.0)) + 20;
-  const double pairTerms = terms * 90 / Val(session.form1.cboStep.Text) * std::max(1, s.NumberWavelengths);
+  const double pairTerms = terms * 90 / Val(session.form1.cboStep.Text) * SpheresOf(session);
   if (!(pairTerms > pairTermsNeverSlow)) return 0;
   if (s.SecondsPerPairTerm == 0) s.SecondsPerPairTerm = MeasurePairTerm(session.platform);
   return pairTerms * s.SecondsPerPairTerm;
@@ -46,7 +58,6 @@ double SecondsHere(Session& session) {
 }  // namespace
 
 double ReferenceSeconds(const Session& session) {
-  const auto& s = session.state;
   const auto& form = session.form1;
   const double r = SphereRadius(session);
   const double step = Val(form.cboStep.Text);
@@ -56,7 +67,7 @@ double ReferenceSeconds(const Session& session) {
   const double fitted = std::min(S, 0.0061566 / (2 * 9.773e-6));
   double q = (0.2077 + 0.0061566 * fitted - 9.773e-6 * fitted * fitted) * t;
   q = q * 0.01 / step;
-  if (s.NumberWavelengths == 1) q = q * 0.65 / Val(form.txtLambda.Text);
+  q = q * 0.65 / TypicalWavelength(session) * SpheresOf(session);
   return q * 0.1 * (4.2380146 + 1.2130768 * std::log(S));
 }
 

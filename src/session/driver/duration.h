@@ -12,7 +12,8 @@ inline constexpr double secondsWithoutAsking = 30;
 /// compared runs. Nothing is asked with CalibrationState 3.
 void Duration(Session& session);
 
-/// Seconds that the run would take on the reference machine (a fit of measured times; Mie series against angle).
+/// Seconds that the run would take on the reference machine: a fit of measured times for one Mie series against angle,
+/// times the wavelengths and sizes of the run.
 double ReferenceSeconds(const Session& session);
 
 }  // namespace lumivex

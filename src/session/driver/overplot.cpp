@@ -7,6 +7,7 @@
 #include "session/driver/axis_family.h"
 #include "session/driver/display_run.h"
 #include "session/driver/progress.h"
+#include "session/driver/spectrum_family.h"
 #include "session/info.h"
 #include "session/record/number_text.h"
 #include "solvers/sphere_size.h"
@@ -53,7 +54,7 @@ void ShowEnded(Session& session) {
 bool ReadSphere(Session& session) {
   auto& s = session.state;
   const auto& form = session.form1;
-  s.Lambda = Val(form.txtLambda.Text);
+  if (!IsSpectrumRun(s)) s.Lambda = Val(form.txtLambda.Text);
   if (s.CalcMethod != coatedSphere && s.CalcMethod != inhomogeneousSphere) {
     const auto relative = RefRel(session, s.Lambda);
     if (!relative) return false;
@@ -73,8 +74,31 @@ bool ReadSphere(Session& session) {
   return true;
 }
 
+/// What the old results are read by. A run that is refused puts it back with them.
+class ResultsBefore {
+ public:
+  explicit ResultsBefore(const MainFormState& s)
+      : axis_(s), series_(s), optical_(s), light_(s), curveSize_(s.XValues.size()) {}
+  void Restore(MainFormState& s) const {
+    static_cast<AxisState&>(s) = axis_;
+    static_cast<SeriesState&>(s) = series_;
+    static_cast<OpticalState&>(s) = optical_;
+    RestoreLight(s, light_);
+    for (auto* curve : {&s.XValues, &s.Iperp, &s.Ipar, &s.Iunpol, &s.Extra1, &s.Extra2, &s.Extra3})
+      curve->resize(curveSize_);
+  }
+
+ private:
+  AxisState axis_;
+  SeriesState series_;
+  OpticalState optical_;
+  LightState light_;
+  std::size_t curveSize_;
+};
+
 void Calculate(Session& session) {
   const int type = session.state.GraphType;
+  if (IsSpectrumRun(session.state)) return CalculateSpectrum(session);
   if (type < 10) CalculateAngles(session);
   if (type >= 10 && type < 19) CalculateAxis(session);
 }
@@ -84,10 +108,13 @@ void Calculate(Session& session) {
 void Overplot(Session& session) {
   auto& s = session.state;
   s.YAxisMode = 0;
+  const ResultsBefore before(s);
   ReadAxes(session);
   s.WavelengthPos = s.SamplePos = 1;
   s.HuygensWaves.clear();
   ShowRunning(session);
+  const bool spectrum = IsSpectrumRun(s);
+  if (spectrum) PrepareSpectrum(session);
   if (!ReadSphere(session)) s.PlotMode = stopRequested;
   if (s.GraphType < 19 && s.PlotMode != stopRequested) {
     Array_Size(session);
@@ -99,6 +126,8 @@ void Overplot(Session& session) {
   if (stored) {
     s.PrevGraphType = s.GraphType;
     s.PrevGraphSubType = s.GraphSubType;
+  } else {
+    before.Restore(s);
   }
   EndProgress(session);
   if (s.PlotMode != stopRequested) {

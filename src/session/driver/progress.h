@@ -1,13 +1,24 @@
 #pragma once
 
+#include <string>
+
 #include "session/kernel/run_monitor.h"
 #include "session/record/session.h"
 
 namespace lumivex {
 
 /// Shows how far the run is, as a percentage in txtProgress and a bar on the surface, and yields to the event loop.
-/// Reads the loop variables of the record, so that whoever loops need pass nothing.
+/// Reads the loop variables of the record, so that whoever loops need pass nothing. The percentage counts the angles
+/// of a sphere within the samples of its cloud within the wavelengths, and never falls.
+///
+/// Once a run has lasted secondsUntilEstimate, SecondsLeft tells how long it will go on if it goes on as it did: the
+/// total is smoothed, looked at once a second. The tip of txtProgress and the status line show it.
 void Progress(Session& session);
+
+inline constexpr double secondsUntilEstimate = 2;
+
+/// "12 s left", in steps that can be read; empty below 0.
+std::string TimeLeftWords(double seconds);
 
 /// Shows txtProgress at 0, or hides it and wipes the bar.
 void BeginProgress(Session& session);

@@ -32,6 +32,7 @@ enum class Feature {
   GraphLook,  ///< sizes, backgrounds, grids, pens, panels, polar plots
   AllMaterials,
   SeveralWavelengths,
+  ColourBars,  ///< bars and maps in colour: brightness, saturation and gamma
   SizeDistributions,
   ResultsFiles,
   BatchFiles,
@@ -40,9 +41,19 @@ enum class Feature {
 
 /// The one place that says what is there.
 inline constexpr std::array availableFeatures = {
-    Feature::Always,         Feature::MieSeries,   Feature::AllMaterials, Feature::SizeDistributions,
-    Feature::DebyeSeries,    Feature::RayOptics,   Feature::AiryTheory,   Feature::SimpleScattering,
-    Feature::AngleIntensity, Feature::AngleFamily, Feature::AxisFamilies, Feature::GraphLook,
+    Feature::Always,
+    Feature::MieSeries,
+    Feature::AllMaterials,
+    Feature::SizeDistributions,
+    Feature::DebyeSeries,
+    Feature::RayOptics,
+    Feature::AiryTheory,
+    Feature::SimpleScattering,
+    Feature::AngleIntensity,
+    Feature::AngleFamily,
+    Feature::AxisFamilies,
+    Feature::GraphLook,
+    Feature::SeveralWavelengths,
 };
 
 constexpr bool IsAvailable(Feature feature) {

@@ -56,8 +56,9 @@ struct KeptCurve {
   bool wraps = false;         ///< an angle: it goes on at 0 after 360
   bool markers = false;       ///< marks instead of lines
   Colour colour;
-  int drawStyle = 0;  ///< 0 solid, 1 dash, 2 dot
-  int drawWidth = 1;  ///< 1 or 2
+  std::vector<Colour> colours;  ///< of each row, where the curve shows the colour of its light; otherwise empty
+  int drawStyle = 0;            ///< 0 solid, 1 dash, 2 dot
+  int drawWidth = 1;            ///< 1 or 2
 };
 
 /// The graph on the screen: its frame and every curve drawn since, overplots too, so that a resize, a zoom, the

@@ -32,6 +32,9 @@ struct RunState {
   int StopAnswer = 0;             ///< 1 once a Stop of the present run was answered Yes
   double StartTime = 0;           ///< seconds, when the present run began
   double LastRunSeconds = 0;      ///< how long the last run calculated
+  double SecondsLeft = -1;        ///< of the present run, as far as can be told; -1 where it cannot
+  double EstimatedSeconds = 0;    ///< for the whole run, smoothed from report to report; 0 before the first
+  double EstimateTime = 0;        ///< seconds, when it was last looked at
   double SecondsPerPairTerm = 0;  ///< of this machine: one term of one pair of angles; 0 until measured
 };
 
@@ -63,6 +66,9 @@ void ForEachField(Group& g, Visitor&& visit) {
   visit("StopAnswer", g.StopAnswer);
   visit("StartTime", g.StartTime);
   visit("LastRunSeconds", g.LastRunSeconds);
+  visit("SecondsLeft", g.SecondsLeft);
+  visit("EstimatedSeconds", g.EstimatedSeconds);
+  visit("EstimateTime", g.EstimateTime);
   visit("SecondsPerPairTerm", g.SecondsPerPairTerm);
 }
 

@@ -1,0 +1,325 @@
+#include <array>
+#include <cmath>
+#include <set>
+
+#include "graphs/curve_text.h"
+#include "graphs/spectrum_sums.h"
+#include "materials/material_fixture.h"
+#include "session/driver/progress.h"
+#include "session/driver/spectrum_family.h"
+#include "session/graph_types.h"
+#include "session/info.h"
+#include "session/record/layout/menu_tree.h"
+
+namespace lumivex {
+namespace {
+
+/// The values of some rows over 0 to 180 degrees at steps of 1 degree.
+constexpr std::array<std::size_t, 6> rows = {1, 20, 90, 91, 138, 181};
+
+class Spectrum : public MaterialSession {
+ protected:
+  Spectrum() { Do("set txtRadius 4\nset cboStep 1"); }
+
+  /// The curves of one wavelength and size.
+  struct Curves {
+    std::vector<double> perpendicular, parallel;
+  };
+  Curves Single(double lambda, double radius) {
+    Do("set cboWave 1\nset txtLambda " + Exact(lambda) + "\nset txtRadius " + Exact(radius) + "\nclick cmdNewPlot");
+    return {State().Iperp, State().Ipar};
+  }
+  std::vector<double> List() { return {State().WavelengthList.begin(), State().WavelengthList.end()}; }
+  std::vector<double> Weights() { return {State().SpectrumWeightInUse.begin(), State().SpectrumWeightInUse.end()}; }
+  std::size_t CurveCount() { return State().Drawn.curves.size(); }
+};
+
+TEST_F(Spectrum, TheTotalIsTheWeighedSumOfSingleRuns) {
+  // The index of water differs from wavelength to wavelength: one that is not looked up anew shows at once.
+  for (const bool perWaveNumber : {false, true}) {
+    Do("set cboWave 4\nset txtRadius 4");
+    if (perWaveNumber) Do("click mnuInvWavelength");
+    Do("click cmdNewPlot");
+    ASSERT_TRUE(Shown().empty()) << LastText();
+    const auto list = List(), weights = Weights();
+    const auto perpendicular = State().Iperp, parallel = State().Ipar, unpolarised = State().Iunpol;
+    const auto red = State().ColourPar;
+    const auto reds = State().WavelengthRed;
+    ASSERT_EQ(list.size(), 5U);
+    std::array<double, rows.size()> sumPerp{}, sumPar{}, sumRed{};
+    for (std::size_t i = 1; i <= 4; ++i) {
+      const Curves one = Single(list[i], 4);
+      for (std::size_t r = 0; r < rows.size(); ++r) {
+        sumPerp[r] += weights[i] * one.perpendicular[rows[r]];
+        sumPar[r] += weights[i] * one.parallel[rows[r]];
+        sumRed[r] += weights[i] * one.parallel[rows[r]] * reds[i];
+      }
+    }
+    for (std::size_t r = 0; r < rows.size(); ++r) {
+      const std::size_t j = rows[r];
+      EXPECT_NEAR(perpendicular[j] / sumPerp[r], 1, 1e-12) << j << " " << perWaveNumber;
+      EXPECT_NEAR(parallel[j] / sumPar[r], 1, 1e-12) << j << " " << perWaveNumber;
+      EXPECT_NEAR(unpolarised[j] / (sumPerp[r] + sumPar[r]) * 2, 1, 1e-12) << j << " " << perWaveNumber;
+      EXPECT_NEAR(red.At(j, 1) / sumRed[r], 1, 1e-12) << j << " " << perWaveNumber;
+      EXPECT_EQ(red.At(j, 0), parallel[j]);
+    }
+  }
+}
+
+TEST_F(Spectrum, ACloudIsTheDoubleSum) {
+  Do("set cboWave 2\nclick optDisp\nset cboSD 10\nset cboN 5\nclick cmdNewPlot");
+  ASSERT_TRUE(Shown().empty()) << LastText();
+  const auto list = List(), weights = Weights();
+  const auto radii = State().DistRadius;
+  const auto total = State().Iperp;
+  ASSERT_EQ(radii.size(), 6U);
+  EXPECT_EQ(Get("Radius"), "4");
+  Do("click optMono");
+  std::array<double, rows.size()> sum{};
+  for (std::size_t i = 1; i <= 2; ++i) {
+    for (std::size_t k = 1; k <= 5; ++k) {
+      const Curves one = Single(list[i], radii[k]);
+      for (std::size_t r = 0; r < rows.size(); ++r) sum[r] += weights[i] * one.perpendicular[rows[r]] / 5;
+    }
+  }
+  for (std::size_t r = 0; r < rows.size(); ++r) EXPECT_NEAR(total[rows[r]] / sum[r], 1, 1e-12) << rows[r];
+}
+
+TEST_F(Spectrum, AStopLeavesTheWavelengthsThatWereWhole) {
+  Do("set cboWave 20\nset txtRadius 50\nset cboStep 0.1\nstop-at 33\nclick cmdNewPlot");
+  EXPECT_EQ(LastTitle(), "Calculation in progress!");
+  const int done = State().WavelengthsDone;
+  EXPECT_GE(done, 6);
+  EXPECT_LE(done, 7);
+  const auto stopped = State().Iperp;
+  Do("click cmdReplot");
+  EXPECT_EQ(State().Iperp, stopped);
+  EXPECT_EQ(State().Drawn.kind.numberWavelengths, 20);
+  double sum = 0;
+  const auto list = List(), weights = Weights();
+  for (int i = 1; i <= done; ++i) {
+    const auto k = static_cast<std::size_t>(i);
+    sum += weights[k] * Single(list[k], 50).perpendicular[1381];
+  }
+  EXPECT_NEAR(stopped[1381] / sum, 1, 1e-12);
+}
+
+TEST_F(Spectrum, ARunThatIsRefusedOrStoppedAtOnceLeavesTheOldResults) {
+  Do("set cboWave RGB\nclick cmdNewPlot");
+  const auto before = State().Iperp;
+  const auto list = List();
+  // Gold has no index beyond its table, and a flat spectrum no limits of its own.
+  Do("dialog dlogSpectrumBand ok txtSpectrumMin=380 txtSpectrumMax=3000\nclick mnuSpectrumBand\nclick mnuSpectrumFlat\n"
+     "click mnuRI_Au\nset cboWave 10\nclick cmdNewPlot");
+  EXPECT_EQ(LastTitle(), "Refractive index of Gold");
+  EXPECT_EQ(State().Iperp, before);
+  EXPECT_EQ(List(), list);
+  Do("dialog dlogTemp ok\nclick mnuRI_IAPWS\ndialog dlogSpectrumBand ok txtSpectrumMax=700\nclick mnuSpectrumBand\nset "
+     "txtRadius 3000\nset cboStep 0.01\nset cboWave 200\nstop-at 0\nclick cmdNewPlot");
+  EXPECT_EQ(State().Iperp, before);
+  EXPECT_EQ(List(), list);
+  Do("set cboStep 1\nchoose cboPol Perpendicular");
+  EXPECT_EQ(CurveCount(), 3U);
+}
+
+TEST_F(Spectrum, ReplotFollowsTheScaleThePolarisationAndTheWaveNumber) {
+  Do("set cboWave 10\nclick cmdNewPlot");
+  const double total = State().Iperp[91], unnormed = State().ColourPerp.At(91, 0);
+  EXPECT_EQ(total, unnormed);
+  EXPECT_EQ(CurveCount(), 2U);
+  Do("choose cboPol All 3");
+  EXPECT_EQ(CurveCount(), 3U);
+  Do("click mnuInvWavelength");
+  EXPECT_LT(State().Iperp[91], 1e-10 * total);
+  Do("click mnuInvWavelength\nclick mnuAmplitude");
+  EXPECT_NEAR(State().Iperp[91] * State().Iperp[91] / total, 1, 1e-12);
+  Do("click mnuAmplitude\nclick mnuIntPol");
+  EXPECT_EQ(State().Drawn.panels.size(), 2U);
+  EXPECT_EQ(State().Iperp[91], total);
+  EXPECT_TRUE(Shown().empty()) << LastText();
+  Do("click mnuIntPol\nclick mnuAmpPhase");
+  EXPECT_EQ(LastText(), "This graph type is available only for single wavelength calculations");
+  EXPECT_EQ(Get("mnuAmpPhase"), "false");
+}
+
+TEST_F(Spectrum, FewWavelengthsAreCurvesInTheirColours) {
+  Do("set cboWave RGB\nclick cmdNewPlot");
+  EXPECT_EQ(Get("chkComponents"), "true");
+  EXPECT_EQ(Get("chkComponents.Visible"), "true");
+  ASSERT_EQ(CurveCount(), 6U);
+  const auto& curves = State().Drawn.curves;
+  EXPECT_EQ(curves[0].name, "650 nm: Parallel polarisation");
+  EXPECT_EQ(curves[0].colour, RGB(255, 0, 0));
+  EXPECT_EQ(curves[3].name, "510 nm: Perpendicular polarisation");
+  EXPECT_EQ(curves[3].colour, RGB(0, 255, 0));
+  EXPECT_EQ(curves[5].colour, RGB(0, 0, 255));
+  // The three curves are the three components of the sum; as singles the wavelengths lie a little beside pure colours.
+  constexpr double nearlyPure = 2e-6;
+  for (const std::size_t j : rows) {
+    EXPECT_NEAR(curves[1].y[j] / State().ColourPerp.At(j, 1), 1, nearlyPure);
+    EXPECT_NEAR(curves[3].y[j] / State().ColourPerp.At(j, 2), 1, nearlyPure);
+    EXPECT_NEAR(curves[5].y[j] / State().ColourPerp.At(j, 3), 1, nearlyPure);
+  }
+  EXPECT_NE(CurvesAsText(Now()).find("440 nm: Perpendicular polarisation"), std::string::npos);
+  Do("click chkComponents");
+  ASSERT_EQ(CurveCount(), 2U);
+  EXPECT_EQ(State().Drawn.curves[1].colours.size(), State().Drawn.curves[1].y.size());
+  EXPECT_EQ(State().Drawn.curves[1].y[91], State().Iperp[91]);
+}
+
+TEST_F(Spectrum, TheSumOfManyShowsTheColourOfItsLight) {
+  // The primary bow of large drops: red outside, blue inside.
+  Do("set cboWave 60\nset txtRadius 200\nset cboStep 0.1\nset txtXmin 130\nset txtXmax 150\nchoose cboPol "
+     "Perpendicular\n"
+     "click optSun\nclick cmdNewPlot");
+  ASSERT_EQ(CurveCount(), 1U);
+  const KeptCurve& curve = State().Drawn.curves[0];
+  int reddest = 0, bluest = 0;
+  double red = 0, blue = 0;
+  for (int row = 1371; row <= 1411; ++row) {
+    const Colour c = curve.colours[static_cast<std::size_t>(row)];
+    if (c.Red() - c.Blue() > red) reddest = row, red = c.Red() - c.Blue();
+    if (c.Blue() - c.Red() > blue) bluest = row, blue = c.Blue() - c.Red();
+  }
+  EXPECT_GT(reddest, 0);
+  EXPECT_GT(bluest, reddest);
+  std::set<std::uint32_t> drawn;
+  for (const Colour c : curve.colours) drawn.insert(c.value);
+  EXPECT_GT(drawn.size(), 10U);
+}
+
+TEST_F(Spectrum, NothingThatIsOfferedIsDead) {
+  Do("open " + exampleFolder + "white_led.spe\nset txtRadius 1\nset cboStep 2");
+  const auto waves = Now().form1.cboWave.Items;
+  EXPECT_GT(waves.size(), 10U);
+  const auto finite = [&] {
+    for (int row = State().AngleLow; row <= State().AngleHigh; ++row)
+      if (!std::isfinite(State().Iunpol[static_cast<std::size_t>(row)])) return false;
+    return true;
+  };
+  for (const auto& wave : waves) {
+    Do("set cboWave " + wave + "\nclick cmdNewPlot");
+    EXPECT_TRUE(Shown().empty()) << wave << LastText();
+    EXPECT_EQ(State().ResultWavelengths > 1, wave != "1") << wave;
+    EXPECT_TRUE(finite()) << wave;
+  }
+  Do("set cboWave 10");
+  std::set<double> totals;
+  for (const auto& entry : OfferedMenu()) {
+    if (entry.path != "Light/Spectrum" || entry.entry == "-") continue;
+    Do("click " + std::string(entry.entry) + "\nclick cmdNewPlot");
+    EXPECT_TRUE(Shown().empty()) << entry.entry << LastText();
+    EXPECT_TRUE(finite()) << entry.entry;
+    totals.insert(State().Iperp[46]);
+  }
+  EXPECT_EQ(totals.size(), 6U) << "two sources give the same light";
+  for (const auto& graph : OfferedGraphs()) {
+    Do("set cboStep 2\nchoose cboGraph " + graph + "\nset cboWave RGB\nclick cmdNewPlot");
+    if (graph == "Intensity v. scattering angle") {
+      EXPECT_TRUE(finite());
+    } else {
+      EXPECT_EQ(LastText(), "This graph type is available only for single wavelength calculations") << graph;
+    }
+  }
+}
+
+TEST_F(Spectrum, OnlyOneWavelengthIsDrawnOver) {
+  Do("set cboWave 3");
+  EXPECT_EQ(Get("cmdOverPlot.Enabled"), "false");
+  EXPECT_EQ(Get("cmdReplot.Enabled"), "false");
+  Do("click cmdNewPlot");
+  EXPECT_EQ(Get("cmdOverPlot.Enabled"), "false");
+  EXPECT_EQ(Get("cmdReplot.Enabled"), "true");
+  // A refused run of one wavelength leaves the colours on the screen.
+  Do("set cboWave 1\nset txtLambda -1\nclick cmdNewPlot");
+  EXPECT_EQ(Get("cmdOverPlot.Enabled"), "false");
+  Do("set txtLambda 0.5\nclick cmdNewPlot");
+  EXPECT_EQ(Get("cmdOverPlot.Enabled"), "true");
+  EXPECT_EQ(Get("ResultWavelengths"), "1");
+}
+
+TEST_F(Spectrum, InputsFollowTheNumberOfWavelengths) {
+  Do("click mnuRadiusX\nset cboWave RGB");
+  EXPECT_EQ(Get("mnuRadius"), "true") << "a size parameter has no meaning at several wavelengths";
+  EXPECT_EQ(Get("txtLambda.Visible"), "false");
+  EXPECT_EQ(Get("txtRefractReal.Visible"), "false");
+  EXPECT_EQ(Get("lblSpectrum.Visible"), "true");
+  Do("click mnuRI_Fixed1");
+  EXPECT_EQ(Get("txtRefractReal.Visible"), "true");
+  Do("choose cboGraph Qext/Qsca/Qabs v. radius");
+  EXPECT_EQ(Get("cboWave"), "1");
+  EXPECT_EQ(Get("lblSpectrum.Visible"), "false");
+  EXPECT_EQ(Get("chkComponents.Visible"), "false");
+  // What stands in a hidden field is not asked about.
+  Do("choose cboGraph Intensity v. scattering angle\nset txtLambda x\nset cboWave 3\nset cboStep 1\nclick cmdNewPlot");
+  EXPECT_TRUE(Shown().empty()) << LastText();
+  EXPECT_EQ(State().ResultWavelengths, 3);
+  Do("set cboWave 1\nset txtLambda 0.65");
+  for (const char* count : {"0", "-3", "many", ""}) {
+    Do(std::string("set cboWave ") + count + "\nclick cmdNewPlot");
+    EXPECT_EQ(Get("cboWave.BackColour"), "255") << count;
+  }
+}
+
+TEST_F(Spectrum, NumbersFollowTheSizeOfTheDrop) {
+  const auto count = [&](const char* density, const char* radius) {
+    Do(std::string("set cboStep 10\nset cboWave ") + density + "\nset txtRadius " + radius + "\nclick cmdNewPlot");
+    return State().ResultWavelengths;
+  };
+  EXPECT_EQ(count("High", "1000"), 30);
+  EXPECT_EQ(count("High", "1"), 1000);
+  EXPECT_EQ(count("Med.", "100"), 30);
+  EXPECT_EQ(count("Low", "30"), 33);
+}
+
+TEST_F(Spectrum, StepsBelowAHundredthOfADegreeBecomeOne) {
+  Do("set cboWave 2\nset cboStep 0.005\nset txtXmin 10\nset txtXmax 20\nclick cmdNewPlot");
+  EXPECT_EQ(Get("cboStep"), "0.01");
+  EXPECT_EQ(Get("NANG"), "9001");
+  EXPECT_EQ(State().SpectrumRowHigh - State().SpectrumRowLow, 1050);
+}
+
+TEST_F(Spectrum, ProgressNeverFallsAndTellsTheTimeLeft) {
+  double now = 0, before = -1;
+  int told = 0;
+  double highest = 0;
+  runner.World().clock = [&] { return now; };
+  runner.World().onYield = [&] {
+    now += 0.05;
+    const auto& form = Now().form1;
+    if (!form.txtProgress.Visible) return;
+    const double percent = Val(form.txtProgress.Text.substr(10));
+    EXPECT_GE(percent, before);
+    before = highest = percent;
+    if (now < secondsUntilEstimate) {
+      EXPECT_EQ(State().SecondsLeft, -1);
+    }
+    if (State().SecondsLeft < 0) return;
+    ++told;
+    // Every yield takes as long: the estimate is right from the first.
+    EXPECT_NEAR(State().SecondsLeft, State().EstimatedSeconds - now, 1.5);
+    EXPECT_NE(StatusText(Now()).find(" left"), std::string::npos);
+  };
+  Do("set cboWave 20\nclick optDisp\nset cboN 20\nclick cmdNewPlot");
+  EXPECT_GE(highest, 99);
+  EXPECT_GT(told, 100);
+  EXPECT_EQ(State().SecondsLeft, -1);
+  EXPECT_EQ(Get("txtProgress.Visible"), "false");
+  EXPECT_EQ(TimeLeftWords(12.3), "13 s left");
+  EXPECT_EQ(TimeLeftWords(61), "65 s left");
+  EXPECT_EQ(TimeLeftWords(200), "4 min left");
+}
+
+TEST_F(Spectrum, LeeDiagramsTakeOneSize) {
+  Do("click optDisp");
+  State().GraphType = 20;
+  RefuseDisperseLeeDiagram(Now());
+  EXPECT_EQ(LastTitle(), "Disperse calculations");
+  EXPECT_EQ(LastText(),
+            "Lee diagrams are calculated for monodisperse droplets\n"
+            "After this calculation, select \"Disperse\" and use the \"Replot\" command");
+  EXPECT_EQ(Get("optMono"), "true");
+}
+
+}  // namespace
+}  // namespace lumivex
