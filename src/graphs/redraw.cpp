@@ -3,6 +3,7 @@
 #include "graphs/curve_legend.h"
 #include "graphs/curve_path.h"
 #include "graphs/frame.h"
+#include "graphs/phasor_diagram.h"
 #include "graphs/two_panels.h"
 
 namespace lumivex {
@@ -26,6 +27,7 @@ GraphBox BoxOf(const AxisState& axis, const KeptPanel& panel) {
 }  // namespace
 
 void RedrawGraph(Session& session) {
+  if (ShowsDebyeAnalysis(session.state)) return DrawDebyeAnalysis(session);
   auto& s = session.state;
   auto& surface = *session.surface;
   surface.BackColour = session.form1.mnuWhite.Checked ? colours::White : colours::ButtonFace;

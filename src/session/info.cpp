@@ -85,8 +85,10 @@ std::string StatusText(const Session& session) {
     return session.form1.txtProgress.Text + (left.empty() ? "" : "   " + left);
   }
   if (s.PrevGraphType == 0) return "Ready";
-  lines.push_back((spectrum || !BySeries(s) ? "Calculated in " : "Series: ") +
-                  (spectrum ? TimeWords(s.LastRunSeconds) : RunWords(s)));
+  if (s.ResultWavelengths > 1)
+    return session.form1.cboType.Text + ", " + std::to_string(s.WavelengthsDone) + " wavelengths, " +
+           TimeWords(s.LastRunSeconds);
+  return session.form1.cboType.Text + ", " + RunWords(s);
 }
 
 }  // namespace lumivex

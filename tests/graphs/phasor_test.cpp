@@ -20,9 +20,11 @@ struct Phasors : testing::Test, GraphSession {
 
 TEST_F(Phasors, StandByModulusAndPhaseWithTheirNumbers) {
   state.PlotMode = 1;
-  surface.Cls();
+  RecordingSurface wide{24000, 15360};  // enough for the circle at its place
+  session.surface = &wide;
+  wide.Cls();
   PlotDots(session, terms, 4, 1e-4, 1);
-  const DrawingReader drawing(surface);
+  const DrawingReader drawing(wide);
   const auto dots = drawing.All(DrawnOperation::Kind::FilledBox);
   ASSERT_EQ(dots.size(), 3U) << "a term below the centre's value is left out";
   const auto centreOf = [](const DrawnOperation& dot) {
@@ -35,15 +37,27 @@ TEST_F(Phasors, StandByModulusAndPhaseWithTheirNumbers) {
   EXPECT_EQ(drawing.All(DrawnOperation::Kind::Circle).size(), 4U) << "the rim and 0.1, 0.01, 0.001";
 
   state.PlotMode = 2;
-  surface.Forget();
+  wide.Forget();
   PlotDots(session, terms, 4, 1e-4, 1, {DotLabels::Rule::AboveSize, 1});
   EXPECT_TRUE(drawing.All(DrawnOperation::Kind::Circle).empty()) << "an overplot adds dots only";
   EXPECT_EQ(drawing.Text("1"), nullptr);
   EXPECT_NE(drawing.Text("2"), nullptr);
   form.cboPol.Text = "Parallel polarisation";
-  surface.Forget();
+  wide.Forget();
   PlotDots(session, terms, 4, 1e-4, 1);
-  EXPECT_TRUE(surface.Operations().empty());
+  EXPECT_TRUE(wide.Operations().empty());
+}
+
+// On a surface of usual width circle and box share what there is.
+TEST_F(Phasors, NarrowSurfacesHoldTheWholeCircle) {
+  state.PlotMode = 1;
+  surface.Cls();
+  PlotDots(session, terms, 4, 1e-4, 1);
+  const DrawingReader drawing(surface);
+  const auto boxes = drawing.All(DrawnOperation::Kind::Box);
+  ASSERT_EQ(boxes.size(), 1U);
+  EXPECT_LT(boxes[0].points[1].x, state.PolarCentreX - state.PolarRadius);
+  EXPECT_LT(state.PolarCentreX + state.PolarRadius, surface.ScaleWidth());
 }
 
 }  // namespace

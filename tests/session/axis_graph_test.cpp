@@ -186,5 +186,35 @@ TEST_F(AxisGraphs, AStopLeavesThePointsThatWereDone) {
   Do("click cmdReplot");
 }
 
+TEST_F(AxisGraphs, DebyeAnalysisTakesTheTermsAwayOneByOne) {
+  Do("dialog dlogDebyeSeq ok txtLimit=12\nclick mnuDebyeSequence\nset txtRefractImag 0\nset cboRays 2\nclick "
+     "cmdNewPlot");
+  ASSERT_TRUE(Shown().empty()) << LastText();
+  const auto& s = State();
+  ASSERT_EQ(s.DebyeDotCount, 14);
+  EXPECT_EQ(Get("cboRays"), "2");
+  // The last remainder is Mie less the sum of all terms, as the difference of the two series gives it.
+  const ComplexD left = s.DebyeDots1.Value(14), all = s.DebyeDots1.Value(1);
+  Do("choose cboGraph Intensity v. radius\nset cboRays -12\nset txtXmin 10\nset txtXmax 12\nset cboStep 0.5\nclick "
+     "cmdNewPlot");
+  EXPECT_NEAR(s.S1ofPoint.Re(1), all.re - left.re, 1e-9 * std::abs(all.re));
+  Do("click mnuMieDebye\nclick cmdNewPlot");
+  EXPECT_NEAR(s.S1ofPoint.Re(1), left.re, 1e-9 * std::abs(all.re));
+  EXPECT_NEAR(s.S1ofPoint.Im(1), left.im, 1e-9 * std::abs(all.re));
+}
+
+// Points of an x-axis graph stand at the angle typed, whatever the method's grid would be.
+TEST_F(AxisGraphs, EveryMethodAnswersAtTheAngleTyped) {
+  for (const char* method : {"Debye", "Young mod", "Young + Airy", "Airy", "Diffraction", "Rayleigh", "Huygens"}) {
+    SCOPED_TRACE(method);
+    Do("reset\nchoose cboType " + std::string(method) + "\nset cboRays 2\nset txtRefractImag 0\nset txtRadius 3");
+    Do("set txtXmin 138.5\nset txtXmax 139.5\nset cboStep 0.1\nclick cmdNewPlot");
+    const double between = 0.5 * (std::sqrt(State().Iperp[1390]) + std::sqrt(State().Iperp[1391]));
+    Do("choose cboGraph Intensity v. radius\nset txtAngle 138.95\nset txtXmin 3\nset txtXmax 4\nset cboStep 0.2");
+    Do("click cmdNewPlot");
+    EXPECT_NEAR(std::sqrt(State().Iperp[1]) / between, 1, 1e-3);
+  }
+}
+
 }  // namespace
 }  // namespace lumivex

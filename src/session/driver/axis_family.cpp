@@ -11,6 +11,7 @@
 #include "session/axis_graphs.h"
 #include "session/driver/angle_family.h"
 #include "session/driver/angle_quantities.h"
+#include "session/driver/debye_analysis.h"
 #include "session/driver/point_solver.h"
 #include "session/driver/progress.h"
 #include "session/driver/solver_chain.h"
@@ -336,6 +337,7 @@ void FillAxisCurves(Session& session) {
 void CalculateAxis(Session& session) {
   auto& s = session.state;
   if (s.GraphType == 13) return CalculateConvergence(session);
+  if (s.GraphType == 10 && s.GraphSubType == 10) return CalculateDebyeAnalysis(session);
   AxisRun run;
   run.graph = FindAxisGraph(s.GraphType, s.GraphSubType);
   if (run.graph == nullptr) return;

@@ -129,6 +129,8 @@ void cmdReplot_Click(Session& session) {
   } else if (s.GraphType == 1) {
     SetIntensityNorm(session);
     FillAngleCurves(session);
+  } else if (s.GraphType == 10 && s.GraphSubType == 10) {
+    // The terms stand; only their picture is new.
   } else if (s.GraphType == 10 || s.GraphType == 11 || s.GraphType == 12) {
     FillAxisCurves(session);
   }

@@ -2,6 +2,7 @@
 
 #include "graphs/huygens_drawing.h"
 #include "graphs/line_graph.h"
+#include "graphs/phasor_diagram.h"
 #include "graphs/polar_plot.h"
 #include "graphs/spectrum_graph.h"
 #include "graphs/two_panels.h"
@@ -14,7 +15,9 @@ void DisplayRun(Session& session) {
   const auto& form = session.form1;
   const bool matrix = (s.GraphType == 1 && s.GraphSubType == 6) || (s.GraphType == 10 && s.GraphSubType == 2);
   const bool panels = matrix || (s.GraphType == 1 && (form.mnuAmpPhase.Checked || form.mnuIntPol.Checked));
-  if (s.ResultWavelengths > 1) {
+  if (s.GraphType == 10 && s.GraphSubType == 10) {
+    DrawDebyeAnalysis(session);
+  } else if (s.ResultWavelengths > 1) {
     PlotNColour(session);
   } else if (panels) {
     DisplayTwoPanels(session);

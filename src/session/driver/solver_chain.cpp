@@ -4,7 +4,9 @@
 #include <array>
 
 #include "session/driver/progress.h"
+#include "session/record/number_text.h"
 #include "solvers/debye.h"
+#include "solvers/kernel/mie_efficiencies.h"
 #include "solvers/mie.h"
 #include "solvers/rays.h"
 #include "solvers/simple_methods.h"
@@ -12,6 +14,8 @@
 namespace lumivex {
 
 namespace {
+
+constexpr int debyeMethod = 2, stopRequested = 4;
 
 struct SolverRow {
   int method;
@@ -33,7 +37,14 @@ void Call(Session& session, const SolverCall& call, AmplitudeTable& S1, Amplitud
   auto& s = session.state;
   SessionMonitor monitor(session);
   const auto row = std::ranges::find(solverRows, s.CalcMethod, &SolverRow::method);
-  if (row != solverRows.end()) row->solver(session, call, S1, S2, s.Qext, s.Qsca, s.Qback, s.Gsca, monitor);
+  if (row == solverRows.end()) return;
+  row->solver(session, call, S1, S2, s.Qext, s.Qsca, s.Qback, s.Gsca, monitor);
+  if (s.CalcMethod != debyeMethod || s.PlotMode == stopRequested || Val(session.form1.txtRefractImag.Text) == 0) return;
+  // The series tells no efficiencies of an absorbing sphere: those of the selected terms' own field stand, not what a
+  // run before has left.
+  const Efficiencies efficiencies = EfficienciesOf(s.Waves, call.x);
+  s.Qext = efficiencies.Qext;
+  s.Qsca = efficiencies.Qsca;
 }
 
 }  // namespace

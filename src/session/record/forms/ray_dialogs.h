@@ -48,7 +48,7 @@ struct DlogDebyeSeq final : Form {
   DlogDebyeSeq() : Form("dlogDebyeSeq", "Sequence of Debye terms") {}
   Label lblLimit{*this, "lblLimit", "Highest p"};
   TextInput txtLimit{*this, "txtLimit", "20", "Highest p of the sequence of Debye terms"};
-  CheckBox chkLabels{*this, "chkLabels", "Label the terms", true, "Print p beside the points"};
+  CheckBox chkLabels{*this, "chkLabels", "Label some of them only", true, "Without it every point has its number"};
   Label lblTerms{*this, "lblTerms", "n"};
   TextInput txtTerms{*this, "txtTerms", "5", "Number n of the option below"};
   OptionButton optTerms{*this, "optTerms", "labels", "Terms up to p = n", true, "Label the first terms"};
