@@ -45,7 +45,26 @@ std::string Unused(const std::vector<Column>& columns, const std::string& name) 
   return unused;
 }
 
+/// A two-angle chart as a table: the radii of a run, then both cross-sections of each index.
+std::vector<Column> TwoAngleColumns(const KeptGraph& graph) {
+  std::vector<Column> columns;
+  int group = 0;
+  for (const auto& curve : graph.curves) {
+    const auto add = [&](const std::string& name, const std::vector<double>& values) {
+      Column column{Unused(columns, name), {}};
+      for (std::size_t i = 1; i < values.size(); ++i) column.cells.push_back(Cell(values[i]));
+      columns.push_back(std::move(column));
+    };
+    if (curve.group != group) add("Radius (\u00B5m)", curve.angle);
+    group = curve.group;
+    add(curve.name + ": " + graph.kind.xTitle, curve.x);
+    add(curve.name + ": Cross-section, " + graph.kind.yTitle, curve.y);
+  }
+  return columns;
+}
+
 std::vector<Column> Columns(const KeptGraph& graph) {
+  if (graph.kind.IsTwoAngle()) return TwoAngleColumns(graph);
   std::vector<Column> columns;
   const std::string xName(XAxisTitle(graph.kind));
   std::vector<std::pair<const KeptCurve*, RowSpan>> groups;

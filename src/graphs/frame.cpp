@@ -4,6 +4,7 @@
 
 #include "graphs/polar_plot.h"
 #include "graphs/scale.h"
+#include "graphs/two_angle_chart.h"
 
 namespace lumivex {
 
@@ -116,7 +117,11 @@ GraphKind KindNow(const Session& session) {
   kind.numberWavelengths = session.state.NumberWavelengths;
   kind.logX = form.optXLog.Checked && form.Frame8.Visible;
   kind.logY = form.OptLog.Checked;
-  kind.polar = form.mnuPolarPlot.Checked && !kind.IsMatrix();
+  if (IsTwoAngleContour(session.state)) {
+    kind.xTitle = TwoAngleXTitle(session.state);
+    kind.yTitle = TwoAngleYTitle(session.state);
+  }
+  kind.polar = form.mnuPolarPlot.Checked && !kind.IsMatrix() && !kind.IsTwoAngle();
   kind.ampPhase = form.mnuAmpPhase.Checked && !kind.IsMatrix();
   kind.intPol = form.mnuIntPol.Checked && !kind.IsMatrix();
   kind.amplitude = form.mnuAmplitude.Checked;

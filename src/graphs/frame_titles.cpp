@@ -102,6 +102,12 @@ void PaintYTitle(FramePaint& paint) {
     PrintAbove(paint, top - 600 + line, kind.amplitude ? " Amplitude" : " Intensity");
   } else if (type == 1 && sub == 3) {
     PaintWattsTitle(paint);
+  } else if (kind.IsTwoAngle()) {
+    // The unit on a line of its own: the margin is narrow.
+    const std::string_view title = kind.yTitle;
+    const auto unit = std::min(title.find('('), title.size());
+    PrintAbove(paint, top - 600 + line, title.substr(unit));
+    PrintAbove(paint, top - 600, title.substr(0, unit));
   }
 }
 

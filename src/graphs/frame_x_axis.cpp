@@ -209,6 +209,7 @@ void PaintXAxis(FramePaint& paint) {
 }
 
 std::string_view XAxisTitle(const GraphKind& kind) {
+  if (kind.IsTwoAngle()) return kind.xTitle;
   for (const auto& row : xTitles)
     if (row.type == kind.graphType && (row.subType == 0 || row.subType == kind.graphSubType))
       return kind.fourier ? row.frequencyTitle : row.title;

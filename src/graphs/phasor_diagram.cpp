@@ -15,7 +15,7 @@ namespace {
 
 constexpr double pi = 3.14159265358979;
 constexpr double centreX = 18500, centreY = 7000;
-constexpr int largestRadius = 5000;
+constexpr double largestRadius = 5000, smallestRadius = 1000;
 constexpr double boxLeft = 1000, boxTop = 4000, widestBox = 13000, narrowestBox = 9000, lowestBox = 12000, gap = 300;
 constexpr int mostRings = 20;
 constexpr double halfDot = 10;
@@ -35,9 +35,12 @@ Disc PlaceDisc(const DrawingSurface& surface) {
   Disc disc;
   disc.boxBottom = std::clamp(surface.ScaleHeight() - gap, boxTop + gap, lowestBox);
   const double right = surface.ScaleWidth() - gap;
-  if (right >= centreX + largestRadius) return disc;
-  disc.boxRight = std::clamp(right - 2 * largestRadius - gap, narrowestBox, widestBox);
-  disc.radius = std::clamp((right - disc.boxRight - gap) / 2, 1000.0, static_cast<double>(largestRadius));
+  // Below the circle a line tells its scale.
+  const double most = std::clamp(surface.ScaleHeight() - centreY - 2 * gap, smallestRadius, largestRadius);
+  disc.radius = most;
+  if (right >= centreX + most) return disc;
+  disc.boxRight = std::clamp(right - 2 * most - gap, narrowestBox, widestBox);
+  disc.radius = std::clamp((right - disc.boxRight - gap) / 2, smallestRadius, most);
   disc.x = right - disc.radius;
   return disc;
 }

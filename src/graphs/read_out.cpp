@@ -13,6 +13,7 @@ namespace lumivex {
 namespace {
 
 constexpr double degreesPerRadian = 180 / 3.14159265358979;
+constexpr std::string_view squareMicrometres = "sq \u00B5m";
 
 std::string WithUnit(double value, int digits, std::string_view unit) {
   const std::string number(Trim(Significant(value, digits)));
@@ -98,6 +99,7 @@ bool CanZoom(const GraphState& graph) {
 std::string_view XUnit(const GraphKind& kind) {
   const int type = kind.graphType, sub = kind.graphSubType;
   if (kind.fourier) return "";
+  if (kind.IsTwoAngle()) return squareMicrometres;
   if (type < 10) return "deg";
   if (type == 10 || type == 15) return "nm";
   if (type == 11) return sub == 2 ? "" : "\u00B5m";
@@ -109,6 +111,7 @@ std::string_view XUnit(const GraphKind& kind) {
 
 std::string_view YUnit(const GraphKind& kind, bool secondPanel) {
   if (secondPanel) return kind.ampPhase ? "deg" : "";
+  if (kind.IsTwoAngle()) return squareMicrometres;
   const int type = kind.graphType, sub = kind.graphSubType;
   if ((type == 14 && (sub == 2 || sub == 4 || sub == 6)) || (type == 15 && sub == 2)) return "sq m";
   if (type == 1 && sub == 3) return "W/sq m";
@@ -128,7 +131,9 @@ std::optional<GraphReading> ReadGraph(const GraphState& graph, double surfaceX, 
   const XRange range{panel.limits.xmin, panel.limits.xmax};
   const std::string_view xUnit = XUnit(drawn.kind), yUnit = YUnit(drawn.kind, panel.second);
   reading.text = WithUnit(reading.x, DigitsOfX(reading.x, range), xUnit) + "   " + WithUnit(reading.y, 4, yUnit);
-  if (reading.onCurve) {
+  if (reading.onCurve && drawn.kind.IsTwoAngle()) {
+    reading.text += "      " + drawn.curves[reading.curve].name + ", r = " + WithUnit(reading.curveX, 6, "\u00B5m");
+  } else if (reading.onCurve) {
     reading.text += "      " + drawn.curves[reading.curve].name + ": " +
                     WithUnit(reading.curveX, DigitsOfX(reading.curveX, range), xUnit) + "   " +
                     WithUnit(reading.curveY, 6, yUnit);

@@ -4,6 +4,7 @@
 #include "graphs/curve_path.h"
 #include "graphs/frame.h"
 #include "graphs/phasor_diagram.h"
+#include "graphs/two_angle_chart.h"
 #include "graphs/two_panels.h"
 
 namespace lumivex {
@@ -42,6 +43,7 @@ void RedrawGraph(Session& session) {
     if (!graph.kind.polar) PaintBoxSides(surface, graph.kind, panel.box);
     if (panel.second && graph.kind.intPol) PaintMiddleLine(surface, panel.box);
   }
+  PaintTwoAngleNotes(session);
   PaintPanelLegend(session);
   PaintLegend(session);
   surface.ForeColour = colours::Black;

@@ -12,6 +12,7 @@
 #include "session/input_events.h"
 #include "session/methods.h"
 #include "session/start_up.h"
+#include "session/two_angle_inputs.h"
 #include "session/undo.h"
 #include "session/window_events.h"
 #include "solvers/debye_menus.h"
@@ -46,6 +47,9 @@ constexpr EventRow eventRows[] = {
     {"mnuvdh_Click", mnuvdh_Click},
     {"mnuDebyeSequence_Click", mnuDebyeSequence_Click},
     {"chkComponents_Click", Scale_Click},
+    {"mnuTwoAngle_Click", mnuTwoAngle_Click},
+    {"dlogTwoAngle.Show", AskTwoAngle},
+    {"dlogTwoAngle.OKButton_Click", dlogTwoAngle_OKButton_Click},
 
     // Inputs.
     {"Inputs_Changed", Inputs_Changed},

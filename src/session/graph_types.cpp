@@ -78,8 +78,9 @@ constexpr std::array graphRows = {
     GraphRow{33, 0, "Vol: Int v. radius", 0, VolumeGraphs},
 };
 
+constexpr std::string_view variableIndex = "Sphere: Variable refractive index";
 constexpr std::string_view setByUser[] = {"Sphere: Refractive index set by user", "Sphere: Fixed refractive index",
-                                          "Sphere: Variable refractive index"};
+                                          variableIndex};
 
 std::string WithUnit(std::string_view caption, std::string_view unit) {
   return unit.empty() ? std::string(caption) : std::string(caption) + " (" + std::string(unit) + ")";
@@ -180,8 +181,7 @@ void ChangeFamily(Session& session, int oldType) {
     form.lblSphere.Caption = s.KeptSphereLabel;
     s.SphereName = s.KeptSphereName;
   }
-  if (graph != nullptr && graph->variable == AxisVariable::RefractiveIndex)
-    form.lblSphere.Caption = "Sphere: Variable refractive index";
+  if (graph != nullptr && graph->variable == AxisVariable::RefractiveIndex) form.lblSphere.Caption = variableIndex;
   form.mnuXStepLog.Checked = graph != nullptr && graph->logSteps && !form.mnuKeepParameters.Checked;
   if (form.mnuKeepParameters.Checked) return;
   if (graph != nullptr) {
@@ -192,12 +192,39 @@ void ChangeFamily(Session& session, int oldType) {
   session.events.Raise("txtLambda_change");
 }
 
+/// The chart of two angles varies the index of the sphere, and has like scales for its two like axes.
+void EnterOrLeaveTwoAngle(Session& session, bool was) {
+  auto& s = session.state;
+  auto& form = session.form1;
+  const bool is = IsTwoAngleContour(s);
+  if (is) {
+    form.lblSphere.Caption = variableIndex;
+    if (form.OptLog.Checked) form.optXLog.Select();
+  } else if (was && form.lblSphere.Caption == variableIndex) {
+    form.lblSphere.Caption = s.KeptSphereLabel;
+    s.SphereName = s.KeptSphereName;
+  }
+}
+
+/// Its ranges and radii stand in its dialog, not in the panel.
+void ShowTwoAngleInputs(Session& session) {
+  auto& form = session.form1;
+  const bool chart = IsTwoAngleContour(session.state);
+  for (Control* control : std::initializer_list<Control*>{&form.Label8, &form.cboPol, &form.Label3, &form.txtXmin,
+                                                          &form.Label2, &form.txtXmax, &form.Label5, &form.cboStep})
+    control->Visible = !chart;
+  if (!chart) return;
+  form.Frame2.Caption = "Horizontal scale";
+  form.Label7.Visible = form.txtRadius.Visible = false;
+}
+
 /// Graphs in absolute units of light ask how far the observer is and how strong the light.
 void AskForDistance(Session& session) {
   const auto& s = session.state;
   const bool absolute = s.GraphType == 1 && s.GraphSubType >= 3 && s.GraphSubType <= 5;
   if (absolute || s.GraphType == 18) {
     session.events.Raise("dlogIncident.Show");
+    if (IsTwoAngleContour(s)) session.events.Raise("dlogTwoAngle.Show");
   } else {
     session.form1.lblWatts.Visible = session.form1.lblDistance.Visible = false;
   }
@@ -240,6 +267,7 @@ void ShowFamilyInputs(Session& session) {
       graph != nullptr && (graph->variable == AxisVariable::Radius || graph->variable == AxisVariable::Diameter ||
                            graph->variable == AxisVariable::SizeParameter);
   ShowSizeInputs(session);
+  ShowTwoAngleInputs(session);
   if (sizeOnAxis) form.Label7.Visible = form.txtRadius.Visible = false;
   const bool wavelengthOnAxis = graph != nullptr && graph->variable == AxisVariable::Wavelength;
   if (wavelengthOnAxis) form.Label6.Visible = form.txtLambda.Visible = false;
@@ -272,9 +300,11 @@ void cboGraph_Click(Session& session) {
   form.OptXLinear.Select();
 
   const int oldType = s.GraphType;
+  const bool wasTwoAngle = IsTwoAngleContour(s);
   s.GraphType = row->type;
   if (row->subType != 0) s.GraphSubType = row->subType;
   ChangeFamily(session, oldType);
+  EnterOrLeaveTwoAngle(session, wasTwoAngle);
   if (s.GraphType == 1) {
     form.mnuInvWavelength.Checked = Trim(form.cboWave.Text) != "1";
     form.mnuAmpPhase.Enabled = form.mnuIntPol.Enabled = s.GraphSubType == 1;

@@ -17,6 +17,13 @@ std::string IndexWords(double real, double imaginary) {
   return imaginary == 0 ? Number(real) : Number(real) + " + " + Number(imaginary) + " i";
 }
 
+/// First and last of a list and the number between.
+std::string SpanWords(const std::vector<double>& values) {
+  if (values.size() == 1) return Number(values.front());
+  return Number(values.front()) + " to " + Number(values.back()) + " in " + std::to_string(values.size() - 1) +
+         " steps";
+}
+
 std::string TimeWords(double seconds) {
   return seconds < 1 ? Significant(seconds * 1000, 2) + " ms" : Significant(seconds, 3) + " s";
 }
@@ -46,6 +53,7 @@ std::vector<std::string> RunParameters(const Session& session) {
   lines.push_back("Method: " + form.cboType.Text);
   lines.push_back("Graph: " + form.cboGraph.Text);
   const bool spectrum = s.ResultWavelengths > 1;
+  const bool twoAngle = s.PrevGraphType == 1 && s.PrevGraphSubType == 5 && !s.TwoAngleRadius.empty();
   if (spectrum) {
     lines.push_back(std::to_string(s.ResultWavelengths) + " wavelengths, " + SpectrumRange(s));
     lines.push_back("Light: " + s.ResultSource);
@@ -54,12 +62,24 @@ std::vector<std::string> RunParameters(const Session& session) {
   }
   // Of several wavelengths the one in the middle stands for the others.
   const std::string middle = spectrum ? " at " + Significant(1000 * s.Lambda, 6) + " nm" : "";
-  lines.push_back("Radius: " + Number(s.Radius) + " \u00B5m");
-  lines.push_back("Size parameter x: " + Number(s.SizeParameter) + middle);
-  lines.push_back(form.lblSphere.Caption);
-  lines.push_back("   n = " + IndexWords(s.SphereRIReal, s.SphereRIImag) + middle);
+  if (twoAngle) {
+    lines.push_back("Radius: " + SpanWords(s.TwoAngleRadius) + " \u00B5m");
+    lines.push_back("Sphere: n = " + SpanWords(s.TwoAngleIndex));
+  } else {
+    lines.push_back("Radius: " + Number(s.Radius) + " \u00B5m");
+    lines.push_back("Size parameter x: " + Number(s.SizeParameter) + middle);
+    lines.push_back(form.lblSphere.Caption);
+    lines.push_back("   n = " + IndexWords(s.SphereRIReal, s.SphereRIImag) + middle);
+  }
   lines.push_back(form.lblRI_Medium.Caption);
   lines.push_back("   n = " + Number(s.MediumRIReal) + middle);
+  if (twoAngle) {
+    lines.push_back("Angles: " + Number(s.Angle1Min) + " to " + Number(s.Angle1Max) + "\u00B0 and " +
+                    Number(s.Angle2Min) + " to " + Number(s.Angle2Max) + "\u00B0");
+    lines.push_back("Spheres: " + std::to_string(s.TwoAngleRadius.size() * s.TwoAngleIndex.size()) + ", " +
+                    TimeWords(s.LastRunSeconds));
+    return lines;
+  }
   const std::string unit = s.PrevGraphType < 10 ? "\u00B0" : "";
   lines.push_back(
       form.Frame2.Caption + ": " + Number(s.Xmin) + unit + " to " + Number(s.Xmax) + unit +

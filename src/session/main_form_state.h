@@ -14,6 +14,7 @@
 #include "session/record/groups/series_state.h"
 #include "session/record/groups/size_state.h"
 #include "session/record/groups/spectrum_results.h"
+#include "session/record/groups/two_angle_state.h"
 
 namespace lumivex {
 
@@ -30,7 +31,8 @@ struct MainFormState : RunState,
                        SizeState,
                        ColourState,
                        GraphState,
-                       RayState {};
+                       RayState,
+                       TwoAngleState {};
 
 /// Visits every field of the record as visit(name, field), group by group in the order above. State is MainFormState,
 /// const or not.
@@ -53,6 +55,7 @@ void ForEachStateField(State& state, Visitor&& visit) {
   group(as(std::type_identity<ColourState>{}));
   group(as(std::type_identity<GraphState>{}));
   group(as(std::type_identity<RayState>{}));
+  group(as(std::type_identity<TwoAngleState>{}));
 }
 
 }  // namespace lumivex

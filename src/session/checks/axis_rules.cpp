@@ -42,7 +42,7 @@ Verdict CheckAxis(Check& check, const AxisWords& words) {
 }
 
 bool AgainstAngle(const RunState& s) {
-  return s.GraphType < 10;
+  return s.GraphType < 10 && !IsTwoAngleContour(s);
 }
 
 }  // namespace
@@ -83,7 +83,9 @@ Verdict NumericInputs(Check& check) {
   auto& session = check.session;
   for (SelectionList* limit : {&form.cboYmax, &form.cboYmin})
     if (limit->Text != automaticLimit && !getval(session, *limit, 1e300, NumberSign::Any)) return Verdict::End;
-  if (form.mnuPlaneWave.Checked) {
+  // The two-angle contour has its own ranges and radii in its dialog.
+  const bool ownInputs = IsTwoAngleContour(check.state);
+  if (form.mnuPlaneWave.Checked && !ownInputs) {
     for (TextInput* limit : {&form.txtXmin, &form.txtXmax})
       if (!getval(session, *limit, largestInput, NumberSign::PositiveOrZero)) return Verdict::End;
   }
@@ -101,6 +103,7 @@ Verdict NumericInputs(Check& check) {
                              Number{&form.txtRefractImag, largestIndex, NumberSign::PositiveOrZero},
                              Number{&form.txtRefractMedium, largestIndex, NumberSign::PositiveOrZero}})
     if ((number.control != &form.txtLambda || oneWavelength) &&
+        !(ownInputs && (number.control == &form.cboStep || number.control == &form.txtRadius)) &&
         !getval(session, *number.control, number.upperLimit, number.sign))
       return Verdict::End;
   check.Xmin = Val(form.txtXmin.Text);

@@ -87,6 +87,7 @@ Verdict MethodAgainstGraph(Check& check) {
   }
   if (form.optDisp.Checked && NeedsOneSphere(s))
     return Refuse(check, {&form.cboGraph}, "This graph type is available only for monodisperse calculations");
+  if (IsTwoAngleContour(s) && s.CalcMethod != 1) return Refuse(check, {&form.cboGraph}, onlyMie);
   const bool matrix = (s.GraphType == 1 && s.GraphSubType == 6) || (s.GraphType == 10 && s.GraphSubType == 2);
   if (matrix && s.CalcMethod != 1) {
     Warn(check, "This graph type is available only for Mie calculations");

@@ -126,7 +126,7 @@ void cmdReplot_Click(Session& session) {
   SunCorrection(session);
   if (s.ResultWavelengths > 1) {
     FoldSpectrum(session);
-  } else if (s.GraphType == 1) {
+  } else if (s.GraphType == 1 && !IsTwoAngleContour(s)) {
     SetIntensityNorm(session);
     FillAngleCurves(session);
   } else if (s.GraphType == 10 && s.GraphSubType == 10) {

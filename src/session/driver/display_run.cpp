@@ -5,6 +5,7 @@
 #include "graphs/phasor_diagram.h"
 #include "graphs/polar_plot.h"
 #include "graphs/spectrum_graph.h"
+#include "graphs/two_angle_chart.h"
 #include "graphs/two_panels.h"
 #include "solvers/visible_data.h"
 
@@ -17,6 +18,8 @@ void DisplayRun(Session& session) {
   const bool panels = matrix || (s.GraphType == 1 && (form.mnuAmpPhase.Checked || form.mnuIntPol.Checked));
   if (s.GraphType == 10 && s.GraphSubType == 10) {
     DrawDebyeAnalysis(session);
+  } else if (IsTwoAngleContour(s)) {
+    DisplayTwoAngle(session);
   } else if (s.ResultWavelengths > 1) {
     PlotNColour(session);
   } else if (panels) {
@@ -24,7 +27,7 @@ void DisplayRun(Session& session) {
   } else {
     Display(session, s.Iperp, s.Ipar, s.Iunpol);
   }
-  if (form.mnuPolarPlot.Checked) PolarLabel(session);
+  if (form.mnuPolarPlot.Checked && !IsTwoAngleContour(s)) PolarLabel(session);
   PrintTitle(session);
   VisibleData(session);
   DrawHuygens(session);

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "session/record/number_text.h"
+#include "session/two_angle_inputs.h"
 #include "solvers/kernel/angular_sum.h"
 #include "solvers/kernel/logarithmic_derivative.h"
 #include "solvers/kernel/mie_coefficients.h"
@@ -49,7 +50,8 @@ double SecondsHere(Session& session) {
   auto& s = session.state;
   const double x = 2 * 3.14159265358979 * SphereRadius(session) / TypicalWavelength(session);
   const double terms = x + 4 * std::cbrt(std::max(x, 0.0)) + 20;
-  const double pairTerms = terms * 90 / Val(session.form1.cboStep.Text) * SpheresOf(session);
+  const double pairTerms = IsTwoAngleContour(s) ? TwoAnglePairTerms(session)
+                                                : terms * 90 / Val(session.form1.cboStep.Text) * SpheresOf(session);
   if (!(pairTerms > pairTermsNeverSlow)) return 0;
   if (s.SecondsPerPairTerm == 0) s.SecondsPerPairTerm = MeasurePairTerm(session.platform);
   return pairTerms * s.SecondsPerPairTerm;
@@ -59,6 +61,9 @@ double SecondsHere(Session& session) {
 
 double ReferenceSeconds(const Session& session) {
   const auto& form = session.form1;
+  // What the fit below gives for a term of a pair of angles of the first plot's sphere.
+  constexpr double secondsPerPairTerm = 2e-5;
+  if (IsTwoAngleContour(s)) return secondsPerPairTerm * TwoAnglePairTerms(session);
   const double r = SphereRadius(session);
   const double step = Val(form.cboStep.Text);
   const double S = (Val(form.txtXmax.Text) - Val(form.txtXmin.Text)) / step;

@@ -8,6 +8,7 @@
 #include "session/driver/display_run.h"
 #include "session/driver/progress.h"
 #include "session/driver/spectrum_family.h"
+#include "session/driver/two_angle_family.h"
 #include "session/info.h"
 #include "session/record/number_text.h"
 #include "solvers/sphere_size.h"
@@ -99,6 +100,7 @@ class ResultsBefore {
 void Calculate(Session& session) {
   const int type = session.state.GraphType;
   if (IsSpectrumRun(session.state)) return CalculateSpectrum(session);
+  if (IsTwoAngleContour(session.state)) return CalculateTwoAngle(session);
   if (type < 10) CalculateAngles(session);
   if (type >= 10 && type < 19) CalculateAxis(session);
 }

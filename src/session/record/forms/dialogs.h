@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "session/record/form.h"
+#include "session/record/forms/angle_dialogs.h"
 #include "session/record/forms/light_dialogs.h"
 #include "session/record/forms/main_form.h"
 #include "session/record/forms/material_dialogs.h"
@@ -52,7 +53,7 @@ struct DlogPlotColour final : Form {
 };
 
 /// Every window and dialog of a session.
-struct Forms : MaterialDialogs, LightDialogs, SizeDialogs, RayDialogs {
+struct Forms : MaterialDialogs, LightDialogs, SizeDialogs, RayDialogs, AngleDialogs {
   Form1 form1;
   DlogTemp dlogTemp;
   DlogSpectrumBand dlogSpectrumBand;
@@ -62,7 +63,7 @@ struct Forms : MaterialDialogs, LightDialogs, SizeDialogs, RayDialogs {
   /// All of them, the main window first.
   std::vector<Form*> All() {
     std::vector<Form*> all = {&form1, &dlogTemp, &dlogSpectrumBand, &dlogAverage, &dlogPlotColour};
-    for (const auto& more : {MaterialForms(), LightForms(), SizeForms(), RayForms()})
+    for (const auto& more : {MaterialForms(), LightForms(), SizeForms(), RayForms(), AngleForms()})
       all.insert(all.end(), more.begin(), more.end());
     return all;
   }

@@ -21,13 +21,18 @@ struct GraphKind {
   bool intPol = false;     ///< with the degree of polarisation in a second panel
   bool amplitude = false;  ///< moduli instead of intensities
   bool fourier = false;    ///< frequencies instead of the quantity of the axis
+  std::string xTitle;      ///< titles of the axes of a two-angle chart, which name its ranges; empty for other graphs
+  std::string yTitle;
 
   /// Scattering matrix: S11 above, the ratios of the other elements to it below.
   bool IsMatrix() const { return (graphType == 1 && graphSubType == 6) || (graphType == 10 && graphSubType == 2); }
   /// Whether one may be drawn over the other, on its axes.
   bool SharesAxesWith(const GraphKind& other) const {
-    return graphType == other.graphType && IsMatrix() == other.IsMatrix();
+    return graphType == other.graphType && IsMatrix() == other.IsMatrix() && xTitle == other.xTitle &&
+           yTitle == other.yTitle;
   }
+  /// Cross-sections into two ranges of angle, one against the other.
+  bool IsTwoAngle() const { return !xTitle.empty(); }
 };
 
 /// Where a panel stands, so that it finds its place again when the graph changes its size.
@@ -50,7 +55,9 @@ struct KeptCurve {
   std::string name;           ///< as the legend prints it
   std::vector<double> x;      ///< in the unit of the x axis; in a polar plot the polar angle (degrees)
   std::vector<double> y;      ///< after the fold with the solar disc
-  std::vector<double> angle;  ///< scattering angle (degrees) where x is a phase, otherwise empty
+  std::vector<double> angle;  ///< what runs along the curve where x does not: the scattering angle (degrees) where x
+                              ///< is a phase, the radius (um) of a two-angle chart; otherwise empty
+  int group = 0;              ///< of a two-angle chart: curves of one run, whose rows are of the same radius
   double averageRows = 0;     ///< rows of the running mean; 0 without
   bool interpolate = false;   ///< cubic interpolation between the points
   bool wraps = false;         ///< an angle: it goes on at 0 after 360

@@ -79,6 +79,8 @@ constexpr std::array menuRows = {
     MenuRow{"Graph", "mnuAverage", GraphLook},
     MenuRow{"Graph", "mnuInterpolate", GraphLook},
     MenuRow{"Graph", "mnuFFT", FourierTransform},
+    MenuRow{"Graph", "-", AngleFamily},
+    MenuRow{"Graph", "mnuTwoAngle", AngleFamily},
     MenuRow{"Graph", "-", AxisFamilies},
     MenuRow{"Graph", "mnuXStepLog", AxisFamilies},
     MenuRow{"Graph", "mnuInvWavelength", GraphLook},

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "session/record/layout/angle_dialog_lines.h"
 #include "session/record/layout/light_dialog_lines.h"
 #include "session/record/layout/material_dialog_lines.h"
 #include "session/record/layout/ray_dialog_lines.h"
@@ -103,6 +104,7 @@ std::span<const DialogLayout> Dialogs() {
     add(lightDialogLayouts);
     add(sizeDialogLayouts);
     add(rayDialogLayouts);
+    add(angleDialogLayouts);
     return layouts;
   }();
   return all;
