@@ -1,5 +1,7 @@
 #include "materials/dropped_file.h"
 
+#include <algorithm>
+
 #include "materials/dialog_use.h"
 #include "materials/light_sources.h"
 #include "materials/material_menus.h"
@@ -10,8 +12,19 @@
 
 namespace lumivex {
 
+namespace {
+
+constexpr const char* indexEndings[] = {".rix", ".csv", ".yml", ".yaml"};
+
+}  // namespace
+
+bool TakesDroppedFile(const std::string& path) {
+  const auto ends = [&path](const char* ending) { return EndsWith(path, ending); };
+  return std::ranges::any_of(indexEndings, ends) || ends(".spe") || ends(".dis");
+}
+
 bool ReadDroppedFile(Session& session, const std::string& path) {
-  for (const char* ending : {".rix", ".csv", ".yml", ".yaml"}) {
+  for (const char* ending : indexEndings) {
     if (!EndsWith(path, ending)) continue;
     if (ReadRefIndex1(session, path)) UseFileTable1(session);
     return true;

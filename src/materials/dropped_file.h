@@ -11,4 +11,7 @@ namespace lumivex {
 /// @return false for an ending that is none of these: the file is somebody else's.
 bool ReadDroppedFile(Session& session, const std::string& path);
 
+/// Whether a file with that name is one of those.
+bool TakesDroppedFile(const std::string& path);
+
 }  // namespace lumivex

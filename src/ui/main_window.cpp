@@ -4,18 +4,22 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QDropEvent>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QPointer>
 #include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
+#include <QUrl>
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
+#include "session/dropped_files.h"
 #include "session/info.h"
 #include "session/user_actions.h"
 #include "session/window_events.h"
@@ -38,6 +42,13 @@ bool IsReturn(const QEvent* event) {
   return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
+std::vector<std::string> LocalFiles(const QMimeData& data) {
+  std::vector<std::string> paths;
+  for (const QUrl& url : data.urls())
+    if (url.isLocalFile()) paths.push_back(FromQString(url.toLocalFile()));
+  return paths;
+}
+
 /// What a window may take of its screen; without a display there is none to stand out of.
 QSize RoomOnScreen(const QWidget& window) {
   constexpr int plenty = 4000;
@@ -58,6 +69,7 @@ MainWindow::MainWindow(CommandGate& gate)
   scroll_->setFocusPolicy(Qt::NoFocus);
   scroll_->setWidget(canvas_);
   setCentralWidget(scroll_);
+  setAcceptDrops(true);
   MakeStatusLine();
   canvas_->resized = [this] { Resized(); };
   canvas_->mouse.press = [this](double x, double y) {
@@ -206,6 +218,11 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     NewPlot();
     return true;
   }
+  // A file is for the window: an input would take its path as text.
+  if (event->type() == QEvent::DragEnter && static_cast<QDragEnterEvent*>(event)->mimeData()->hasUrls()) {
+    event->ignore();
+    return true;
+  }
   // A list that is only passed over keeps its choice; the wheel chooses in the one that has the focus.
   if (event->type() == QEvent::Wheel && !static_cast<QWidget*>(watched)->hasFocus()) {
     event->ignore();
@@ -331,6 +348,21 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   }
   event->accept();
   if (session_) gate_.Do([this] { Form_Unload(*session_); });
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (session_ && !gate_.Running() && !LocalFiles(*event->mimeData()).empty()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  auto paths = LocalFiles(*event->mimeData());
+  if (!session_ || gate_.Running() || paths.empty()) {
+    event->ignore();
+    return;
+  }
+  event->acceptProposedAction();
+  // Not here: a message would hold the program that the file came from.
+  QTimer::singleShot(0, this, [this, paths = std::move(paths)] { Act([&] { DropFiles(*session_, paths); }); });
 }
 
 void MainWindow::changeEvent(QEvent* event) {

@@ -1,0 +1,27 @@
+#include "session/dropped_files.h"
+
+#include "materials/dialog_use.h"
+#include "materials/dropped_file.h"
+#include "session/undo.h"
+
+namespace lumivex {
+
+void DropFiles(Session& session, std::span<const std::string> paths) {
+  if (paths.empty()) return;
+  if (paths.size() > 1) {
+    session.platform.Message("Dropped files", "Please drop one file at a time.");
+    return;
+  }
+  if (TakesDroppedFile(paths.front())) {
+    RememberInputs(session, "");
+    ReadDroppedFile(session, paths.front());
+    return;
+  }
+  session.platform.Message("Dropped files", FileNameOf(paths.front()) +
+                                                " is none of the files that can be dropped here:\n"
+                                                "refractive indices (.rix, .csv, .yml, .yaml)\n"
+                                                "spectrum (.spe)\n"
+                                                "size distribution (.dis)");
+}
+
+}  // namespace lumivex

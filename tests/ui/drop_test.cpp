@@ -1,0 +1,74 @@
+#include <QDir>
+#include <QDropEvent>
+#include <QFileInfo>
+#include <QMimeData>
+#include <QUrl>
+
+#include "window_fixture.h"
+
+namespace lumivex {
+namespace {
+
+class DropTest : public WindowTest {
+ protected:
+  static QString Example(const char* name) {
+    return QDir(QFileInfo(__FILE__).absolutePath()).absoluteFilePath(QString("../../data/examples/") + name);
+  }
+
+  /// Drags files over a widget, as the window system would, and lets them go. @return whether they were taken.
+  bool Drop(const QList<QUrl>& urls) {
+    QMimeData data;
+    data.setUrls(urls);
+    auto& window = program.Window();
+    const QPoint place(300, 500);
+    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &enter);
+    if (!enter.isAccepted()) return false;
+    QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &drop);
+    QTest::qWait(30);
+    return drop.isAccepted();
+  }
+  bool Drop(const QString& path) { return Drop({QUrl::fromLocalFile(path)}); }
+};
+
+TEST_F(DropTest, AFileIsReadAndPutToUse) {
+  ASSERT_TRUE(Drop(Example("crown_glass.rix")));
+  EXPECT_TRUE(Form().mnuRI_File1.Checked);
+  // How the numbers of particles count is asked.
+  dialogs = {[](QDialog& open) { open.accept(); }};
+  ASSERT_TRUE(Drop(Example("spray.dis")));
+  EXPECT_TRUE(Form().optDisp.Checked);
+  EXPECT_EQ(Form().cboDistrib.Text, "Special");
+  ASSERT_TRUE(Drop(Example("white_led.spe")));
+  EXPECT_TRUE(Form().mnuSpectrumFile.Checked);
+  EXPECT_TRUE(messages.empty()) << messages.front();
+  program.Window().ActionOf(Form().mnuUndo)->trigger();
+  program.Window().ActionOf(Form().mnuUndo)->trigger();
+  EXPECT_FALSE(Form().optDisp.Checked) << "a drop is one step of undo";
+}
+
+TEST_F(DropTest, OtherFilesAndSeveralAtOnceAreToldAndChangeNothing) {
+  ASSERT_TRUE(Drop("/tmp/holiday.jpg"));
+  ASSERT_EQ(messages.size(), 1U);
+  EXPECT_TRUE(messages.back().starts_with("Dropped files: holiday.jpg is none of the files")) << messages.back();
+  ASSERT_TRUE(Drop({QUrl::fromLocalFile(Example("crown_glass.rix")), QUrl::fromLocalFile(Example("spray.dis"))}));
+  EXPECT_EQ(messages.back(), "Dropped files: Please drop one file at a time.");
+  ASSERT_TRUE(Drop("/no/such/table.rix"));
+  EXPECT_EQ(messages.size(), 3U);
+  EXPECT_FALSE(Drop({QUrl("https://example.org/table.rix")})) << "nothing is fetched";
+  EXPECT_FALSE(Form().mnuRI_File1.Checked);
+  EXPECT_TRUE(Now().undo.past.size() <= 1);
+}
+
+TEST_F(DropTest, AnInputLeavesFilesToTheWindow) {
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile(Example("crown_glass.rix"))});
+  QDragEnterEvent enter(QPoint(3, 3), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(WidgetOf(Form().txtRadius), &enter);
+  EXPECT_TRUE(enter.isAccepted()) << "the window takes it";
+  EXPECT_EQ(Form().txtRadius.Text, "10");
+}
+
+}  // namespace
+}  // namespace lumivex
