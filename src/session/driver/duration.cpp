@@ -63,7 +63,7 @@ double ReferenceSeconds(const Session& session) {
   const auto& form = session.form1;
   // What the fit below gives for a term of a pair of angles of the first plot's sphere.
   constexpr double secondsPerPairTerm = 2e-5;
-  if (IsTwoAngleContour(s)) return secondsPerPairTerm * TwoAnglePairTerms(session);
+  if (IsTwoAngleContour(session.state)) return secondsPerPairTerm * TwoAnglePairTerms(session);
   const double r = SphereRadius(session);
   const double step = Val(form.cboStep.Text);
   const double S = (Val(form.txtXmax.Text) - Val(form.txtXmin.Text)) / step;
