@@ -40,6 +40,17 @@ void dlogPartial_OKButton_Click(Session& session) {
     Refuse(session, dialog.txtMin, "Minimum value must be less than maximum value");
 }
 
+/// Limits of the sequence of terms.
+void dlogDebyeSeq_OKButton_Click(Session& session) {
+  auto& dialog = session.forms.dlogDebyeSeq;
+  for (TextInput* field : {&dialog.txtLimit, &dialog.txtTerms}) {
+    field->BackColour = colours::White;
+    if (!IsNumber(field->Text) || Val(field->Text) < 0)
+      return Refuse(session, *field, "Value must be positive or zero");
+  }
+  if (Val(dialog.txtLimit.Text) > HighestRay) Refuse(session, dialog.txtLimit, "Value must not be greater than 1000");
+}
+
 /// A range of p must be whole numbers with a positive step.
 void dlogP_OKButton_Click(Session& session) {
   auto& dialog = session.forms.dlogP;
@@ -96,6 +107,7 @@ std::span<const SolverEvent> SolverEvents() {
       SolverEvent{"dlogP.cmdSelectNone_Click", cmdSelectNone_Click},
       SolverEvent{"dlogP.chkMultStep_Click", chkMultStep_Click},
       SolverEvent{"dlogP.OKButton_Click", dlogP_OKButton_Click},
+      SolverEvent{"dlogDebyeSeq.OKButton_Click", dlogDebyeSeq_OKButton_Click},
       SolverEvent{"dlogPartial.OKButton_Click", dlogPartial_OKButton_Click},
       SolverEvent{"mnuMieDebye_Click", mnuMieDebye_Click},
       SolverEvent{"mnuGODebye_Click", mnuGODebye_Click},

@@ -48,13 +48,14 @@ struct DlogDebyeSeq final : Form {
   DlogDebyeSeq() : Form("dlogDebyeSeq", "Sequence of Debye terms") {}
   Label lblLimit{*this, "lblLimit", "Highest p"};
   TextInput txtLimit{*this, "txtLimit", "20", "Highest p of the sequence of Debye terms"};
-  CheckBox chkLabels{*this, "chkLabels", "Label some of them only", true, "Without it every point has its number"};
+  CheckBox chkLabels{*this, "chkLabels", "Number some of the points only", true,
+                     "Without it every point has its number"};
   Label lblTerms{*this, "lblTerms", "n"};
   TextInput txtTerms{*this, "txtTerms", "5", "Number n of the option below"};
-  OptionButton optTerms{*this, "optTerms", "labels", "Terms up to p = n", true, "Label the first terms"};
+  OptionButton optTerms{*this, "optTerms", "labels", "The first n", true, "Number the points after up to n terms"};
   OptionButton optDecades{*this,    "optDecades",
-                          "labels", "Terms above 10^-n of the largest",
-                          false,    "Label the terms that are large enough"};
+                          "labels", "Those above 10^-n of the scale",
+                          false,    "Number the points whose modulus is large enough"};
 };
 
 /// Which partial waves of a Debye term are summed.
