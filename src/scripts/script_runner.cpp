@@ -10,6 +10,7 @@
 #include "session/record/number_text.h"
 #include "session/record/text_file.h"
 #include "session/start_up.h"
+#include "session/undo.h"
 #include "session/user_actions.h"
 #include "session/window_events.h"
 
@@ -251,6 +252,7 @@ ScriptRunner::ScriptRunner(std::ostream& output, std::ostream& errors)
       recording_(ScreenSize{}.widthPx * unitsPerPixel, ScreenSize{}.heightPx * unitsPerPixel),
       surface_(&recording_) {
   platform_.onYield = [this] { WatchForStop(); };
+  platform_.whileOpen = [this](Form& form) { return std::make_shared<DialogScope>(Current(), form); };
   platform_.setField = [this](Form& form, const std::string& field, const std::string& text) {
     if (Control* control = form.Find(field)) SetField(Current(), *control, text);
   };

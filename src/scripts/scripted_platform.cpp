@@ -45,8 +45,11 @@ bool ScriptedPlatform::ShowModal(Form& form) {
   if (dialogs.empty() || !SameName(dialogs.front().form, form.Name())) return true;
   const DialogAnswer answer = std::move(dialogs.front());
   dialogs.pop_front();
+  const FormSnapshot before = form.Snapshot();
+  const auto open = whileOpen ? whileOpen(form) : nullptr;
   for (const auto& [field, text] : answer.fields)
     if (setField) setField(form, field, text);
+  if (!answer.ok) form.Restore(before);
   return answer.ok;
 }
 

@@ -4,6 +4,7 @@
 #include <deque>
 #include <functional>
 #include <iosfwd>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -50,6 +51,7 @@ class ScriptedPlatform final : public Platform {
   std::function<double()> clock;  ///< what the clock shows; the time since the start where there is none
   std::function<void(Form&, const std::string& field, const std::string& text)> setField;
   std::function<std::string(std::string_view path)> savePicture;
+  std::function<std::shared_ptr<void>(Form&)> whileOpen;  ///< what a dialog holds while it is on the screen
 
   void Message(std::string_view title, std::string_view text) override;
   bool Question(std::string_view title, std::string_view text) override;

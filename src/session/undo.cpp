@@ -1,5 +1,7 @@
 #include "session/undo.h"
 
+#include <utility>
+
 #include "session/graph_types.h"
 #include "session/input_events.h"
 
@@ -18,10 +20,23 @@ void ForEachCaption(Form1& form, Visitor&& visit) {
 
 InputState Present(Session& session) {
   const auto& s = session.state;
-  InputState state{{}, s.GraphType, s.GraphSubType, s.CalcMethod, s.SphereName, s.MediumName, {}};
+  InputState state{{}, s.GraphType, s.GraphSubType, s.CalcMethod, s.SphereName, s.MediumName, {}, {}};
+  state.settings = {s.SpectrumMin, s.SpectrumMax,  s.BlackBodyTemp,  s.IncidentDensity,
+                    s.Distance,    s.RIUserEdited, s.CatalogueIndex, s.PickedLineColour};
   for (const Form* form : session.forms.All()) state.forms.push_back(form->Snapshot());
   ForEachCaption(session.form1, [&](const std::string& caption) { state.captions.push_back(caption); });
   return state;
+}
+
+void RestoreSettings(MainFormState& s, const DialogSettings& settings) {
+  s.SpectrumMin = settings.spectrumMin;
+  s.SpectrumMax = settings.spectrumMax;
+  s.BlackBodyTemp = settings.blackBodyTemp;
+  s.IncidentDensity = settings.incidentDensity;
+  s.Distance = settings.distance;
+  s.RIUserEdited = settings.indexUserEdited;
+  s.CatalogueIndex = settings.catalogueIndex;
+  s.PickedLineColour = settings.pickedLineColour;
 }
 
 void Restore(Session& session, const InputState& state) {
@@ -34,6 +49,7 @@ void Restore(Session& session, const InputState& state) {
   s.CalcMethod = state.calcMethod;
   s.SphereName = state.sphereName;
   s.MediumName = state.mediumName;
+  RestoreSettings(s, state.settings);
   ShowFamilyInputs(session);
   std::size_t i = 0;
   ForEachCaption(session.form1, [&](std::string& caption) {
@@ -46,33 +62,77 @@ void Restore(Session& session, const InputState& state) {
 
 /// Moves one state over: the present one onto `to`, the last of `from` into the inputs.
 void Step(Session& session, std::vector<InputState>& from, std::vector<InputState>& to) {
+  InputState present = Present(session);
+  // A dialog that was cancelled, a tick set and taken away.
+  while (!from.empty() && from.back() == present) from.pop_back();
   if (from.empty()) return;
-  to.push_back(Present(session));
+  to.push_back(std::move(present));
   const InputState state = std::move(from.back());
   from.pop_back();
   Restore(session, state);
   session.undo.typedInto.clear();
 }
 
-}  // namespace
+void StepInDialog(DialogHistory& dialog, std::vector<FormSnapshot>& from, std::vector<FormSnapshot>& to) {
+  dialog.typedInto.clear();
+  FormSnapshot present = dialog.form->Snapshot();
+  while (!from.empty() && from.back() == present) from.pop_back();
+  if (from.empty()) return;
+  to.push_back(std::move(present));
+  dialog.form->Restore(from.back());
+  from.pop_back();
+  for (Control* control : dialog.form->Controls()) control->BackColour = colours::White;
+}
 
-void RememberInputs(Session& session, std::string_view typedInto) {
-  auto& undo = session.undo;
-  if (undo.held || session.state.LoadingFlag != 0) return;
-  const bool goesOn = !typedInto.empty() && undo.typedInto == typedInto;
-  undo.typedInto = typedInto;
+void RememberInDialog(DialogHistory& dialog, std::string_view typedInto) {
+  const bool goesOn = !typedInto.empty() && dialog.typedInto == typedInto;
+  dialog.typedInto = typedInto;
   if (goesOn) return;
-  undo.past.push_back(Present(session));
+  dialog.past.push_back(dialog.form->Snapshot());
+  dialog.future.clear();
+}
+
+void KeepStep(UndoHistory& undo, InputState state) {
+  undo.past.push_back(std::move(state));
   if (undo.past.size() > mostUndoSteps) undo.past.erase(undo.past.begin());
   undo.future.clear();
 }
 
+}  // namespace
+
+DialogScope::DialogScope(Session& session, Form& form) : session_(session) {
+  auto& undo = session.undo;
+  if (undo.acting == 0 && undo.open.empty()) before_ = Present(session);
+  undo.open.push_back({&form, {}, {}, {}});
+}
+
+DialogScope::~DialogScope() {
+  auto& undo = session_.undo;
+  undo.open.pop_back();
+  undo.typedInto.clear();
+  if (before_ && !(*before_ == Present(session_))) KeepStep(undo, std::move(*before_));
+}
+
+void RememberInputs(Session& session, std::string_view typedInto) {
+  auto& undo = session.undo;
+  if (undo.held || session.state.LoadingFlag != 0) return;
+  if (!undo.open.empty()) return RememberInDialog(undo.open.back(), typedInto);
+  const bool goesOn = !typedInto.empty() && undo.typedInto == typedInto;
+  undo.typedInto = typedInto;
+  if (goesOn) return;
+  KeepStep(undo, Present(session));
+}
+
 void mnuUndo_Click(Session& session) {
-  Step(session, session.undo.past, session.undo.future);
+  auto& undo = session.undo;
+  if (!undo.open.empty()) return StepInDialog(undo.open.back(), undo.open.back().past, undo.open.back().future);
+  Step(session, undo.past, undo.future);
 }
 
 void mnuRedo_Click(Session& session) {
-  Step(session, session.undo.future, session.undo.past);
+  auto& undo = session.undo;
+  if (!undo.open.empty()) return StepInDialog(undo.open.back(), undo.open.back().future, undo.open.back().past);
+  Step(session, undo.future, undo.past);
 }
 
 }  // namespace lumivex

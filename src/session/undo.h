@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "session/record/session.h"
 
 namespace lumivex {
@@ -11,8 +13,35 @@ inline constexpr std::size_t mostUndoSteps = 200;
 /// @param typedInto  name of the control typed into, or empty for an action that is not typing.
 void RememberInputs(Session& session, std::string_view typedInto);
 
-/// Puts the inputs of before the last action back, or those that were undone last; events are held back and the results
-/// stay. Does nothing where there is no such state.
+/// An action of the user that RememberInputs has kept, while its event runs.
+class ActionScope {
+ public:
+  explicit ActionScope(UndoHistory& undo) : undo_(undo) { ++undo_.acting; }
+  ~ActionScope() { --undo_.acting; }
+  ActionScope(const ActionScope&) = delete;
+  ActionScope& operator=(const ActionScope&) = delete;
+
+ private:
+  UndoHistory& undo_;
+};
+
+/// A dialog on the screen. What the user does in it is undone and redone in it alone. When it is closed, all of it is
+/// one step of the session's: that of the action which opened it or, where a command did, one of its own.
+class DialogScope {
+ public:
+  DialogScope(Session& session, Form& form);
+  ~DialogScope();
+  DialogScope(const DialogScope&) = delete;
+  DialogScope& operator=(const DialogScope&) = delete;
+
+ private:
+  Session& session_;
+  std::optional<InputState> before_;
+};
+
+/// Puts the inputs of before the last action back, or those that were undone last; steps that changed nothing are
+/// passed over. Events are held back and the results stay. While a dialog is open it is the dialog's inputs. Does
+/// nothing where there is no such state.
 void mnuUndo_Click(Session& session);
 void mnuRedo_Click(Session& session);
 

@@ -1,5 +1,6 @@
 #include "session/user_actions.h"
 
+#include <optional>
 #include <string>
 
 #include "session/checks/number_input.h"
@@ -26,6 +27,7 @@ bool UserTypes(Session& session, Control& control, std::string_view text) {
   if (field == nullptr || !Takes(control)) return false;
   if (*field == text) return true;
   RememberInputs(session, EventName(control, "Change"));
+  const ActionScope acting(session.undo);
   *field = text;
   if (!session.events.Raise(EventName(control, "Change"))) session.events.Raise(EventName(control, "Click"));
   return true;
@@ -34,6 +36,7 @@ bool UserTypes(Session& session, Control& control, std::string_view text) {
 bool UserChooses(Session& session, SelectionList& list, std::string_view item) {
   if (!Takes(list)) return false;
   RememberInputs(session, "");
+  const ActionScope acting(session.undo);
   list.Text = item;
   if (!session.events.Raise(EventName(list, "Click"))) session.events.Raise(EventName(list, "Change"));
   return true;
@@ -42,7 +45,12 @@ bool UserChooses(Session& session, SelectionList& list, std::string_view item) {
 bool UserClicks(Session& session, Control& control) {
   if (!Takes(control)) return false;
   const bool history = control.Name() == "mnuUndo" || control.Name() == "mnuRedo";
-  if (control.Kind() != ControlKind::CommandButton && !history) RememberInputs(session, "");
+  const bool recorded = control.Kind() != ControlKind::CommandButton && !history;
+  std::optional<ActionScope> acting;
+  if (recorded) {
+    RememberInputs(session, "");
+    acting.emplace(session.undo);
+  }
   if (control.Kind() == ControlKind::OptionButton) static_cast<OptionButton&>(control).Select();
   if (control.Kind() == ControlKind::CheckBox) {
     auto& box = static_cast<CheckBox&>(control);

@@ -142,11 +142,16 @@ void ControlView::SyncList(SelectionList& list) {
     box->view()->setMinimumWidth(wanted);
   }
   const QString text = ToQString(list.Text);
+  QLineEdit* edit = box->lineEdit();
+  const bool typing = edit && edit->hasFocus() && edit->text() == text;
+  const int cursor = edit ? edit->cursorPosition() : 0;
   const int index = box->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
   if (box->currentIndex() != index && !(index >= 0 && box->itemText(box->currentIndex()) == text))
     box->setCurrentIndex(index);
-  if (box->lineEdit()) {
-    SetText(box->lineEdit(), text);
+  if (edit) {
+    SetText(edit, text);
+    // Another current item empties the box in between, which would send the cursor of who is typing to the front.
+    if (typing) edit->setCursorPosition(cursor);
   } else if (index < 0 && box->placeholderText() != text) {
     box->setPlaceholderText(text);
   }

@@ -22,7 +22,9 @@ std::span<const LayoutLine> LinesOf(const Form& form) {
 }  // namespace
 
 DialogView::DialogView(Form& form, Hooks hooks, QWidget* parent)
-    : QDialog(parent), form_(form), hooks_(std::move(hooks)), before_(form.Snapshot()) {
+    : QDialog(parent), form_(form), hooks_(std::move(hooks)), before_(form.Snapshot()), undoKeys_([this](bool redo) {
+        hooks_.raise(redo ? "mnuRedo_Click" : "mnuUndo_Click");
+      }) {
   setWindowTitle(ToQString(form.Caption));
   auto* column = new QVBoxLayout(this);
   column->setSpacing(8);
@@ -34,6 +36,7 @@ DialogView::DialogView(Form& form, Hooks hooks, QWidget* parent)
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   column->addSpacing(6);
   column->addWidget(buttons);
+  undoKeys_.Watch(*this);
   Sync();
   for (const auto& view : lines_->Views()) {
     if (view->Of().Kind() == ControlKind::Label || view->Widget()->isHidden()) continue;
@@ -56,6 +59,10 @@ void DialogView::accept() {
   const bool refused = std::ranges::any_of(
       form_.Controls(), [](const Control* c) { return c->Visible && c->BackColour == colours::BadInput; });
   if (!refused) QDialog::accept();
+}
+
+void DialogView::keyPressEvent(QKeyEvent* event) {
+  if (!undoKeys_.Take(*event)) QDialog::keyPressEvent(event);
 }
 
 void DialogView::reject() {

@@ -5,6 +5,7 @@
 
 #include "session/record/form.h"
 #include "ui/form_view.h"
+#include "ui/undo_keys.h"
 
 namespace lumivex {
 
@@ -24,6 +25,9 @@ class DialogView final : public QDialog {
   void accept() override;
   void reject() override;
 
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   std::string EventOf(std::string_view button) const;
 
@@ -31,6 +35,7 @@ class DialogView final : public QDialog {
   Hooks hooks_;
   FormSnapshot before_;
   std::unique_ptr<FormView> lines_;
+  UndoKeys undoKeys_;
 };
 
 }  // namespace lumivex

@@ -21,6 +21,7 @@
 
 #include "session/dropped_files.h"
 #include "session/info.h"
+#include "session/undo.h"
 #include "session/user_actions.h"
 #include "session/window_events.h"
 #include "ui/look.h"
@@ -62,7 +63,11 @@ MainWindow::MainWindow(CommandGate& gate)
     : gate_(gate),
       scroll_(new QScrollArea(this)),
       canvas_(new Canvas(scroll_)),
-      pointer_(*canvas_, [this](const CommandGate::Action& command) { Act(command); }) {
+      pointer_(*canvas_, [this](const CommandGate::Action& command) { Act(command); }),
+      undoKeys_([this](bool redo) {
+        auto& form = session_->form1;
+        Act([&] { UserClicks(*session_, redo ? form.mnuRedo : form.mnuUndo); });
+      }) {
   setWindowTitle("Lumivex");
   scroll_->setFrameShape(QFrame::NoFrame);
   scroll_->setWidgetResizable(true);
@@ -211,6 +216,7 @@ void MainWindow::ReserveRoom() {
 void MainWindow::WatchInputs() {
   for (auto* box : panel_->findChildren<QComboBox*>()) box->installEventFilter(this);
   for (auto* edit : panel_->findChildren<QLineEdit*>()) edit->installEventFilter(this);
+  undoKeys_.Watch(*panel_);
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
@@ -312,6 +318,7 @@ bool MainWindow::ShowDialog(Form& form) {
   DialogView dialog(form, {Actions(), [this](std::string_view event) { Act([&] { session_->events.Raise(event); }); }},
                     this);
   dialogs_.push_back(&dialog);
+  const DialogScope open(*session_, form);
   form.Visible = true;
   const bool ok = dialog.exec() == QDialog::Accepted;
   form.Visible = false;

@@ -17,6 +17,7 @@
 #include "ui/menu_view.h"
 #include "ui/page_picture.h"
 #include "ui/panel_view.h"
+#include "ui/undo_keys.h"
 
 namespace lumivex {
 
@@ -89,6 +90,7 @@ class MainWindow final : public QMainWindow {
   QLabel* average_ = nullptr;
   QProgressBar* progress_ = nullptr;
   std::vector<DialogView*> dialogs_;
+  UndoKeys undoKeys_;
 };
 
 }  // namespace lumivex

@@ -3,6 +3,7 @@
 #include <random>
 
 #include "session/session_fixture.h"
+#include "session/undo.h"
 #include "session/user_actions.h"
 
 namespace lumivex {
@@ -39,6 +40,57 @@ TEST_F(Undo, TakesBackAGraphWithItsCaptionsAndRanges) {
   EXPECT_TRUE(Shown().empty()) << LastText();
   Do("dialog dlogTemp ok txtTemp=20\nclick mnuRI_IAPWS\nclick mnuUndo\nclick cmdNewPlot");
   EXPECT_EQ(Get("lblSphere"), "Sphere: Water (IAPWS 5C Complex)");
+}
+
+TEST_F(Undo, TakesAnAcceptedDialogAsOneStep) {
+  auto& state = runner.Current().state;
+  Do("dialog dlogSpectrumBand ok txtSpectrumMin=400 txtSpectrumMax=500\nclick mnuSpectrumBand\nset txtRadius 3");
+  EXPECT_FLOAT_EQ(state.SpectrumMax, 0.5F);
+  Do("click mnuUndo\nclick mnuUndo");
+  EXPECT_EQ(Get("txtRadius"), "10");
+  EXPECT_EQ(Get("dlogSpectrumBand.txtSpectrumMin"), "380");
+  EXPECT_EQ(Get("dlogSpectrumBand.txtSpectrumMax"), "700");
+  EXPECT_FLOAT_EQ(state.SpectrumMax, 0.7F) << "a run uses what stands in the dialog";
+  Do("click mnuRedo");
+  EXPECT_EQ(Get("dlogSpectrumBand.txtSpectrumMax"), "500");
+  EXPECT_FLOAT_EQ(state.SpectrumMax, 0.5F);
+  // The dialogs belong to the choice that opened them.
+  Do("dialog dlogIncident ok txtIncidentPD=7\nchoose cboGraph Watts/sq. m. v. scattering angle\nclick mnuUndo");
+  EXPECT_EQ(state.GraphSubType, 1);
+  EXPECT_EQ(state.IncidentDensity, 100);
+}
+
+TEST_F(Undo, PassesOverADialogThatWasCancelled) {
+  Do("set txtRadius 5\ndialog dlogSpectrumBand cancel txtSpectrumMin=400\nclick mnuSpectrumBand");
+  EXPECT_EQ(Get("dlogSpectrumBand.txtSpectrumMin"), "380");
+  Do("click mnuUndo");
+  EXPECT_EQ(Get("txtRadius"), "10");
+}
+
+TEST_F(Undo, InAnOpenDialogIsTheDialogs) {
+  Session& session = runner.Current();
+  auto& dialog = session.forms.dlogSpectrumBand;
+  Do("set txtRadius 5");
+  {
+    const DialogScope open(session, dialog);
+    UserTypes(session, dialog.txtSpectrumMin, "4");
+    UserTypes(session, dialog.txtSpectrumMin, "400");
+    UserTypes(session, dialog.txtSpectrumMax, "650");
+    session.events.Raise("mnuUndo_Click");
+    EXPECT_EQ(dialog.txtSpectrumMax.Text, "700");
+    session.events.Raise("mnuUndo_Click");
+    session.events.Raise("mnuUndo_Click");
+    EXPECT_EQ(dialog.txtSpectrumMin.Text, "380");
+    EXPECT_EQ(session.form1.txtRadius.Text, "5") << "the main window is behind the dialog";
+    session.events.Raise("mnuRedo_Click");
+    EXPECT_EQ(dialog.txtSpectrumMin.Text, "400");
+  }
+  // A command opened it: its change is a step of its own.
+  Do("click mnuUndo");
+  EXPECT_EQ(dialog.txtSpectrumMin.Text, "380");
+  EXPECT_EQ(Get("txtRadius"), "5");
+  Do("click mnuUndo");
+  EXPECT_EQ(Get("txtRadius"), "10");
 }
 
 /// A user who clicks, types and runs anything in any order breaks nothing.
