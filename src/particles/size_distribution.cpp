@@ -110,6 +110,30 @@ struct RowSums {
   }
 };
 
+/// The same for many rows, each sum in one piece.
+struct CloudRows {
+  std::vector<double> perpendicular, parallel, crossRe, crossIm;
+
+  explicit CloudRows(std::size_t rows) : perpendicular(rows), parallel(rows), crossRe(rows), crossIm(rows) {}
+
+  std::size_t Size() const { return perpendicular.size(); }
+
+  /// Adds rows from rowLow on, as far as the tables go.
+  void Add(const AmplitudeTable& S1, const AmplitudeTable& S2, int rowLow, double weight) {
+    const auto low = static_cast<std::size_t>(rowLow);
+    const auto re1 = S1.RealParts(), im1 = S1.ImaginaryParts(), re2 = S2.RealParts(), im2 = S2.ImaginaryParts();
+    const std::size_t end = std::min({low + Size(), re1.size(), re2.size()});
+    for (std::size_t row = low; row < end; ++row) {
+      const std::size_t j = row - low;
+      const double a = re1[row], b = im1[row], c = re2[row], d = im2[row];
+      perpendicular[j] += weight * (a * a + b * b);
+      parallel[j] += weight * (c * c + d * d);
+      crossRe[j] += weight * (a * c + b * d);
+      crossIm[j] += weight * (b * c - a * d);
+    }
+  }
+};
+
 /// Sums over the spheres of a cloud; the asymmetry counts by scattering cross-section.
 struct EfficiencySums {
   double Qext = 0, Qsca = 0, Qback = 0, scattered = 0, forward = 0, number = 0;
@@ -175,18 +199,18 @@ double Divisor(const Session& session, double number) {
   return actual ? 1 : number;
 }
 
-void StoreRows(MainFormState& s, int rowLow, const std::vector<RowSums>& sums, double divisor) {
-  const int rows = std::max(s.S1.Rows(), rowLow + static_cast<int>(sums.size()) - 1);
+void StoreRows(MainFormState& s, int rowLow, const CloudRows& sums, double divisor) {
+  const int rows = std::max(s.S1.Rows(), rowLow + static_cast<int>(sums.Size()) - 1);
   s.S1.Resize(rows);
   s.S2.Resize(rows);
   s.CloudCrossRe.assign(static_cast<std::size_t>(rows) + 1, 0);
   s.CloudCrossIm.assign(static_cast<std::size_t>(rows) + 1, 0);
-  for (std::size_t j = 0; j < sums.size(); ++j) {
+  for (std::size_t j = 0; j < sums.Size(); ++j) {
     const int row = rowLow + static_cast<int>(j);
-    s.S1.Set(row, std::sqrt(sums[j].perpendicular / divisor), 0);
-    s.S2.Set(row, std::sqrt(sums[j].parallel / divisor), 0);
-    s.CloudCrossRe[static_cast<std::size_t>(row)] = sums[j].crossRe / divisor;
-    s.CloudCrossIm[static_cast<std::size_t>(row)] = sums[j].crossIm / divisor;
+    s.S1.Set(row, std::sqrt(sums.perpendicular[j] / divisor), 0);
+    s.S2.Set(row, std::sqrt(sums.parallel[j] / divisor), 0);
+    s.CloudCrossRe[static_cast<std::size_t>(row)] = sums.crossRe[j] / divisor;
+    s.CloudCrossIm[static_cast<std::size_t>(row)] = sums.crossIm[j] / divisor;
   }
 }
 
@@ -221,15 +245,13 @@ void TakeSpecialRadius(Session& session) {
 
 void DispCalc(Session& session, int rowLow, int rowHigh, const CloudCalls& calls) {
   auto& s = session.state;
-  std::vector<RowSums> rowSums(static_cast<std::size_t>(std::max(rowHigh - rowLow + 1, 0)));
+  CloudRows rowSums(static_cast<std::size_t>(std::max(rowHigh - rowLow + 1, 0)));
   EfficiencySums sums;
   RowsDone rows = s.SummedRows;
   ForEachSample(session, calls.progress, [&](double weight) {
     calls.solve(session, rowLow, rowHigh);
     if (s.PlotMode == stopRequested) return false;
-    const int last = std::min({rowHigh, s.S1.Rows(), s.S2.Rows()});
-    for (int row = rowLow; row <= last; ++row)
-      rowSums[static_cast<std::size_t>(row - rowLow)].Add(s.S1.Value(row), s.S2.Value(row), weight);
+    rowSums.Add(s.S1, s.S2, rowLow, weight);
     sums.Add({{}, {}, s.Qext, s.Qsca, s.Qback, s.Gsca}, s.Radius, weight);
     rows = s.SummedRows;
     return true;

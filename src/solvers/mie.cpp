@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <initializer_list>
+#include <memory>
+#include <utility>
 
 #include "session/record/number_text.h"
 #include "solvers/arithmetic_guard.h"
@@ -14,24 +16,26 @@ namespace {
 
 constexpr int convergenceGraph = 13;
 
-MieRequest ReadRequest(const Session& session, const SolverCall& call) {
+/// The cosines of the rows asked for: those of the call before where they will do.
+std::shared_ptr<const AngleCosines> CosinesFor(SeriesState& s, int NANG, RowWindow window) {
+  const AngleGrid grid(NANG);
+  if (!s.Cosines || !s.Cosines->Covers(grid, window)) s.Cosines = std::make_shared<const AngleCosines>(grid, window);
+  return s.Cosines;
+}
+
+MieRequest ReadRequest(Session& session, const SolverCall& call) {
   MieRequest request;
   request.x = call.x;
   request.mRe = call.mRe;
   request.mIm = call.mIm;
   request.NANG = std::max(call.NANG, 2);
   request.window = {call.RowLow, call.RowHigh};
+  request.cosines = CosinesFor(session.state, request.NANG, request.window);
   request.divideBySize = session.form1.mnuSize.Checked;
   request.classicStart = session.form1.mnuClassicStart.Checked;
   request.convergence = session.state.GraphType == convergenceGraph;
   request.selectedAngleIndex = session.state.SelectedAngleIndex;
   return request;
-}
-
-/// Tables keep rows beyond the grid, which averaging reads; those stay 0.
-void StoreRows(const AmplitudeTable& from, AmplitudeTable& to) {
-  to.Resize(std::max(from.Rows(), to.Rows()));
-  for (int row = 1; row <= from.Rows(); ++row) to.Set(row, from.Re(row), from.Im(row));
 }
 
 /// One angle in place of a table.
@@ -80,7 +84,9 @@ void BHMIE(Session& session, const SolverCall& call, AmplitudeTable& S1, Amplitu
   if (s.PlotMode == 4) return;
   WriteMieTitle(session);
 
-  const MieRequest request = ReadRequest(session, call);
+  MieRequest request = ReadRequest(session, call);
+  // Tables keep rows beyond the grid, which averaging reads; those stay 0.
+  request.tableRows = std::max(S1.Rows(), S2.Rows());
   const ArithmeticGuard guard;
   if (call.angle) {
     if (CheckMieLimits(call.x, call.mRe, call.mIm) != MieRefusal::None) return RefuseSize(session);
@@ -104,8 +110,8 @@ void BHMIE(Session& session, const SolverCall& call, AmplitudeTable& S1, Amplitu
   s.NSTOP = result.truncation.NSTOP;
   s.NMX = result.truncation.NMX;
   s.SummedRows = result.rows;
-  StoreRows(result.S1, S1);
-  StoreRows(result.S2, S2);
+  S1 = std::move(result.S1);
+  S2 = std::move(result.S2);
   if (request.convergence) StoreConvergence(session, result);
   s.Waves = std::move(result.waves);
   Qext = result.efficiencies.Qext;

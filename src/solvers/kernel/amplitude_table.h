@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <vector>
 
 #include "solvers/kernel/complex_pairs.h"
@@ -36,6 +37,12 @@ class AmplitudeTable {
   ComplexD Value(int row) const { return {Re(row), Im(row)}; }
   /// |S|^2 of a row.
   double Intensity(int row) const { return Re(row) * Re(row) + Im(row) * Im(row); }
+
+  /// The parts of all rows, row 0 first.
+  std::span<double> RealParts() { return re_; }
+  std::span<double> ImaginaryParts() { return im_; }
+  std::span<const double> RealParts() const { return re_; }
+  std::span<const double> ImaginaryParts() const { return im_; }
 
   void Set(int row, double real, double imaginary) {
     re_[static_cast<std::size_t>(row)] = real;

@@ -1,6 +1,7 @@
 #include "solvers/kernel/angular_sum.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
 
@@ -8,10 +9,6 @@
 
 namespace lumivex {
 namespace {
-
-/// Below this angle from 0 or 180 degrees (radians) the recurrence goes by differences. Above it, rounding of the
-/// cosine shifts the angle by less than ten times what rounding of the angle itself does.
-constexpr double EndZone = 0.1;
 
 /// An angle folded to 0..90 degrees.
 struct FoldedAngle {
@@ -41,7 +38,7 @@ class PairSummer {
     bool anyFar = false;
     for (std::size_t i = 0; i < PairBlock; ++i) {
       const FoldedAngle folded = angle(std::min(i, count - 1));
-      near[i] = folded.theta < EndZone;
+      near[i] = folded.theta < AngularEndZone;
       anyNear |= near[i];
       anyFar |= !near[i];
       cosines[i] = folded.cosine;
@@ -55,16 +52,20 @@ class PairSummer {
     if (anyFar) SumPairBlock(series_, cosines, false, count, set_, sums_);
     if (!anyNear) return;
     if (!anyFar) return SumPairBlock(series_, versines, true, count, set_, sums_);
-    PairSums ends;
-    SumPairBlock(series_, versines, true, count, set_, ends);
-    for (std::size_t c = 0; c < 4; ++c) {
-      for (std::size_t i = 0; i < count; ++i) {
-        if (!near[i]) continue;
-        sums_.direct[c][i] = ends.direct[c][i];
-        sums_.mirrored[c][i] = ends.mirrored[c][i];
-      }
-    }
+    MendEnds(versines, count, [&near](std::size_t i) { return near[i]; });
   }
+
+  /// The same for `count` rows of a grid from row `low` on.
+  void Sum(const AngleCosines& rows, int low, std::size_t count) {
+    const int high = low + static_cast<int>(count) - 1;
+    if (high <= rows.LastNear()) return SumPairBlock(series_, rows.Versines(low), true, count, set_, sums_);
+    SumPairBlock(series_, rows.Cosines(low), false, count, set_, sums_);
+    if (low > rows.LastNear()) return;
+    const auto nearRows = static_cast<std::size_t>(rows.LastNear() - low) + 1;
+    MendEnds(rows.Versines(low), count, [nearRows](std::size_t i) { return i < nearRows; });
+  }
+
+  const PairSums& Sums() const { return sums_; }
 
   void StoreDirect(std::size_t i, int row, AmplitudeTable& S1, AmplitudeTable& S2) const {
     Store(sums_.direct, i, row, S1, S2);
@@ -74,6 +75,20 @@ class PairSummer {
   }
 
  private:
+  /// Puts the sums by differences in the place of those angles that are near the ends.
+  template <class IsNear>
+  void MendEnds(const double* versines, std::size_t count, const IsNear& isNear) {
+    PairSums ends;
+    SumPairBlock(series_, versines, true, count, set_, ends);
+    for (std::size_t c = 0; c < 4; ++c) {
+      for (std::size_t i = 0; i < count; ++i) {
+        if (!isNear(i)) continue;
+        sums_.direct[c][i] = ends.direct[c][i];
+        sums_.mirrored[c][i] = ends.mirrored[c][i];
+      }
+    }
+  }
+
   static void Store(const double (&sums)[4][PairBlock], std::size_t i, int row, AmplitudeTable& S1,
                     AmplitudeTable& S2) {
     S1.Set(row, sums[0][i], sums[1][i]);
@@ -105,36 +120,52 @@ RowWindow Cut(RowWindow window, int low, int high) {
   return {std::max(window.low, low), std::min(window.high, high)};
 }
 
+/// Re S1, Im S1, Re S2, Im S2 by row.
+using TableParts = std::array<std::span<double>, 4>;
+
+/// Rows of a block whose first angle is row `low`.
+void StoreForward(const PairSums& sums, int low, RowWindow rows, const TableParts& parts) {
+  for (std::size_t c = 0; c < 4; ++c) {
+    const double* from = sums.direct[c];
+    double* to = parts[c].data();
+    for (int row = rows.low; row <= rows.high; ++row) to[row] = from[row - low];
+  }
+}
+
+/// Rows mirrored at 90 degrees: that of the first angle is row `high`, the others come before it.
+void StoreBackward(const PairSums& sums, int high, RowWindow rows, const TableParts& parts) {
+  for (std::size_t c = 0; c < 4; ++c) {
+    const double* from = sums.mirrored[c];
+    double* to = parts[c].data();
+    for (int row = rows.low; row <= std::min(rows.high, high); ++row) to[row] = from[high - row];
+  }
+}
+
 }  // namespace
 
 RowsDone SumAngularSeries(const PartialWaves& waves, const AngleGrid& grid, RowWindow window, AmplitudeTable& S1,
                           AmplitudeTable& S2, RunMonitor& monitor, InstructionSet set) {
+  return SumAngularSeries(waves, grid, AngleCosines(grid, window), window, S1, S2, monitor, set);
+}
+
+RowsDone SumAngularSeries(const PartialWaves& waves, const AngleGrid& grid, const AngleCosines& cosines,
+                          RowWindow window, AmplitudeTable& S1, AmplitudeTable& S2, RunMonitor& monitor,
+                          InstructionSet set) {
   const int last = grid.RowCount();
   const RowWindow wanted = Cut(window, 1, last);
   if (wanted.Empty()) return {};
-  // The rows of both halves, folded to 1..NANG, are one run.
-  RowWindow folded;
-  if (wanted.high <= grid.NANG) {
-    folded = wanted;
-  } else if (wanted.low >= grid.NANG) {
-    folded = {grid.Mirror(wanted.high), grid.Mirror(wanted.low)};
-  } else {
-    folded = {std::min(wanted.low, grid.Mirror(wanted.high)), grid.NANG};
-  }
+  const RowWindow folded = AngleCosines::Folded(grid, wanted);
   PairSummer summer(waves, set);
   const std::size_t count = static_cast<std::size_t>(folded.high - folded.low) + 1;
+  const TableParts parts{S1.RealParts(), S1.ImaginaryParts(), S2.RealParts(), S2.ImaginaryParts()};
   const auto work = [&](std::size_t first, std::size_t size) {
     const int low = folded.low + static_cast<int>(first);
-    summer.Sum(size, [&](std::size_t i) {
-      const double theta = grid.Angle(low + static_cast<int>(i));
-      return FoldedAngle{theta, std::cos(theta)};
-    });
-    for (std::size_t i = 0; i < size; ++i) {
-      const int row = low + static_cast<int>(i);
-      const int mirror = grid.Mirror(row);
-      if (wanted.Contains(row)) summer.StoreDirect(i, row, S1, S2);
-      if (mirror != row && wanted.Contains(mirror)) summer.StoreMirrored(i, mirror, S1, S2);
-    }
+    const int high = low + static_cast<int>(size) - 1;
+    summer.Sum(cosines, low, size);
+    StoreForward(summer.Sums(), low, Cut(wanted, low, high), parts);
+    // Row NANG is its own mirror.
+    StoreBackward(summer.Sums(), grid.Mirror(low), Cut(wanted, std::max(grid.Mirror(high), grid.NANG + 1), last),
+                  parts);
   };
   const std::size_t done = RunBlocks(count, summer.BlocksPerLook(), monitor, work);
   if (done == 0) return {};

@@ -5,6 +5,7 @@
 
 #include "session/kernel/run_monitor.h"
 #include "solvers/kernel/amplitude_table.h"
+#include "solvers/kernel/angle_cosines.h"
 #include "solvers/kernel/angle_grid.h"
 #include "solvers/kernel/complex_pairs.h"
 #include "solvers/kernel/partial_waves.h"
@@ -49,6 +50,13 @@ struct RowsDone {
 /// @return the rows done.
 RowsDone SumAngularSeries(const PartialWaves& waves, const AngleGrid& grid, RowWindow window, AmplitudeTable& S1,
                           AmplitudeTable& S2, RunMonitor& monitor, InstructionSet set = BestInstructionSet());
+
+/// The same with cosines that were computed before.
+///
+/// @param cosines  must cover the window.
+RowsDone SumAngularSeries(const PartialWaves& waves, const AngleGrid& grid, const AngleCosines& cosines,
+                          RowWindow window, AmplitudeTable& S1, AmplitudeTable& S2, RunMonitor& monitor,
+                          InstructionSet set = BestInstructionSet());
 
 /// The same sums at any angles.
 ///

@@ -1,5 +1,6 @@
 #include "solvers/kernel/mie_series.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 
@@ -34,8 +35,9 @@ ConvergenceSeries SumConvergence(const PartialWaves& waves, double angle) {
 MieResult SolveMie(const MieRequest& request, RunMonitor& monitor) {
   const AngleGrid grid(request.NANG);
   MieResult result;
-  result.S1.Resize(grid.RowCount());
-  result.S2.Resize(grid.RowCount());
+  const int tableRows = std::max(request.tableRows, grid.RowCount());
+  result.S1.Resize(tableRows);
+  result.S2.Resize(tableRows);
   result.refusal = CheckMieLimits(request.x, request.mRe, request.mIm, request.convergence);
   if (result.refusal != MieRefusal::None) return result;
 
@@ -58,7 +60,10 @@ MieResult SolveMie(const MieRequest& request, RunMonitor& monitor) {
       return goOn;
     }
   } watch(monitor, stopped);
-  result.rows = SumAngularSeries(result.waves, grid, request.window, result.S1, result.S2, watch, request.set);
+  const bool known = request.cosines && request.cosines->Covers(grid, request.window);
+  result.rows = known ? SumAngularSeries(result.waves, grid, *request.cosines, request.window, result.S1, result.S2,
+                                         watch, request.set)
+                      : SumAngularSeries(result.waves, grid, request.window, result.S1, result.S2, watch, request.set);
   result.stopped = stopped;
   if (request.divideBySize) {
     const double scale = 1.0 / request.x;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <vector>
 
 #include "session/kernel/run_monitor.h"
@@ -14,16 +15,18 @@ namespace lumivex {
 
 /// One plane-wave calculation of a homogeneous sphere.
 struct MieRequest {
-  double x = 0.0;                             ///< Size parameter 2 pi a / wavelength in the medium, > 0.
-  double mRe = 1.0;                           ///< Refractive index relative to the medium, m = mRe + i mIm,
-  double mIm = 0.0;                           ///< absorption for mIm > 0 (time factor exp(-i omega t)).
-  int NANG = 2;                               ///< Rows from 0 to 90 degrees; below 2 becomes 2.
-  RowWindow window{1, 2 * MaxSeriesTerms};    ///< Rows wanted, cut to 1..2 NANG - 1.
-  bool divideBySize = false;                  ///< Divide amplitudes by x before Qext and Qback are formed.
-  bool classicStart = false;                  ///< See ComputeMieTruncation.
-  bool convergence = false;                   ///< Fill MieResult::convergence; sums 1.2 times the terms.
-  int selectedAngleIndex = 1;                 ///< Row of the convergence series, 1..2 NANG - 1.
-  InstructionSet set = BestInstructionSet();  ///< For tests and benchmarks: one that this machine runs.
+  double x = 0.0;                               ///< Size parameter 2 pi a / wavelength in the medium, > 0.
+  double mRe = 1.0;                             ///< Refractive index relative to the medium, m = mRe + i mIm,
+  double mIm = 0.0;                             ///< absorption for mIm > 0 (time factor exp(-i omega t)).
+  int NANG = 2;                                 ///< Rows from 0 to 90 degrees; below 2 becomes 2.
+  int tableRows = 0;                            ///< Rows of the tables, where more than 2 NANG - 1 are wanted.
+  std::shared_ptr<const AngleCosines> cosines;  ///< Those of the window, from a call before; computed where it has not.
+  RowWindow window{1, 2 * MaxSeriesTerms};      ///< Rows wanted, cut to 1..2 NANG - 1.
+  bool divideBySize = false;                    ///< Divide amplitudes by x before Qext and Qback are formed.
+  bool classicStart = false;                    ///< See ComputeMieTruncation.
+  bool convergence = false;                     ///< Fill MieResult::convergence; sums 1.2 times the terms.
+  int selectedAngleIndex = 1;                   ///< Row of the convergence series, 1..2 NANG - 1.
+  InstructionSet set = BestInstructionSet();    ///< For tests and benchmarks: one that this machine runs.
 };
 
 /// Intensities of the running sums at one angle, after each term N = 1..NSTOP; index 0 is unused and 0.
@@ -37,7 +40,7 @@ struct MieResult {
   MieRefusal refusal = MieRefusal::None;  ///< Where not None, the tables are zero and nothing else is set.
   MieTruncation truncation;               ///< NSTOP, NMX.
   Efficiencies efficiencies;              ///< Of the sphere, whatever the window of rows.
-  AmplitudeTable S1;                      ///< Rows 1..2 NANG - 1; rows not summed are 0.
+  AmplitudeTable S1;                      ///< Rows 1..2 NANG - 1 or tableRows; rows not summed are 0.
   AmplitudeTable S2;
   PartialWaves waves;
   ConvergenceSeries convergence;
