@@ -30,8 +30,6 @@ struct AngleGrid {
     return grid;
   }
 
-  bool Single() const { return NANG == 1; }
-
   /// Rows over 0 to 180 degrees: 2 NANG - 1.
   int RowCount() const { return 2 * NANG - 1; }
 

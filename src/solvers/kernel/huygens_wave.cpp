@@ -32,10 +32,31 @@ struct Wavelet {
   ComplexD perpendicular, parallel;  // sqrt(L/(2 pi)) eps dL
 };
 
+/// Asks the monitor after each bounded number of wavelets.
+class Watch {
+ public:
+  Watch(RunMonitor& monitor, std::size_t rows) : monitor_(monitor), rows_(rows) {}
+
+  void AtRow(std::size_t row) { row_ = row; }
+  /// False when it is time to stop.
+  bool Count(std::size_t wavelets) {
+    work_ += wavelets;
+    if (work_ < WaveletsPerLook) return true;
+    work_ = 0;
+    return monitor_.Report(row_, rows_);
+  }
+
+ private:
+  RunMonitor& monitor_;
+  std::size_t rows_;
+  std::size_t row_ = 0;
+  std::size_t work_ = 0;
+};
+
 /// The wavelets of one p, by the middle rule in the angle of incidence, whose ends are smooth.
 class WaveletSet {
  public:
-  WaveletSet(const HuygensRequest& request, int p) : p_(p) {
+  WaveletSet(const HuygensRequest& request, int p, Watch& watch) : p_(p) {
     const RayFamily family(request.m, p);
     const double span = DeviationRange(family);
     const double x = request.x;
@@ -45,6 +66,8 @@ class WaveletSet {
     const double step = family.Last() / count;
     wavelets_.reserve(static_cast<std::size_t>(count));
     for (int k = 0; k < count; ++k) {
+      // Tracing a ray takes about as long as ten wavelets.
+      if (!watch.Count(10)) return;
       const Ray ray = family.At((k + 0.5) * step);
       // dL = x cos i di, or x m cos r dr where r runs.
       const double width = request.m < 1.0 && p >= 1 ? x * request.m * ray.cosR * step : x * ray.cosI * step;
@@ -56,9 +79,9 @@ class WaveletSet {
     }
   }
 
-  std::size_t Size() const { return wavelets_.size() * static_cast<std::size_t>(highest_ - lowest_ + 1); }
-
-  void Add(double theta, ComplexD& S1, ComplexD& S2) const {
+  /// False when it stopped on the way; S1 and S2 are then of no use.
+  bool Add(double theta, Watch& watch, ComplexD& S1, ComplexD& S2) const {
+    constexpr std::size_t chunk = 4096;
     const double scale = 1.0 / std::sqrt(std::sin(theta));
     for (int halfTurn = lowest_; halfTurn <= highest_; ++halfTurn) {
       const RayFold fold = FoldHalfTurn(halfTurn);
@@ -66,7 +89,9 @@ class WaveletSet {
       const double constant = pi / 2 * (p_ - 2 * fold.kk - 0.5 * fold.q);
       ComplexD sum1;
       ComplexD sum2;
-      for (const Wavelet& w : wavelets_) {
+      for (std::size_t k = 0; k < wavelets_.size(); ++k) {
+        if (k % chunk == 0 && !watch.Count(std::min(chunk, wavelets_.size() - k))) return false;
+        const Wavelet& w = wavelets_[k];
         const double phase = w.path - w.L * target + constant;
         const ComplexD wave(-std::sin(phase), -std::cos(phase));
         sum1 = sum1 + w.perpendicular * wave;
@@ -75,6 +100,7 @@ class WaveletSet {
       S1 = S1 + scale * sum1;
       S2 = S2 + scale * sum2;
     }
+    return true;
   }
 
  private:
@@ -147,28 +173,22 @@ HuygensWave TraceHuygens(double x, double m, int p, int R) {
 RowsDone SumHuygens(const HuygensRequest& request, AmplitudeTable& S1, AmplitudeTable& S2, RunMonitor& monitor) {
   const RowWindow window{std::max(request.window.low, 1), std::min(request.window.high, request.grid.RowCount())};
   if (window.Empty()) return {};
+  const auto count = static_cast<std::size_t>(window.high - window.low) + 1;
+  Watch watch(monitor, count);
   std::vector<WaveletSet> sets;
   for (std::size_t p = 0; p < request.selected.size(); ++p) {
     if (request.selected[p] == 0) continue;
-    if (!monitor.Report(0, 1)) return {};
-    sets.emplace_back(request, static_cast<int>(p));
+    if (!monitor.Report(0, count)) return {};
+    sets.emplace_back(request, static_cast<int>(p), watch);
   }
-  const auto count = static_cast<std::size_t>(window.high - window.low) + 1;
-  std::size_t wavelets = WaveletsPerLook;
+  if (!monitor.Report(0, count)) return {};
   for (int row = window.low; row <= window.high; ++row) {
+    watch.AtRow(static_cast<std::size_t>(row - window.low));
     const double theta = ClampRayAngle(request.grid.Angle(row));
     ComplexD sum1 = S1.Value(row);
     ComplexD sum2 = S2.Value(row);
-    for (const WaveletSet& set : sets) {
-      wavelets += set.Size();
-      if (wavelets >= WaveletsPerLook) {
-        wavelets = 0;
-        if (!monitor.Report(static_cast<std::size_t>(row - window.low), count)) {
-          return RowsUpTo(request.grid, window, row - 1);
-        }
-      }
-      set.Add(theta, sum1, sum2);
-    }
+    for (const WaveletSet& set : sets)
+      if (!set.Add(theta, watch, sum1, sum2)) return RowsUpTo(request.grid, window, row - 1);
     S1.Set(row, sum1.re, sum1.im);
     S2.Set(row, sum2.re, sum2.im);
   }
