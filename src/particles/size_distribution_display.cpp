@@ -8,29 +8,41 @@
 #include "particles/size_distribution.h"
 #include "session/record/number_text.h"
 #include "solvers/sphere_size.h"
+#include "solvers/visible_data.h"
 
 namespace lumivex {
 
 namespace {
 
-// The side strip (surface units).
+// The side strip (surface units). The readings of a run stand in its left part; the distribution then takes the rest.
 constexpr double stripLeft = 12000, stripRight = 15600, stripBottom = 2800;
-constexpr double axisLeft = 12150, axisRight = 15450;
-constexpr double peakTop = 100, barHeight = 2000, base = peakTop + barHeight;
+constexpr double readingsRight = 13900, marginOfAxis = 150, leastAxis = 800;
+constexpr double peakTop = 100, barHeight = 2000, base = peakTop + barHeight, captionTop = base + 280;
+
+struct Strip {
+  double left, right;  ///< of the bars
+  bool HasRoom() const { return right - left >= leastAxis; }
+};
+
+Strip StripOf(const Session& session) {
+  const double right = std::min(stripRight, session.surface->ScaleWidth()) - marginOfAxis;
+  return {(ShowsReadings(session) ? readingsRight : stripLeft) + marginOfAxis, right};
+}
 
 struct RadiusAxis {
   double low, high;
   bool logarithmic;
+  Strip strip;
 
   double Place(double radius) const {
     const double t = logarithmic ? std::log(radius / low) / std::log(high / low) : (radius - low) / (high - low);
-    return axisLeft + std::clamp(t, 0.0, 1.0) * (axisRight - axisLeft);
+    return strip.left + std::clamp(t, 0.0, 1.0) * (strip.right - strip.left);
   }
 };
 
 RadiusAxis AxisOf(const Session& session) {
   const auto& s = session.state;
-  RadiusAxis axis{s.DistMin, s.DistMax, session.forms.dlogDistDisplay.optLogX.Checked};
+  RadiusAxis axis{s.DistMin, s.DistMax, session.forms.dlogDistDisplay.optLogX.Checked, StripOf(session)};
   if (axis.logarithmic && !(axis.low > 0)) axis.low = axis.high / 1000;
   if (!(axis.high > axis.low)) {
     // All samples alike: a bar in the middle.
@@ -85,18 +97,37 @@ void PrintAt(DrawingSurface& surface, double x, double y, const std::string& tex
   surface.Print(text, false);
 }
 
+/// The caption may begin under the readings: they end above it.
+void PrintCaption(Session& session, double right) {
+  auto& surface = *session.surface;
+  const std::string caption = CaptionOf(session);
+  const double fontSize = surface.FontSize;
+  const double room = right - stripLeft;
+  constexpr double smallestFont = 6;
+  while (surface.TextWidth(caption) > room && surface.FontSize > smallestFont) surface.FontSize -= 0.5;
+  PrintAt(surface, std::max(stripLeft, right - surface.TextWidth(caption)), captionTop, caption);
+  surface.FontSize = fontSize;
+}
+
+/// Numbers at both ends, between them the title or, where there is no room, its unit.
 void DrawAxis(Session& session, const RadiusAxis& axis) {
   const auto& s = session.state;
   auto& surface = *session.surface;
-  surface.Line(axisLeft, base, axisRight, base);
+  const Strip& strip = axis.strip;
+  surface.Line(strip.left, base, strip.right, base);
   const bool overIndex = s.GraphType == 20 && s.GraphSubType == 2;
   const std::string low = Significant(axis.low, 3), high = Significant(axis.high, 3);
-  const std::string title = overIndex ? "Refractive index" : "Radius (\u00B5m)";
-  constexpr double numbersTop = base + 40, captionTop = base + 280;
-  PrintAt(surface, axisLeft, numbersTop, low);
-  PrintAt(surface, (axisLeft + axisRight - surface.TextWidth(title)) / 2, numbersTop, title);
-  PrintAt(surface, axisRight - surface.TextWidth(high), numbersTop, high);
-  PrintAt(surface, axisLeft, captionTop, CaptionOf(session));
+  constexpr double numbersTop = base + 40;
+  const double lowWidth = surface.TextWidth(low), highWidth = surface.TextWidth(high);
+  PrintAt(surface, strip.left, numbersTop, low);
+  PrintAt(surface, strip.right - highWidth, numbersTop, high);
+  for (const std::string title : {overIndex ? "Refractive index" : "Radius (\u00B5m)", overIndex ? "n" : "\u00B5m"}) {
+    const double width = surface.TextWidth(title), x = (strip.left + strip.right - width) / 2;
+    if (x <= strip.left + lowWidth || x + width >= strip.right - highWidth) continue;
+    PrintAt(surface, x, numbersTop, title);
+    break;
+  }
+  PrintCaption(session, strip.right);
 }
 
 }  // namespace
@@ -109,14 +140,17 @@ void DistDisplay(Session& session, bool aloud) {
   const bool good = PrepareSizes(session, aloud);
   s.Radius = radius;
   if (!good) return;
+  const RadiusAxis axis = AxisOf(session);
+  // A narrow window has room for one of the two: the readings stay, without them the distribution is shown.
+  if (!axis.strip.HasRoom()) return;
   auto& surface = *session.surface;
   const SurfacePen before = surface;
   surface.ForeColour = surface.BackColour;
-  surface.Line(stripLeft, 0, stripRight, stripBottom, LineKind::FilledBox);
+  surface.Line(axis.strip.left - marginOfAxis, 0, stripRight, stripBottom, LineKind::FilledBox);
+  surface.Line(stripLeft, captionTop, stripRight, stripBottom, LineKind::FilledBox);
   surface.ForeColour = colours::Black;
   surface.DrawStyle = 0;
   surface.DrawWidth = 1;
-  const RadiusAxis axis = AxisOf(session);
   DrawBars(session, axis);
   DrawAxis(session, axis);
   static_cast<SurfacePen&>(surface) = before;

@@ -89,18 +89,22 @@ void PrintEndIntensities(const Session& session, ReadingColumn& column) {
 
 }  // namespace
 
-void VisibleData(Session& session) {
+bool ShowsReadings(const Session& session) {
   const auto& s = session.state;
   const auto& form = session.form1;
+  const std::initializer_list<int> withEfficiencies = {1, 2, 13};
+  return s.ScreenWidthPx > 800 && s.GraphType != 20 && form.mnuDataVisible.Checked && form.mnuPlaneWave.Checked &&
+         std::ranges::find(withEfficiencies, s.CalcMethod) != withEfficiencies.end();
+}
+
+void VisibleData(Session& session) {
+  const auto& s = session.state;
   auto& surface = *session.surface;
   const Colour before = surface.ForeColour;
   surface.ForeColour = surface.BackColour;
   surface.Line(left, 0, surface.ScaleWidth(), stripBottom, LineKind::FilledBox);
   surface.ForeColour = colours::Black;
-  const bool shown = s.ScreenWidthPx > 800 && s.GraphType != 20 && form.mnuDataVisible.Checked;
-  const std::initializer_list<int> withEfficiencies = {1, 2, 13};
-  if (shown && form.mnuPlaneWave.Checked &&
-      std::ranges::find(withEfficiencies, s.CalcMethod) != withEfficiencies.end()) {
+  if (ShowsReadings(session)) {
     ReadingColumn column(surface);
     if (s.ResultWavelengths > 1) {
       PrintSpectrum(s, column);

@@ -8,6 +8,9 @@ namespace lumivex {
 /// nothing on a screen of 800 pixels or less, for a Lee diagram, or with mnuDataVisible unticked.
 void VisibleData(Session& session);
 
+/// Whether it prints any.
+bool ShowsReadings(const Session& session);
+
 /// Prints the title of the run and the label of the method over the graph.
 void PrintTitle(Session& session);
 

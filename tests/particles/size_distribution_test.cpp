@@ -1,6 +1,8 @@
 #include "particles/size_distribution.h"
 
+#include <complex>
 #include <functional>
+#include <span>
 
 #include "materials/material_fixture.h"
 #include "particles/kernel/gamma_function.h"
@@ -10,7 +12,10 @@
 #include "particles/size_distribution_display.h"
 #include "particles/size_menus.h"
 #include "session/driver/solver_chain.h"
+#include "session/page.h"
+#include "solvers/kernel/mie_point.h"
 #include "solvers/kernel/mie_series.h"
+#include "solvers/kernel/scattering_pattern.h"
 
 namespace lumivex {
 namespace {
@@ -164,6 +169,78 @@ TEST_F(SizeDistribution, EveryDistributionRuns) {
     EXPECT_TRUE(Shown().empty()) << name << LastText();
     EXPECT_GT(State().Qext, 0) << name;
     EXPECT_EQ(State().NumberSamples, std::string(name) == "Special" ? 9 : 10) << name;
+  }
+}
+
+TEST_F(SizeDistribution, MatrixOfACloudIsMadeOfMeansOfProducts) {
+  Disperse("Log-normal", "5", "20");
+  const auto check = [&](std::size_t i, double angle, double lambda, double mRe, double mIm) {
+    double S11 = 0, S12 = 0, S33 = 0, S34 = 0;
+    SilentMonitor silent;
+    const auto sizes = NormalSamples(5);
+    for (std::size_t k = 1; k < sizes.size(); ++k) {
+      const double radius = 10 * std::pow(1.2, double{sizes[k]});
+      const double x = 2 * 3.14159265358979324 * radius / lambda;
+      const MiePoint p = SolveMiePoint({x, mRe, mIm, angle * 3.14159265358979324 / 180, false, false}, silent);
+      const std::complex<double> S1(p.S1.re, p.S1.im), S2(p.S2.re, p.S2.im);
+      S11 += (std::norm(S1) + std::norm(S2)) / 2;
+      S12 += (std::norm(S2) - std::norm(S1)) / 2;
+      S33 += (S2 * std::conj(S1)).real();
+      S34 += (S2 * std::conj(S1)).imag();
+    }
+    EXPECT_NEAR(State().Iperp[i] * 5 / S11, 1, 1e-6);
+    EXPECT_NEAR(State().Extra1[i], S12 / S11, 1e-6);
+    EXPECT_NEAR(State().Extra2[i], S33 / S11, 1e-6);
+    EXPECT_NEAR(State().Extra3[i], S34 / S11, 1e-6);
+    EXPECT_LT(std::hypot(State().Extra1[i], State().Extra2[i], State().Extra3[i]), 0.999) << "clouds depolarise";
+  };
+  Do("choose cboGraph Scattering matrix\nclick cmdNewPlot");
+  ASSERT_TRUE(Shown().empty()) << LastText();
+  for (const int row : {301, 901, 1401})
+    check(static_cast<std::size_t>(row), (row - 1) * 0.1, 0.65, State().RefRelReal, State().RefRelImag);
+  const auto ratio = State().Extra3;
+  Do("click cmdReplot");
+  EXPECT_EQ(State().Extra3[901], ratio[901]);
+  Do("choose cboGraph Scattering matrix: wavelength\nset txtRefractReal 1.4\nset txtRefractImag 0\n"
+     "set txtXmin 500\nset txtXmax 600\nset cboStep 20\nset txtAngle 90\nclick cmdNewPlot");
+  ASSERT_TRUE(Shown().empty()) << LastText();
+  check(2, 90, 0.52, 1.4, 0);
+  // One sphere is all polarised again.
+  Do("click optMono\nclick cmdNewPlot");
+  EXPECT_NEAR(std::hypot(State().Extra1[2], State().Extra2[2], State().Extra3[2]), 1, 1e-9);
+}
+
+TEST_F(SizeDistribution, PhaseFunctionOfACloudHasTheMeanOne) {
+  Disperse("Log-normal", "10", "20");
+  Do("choose cboGraph Phase function\nclick cmdNewPlot");
+  ASSERT_TRUE(Shown().empty()) << LastText();
+  const auto rows = std::span(State().Iunpol).subspan(1, static_cast<std::size_t>(State().NN));
+  EXPECT_NEAR(SphereMean(rows), 1, 1e-9);
+}
+
+TEST_F(SizeDistribution, ReadingsAndDistributionStandSideBySide) {
+  Disperse("Log-normal", "20", "5");
+  Do("click cmdNewPlot");
+  for (const double width : {19200.0, 15600.0, 13750.0}) {
+    RecordingSurface page(width, 12000);
+    DrawingSurface* shown = Now().surface;
+    Now().surface = &page;
+    DrawPage(Now());
+    Now().surface = shown;
+    double readingsRight = 0, firstBar = 1e9;
+    bool caption = false;
+    for (const auto& operation : page.Operations()) {
+      if (operation.kind == DrawnOperation::Kind::Text) {
+        caption = caption || operation.text.ends_with("distribution");
+        if (operation.text.starts_with("Q"))
+          readingsRight = std::max(readingsRight, 12000 + page.TextWidth(operation.text));
+      }
+      const bool bar = operation.kind == DrawnOperation::Kind::Line && operation.points[0].y == 2100;
+      if (bar) firstBar = std::min(firstBar, operation.points[0].x);
+    }
+    EXPECT_GT(readingsRight, 12000) << width;
+    EXPECT_EQ(caption, width > 15000) << "a narrow page has room for the readings only";
+    EXPECT_GT(firstBar, readingsRight) << width;
   }
 }
 

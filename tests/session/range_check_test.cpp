@@ -98,7 +98,7 @@ const RuleCase ruleCases[] = {
      "cboGraph", "Input error", "This graph type is available only for single wavelength calculations"},
     {"disperse matrix",
      [](Session& s) {
-       Graph(s, 1, 6);
+       Graph(s, 1, 5);
        s.form1.optDisp.Checked = true;
        s.form1.cboDistrib.Text = "Haze";
      },

@@ -22,9 +22,9 @@ bool OneOf(int code, std::initializer_list<int> codes) {
 constexpr std::string_view onlyMieAndDebye = "Selected graph type is available only for Mie and Debye calculations";
 constexpr std::string_view onlyMie = "Selected graph type is available only for Mie calculations";
 
-/// Sub-types of graph 1 that integrate over angles or pair amplitudes, and so need one sphere.
+/// The chart of two angles has sizes of its own.
 bool NeedsOneSphere(const RunState& s) {
-  return s.GraphType == 1 && s.GraphSubType >= 5;
+  return IsTwoAngleContour(s);
 }
 
 /// Graphs against angle other than plain intensity, and the impulse response.

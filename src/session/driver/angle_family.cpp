@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 #include "graphs/sun_disc.h"
 #include "particles/size_distribution.h"
@@ -102,11 +103,14 @@ void CalculateAngles(Session& session) {
   AmplitudeTable S1(s.ArrayRows), S2(s.ArrayRows);
   std::swap(S1, s.S1);
   std::swap(S2, s.S2);
+  auto crossRe = std::exchange(s.CloudCrossRe, {}), crossIm = std::exchange(s.CloudCrossIm, {});
   SolveAngles(session);
   const bool refused = s.PlotMode == 4 && s.StopAnswer == 0;
   if (refused) {
     std::swap(S1, s.S1);
     std::swap(S2, s.S2);
+    s.CloudCrossRe = std::move(crossRe);
+    s.CloudCrossIm = std::move(crossIm);
     return;
   }
   SizeAngleCurves(s);

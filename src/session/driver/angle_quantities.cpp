@@ -35,11 +35,16 @@ double UndoDivision(const Session& session) {
   return session.form1.mnuSize.Checked ? x * x : 1;
 }
 
+/// Whether the stored results are means over the sizes of a cloud.
+bool IsCloud(const SizeState& s) {
+  return !s.CloudCrossRe.empty();
+}
+
 void PhaseFunction(Session& session) {
   auto& s = session.state;
   const std::size_t first = 1, count = static_cast<std::size_t>(s.NN);
   double mean = 0;
-  if (s.CalcMethod == 1) {
+  if (s.CalcMethod == 1 && !IsCloud(s)) {
     mean = s.SizeParameter * s.SizeParameter * s.Qsca / 4 / UndoDivision(session);
   } else {
     mean = SphereMean(std::span(s.Iunpol).subspan(first, count));
@@ -108,8 +113,14 @@ bool NeedsAllRows(const RunState& s) {
          });
 }
 
-void FillMatrixPoint(ResultArrays& r, std::size_t i, const AmplitudePair& pair) {
-  const ScatteringMatrix m = MatrixOf(pair.S1, pair.S2);
+void FillMatrixPoint(MainFormState& s, std::size_t i, const AmplitudePair& pair) {
+  ScatteringMatrix m = MatrixOf(pair.S1, pair.S2);
+  if (IsCloud(s) && i < s.CloudCrossRe.size()) {
+    // S33 - i S34 is S1 conj(S2).
+    m.S33 = s.CloudCrossRe[i];
+    m.S34 = -s.CloudCrossIm[i];
+  }
+  ResultArrays& r = s;
   const double scale = m.S11 > 0 ? 1 / m.S11 : 0;
   r.Iperp[i] = r.Ipar[i] = r.Iunpol[i] = m.S11;
   r.Extra1[i] = m.S12 * scale;

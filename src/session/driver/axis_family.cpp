@@ -38,6 +38,7 @@ struct AxisRun {
   std::vector<double> x;                       ///< in the axis' unit
   std::vector<double> size, mRe, mIm, radius;  ///< size parameter, relative index, radius (um)
   std::vector<double> waveNumber;              ///< 1/m
+  std::vector<double> lambda, medium;          ///< wavelength in vacuo (um), index of the medium
   std::vector<double> Qext, Qsca, Qback, g;
   std::vector<double> powerPerp, powerPar;  ///< scattered into the range of angles chosen (W)
   int done = 0;                             ///< points done, from the first
@@ -45,7 +46,8 @@ struct AxisRun {
   void Resize(int count) {
     points = count;
     const auto elements = static_cast<std::size_t>(count) + 1;
-    for (auto* list : {&x, &size, &mRe, &mIm, &radius, &waveNumber, &Qext, &Qsca, &Qback, &g, &powerPerp, &powerPar})
+    for (auto* list : {&x, &size, &mRe, &mIm, &radius, &waveNumber, &lambda, &medium, &Qext, &Qsca, &Qback, &g,
+                       &powerPerp, &powerPar})
       list->assign(elements, 0.0);
   }
 };
@@ -112,6 +114,8 @@ bool PlacePoint(Session& session, AxisRun& run, int point) {
   run.mRe[i] = mRe;
   run.mIm[i] = mIm;
   run.size[i] = run.graph->variable == AxisVariable::SizeParameter ? x : 2 * pi * radius * s.MediumRIReal / s.Lambda;
+  run.lambda[i] = s.Lambda;
+  run.medium[i] = s.MediumRIReal;
   run.waveNumber[i] = 2 * pi * s.MediumRIReal / (s.Lambda * 1e-6);
   return true;
 }
@@ -185,7 +189,8 @@ std::optional<PointResult> SolveCloud(Session& session, double angle) {
   }
   return PointResult{{std::sqrt(cloud->perpendicular), 0},
                      {std::sqrt(cloud->parallel), 0},
-                     {cloud->Qext, cloud->Qsca, cloud->Qback, cloud->g}};
+                     {cloud->Qext, cloud->Qsca, cloud->Qback, cloud->g},
+                     cloud->cross};
 }
 
 void SolvePointByPoint(Session& session, AxisRun& run) {
@@ -194,6 +199,8 @@ void SolvePointByPoint(Session& session, AxisRun& run) {
   const bool disperse = session.form1.optDisp.Checked;
   s.S1ofPoint.Resize(run.points);
   s.S2ofPoint.Resize(run.points);
+  for (auto* cross : {&s.CloudCrossRe, &s.CloudCrossIm})
+    cross->assign(disperse ? static_cast<std::size_t>(run.points) + 1 : 0, 0.0);
   for (int point = 1; point <= run.points && !Stopped(session); ++point) {
     const auto i = static_cast<std::size_t>(point);
     s.PointIndex = point;
@@ -202,6 +209,9 @@ void SolvePointByPoint(Session& session, AxisRun& run) {
     s.SizeParameter = run.size[i];
     s.RefRelReal = run.mRe[i];
     s.RefRelImag = run.mIm[i];
+    // The sizes of a cloud are made from these.
+    s.Lambda = run.lambda[i];
+    s.MediumRIReal = run.medium[i];
     if (run.graph->quantity == AxisQuantity::Power) {
       SolvePower(session, run, i);
       if (Stopped(session)) return;
@@ -213,6 +223,10 @@ void SolvePointByPoint(Session& session, AxisRun& run) {
     if (!found) return;
     s.S1ofPoint.Set(point, found->S1.re, found->S1.im);
     s.S2ofPoint.Set(point, found->S2.re, found->S2.im);
+    if (disperse) {
+      s.CloudCrossRe[i] = found->cross.re;
+      s.CloudCrossIm[i] = found->cross.im;
+    }
     run.Qext[i] = found->efficiencies.Qext;
     run.Qsca[i] = found->efficiencies.Qsca;
     run.Qback[i] = found->efficiencies.Qback;

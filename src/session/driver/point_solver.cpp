@@ -30,7 +30,7 @@ std::optional<PointResult> SolvePoint(Session& session, double angle) {
   AmplitudeTable S1(1), S2(1);
   CallSolverAt(session, angle, S1, S2);
   if (s.PlotMode == 4) return std::nullopt;
-  return PointResult{S1.Value(1), S2.Value(1), {s.Qext, s.Qsca, s.Qback, s.Gsca}};
+  return PointResult{S1.Value(1), S2.Value(1), {s.Qext, s.Qsca, s.Qback, s.Gsca}, {}};
 }
 
 }  // namespace lumivex

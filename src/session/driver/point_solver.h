@@ -12,6 +12,7 @@ namespace lumivex {
 struct PointResult {
   ComplexD S1, S2;
   Efficiencies efficiencies;
+  ComplexD cross;  ///< of a cloud, the mean of S1 conj(S2)
 };
 
 /// The sphere that stands in the record (SizeParameter, RefRelReal, RefRelImag), seen at one angle (radians), by the
