@@ -31,10 +31,9 @@ QString GuideWindow::Path() {
 }
 
 void GuideWindow::ShowPage(const QString& heading) {
-  QFile file(Path());
-  if (!Path().isEmpty() && file.open(QIODevice::ReadOnly)) {
-    document()->setBaseUrl(QUrl::fromLocalFile(Path()));
-    setMarkdown(QString::fromUtf8(file.readAll()));
+  // As a source, not as a text: links to the other pages and the pictures are then found beside it.
+  if (const QString path = Path(); QFileInfo(path).isReadable()) {
+    setSource(QUrl::fromLocalFile(path), QTextDocument::MarkdownResource);
   } else {
     setPlainText("The user's guide (user_guide.md) was not found beside the program.");
   }

@@ -110,10 +110,17 @@ TEST_F(MainWindowTest, F1OpensTheGuide) {
   ASSERT_NE(help, nullptr);
   EXPECT_EQ(help->shortcut(), QKeySequence("F1"));
   help->trigger();
-  const auto* guide = program.Window().findChild<GuideWindow*>();
+  auto* guide = program.Window().findChild<GuideWindow*>();
   ASSERT_NE(guide, nullptr);
   EXPECT_TRUE(guide->isVisible());
   EXPECT_TRUE(guide->toPlainText().contains("New plot"));
+  // The link to the second page leads there, and its pictures are found.
+  const QUrl second = guide->source().resolved(QUrl("user_guide_graphs.md"));
+  ASSERT_TRUE(second.isLocalFile());
+  guide->setSource(second);
+  EXPECT_TRUE(guide->toPlainText().contains("Zoom and pan"));
+  EXPECT_FALSE(guide->loadResource(QTextDocument::ImageResource, QUrl("images/overplot.png")).isNull());
+  EXPECT_FALSE(guide->loadResource(QTextDocument::ImageResource, QUrl("images/two-angles.png")).isNull());
 }
 
 }  // namespace
