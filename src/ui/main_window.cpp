@@ -340,6 +340,8 @@ std::string MainWindow::SavePicture(std::string_view path, int widthPx, int heig
 
 std::string MainWindow::SaveScreenshot(std::string_view path) {
   Refresh();
+  // What has just been shown or hidden finds its place when the event loop runs, which a script does not wait for.
+  Settle();
   if (grab().save(ToQString(path))) return {};
   return "The screenshot could not be written to " + std::string(path) + ".";
 }
