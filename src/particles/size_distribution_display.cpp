@@ -14,19 +14,36 @@ namespace lumivex {
 
 namespace {
 
-// The side strip (surface units). The readings of a run stand in its left part; the distribution then takes the rest.
+// The side strip (surface units). The readings of a run stand in its left part; the distribution then takes the rest
+// or, in a narrow window, what is below them.
 constexpr double stripLeft = 12000, stripRight = 15600, stripBottom = 2800;
-constexpr double readingsRight = 13900, marginOfAxis = 150, leastAxis = 800;
-constexpr double peakTop = 100, barHeight = 2000, base = peakTop + barHeight, captionTop = base + 280;
+constexpr double readingsRight = 13900, readingsBottom = 1800, marginOfAxis = 150, leastAxis = 800;
+constexpr double peakTop = 100, barHeight = 2000, lowPeakTop = 1850, lowBarHeight = 420;
 
+/// Where the bars stand.
 struct Strip {
-  double left, right;  ///< of the bars
+  double left = 0, right = 0;
+  double top = peakTop, base = peakTop + barHeight;
+
   bool HasRoom() const { return right - left >= leastAxis; }
+  double NumbersTop() const { return base + 40; }
+  double CaptionTop() const { return base + 280; }
 };
 
+/// The powers of a graph in watts are readings, too.
+bool HasPowerReadings(const RunState& s) {
+  return s.GraphType == 1 && s.GraphSubType == 3;
+}
+
+/// A strip without room where there is no place for one.
 Strip StripOf(const Session& session) {
   const double right = std::min(stripRight, session.surface->ScaleWidth()) - marginOfAxis;
-  return {(ShowsReadings(session) ? readingsRight : stripLeft) + marginOfAxis, right};
+  const Strip whole{stripLeft + marginOfAxis, right};
+  if (!ShowsReadings(session)) return whole;
+  const Strip beside{readingsRight + marginOfAxis, right};
+  if (beside.HasRoom()) return beside;
+  if (HasPowerReadings(session.state)) return {};
+  return {whole.left, whole.right, lowPeakTop, lowPeakTop + lowBarHeight};
 }
 
 struct RadiusAxis {
@@ -73,7 +90,7 @@ void DrawBars(Session& session, const RadiusAxis& axis) {
   const bool classes = session.form1.cboDistrib.Text == "Special" && s.SizeTableMode == 1;
   const auto heights = Heights(session);
   for (std::size_t i = 1; i < heights.size(); ++i) {
-    const double top = peakTop + barHeight * (1 - heights[i]);
+    const double base = axis.strip.base, top = base - (base - axis.strip.top) * heights[i];
     if (!classes) {
       const double x = axis.Place(s.DistRadius[i]);
       surface.Line(x, base, x, top);
@@ -97,15 +114,16 @@ void PrintAt(DrawingSurface& surface, double x, double y, const std::string& tex
   surface.Print(text, false);
 }
 
-/// The caption may begin under the readings: they end above it.
-void PrintCaption(Session& session, double right) {
+/// The caption may begin under the readings, which end above it; a narrow window goes without.
+void PrintCaption(Session& session, const Strip& strip) {
   auto& surface = *session.surface;
   const std::string caption = CaptionOf(session);
   const double fontSize = surface.FontSize;
-  const double room = right - stripLeft;
+  const double room = strip.right - stripLeft;
   constexpr double smallestFont = 6;
   while (surface.TextWidth(caption) > room && surface.FontSize > smallestFont) surface.FontSize -= 0.5;
-  PrintAt(surface, std::max(stripLeft, right - surface.TextWidth(caption)), captionTop, caption);
+  const double width = surface.TextWidth(caption);
+  if (width <= room) PrintAt(surface, strip.right - width, strip.CaptionTop(), caption);
   surface.FontSize = fontSize;
 }
 
@@ -114,10 +132,10 @@ void DrawAxis(Session& session, const RadiusAxis& axis) {
   const auto& s = session.state;
   auto& surface = *session.surface;
   const Strip& strip = axis.strip;
-  surface.Line(strip.left, base, strip.right, base);
+  surface.Line(strip.left, strip.base, strip.right, strip.base);
   const bool overIndex = s.GraphType == 20 && s.GraphSubType == 2;
   const std::string low = Significant(axis.low, 3), high = Significant(axis.high, 3);
-  constexpr double numbersTop = base + 40;
+  const double numbersTop = strip.NumbersTop();
   const double lowWidth = surface.TextWidth(low), highWidth = surface.TextWidth(high);
   PrintAt(surface, strip.left, numbersTop, low);
   PrintAt(surface, strip.right - highWidth, numbersTop, high);
@@ -127,7 +145,7 @@ void DrawAxis(Session& session, const RadiusAxis& axis) {
     PrintAt(surface, x, numbersTop, title);
     break;
   }
-  PrintCaption(session, strip.right);
+  PrintCaption(session, strip);
 }
 
 }  // namespace
@@ -141,13 +159,15 @@ void DistDisplay(Session& session, bool aloud) {
   s.Radius = radius;
   if (!good) return;
   const RadiusAxis axis = AxisOf(session);
-  // A narrow window has room for one of the two: the readings stay, without them the distribution is shown.
+  // Where there is room for one of the two the readings stay; without them the distribution is shown.
   if (!axis.strip.HasRoom()) return;
   auto& surface = *session.surface;
   const SurfacePen before = surface;
   surface.ForeColour = surface.BackColour;
-  surface.Line(axis.strip.left - marginOfAxis, 0, stripRight, stripBottom, LineKind::FilledBox);
-  surface.Line(stripLeft, captionTop, stripRight, stripBottom, LineKind::FilledBox);
+  const Strip& strip = axis.strip;
+  const double top = strip.top > readingsBottom ? readingsBottom : 0;
+  surface.Line(strip.left - marginOfAxis, top, stripRight, stripBottom, LineKind::FilledBox);
+  surface.Line(stripLeft, strip.CaptionTop(), stripRight, stripBottom, LineKind::FilledBox);
   surface.ForeColour = colours::Black;
   surface.DrawStyle = 0;
   surface.DrawWidth = 1;

@@ -1,9 +1,11 @@
 #include "ui/panel_view.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <map>
 
 #include "ui/look.h"
@@ -18,7 +20,16 @@ class FrameBox final : public QWidget {
  public:
   using QWidget::QWidget;
 
+  /// Distance of the lines (pixels): as little as the panel was measured with, and what is airy.
+  static constexpr int leastSpacing = 2, mostSpacing = 6;
+
  protected:
+  bool event(QEvent* event) override {
+    const bool done = QWidget::event(event);
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize) Spread();
+    return done;
+  }
+
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -30,6 +41,19 @@ class FrameBox final : public QWidget {
     painter.setPen(line);
     painter.setBrush(ground);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+  }
+
+ private:
+  /// Lines that a graph hides leave their room to the others.
+  void Spread() {
+    auto* lines = static_cast<QVBoxLayout*>(layout());
+    int shown = 0;
+    for (int i = 0; i < lines->count(); ++i) shown += lines->itemAt(i)->isEmpty() ? 0 : 1;
+    if (shown < 2) return;
+    const int natural = lines->hasHeightForWidth() ? lines->heightForWidth(width()) : lines->sizeHint().height();
+    const int tight = natural - (shown - 1) * (lines->spacing() - leastSpacing);
+    const int spacing = std::clamp(leastSpacing + (height() - tight) / shown, leastSpacing, mostSpacing);
+    if (spacing != lines->spacing()) lines->setSpacing(spacing);
   }
 };
 
@@ -75,7 +99,7 @@ void PanelView::AddBox(Form& form, const FrameLayout& layout, const ControlActio
   QWidget* box = frame ? new FrameBox(&column) : new QWidget(&column);
   auto* lines = new QVBoxLayout(box);
   lines->setContentsMargins(frame ? 5 : 1, frame ? 2 : 1, frame ? 5 : 1, frame ? 4 : 1);
-  lines->setSpacing(frame ? 2 : 4);
+  lines->setSpacing(frame ? FrameBox::leastSpacing : 4);
   QLabel* title = nullptr;
   if (frame) {
     title = new WrapLabel(layout.longTitle, box);
