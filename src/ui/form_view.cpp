@@ -37,6 +37,8 @@ FormView::FormView(Form& form, std::span<const LayoutLine> lines, const FormStyl
   frameWidth_ = 2 * parent->style()->pixelMetric(QStyle::PM_DefaultFrameWidth) + 10;
   arrowWidth_ = parent->fontMetrics().height() + 4;
   fieldWidth_ = style.fieldChars * parent->fontMetrics().horizontalAdvance('0') + frameWidth_ + arrowWidth_;
+  constexpr int leastChars = 7;
+  leastFieldWidth_ = leastChars * parent->fontMetrics().horizontalAdvance('0') + frameWidth_;
   for (const auto& line : lines) AddLine(form, line, actions, parent);
 }
 
@@ -48,6 +50,9 @@ void FormView::AddLine(Form& form, const LayoutLine& line, const ControlActions&
 
   auto* row = new QHBoxLayout;
   row->setSpacing(column_->spacing() + 2);
+  // Titles of columns: they end where the fields below them do.
+  const bool titles = line.controls.front().empty();
+  if (titles) row->addStretch(1);
   for (Control* control : controls) {
     const bool isNamed = labelled && control == controls[1];
     auto& view = views_.emplace_back(std::make_unique<ControlView>(
@@ -63,10 +68,12 @@ void FormView::AddLine(Form& form, const LayoutLine& line, const ControlActions&
       widget->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     }
     if (labelled && IsInput(*control)) {
-      const int share = static_cast<int>((fieldWidth_ - (inputs - 1) * row->spacing()) / inputs);
-      widget->setFixedWidth(share);
+      widget->setFixedWidth(ShareOfField(inputs, row->spacing()));
       row->addWidget(widget, 0);
       if (isNamed) static_cast<QLabel*>(views_[views_.size() - 2]->Widget())->setBuddy(widget);
+    } else if (titles) {
+      widget->setFixedWidth(ShareOfField(std::ssize(controls), row->spacing()));
+      row->addWidget(widget, 0, Qt::AlignBottom);
     } else {
       if (IsInput(*control)) {
         // A number of eight digits fits, or what stands in a list at the start; the rest of the line is its to take.
@@ -85,6 +92,11 @@ void FormView::AddLine(Form& form, const LayoutLine& line, const ControlActions&
     }
   }
   column_->addLayout(row);
+}
+
+int FormView::ShareOfField(std::ptrdiff_t fields, int spacing) const {
+  const int share = static_cast<int>((fieldWidth_ - (fields - 1) * spacing) / fields);
+  return style_.compact ? share : std::max(share, leastFieldWidth_);
 }
 
 void FormView::Sync() {

@@ -22,7 +22,8 @@ struct FormStyle {
 /// The controls of a form as lines of widgets, built from their description.
 ///
 /// A line that begins with a label gives its inputs a common width at the right edge, so that they stand below each
-/// other; a line without one shares its width out evenly. The label also names its first input to a screen reader.
+/// other; a line without one shares its width out evenly. A line that begins with "" holds the titles of such inputs.
+/// The label also names its first input to a screen reader.
 class FormView {
  public:
   /// @param lines   what stands where; names that the form does not hold are passed over.
@@ -38,8 +39,11 @@ class FormView {
  private:
   void AddLine(Form& form, const LayoutLine& line, const ControlActions& actions, QWidget* parent);
 
+  /// Width of one of several inputs behind a label; in a dialog each has room for a number.
+  int ShareOfField(std::ptrdiff_t fields, int spacing) const;
+
   FormStyle style_;
-  int frameWidth_ = 0, arrowWidth_ = 0, fieldWidth_ = 0;  // pixels
+  int frameWidth_ = 0, arrowWidth_ = 0, fieldWidth_ = 0, leastFieldWidth_ = 0;  // pixels
   QVBoxLayout* column_;
   std::vector<std::unique_ptr<ControlView>> views_;
 };

@@ -14,10 +14,10 @@ struct DlogTwoAngle final : Form {
   static constexpr const char* indexTip = "Refractive index (real part) of the sphere in vacuo";
   static constexpr const char* radiusTip = "Radius of the sphere in micrometres";
 
-  Label lblAngle1{*this, "lblAngle1", "First range, from and to (deg.)"};
+  Label lblAngle1{*this, "lblAngle1", "First range (deg.)"};
   TextInput txtAngle1min{*this, "txtAngle1min", "0.5", angleTip};
   TextInput txtAngle1max{*this, "txtAngle1max", "5.5", angleTip};
-  Label lblAngle2{*this, "lblAngle2", "Second range, from and to (deg.)"};
+  Label lblAngle2{*this, "lblAngle2", "Second range (deg.)"};
   TextInput txtAngle2min{*this, "txtAngle2min", "5.5", angleTip};
   TextInput txtAngle2max{*this, "txtAngle2max", "10.5", angleTip};
   Label lblMin{*this, "lblMin", "Minimum"};
