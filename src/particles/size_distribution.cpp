@@ -174,6 +174,9 @@ void ForEachSample(Session& session, void (*progress)(Session&), const std::func
     return;
   }
   const double medium = s.MediumRIReal == 0 ? 1 : s.MediumRIReal;
+  // Small spheres come by faster than they can be read, and printing would take longer than solving.
+  constexpr double readable = 0.05;  // seconds
+  double printed = session.platform.Timer() - readable;
   for (int i = 1; i <= s.NumberSamples && s.PlotMode != stopRequested; ++i) {
     s.SampleIndex = i;
     s.DispSample = i;
@@ -181,7 +184,10 @@ void ForEachSample(Session& session, void (*progress)(Session&), const std::func
     s.Radius = s.DistRadius[static_cast<std::size_t>(i)];
     if (!(weight > 0 && s.Radius > 0)) continue;
     s.SizeParameter = twoPi * s.Radius * medium / s.Lambda;
-    PrintRadius(session);
+    if (const double now = session.platform.Timer(); now - printed >= readable) {
+      PrintRadius(session);
+      printed = now;
+    }
     if (!add(weight)) break;
     session.platform.Yield();
     progress(session);
