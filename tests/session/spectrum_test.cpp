@@ -3,7 +3,9 @@
 #include <set>
 
 #include "graphs/curve_text.h"
+#include "graphs/read_out.h"
 #include "graphs/spectrum_sums.h"
+#include "graphs/zoom.h"
 #include "materials/material_fixture.h"
 #include "session/driver/progress.h"
 #include "session/driver/spectrum_family.h"
@@ -186,6 +188,17 @@ TEST_F(Spectrum, TheSumOfManyShowsTheColourOfItsLight) {
   std::set<std::uint32_t> drawn;
   for (const Colour c : curve.colours) drawn.insert(c.value);
   EXPECT_GT(drawn.size(), 10U);
+  // Read-out and zoom work on it as on any other.
+  const auto& panel = State().Drawn.panels[0];
+  const PanelMap map{panel.box, panel.limits, false, panel.logY};
+  const auto reading = ReadGraph(State(), map.X(140), map.Y(State().Drawn.curves[0].y[1401]));
+  ASSERT_TRUE(reading && reading->onCurve);
+  EXPECT_EQ(reading->curveY, State().Drawn.curves[0].y[1401]);
+  EXPECT_TRUE(SetXRange(Now(), {138, 142}));
+  EXPECT_LE(State().Drawn.panels[0].limits.ymin, reading->curveY);
+  output.str("");
+  Do("drawing");
+  EXPECT_GT(output.str().size(), 1000U);
 }
 
 TEST_F(Spectrum, NothingThatIsOfferedIsDead) {

@@ -125,6 +125,28 @@ TEST(AngularSum, TouchesOnlyTheRowsOfTheWindow) {
   }
 }
 
+// A table of cosines that another call left must not change a single digit, wherever the window begins.
+TEST(AngularSum, CosinesMayBeSharedBetweenCalls) {
+  const PartialWaves waves = Waves(30.0);
+  for (const int NANG : {2, 19, 901}) {
+    const AngleGrid grid(NANG), other(NANG + 1);
+    const AngleCosines all(grid, {1, grid.RowCount()});
+    for (const RowWindow window : {RowWindow{1, grid.RowCount()}, RowWindow{NANG / 2 + 1, NANG},
+                                   RowWindow{NANG, grid.RowCount()}, RowWindow{NANG / 3 + 1, NANG + NANG / 2}}) {
+      SilentMonitor silent;
+      AmplitudeTable S1(grid.RowCount()), S2(grid.RowCount()), T1(grid.RowCount()), T2(grid.RowCount());
+      ASSERT_TRUE(all.Covers(grid, window));
+      SumAngularSeries(waves, grid, window, S1, S2, silent);
+      SumAngularSeries(waves, grid, all, window, T1, T2, silent);
+      EXPECT_EQ(S1, T1) << NANG << " " << window.low;
+      EXPECT_EQ(S2, T2) << NANG << " " << window.low;
+    }
+    EXPECT_FALSE(all.Covers(other, {1, 2}));
+    EXPECT_FALSE(AngleCosines(grid, {2, 2}).Covers(grid, {1, 2}));
+    EXPECT_TRUE(AngleCosines(grid, {2, 2}).Covers(grid, {grid.Mirror(2), grid.Mirror(2)}));
+  }
+}
+
 TEST(AngularSum, AStoppedSumKeepsWholeRowsAndSaysWhich) {
   const PartialWaves waves = Waves(20000.0);
   const AngleGrid grid(500);
