@@ -82,11 +82,18 @@ std::vector<Colour> RowColours(const Session& session, const Table2D& table, dou
   return colours;
 }
 
+/// White light cannot be seen on white: on a pale ground all colours are darker.
+double FullBrightness(Colour ground) {
+  constexpr int pale = 600;  // sum of the channels
+  return ground.Red() + ground.Green() + ground.Blue() > pale ? 0.65 : 1;
+}
+
 void PlotTotal(Session& session, int kind) {
   auto& s = session.state;
   const auto& table = kind == perpendicularKind ? s.ColourPerp : kind == parallelKind ? s.ColourPar : s.ColourMain;
   const auto& y = kind == perpendicularKind ? s.Iperp : kind == parallelKind ? s.Ipar : s.Iunpol;
-  const double brightness = kind == perpendicularKind ? 1 : kind == parallelKind ? 0.5 : 0.75;
+  const double shade = kind == perpendicularKind ? 1 : kind == parallelKind ? 0.5 : 0.75;
+  const double brightness = shade * FullBrightness(s.PlotBackColourSpectrum);
   s.CurveKind = kind;
   KeptCurve curve = CapturedCurve(session, y, 0);
   curve.colours = RowColours(session, table, brightness);
@@ -98,7 +105,9 @@ void PlotTotal(Session& session, int kind) {
 
 bool ShowsWavelengthsApart(const Session& session) {
   const auto& s = session.state;
-  if (session.form1.cboWave.Text == "RGB" && s.ResultWavelengths == 3) return session.form1.chkComponents.Checked;
+  // Red comes first in "RGB" alone; bands rise.
+  const bool components = s.ResultWavelengths == 3 && s.WavelengthList[1] > s.WavelengthList[2];
+  if (components) return session.form1.chkComponents.Checked;
   return s.ResultWavelengths <= mostCurvesApart;
 }
 

@@ -67,6 +67,13 @@ void SizeColourTables(SpectrumResults& results) {
     table->Resize(mostSpectrumRows + 1, colourColumns);
 }
 
+void ForgetSpectrum(SpectrumResults& results) {
+  results.ResultWavelengths = 1;
+  results.WavelengthsDone = 0;
+  for (auto* list : {&results.WavelengthPerp, &results.WavelengthPar, &results.WavelengthWaveNumber})
+    *list = std::vector<double>();
+}
+
 void FoldSpectrum(Session& session) {
   auto& s = session.state;
   SizeColourTables(s);

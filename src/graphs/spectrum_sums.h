@@ -13,6 +13,9 @@ inline constexpr int mostSpectrumRows = 18001;
 /// Gives ColourMain, ColourPerp and ColourPar rows 0 to mostSpectrumRows and colourColumns columns, all 0.
 void SizeColourTables(SpectrumResults& results);
 
+/// After a run of one wavelength: nothing of a spectrum is stored any more.
+void ForgetSpectrum(SpectrumResults& results);
+
 /// Sums the stored intensities over the wavelengths that were done, into ColourPerp, ColourPar and ColourMain, and
 /// fills the curves of the total: Iperp and Ipar are column 0, Iunpol their mean, Extra1 the degree of polarisation.
 ///

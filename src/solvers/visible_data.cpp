@@ -93,8 +93,9 @@ bool ShowsReadings(const Session& session) {
   const auto& s = session.state;
   const auto& form = session.form1;
   const std::initializer_list<int> withEfficiencies = {1, 2, 13};
-  return s.ScreenWidthPx > 800 && s.GraphType != 20 && form.mnuDataVisible.Checked && form.mnuPlaneWave.Checked &&
-         std::ranges::find(withEfficiencies, s.CalcMethod) != withEfficiencies.end();
+  if (s.ScreenWidthPx <= 800 || s.GraphType == 20 || !form.mnuDataVisible.Checked) return false;
+  return s.ResultWavelengths > 1 ||
+         (form.mnuPlaneWave.Checked && std::ranges::find(withEfficiencies, s.CalcMethod) != withEfficiencies.end());
 }
 
 void VisibleData(Session& session) {
@@ -104,13 +105,12 @@ void VisibleData(Session& session) {
   surface.ForeColour = surface.BackColour;
   surface.Line(left, 0, surface.ScaleWidth(), stripBottom, LineKind::FilledBox);
   surface.ForeColour = colours::Black;
-  if (ShowsReadings(session)) {
+  const bool shown = ShowsReadings(session);
+  if (shown && s.ResultWavelengths > 1) {
     ReadingColumn column(surface);
-    if (s.ResultWavelengths > 1) {
-      PrintSpectrum(s, column);
-      surface.ForeColour = before;
-      return;
-    }
+    PrintSpectrum(s, column);
+  } else if (shown) {
+    ReadingColumn column(surface);
     PrintEfficiencies(s, column);
     if (s.GraphType == 1 && s.GraphSubType == 3) {
       column.Line("Scattered power = " + Significant(s.ScatteredPower, digitsShown) + " W");

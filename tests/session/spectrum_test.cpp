@@ -7,6 +7,7 @@
 #include "graphs/spectrum_sums.h"
 #include "graphs/zoom.h"
 #include "materials/material_fixture.h"
+#include "session/driver/duration.h"
 #include "session/driver/progress.h"
 #include "session/driver/spectrum_family.h"
 #include "session/graph_types.h"
@@ -249,6 +250,7 @@ TEST_F(Spectrum, OnlyOneWavelengthIsDrawnOver) {
   Do("set txtLambda 0.5\nclick cmdNewPlot");
   EXPECT_EQ(Get("cmdOverPlot.Enabled"), "true");
   EXPECT_EQ(Get("ResultWavelengths"), "1");
+  EXPECT_EQ(State().WavelengthPerp.capacity(), 0U) << "memory of the colours is kept";
 }
 
 TEST_F(Spectrum, InputsFollowTheNumberOfWavelengths) {
@@ -321,6 +323,16 @@ TEST_F(Spectrum, ProgressNeverFallsAndTellsTheTimeLeft) {
   EXPECT_EQ(TimeLeftWords(12.3), "13 s left");
   EXPECT_EQ(TimeLeftWords(61), "65 s left");
   EXPECT_EQ(TimeLeftWords(200), "4 min left");
+}
+
+TEST_F(Spectrum, TheExpectedTimeCountsWavelengthsAndSizes) {
+  Do("set cboWave 1\nset txtLambda 0.515");
+  State().NumberWavelengths = 1;
+  const double one = ReferenceSeconds(Now());
+  State().NumberWavelengths = 10;
+  EXPECT_NEAR(ReferenceSeconds(Now()) / one, 10, 1e-12);
+  Do("click optDisp\nset cboN 20");
+  EXPECT_NEAR(ReferenceSeconds(Now()) / one, 200, 1e-9);
 }
 
 TEST_F(Spectrum, LeeDiagramsTakeOneSize) {

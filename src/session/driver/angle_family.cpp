@@ -5,6 +5,7 @@
 #include <limits>
 #include <utility>
 
+#include "graphs/spectrum_sums.h"
 #include "graphs/sun_disc.h"
 #include "particles/size_distribution.h"
 #include "session/driver/angle_quantities.h"
@@ -114,7 +115,7 @@ void CalculateAngles(Session& session) {
     return;
   }
   SizeAngleCurves(s);
-  s.ResultWavelengths = 1;
+  ForgetSpectrum(s);
   FillAngleCurves(session);
 }
 

@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "graphs/spectrum_sums.h"
 #include "materials/refractive_index.h"
 #include "particles/size_distribution.h"
 #include "session/axis_graphs.h"
@@ -286,7 +287,7 @@ void StoreQuantities(Session& session, const AxisRun& run) {
 
 void StoreCurves(Session& session, AxisRun& run) {
   auto& s = session.state;
-  s.ResultWavelengths = 1;
+  ForgetSpectrum(s);
   for (auto* curve : {&s.Iperp, &s.Ipar, &s.Iunpol, &s.Extra1, &s.Extra2, &s.Extra3})
     curve->assign(static_cast<std::size_t>(run.points) + 1, notComputed);
   s.XValues = run.x;
@@ -316,7 +317,7 @@ void CalculateConvergence(Session& session) {
   s.SelectedAngleIndex = std::clamp(ToWhole(Val(session.form1.txtAngle.Text) * 10) + 1, 1, s.NN);
   CallSolver(session, s.SelectedAngleIndex, s.SelectedAngleIndex);
   if (Stopped(session) && s.StopAnswer == 0) return;
-  s.ResultWavelengths = 1;
+  ForgetSpectrum(s);
   s.Xmin = 1;
   s.Xmax = s.NSTOP;
   s.Xstep = 1;
