@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 #include "particles/kernel/normal_samples.h"
 #include "particles/kernel/size_models.h"
@@ -136,12 +137,13 @@ struct CloudRows {
 
 /// Sums over the spheres of a cloud; the asymmetry counts by scattering cross-section.
 struct EfficiencySums {
-  double Qext = 0, Qsca = 0, Qback = 0, scattered = 0, forward = 0, number = 0;
+  double Qext = 0, Qsca = 0, Qback = 0, extinguished = 0, scattered = 0, forward = 0, number = 0;
 
   void Add(const SpherePoint& sphere, double radius, double weight) {
     Qext += weight * sphere.Qext;
     Qsca += weight * sphere.Qsca;
     Qback += weight * sphere.Qback;
+    extinguished += weight * sphere.Qext * radius * radius;
     scattered += weight * sphere.Qsca * radius * radius;
     forward += weight * sphere.Qsca * radius * radius * sphere.g;
     number += weight;
@@ -286,9 +288,15 @@ std::optional<CloudPoint> DispCalcPoint(Session& session, const std::function<st
   });
   const double d = Divisor(session, sums.number);
   if (d == 0) return std::nullopt;
-  return CloudPoint{row.perpendicular / d, row.parallel / d, {row.crossRe / d, row.crossIm / d},
-                    sums.Qext / d,         sums.Qsca / d,    sums.Qback / d,
-                    sums.Asymmetry()};
+  return CloudPoint{row.perpendicular / d,
+                    row.parallel / d,
+                    {row.crossRe / d, row.crossIm / d},
+                    sums.Qext / d,
+                    sums.Qsca / d,
+                    sums.Qback / d,
+                    sums.Asymmetry(),
+                    std::numbers::pi * sums.extinguished / d,
+                    std::numbers::pi * sums.scattered / d};
 }
 
 }  // namespace lumivex

@@ -46,6 +46,7 @@ struct CloudPoint {
   double perpendicular = 0, parallel = 0;  ///< of |S1|^2 and |S2|^2
   ComplexD cross;                          ///< of S1 conj(S2)
   double Qext = 0, Qsca = 0, Qback = 0, g = 0;
+  double Cext = 0, Csca = 0;  ///< mean cross-sections (um2): of Q pi r^2, not Q pi of the mean radius
 };
 
 /// The same for graphs of one angle.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <type_traits>
 
+#include "graphs/curve_text.h"
 #include "session/graph_types.h"
 #include "session/methods.h"
 #include "session/page.h"
@@ -149,6 +150,8 @@ std::optional<std::string> ReadValue(Session& session, std::string_view name) {
 
 std::string CurveTable(const Session& session) {
   const auto& s = session.state;
+  // A chart of two signals has as many curves as indices.
+  if (s.PrevGraphType == 1 && s.PrevGraphSubType == 5) return CurvesAsCsv(session, {});
   std::string text = "x,perpendicular,parallel,unpolarised,extra1,extra2,extra3\n";
   const RowRange rows = DisplayedRows(s);
   for (int row = rows.first; row <= rows.last; ++row) {

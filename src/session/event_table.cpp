@@ -48,6 +48,8 @@ constexpr EventRow eventRows[] = {
     {"mnuDebyeSequence_Click", mnuDebyeSequence_Click},
     {"chkComponents_Click", Scale_Click},
     {"mnuTwoAngle_Click", mnuTwoAngle_Click},
+    {"mnuDiffCrossSection_Click", mnuDiffCrossSection_Click},
+    {"mnuConvergence_Click", mnuConvergence_Click},
     {"dlogTwoAngle.Show", AskTwoAngle},
     {"dlogTwoAngle.OKButton_Click", dlogTwoAngle_OKButton_Click},
 

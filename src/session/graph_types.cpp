@@ -317,4 +317,19 @@ void cboGraph_Click(Session& session) {
   AskForDistance(session);
 }
 
+void ChooseGraph(Session& session, std::string_view text) {
+  auto& list = session.form1.cboGraph;
+  if (!list.Holds(text)) list.Items.emplace_back(text);
+  list.Text = text;
+  session.events.Raise("cboGraph_Click");
+}
+
+void mnuDiffCrossSection_Click(Session& session) {
+  ChooseGraph(session, "Differential cross-section v. angle");
+}
+
+void mnuConvergence_Click(Session& session) {
+  ChooseGraph(session, "Convergence");
+}
+
 }  // namespace lumivex

@@ -160,11 +160,7 @@ void mnuDebyeSequence_Click(Session& session) {
   const FormSnapshot before = dialog.Snapshot();
   if (session.state.RestoringSettings == 0 && !session.platform.ShowModal(dialog)) return dialog.Restore(before);
   ChooseMethod(session, "Debye");
-  auto& graphs = session.form1.cboGraph;
-  constexpr std::string_view analysis = "Debye analysis";
-  if (!graphs.Holds(analysis)) graphs.Items.emplace_back(analysis);
-  graphs.Text = analysis;
-  session.events.Raise("cboGraph_Click");
+  ChooseGraph(session, "Debye analysis");
 }
 
 void NumberWavelengths(Session& session) {

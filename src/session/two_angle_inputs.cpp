@@ -7,6 +7,7 @@
 
 #include "materials/dialog_use.h"
 #include "session/checks/number_input.h"
+#include "session/graph_types.h"
 #include "session/record/number_text.h"
 
 namespace lumivex {
@@ -96,15 +97,9 @@ void AskTwoAngle(Session& session) {
 }
 
 void mnuTwoAngle_Click(Session& session) {
-  auto& list = session.form1.cboGraph;
   constexpr std::string_view graph = "Contour 2-angle";
-  if (IsTwoAngleContour(session.state) && list.Text == graph) {
-    AskTwoAngle(session);
-    return;
-  }
-  if (!list.Holds(graph)) list.Items.emplace_back(graph);
-  list.Text = graph;
-  session.events.Raise("cboGraph_Click");
+  if (IsTwoAngleContour(session.state) && session.form1.cboGraph.Text == graph) return AskTwoAngle(session);
+  ChooseGraph(session, graph);
 }
 
 void dlogTwoAngle_OKButton_Click(Session& session) {

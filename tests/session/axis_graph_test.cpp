@@ -114,6 +114,28 @@ TEST_F(AxisGraphs, DerivedQuantitiesFollowFromTheEfficiencies) {
   EXPECT_LT(g, 1);
 }
 
+// The mean of Q pi r^2 over the sizes, which large spheres outweigh, not Q pi of the mean radius.
+TEST_F(AxisGraphs, CrossSectionsOfACloudAreMeans) {
+  Do("set txtRefractReal 1.4\nset txtRefractImag 0.01");
+  Choose("Cext/Csca/Cabs v. radius");
+  Do("click optDisp\nchoose cboDistrib Normal\nset cboN 5\nset cboSD 20");
+  Do("set txtXmin 1\nset txtXmax 4\nset cboStep 2\nclick cmdNewPlot");
+  ASSERT_TRUE(Shown().empty()) << LastText();
+  const double extinction = State().Iperp[2], scattering = State().Ipar[2];
+  const auto samples = State().DistSample;
+  ASSERT_EQ(samples.size(), 6U);
+  double meanExtinction = 0, meanScattering = 0;
+  Do("click optMono");
+  for (std::size_t k = 1; k < samples.size(); ++k) {
+    const std::string radius = Shortest(2 * (1 + 0.2 * samples[k]));
+    Do("set txtXmin " + radius + "\nset txtXmax 10\nset cboStep 2\nclick cmdNewPlot");
+    meanExtinction += State().Iperp[1] / 5;
+    meanScattering += State().Ipar[1] / 5;
+  }
+  EXPECT_NEAR(extinction / meanExtinction, 1, 1e-9);
+  EXPECT_NEAR(scattering / meanScattering, 1, 1e-9);
+}
+
 TEST_F(AxisGraphs, ScatteredPowerIntoAllAnglesIsTheCrossSectionTimesTheDensity) {
   Do("set txtRefractReal 1.33\nset txtRefractImag 0");
   Choose("Scattered power v. radius");

@@ -41,14 +41,15 @@ struct AxisRun {
   std::vector<double> waveNumber;              ///< 1/m
   std::vector<double> lambda, medium;          ///< wavelength in vacuo (um), index of the medium
   std::vector<double> Qext, Qsca, Qback, g;
+  std::vector<double> Cext, Csca;           ///< um2
   std::vector<double> powerPerp, powerPar;  ///< scattered into the range of angles chosen (W)
   int done = 0;                             ///< points done, from the first
 
   void Resize(int count) {
     points = count;
     const auto elements = static_cast<std::size_t>(count) + 1;
-    for (auto* list : {&x, &size, &mRe, &mIm, &radius, &waveNumber, &lambda, &medium, &Qext, &Qsca, &Qback, &g,
-                       &powerPerp, &powerPar})
+    for (auto* list : {&x, &size, &mRe, &mIm, &radius, &waveNumber, &lambda, &medium, &Qext, &Qsca, &Qback, &g, &Cext,
+                       &Csca, &powerPerp, &powerPar})
       list->assign(elements, 0.0);
   }
 };
@@ -138,6 +139,11 @@ void SolveEfficienciesOfAll(Session& session, AxisRun& run) {
   run.done = static_cast<int>(SolveEfficiencies({from1(run.size), from1(run.mRe), from1(run.mIm)},
                                                 {from1(run.Qext), from1(run.Qsca), from1(run.Qback), from1(run.g)},
                                                 options, monitor));
+  for (std::size_t i = 1; i < run.radius.size(); ++i) {
+    const double area = pi * run.radius[i] * run.radius[i];
+    run.Cext[i] = area * run.Qext[i];
+    run.Csca[i] = area * run.Qsca[i];
+  }
   guard.Passed(session);
 }
 
@@ -191,7 +197,9 @@ std::optional<PointResult> SolveCloud(Session& session, double angle) {
   return PointResult{{std::sqrt(cloud->perpendicular), 0},
                      {std::sqrt(cloud->parallel), 0},
                      {cloud->Qext, cloud->Qsca, cloud->Qback, cloud->g},
-                     cloud->cross};
+                     cloud->cross,
+                     cloud->Cext,
+                     cloud->Csca};
 }
 
 void SolvePointByPoint(Session& session, AxisRun& run) {
@@ -232,6 +240,8 @@ void SolvePointByPoint(Session& session, AxisRun& run) {
     run.Qsca[i] = found->efficiencies.Qsca;
     run.Qback[i] = found->efficiencies.Qback;
     run.g[i] = found->efficiencies.g;
+    run.Cext[i] = found->Cext;
+    run.Csca[i] = found->Csca;
     run.done = point;
     Progress(session);
   }
@@ -245,7 +255,6 @@ struct PointCurves {
 PointCurves QuantityAt(const Session& session, const AxisRun& run, std::size_t i) {
   using enum AxisQuantity;
   const auto all = [](double value) { return PointCurves{value, value, value}; };
-  const double area = pi * run.radius[i] * run.radius[i] * 1e-12;   // m2
   const double volume = 4.0 / 3 * pi * std::pow(run.radius[i], 3);  // um3
   const bool constantVolume = session.form1.mnuConstantVolume.Checked;
   double factor = 1;
@@ -255,8 +264,8 @@ PointCurves QuantityAt(const Session& session, const AxisRun& run, std::size_t i
       factor = constantVolume ? pi * run.radius[i] * run.radius[i] / volume : 1;
       break;
     case CrossSection:
-      factor = constantVolume ? area / volume : area;
-      break;
+      factor = constantVolume ? 1e-12 / volume : 1e-12;  // m2
+      return {factor * run.Cext[i], factor * run.Csca[i], factor * (run.Cext[i] - run.Csca[i])};
     case AxisQuantity::Qback:
       return all(run.Qback[i]);
     case Qradar:
@@ -264,7 +273,7 @@ PointCurves QuantityAt(const Session& session, const AxisRun& run, std::size_t i
     case Asymmetry:
       return all(run.g[i]);
     case Albedo:
-      return all(run.Qext[i] == 0 ? 0 : run.Qsca[i] / run.Qext[i]);
+      return all(run.Cext[i] == 0 ? 0 : run.Csca[i] / run.Cext[i]);
     case Power:
       return {run.powerPerp[i], run.powerPar[i], (run.powerPerp[i] + run.powerPar[i]) / 2};
     default:

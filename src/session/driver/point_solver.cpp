@@ -11,6 +11,7 @@ namespace lumivex {
 
 namespace {
 
+constexpr double pi = 3.14159265358979324;
 constexpr int fineRowsTo90 = 9001;  // 0.01 degrees
 
 }  // namespace
@@ -30,7 +31,8 @@ std::optional<PointResult> SolvePoint(Session& session, double angle) {
   AmplitudeTable S1(1), S2(1);
   CallSolverAt(session, angle, S1, S2);
   if (s.PlotMode == 4) return std::nullopt;
-  return PointResult{S1.Value(1), S2.Value(1), {s.Qext, s.Qsca, s.Qback, s.Gsca}, {}};
+  const double area = pi * s.Radius * s.Radius;
+  return PointResult{S1.Value(1), S2.Value(1), {s.Qext, s.Qsca, s.Qback, s.Gsca}, {}, s.Qext * area, s.Qsca * area};
 }
 
 }  // namespace lumivex

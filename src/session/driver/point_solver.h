@@ -12,7 +12,8 @@ namespace lumivex {
 struct PointResult {
   ComplexD S1, S2;
   Efficiencies efficiencies;
-  ComplexD cross;  ///< of a cloud, the mean of S1 conj(S2)
+  ComplexD cross;             ///< of a cloud, the mean of S1 conj(S2)
+  double Cext = 0, Csca = 0;  ///< cross-sections (um2); of a cloud, their means
 };
 
 /// The sphere that stands in the record (SizeParameter, RefRelReal, RefRelImag), seen at one angle (radians), by the

@@ -72,6 +72,8 @@ struct Form1Menus : Form1Inputs {
   MenuEntry mnuAverage{*this, "mnuAverage", "Average ..."};
   MenuEntry mnuInterpolate{*this, "mnuInterpolate", "Cubic interpolation"};
   MenuEntry mnuFFT{*this, "mnuFFT", "Fourier transform ..."};
+  MenuEntry mnuDiffCrossSection{*this, "mnuDiffCrossSection", "Differential cross-section ..."};
+  MenuEntry mnuConvergence{*this, "mnuConvergence", "Convergence of the series"};
   MenuEntry mnuTwoAngle{*this, "mnuTwoAngle", "Two-angle contour ...", false,
                         "Light of spheres of several indices and radii into two ranges of angle"};
   MenuEntry mnuXStepLog{*this, "mnuXStepLog", "Logarithmic steps"};

@@ -80,6 +80,8 @@ constexpr std::array menuRows = {
     MenuRow{"Graph", "mnuInterpolate", GraphLook},
     MenuRow{"Graph", "mnuFFT", FourierTransform},
     MenuRow{"Graph", "-", AngleFamily},
+    MenuRow{"Graph", "mnuDiffCrossSection", AngleFamily},
+    MenuRow{"Graph", "mnuConvergence", AxisFamilies},
     MenuRow{"Graph", "mnuTwoAngle", AngleFamily},
     MenuRow{"Graph", "-", AxisFamilies},
     MenuRow{"Graph", "mnuXStepLog", AxisFamilies},
