@@ -32,7 +32,7 @@ struct Strip {
 
 /// The powers of a graph in watts are readings, too.
 bool HasPowerReadings(const RunState& s) {
-  return s.GraphType == 1 && s.GraphSubType == 3;
+  return s.PrevGraphType == 1 && s.PrevGraphSubType == 3;
 }
 
 /// A strip without room where there is no place for one.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "session/driver/progress.h"
+#include "session/methods.h"
 #include "session/record/number_text.h"
 
 namespace lumivex {
@@ -28,8 +29,16 @@ std::string TimeWords(double seconds) {
   return seconds < 1 ? Significant(seconds * 1000, 2) + " ms" : Significant(seconds, 3) + " s";
 }
 
+/// The method of the results as its list has it.
+std::string MethodName(const MainFormState& s) {
+  const auto row = std::ranges::find_if(MethodTable(), [&s](const MethodRow& r) {
+    return r.code == s.ResultMethod && r.diffractionVariant == (r.code == 4 ? s.DiffractionVariant : 0);
+  });
+  return row == MethodTable().end() ? "" : std::string(row->text);
+}
+
 bool BySeries(const MainFormState& s) {
-  return s.CalcMethod <= 2 || s.CalcMethod == 13;
+  return s.ResultMethod <= 2 || s.ResultMethod == 13;
 }
 
 /// "117 terms, 3 ms"; the time alone for methods that sum no series.
@@ -50,7 +59,7 @@ std::vector<std::string> RunParameters(const Session& session) {
   const auto& s = session.state;
   const auto& form = session.form1;
   std::vector<std::string> lines;
-  lines.push_back("Method: " + form.cboType.Text);
+  lines.push_back("Method: " + MethodName(s));
   lines.push_back("Graph: " + form.cboGraph.Text);
   const bool spectrum = s.ResultWavelengths > 1;
   const bool twoAngle = s.PrevGraphType == 1 && s.PrevGraphSubType == 5 && !s.TwoAngleRadius.empty();
@@ -106,9 +115,8 @@ std::string StatusText(const Session& session) {
   }
   if (s.PrevGraphType == 0) return "Ready";
   if (s.ResultWavelengths > 1)
-    return session.form1.cboType.Text + ", " + std::to_string(s.WavelengthsDone) + " wavelengths, " +
-           TimeWords(s.LastRunSeconds);
-  return session.form1.cboType.Text + ", " + RunWords(s);
+    return MethodName(s) + ", " + std::to_string(s.WavelengthsDone) + " wavelengths, " + TimeWords(s.LastRunSeconds);
+  return MethodName(s) + ", " + RunWords(s);
 }
 
 }  // namespace lumivex

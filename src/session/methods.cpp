@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "materials/dialog_use.h"
 #include "particles/size_distribution.h"
 #include "session/graph_types.h"
 #include "session/record/number_text.h"
@@ -121,6 +122,8 @@ void cboType_click(Session& session) {
   if (byRays) cborays_Click(session);
   form.chkDiffraction.Visible = OneOf(s.CalcMethod, {6, 7, 8, 14});
   form.mnuHidden.Visible = OneOf(s.CalcMethod, {3, 8, 14});
+  for (MenuEntry* entry : {&form.mnuBessel, &form.mnuAiry, &form.mnuReadDiff})
+    entry->Visible = form.mnuHidden.Visible && form.mnuHidden.Checked;
   StripStartValues(session);
   IlluminationOf(session);
   const bool surfaceWave = s.CalcMethod == 11;
@@ -156,9 +159,7 @@ void mnuvdh_Click(Session& session) {
 }
 
 void mnuDebyeSequence_Click(Session& session) {
-  auto& dialog = session.forms.dlogDebyeSeq;
-  const FormSnapshot before = dialog.Snapshot();
-  if (session.state.RestoringSettings == 0 && !session.platform.ShowModal(dialog)) return dialog.Restore(before);
+  if (!AskIn(session, session.forms.dlogDebyeSeq)) return;
   ChooseMethod(session, "Debye");
   ChooseGraph(session, "Debye analysis");
 }

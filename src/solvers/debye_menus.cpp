@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "materials/dialog_use.h"
 #include "session/record/number_text.h"
 #include "solvers/debye_label.h"
 #include "solvers/function_checks.h"
@@ -23,11 +24,6 @@ void PickDifference(Session& session, MenuEntry& chosen) {
   Changed(session);
 }
 
-void Refuse(Session& session, TextInput& field, const char* text) {
-  field.BackColour = colours::BadInput;
-  session.platform.Message("Input error", text);
-}
-
 /// The limits of the partial waves must be numbers, the first not above the last.
 void dlogPartial_OKButton_Click(Session& session) {
   auto& dialog = session.forms.dlogPartial;
@@ -35,9 +31,9 @@ void dlogPartial_OKButton_Click(Session& session) {
   if (!dialog.optPartial.Checked) return;
   for (TextInput* field : {&dialog.txtMin, &dialog.txtMax})
     if (!IsNumber(field->Text) || Val(field->Text) < 0)
-      return Refuse(session, *field, "Value must be positive or zero");
+      return RefuseInput(session, *field, "Value must be positive or zero");
   if (Val(dialog.txtMin.Text) > Val(dialog.txtMax.Text))
-    Refuse(session, dialog.txtMin, "Minimum value must be less than maximum value");
+    RefuseInput(session, dialog.txtMin, "Minimum value must be less than maximum value");
 }
 
 /// Limits of the sequence of terms.
@@ -46,9 +42,10 @@ void dlogDebyeSeq_OKButton_Click(Session& session) {
   for (TextInput* field : {&dialog.txtLimit, &dialog.txtTerms}) {
     field->BackColour = colours::White;
     if (!IsNumber(field->Text) || Val(field->Text) < 0)
-      return Refuse(session, *field, "Value must be positive or zero");
+      return RefuseInput(session, *field, "Value must be positive or zero");
   }
-  if (Val(dialog.txtLimit.Text) > HighestRay) Refuse(session, dialog.txtLimit, "Value must not be greater than 1000");
+  if (Val(dialog.txtLimit.Text) > HighestRay)
+    RefuseInput(session, dialog.txtLimit, "Value must not be greater than 1000");
 }
 
 /// A range of p must be whole numbers with a positive step.
@@ -58,10 +55,10 @@ void dlogP_OKButton_Click(Session& session) {
   if (!dialog.chkMultStep.Checked) return;
   for (TextInput* field : {&dialog.txtPmin, &dialog.txtPmax, &dialog.txtPstep})
     if (!IsNumber(field->Text) || Val(field->Text) < 0)
-      return Refuse(session, *field, "Value must be positive or zero");
-  if (Val(dialog.txtPstep.Text) < 1) return Refuse(session, dialog.txtPstep, "Value must be positive");
+      return RefuseInput(session, *field, "Value must be positive or zero");
+  if (Val(dialog.txtPstep.Text) < 1) return RefuseInput(session, dialog.txtPstep, "Value must be positive");
   if (Val(dialog.txtPmin.Text) > Val(dialog.txtPmax.Text))
-    Refuse(session, dialog.txtPmin, "Minimum value must be less than maximum value");
+    RefuseInput(session, dialog.txtPmin, "Minimum value must be less than maximum value");
 }
 
 void mnuHidden_Click(Session& session) {
@@ -93,8 +90,7 @@ void mnuDebyeRecursion_Click(Session& session) {
 
 void mnuPartial_Click(Session& session) {
   auto& dialog = session.forms.dlogPartial;
-  const FormSnapshot before = dialog.Snapshot();
-  if (session.state.RestoringSettings == 0 && !session.platform.ShowModal(dialog)) dialog.Restore(before);
+  if (!AskIn(session, dialog)) return;
   session.form1.mnuPartial.Checked = dialog.optPartial.Checked;
   Changed(session);
 }

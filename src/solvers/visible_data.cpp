@@ -93,9 +93,9 @@ bool ShowsReadings(const Session& session) {
   const auto& s = session.state;
   const auto& form = session.form1;
   const std::initializer_list<int> withEfficiencies = {1, 2, 13};
-  if (s.ScreenWidthPx <= 800 || s.GraphType == 20 || !form.mnuDataVisible.Checked) return false;
+  if (s.ScreenWidthPx <= 800 || s.PrevGraphType == 20 || !form.mnuDataVisible.Checked) return false;
   return s.ResultWavelengths > 1 ||
-         (form.mnuPlaneWave.Checked && std::ranges::find(withEfficiencies, s.CalcMethod) != withEfficiencies.end());
+         (form.mnuPlaneWave.Checked && std::ranges::find(withEfficiencies, s.ResultMethod) != withEfficiencies.end());
 }
 
 void VisibleData(Session& session) {
@@ -112,11 +112,11 @@ void VisibleData(Session& session) {
   } else if (shown) {
     ReadingColumn column(surface);
     PrintEfficiencies(s, column);
-    if (s.GraphType == 1 && s.GraphSubType == 3) {
+    if (s.PrevGraphType == 1 && s.PrevGraphSubType == 3) {
       column.Line("Scattered power = " + Significant(s.ScatteredPower, digitsShown) + " W");
       column.Line("Backscattered power = " + Significant(s.BackscatteredPower, digitsShown) + " W");
     }
-    if (s.GraphType == 1) PrintEndIntensities(session, column);
+    if (s.PrevGraphType == 1) PrintEndIntensities(session, column);
   }
   surface.ForeColour = before;
 }

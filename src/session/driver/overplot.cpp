@@ -1,5 +1,8 @@
 #include "session/driver/overplot.h"
 
+#include <utility>
+
+#include "graphs/huygens_drawing.h"
 #include "materials/refractive_index.h"
 #include "particles/size_distribution_display.h"
 #include "session/driver/angle_family.h"
@@ -12,6 +15,7 @@
 #include "session/info.h"
 #include "session/record/number_text.h"
 #include "solvers/sphere_size.h"
+#include "solvers/visible_data.h"
 
 namespace lumivex {
 
@@ -113,7 +117,8 @@ void Overplot(Session& session) {
   const ResultsBefore before(s);
   ReadAxes(session);
   s.WavelengthPos = s.SamplePos = 1;
-  s.HuygensWaves.clear();
+  auto waves = std::exchange(s.HuygensWaves, {});
+  const double secondsBefore = s.LastRunSeconds;
   ShowRunning(session);
   const bool spectrum = IsSpectrumRun(s);
   if (spectrum) PrepareSpectrum(session);
@@ -128,13 +133,21 @@ void Overplot(Session& session) {
   if (stored) {
     s.PrevGraphType = s.GraphType;
     s.PrevGraphSubType = s.GraphSubType;
+    s.ResultMethod = s.CalcMethod;
   } else {
     before.Restore(s);
+    s.HuygensWaves = std::move(waves);
+    s.LastRunSeconds = secondsBefore;
   }
   EndProgress(session);
   if (s.PlotMode != stopRequested) {
     DisplayRun(session);
     DistDisplay(session);
+  } else if (!stored && s.PrevGraphType != 0) {
+    // The bar ran over the readings of the results that stay.
+    VisibleData(session);
+    DistDisplay(session, false);
+    DrawHuygens(session);
   }
   ShowEnded(session);
   s.PlotMode = 1;

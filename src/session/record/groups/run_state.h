@@ -14,6 +14,7 @@ struct RunState {
   int GraphSubType = 1;      ///< sub-code of the graph
   int PrevGraphType = 0;     ///< graph of the run before; 0 before the first run
   int PrevGraphSubType = 0;  ///< its sub-code
+  int ResultMethod = 0;      ///< method of the results; 0 before the first run
   int CalcMethod = 1;        ///< method code 1 to 17; 0 unknown
   int DiffractionVariant = 0;
   int NumberWavelengths = 1;
@@ -48,6 +49,7 @@ void ForEachField(Group& g, Visitor&& visit) {
   visit("GraphSubType", g.GraphSubType);
   visit("PrevGraphType", g.PrevGraphType);
   visit("PrevGraphSubType", g.PrevGraphSubType);
+  visit("ResultMethod", g.ResultMethod);
   visit("CalcMethod", g.CalcMethod);
   visit("DiffractionVariant", g.DiffractionVariant);
   visit("NumberWavelengths", g.NumberWavelengths);
