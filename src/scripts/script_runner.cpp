@@ -253,6 +253,7 @@ ScriptRunner::ScriptRunner(std::ostream& output, std::ostream& errors)
       surface_(&recording_) {
   platform_.onYield = [this] { WatchForStop(); };
   platform_.whileOpen = [this](Form& form) { return std::make_shared<DialogScope>(Current(), form); };
+  platform_.confirm = [this](Form& form) { Current().events.Raise(std::string(form.Name()) + ".OKButton_Click"); };
   platform_.setField = [this](Form& form, const std::string& field, const std::string& text) {
     if (Control* control = form.Find(field)) SetField(Current(), *control, text);
   };

@@ -1,5 +1,6 @@
 #include "scripts/scripted_platform.h"
 
+#include <algorithm>
 #include <ostream>
 
 #include "session/record/form.h"
@@ -42,15 +43,26 @@ std::optional<std::string> ScriptedPlatform::SaveFileName(const FileDialog&) {
 }
 
 bool ScriptedPlatform::ShowModal(Form& form) {
-  if (dialogs.empty() || !SameName(dialogs.front().form, form.Name())) return true;
-  const DialogAnswer answer = std::move(dialogs.front());
-  dialogs.pop_front();
+  const auto isNext = [&] { return !dialogs.empty() && SameName(dialogs.front().form, form.Name()); };
   const FormSnapshot before = form.Snapshot();
   const auto open = whileOpen ? whileOpen(form) : nullptr;
-  for (const auto& [field, text] : answer.fields)
-    if (setField) setField(form, field, text);
-  if (!answer.ok) form.Restore(before);
-  return answer.ok;
+  // An OK that leaves a red field keeps the dialog open: the next answer goes on in it. Without one the user gives up.
+  do {
+    DialogAnswer answer;
+    if (isNext()) {
+      answer = std::move(dialogs.front());
+      dialogs.pop_front();
+    }
+    for (const auto& [field, text] : answer.fields)
+      if (setField) setField(form, field, text);
+    if (!answer.ok) break;
+    if (confirm) confirm(form);
+    const bool refused = std::ranges::any_of(
+        form.Controls(), [](const Control* c) { return c->Visible && c->BackColour == colours::BadInput; });
+    if (!refused) return true;
+  } while (isNext());
+  form.Restore(before);
+  return false;
 }
 
 void ScriptedPlatform::Yield() {

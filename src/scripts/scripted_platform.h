@@ -50,6 +50,7 @@ class ScriptedPlatform final : public Platform {
   std::function<void()> onYield;
   std::function<double()> clock;  ///< what the clock shows; the time since the start where there is none
   std::function<void(Form&, const std::string& field, const std::string& text)> setField;
+  std::function<void(Form&)> confirm;  // the OK button of a dialog is pressed
   std::function<std::string(std::string_view path)> savePicture;
   std::function<std::shared_ptr<void>(Form&)> whileOpen;  ///< what a dialog holds while it is on the screen
 

@@ -172,10 +172,11 @@ void AxisStartValues(Session& session, const AxisGraph& graph) {
 
 /// Start values of a new family, unless the user keeps the parameters; the sphere of a family that varied its index is
 /// water again.
-void ChangeFamily(Session& session, int oldType) {
+void ChangeFamily(Session& session, int oldType, bool fromPoint) {
   auto& s = session.state;
   auto& form = session.form1;
-  if (oldType == s.GraphType) return;
+  // The graph of one point has no axis, and so no range to keep.
+  if (oldType == s.GraphType && !fromPoint) return;
   const AxisGraph* graph = FindAxisGraph(s.GraphType, s.GraphSubType);
   if (oldType == 12) {
     form.lblSphere.Caption = s.KeptSphereLabel;
@@ -266,6 +267,7 @@ void ShowFamilyInputs(Session& session) {
   const bool sizeOnAxis =
       graph != nullptr && (graph->variable == AxisVariable::Radius || graph->variable == AxisVariable::Diameter ||
                            graph->variable == AxisVariable::SizeParameter);
+  form.cboWave.Enabled = true;
   ShowSizeInputs(session);
   ShowTwoAngleInputs(session);
   if (sizeOnAxis) form.Label7.Visible = form.txtRadius.Visible = false;
@@ -300,10 +302,11 @@ void cboGraph_Click(Session& session) {
   form.OptXLinear.Select();
 
   const int oldType = s.GraphType;
+  const bool fromPoint = IsDebyeAnalysis(s);
   const bool wasTwoAngle = IsTwoAngleContour(s);
   s.GraphType = row->type;
   if (row->subType != 0) s.GraphSubType = row->subType;
-  ChangeFamily(session, oldType);
+  ChangeFamily(session, oldType, fromPoint && !IsDebyeAnalysis(s));
   EnterOrLeaveTwoAngle(session, wasTwoAngle);
   if (s.GraphType == 1) {
     form.mnuInvWavelength.Checked = Trim(form.cboWave.Text) != "1";

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "session/axis_graphs.h"
 #include "session/driver/progress.h"
 #include "session/methods.h"
 #include "session/record/number_text.h"
@@ -53,13 +54,27 @@ std::string SpectrumRange(const MainFormState& s) {
   return Significant(std::min(first, last), 6) + " to " + Significant(std::max(first, last), 6) + " nm";
 }
 
-}  // namespace
+bool SizeOnAxis(const MainFormState& s) {
+  const AxisGraph* graph = FindAxisGraph(s.PrevGraphType, s.PrevGraphSubType);
+  if (graph == nullptr) return false;
+  const AxisVariable v = graph->variable;
+  return v == AxisVariable::Radius || v == AxisVariable::Diameter || v == AxisVariable::SizeParameter;
+}
 
-std::vector<std::string> RunParameters(const Session& session) {
+/// "Sizes: Log-normal, Std Dev % 5, 20 samples".
+std::string CloudWords(const Form1& form) {
+  std::string words = "Sizes: " + form.cboDistrib.Text;
+  if (form.cboSD.Visible) words += ", " + form.Label11.Caption + " " + form.cboSD.Text;
+  return words + ", " + form.cboN.Text + " samples";
+}
+
+/// The parameters that the record and the inputs hold.
+std::vector<std::string> ParametersNow(const Session& session) {
   const auto& s = session.state;
   const auto& form = session.form1;
   std::vector<std::string> lines;
   lines.push_back("Method: " + MethodName(s));
+  if (s.ResultMethod > 1 && !form.lblDebyeRays.Caption.empty()) lines.push_back("   " + form.lblDebyeRays.Caption);
   lines.push_back("Graph: " + form.cboGraph.Text);
   const bool spectrum = s.ResultWavelengths > 1;
   const bool twoAngle = s.PrevGraphType == 1 && s.PrevGraphSubType == 5 && !s.TwoAngleRadius.empty();
@@ -75,8 +90,11 @@ std::vector<std::string> RunParameters(const Session& session) {
     lines.push_back("Radius: " + SpanWords(s.TwoAngleRadius) + " \u00B5m");
     lines.push_back("Sphere: n = " + SpanWords(s.TwoAngleIndex));
   } else {
-    lines.push_back("Radius: " + Number(s.Radius) + " \u00B5m");
-    lines.push_back("Size parameter x: " + Number(s.SizeParameter) + middle);
+    if (!SizeOnAxis(s)) {
+      lines.push_back("Radius: " + Number(s.Radius) + " \u00B5m");
+      lines.push_back("Size parameter x: " + Number(s.SizeParameter) + middle);
+    }
+    if (form.optDisp.Checked) lines.push_back(CloudWords(form));
     lines.push_back(form.lblSphere.Caption);
     lines.push_back("   n = " + IndexWords(s.SphereRIReal, s.SphereRIImag) + middle);
   }
@@ -96,6 +114,24 @@ std::vector<std::string> RunParameters(const Session& session) {
   lines.push_back((spectrum || !BySeries(s) ? "Calculated in " : "Series: ") +
                   (spectrum ? TimeWords(s.LastRunSeconds) : RunWords(s)));
   return lines;
+}
+
+}  // namespace
+
+std::vector<std::string> RunParameters(const Session& session) {
+  return session.state.DrawnLines;
+}
+
+void KeepRunParameters(Session& session) {
+  auto& s = session.state;
+  s.RunLabel = session.form1.lblDebyeRays.Caption;
+  s.RunLines = ParametersNow(session);
+}
+
+void TakeRunParameters(MainFormState& s) {
+  s.DrawnTitle = s.RunTitle;
+  s.DrawnLabel = s.RunLabel;
+  s.DrawnLines = s.RunLines;
 }
 
 void cmdInfo_Click(Session& session) {

@@ -7,8 +7,15 @@
 
 namespace lumivex {
 
-/// The parameters of the last run in words, a line each.
+/// The parameters of the run that the graph on the screen shows, in words, a line each. What has been chosen since, or
+/// what a run calculated that is not drawn yet, is not in them.
 std::vector<std::string> RunParameters(const Session& session);
+
+/// Puts a run that has ended into words: RunLabel and RunLines.
+void KeepRunParameters(Session& session);
+
+/// The words of the last run become those of the graph on the screen, with its title.
+void TakeRunParameters(MainFormState& s);
 
 /// Shows the parameters of the run in Frame6, or hides them.
 void cmdInfo_Click(Session& session);

@@ -96,7 +96,7 @@ void cborays_Click(Session& session) {
   if (Asks(session)) {
     auto& box = session.forms.dlogP.chkDiffraction;
     box.Checked = session.form1.chkDiffraction.Checked;
-    session.platform.ShowModal(session.forms.dlogP);
+    if (!session.platform.ShowModal(session.forms.dlogP)) session.form1.cboRays.Text = session.state.KeptRays;
     session.form1.chkDiffraction.Checked = box.Checked;
   }
   RaysCheck(session);
@@ -104,6 +104,7 @@ void cborays_Click(Session& session) {
     session.platform.Message("Error", "No rays selected");
     cmdSelectNone_Click(session);
   }
+  session.state.KeptRays = session.form1.cboRays.Text;
   session.form1.cboRays.BackColour = colours::White;
   session.events.Raise("Inputs_Changed");
   DebyeLabel(session);

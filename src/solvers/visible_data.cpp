@@ -59,12 +59,12 @@ void PrintEfficiencies(const MainFormState& s, ReadingColumn& column) {
 void PrintSpectrum(const MainFormState& s, ReadingColumn& column) {
   std::string count = std::to_string(s.ResultWavelengths) + " wavelengths";
   if (s.WavelengthsDone < s.ResultWavelengths) count = std::to_string(s.WavelengthsDone) + " of " + count;
+  if (s.ResultSamples > 1) count += ", " + std::to_string(s.ResultSamples) + " sizes";
   column.Line(count);
   column.Line(s.ResultSource);
   const auto nanometres = [&](int i) {
     return Format(1000 * double{s.WavelengthList[static_cast<std::size_t>(i)]}, "0.#") + " nm";
   };
-  if (s.ResultSamples > 1) column.Line(std::to_string(s.ResultSamples) + " sizes");
   constexpr int mostNamed = 7;
   if (s.ResultWavelengths <= mostNamed) {
     // The key of the curves, which have these colours.
@@ -134,11 +134,11 @@ void PrintTitle(Session& session) {
   surface.FontBold = true;
   surface.CurrentX = s.GraphLeft;
   surface.CurrentY = top + 80;
-  surface.Print(s.RunTitle, false);
+  surface.Print(s.DrawnTitle, false);
   surface.FontSize = 8;
   surface.FontBold = false;
   surface.ForeColour = RGB(96, 96, 96);
-  const std::string& label = session.form1.lblDebyeRays.Caption;
+  const std::string& label = s.DrawnLabel;
   surface.CurrentX = s.GraphRight - surface.TextWidth(label);
   surface.CurrentY = top + 120;
   surface.Print(label);

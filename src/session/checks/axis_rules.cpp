@@ -12,6 +12,7 @@
 #include "session/driver/array_size.h"
 #include "session/driver/spectrum_family.h"
 #include "session/record/number_text.h"
+#include "solvers/rays_check.h"
 
 namespace lumivex {
 
@@ -78,6 +79,33 @@ Verdict MapRange(Check& check) {
   return Verdict::GoOn;
 }
 
+namespace {
+
+/// The number p of the methods that have one, how many rays or strips there are, and the width of a distribution.
+bool MethodNumbers(Check& check) {
+  auto& form = check.form;
+  auto& session = check.session;
+  const int method = check.state.CalcMethod;
+  const bool byRays = method == 2 || (method >= 5 && method <= 9) || method == 14;
+  // An empty field has a message of its own.
+  if (byRays && form.cboRays.Text != "Multiple" && !Trim(form.cboRays.Text).empty()) {
+    if (!getval(session, form.cboRays, HighestRay, NumberSign::Any)) return false;
+    const double p = Val(form.cboRays.Text);
+    if (p != Int(p) || p < -HighestRay) {
+      Refuse(check, {&form.cboRays}, "    The red highlighted data entry is incorrect.    ");
+      return false;
+    }
+  }
+  const bool counts = (method == 9 || method == 10) && check.state.GraphType == 1;
+  constexpr double mostRaysOrStrips = 100000;
+  if (counts && !getval(session, form.txtAngle, mostRaysOrStrips, NumberSign::Positive)) return false;
+  const std::string& sizes = form.cboDistrib.Text;
+  const bool hasWidth = sizes == "Normal" || sizes == "Log-normal" || sizes == "Gamma";
+  return !form.optDisp.Checked || !hasWidth || getval(session, form.cboSD, largestInput, NumberSign::PositiveOrZero);
+}
+
+}  // namespace
+
 Verdict NumericInputs(Check& check) {
   auto& form = check.form;
   auto& session = check.session;
@@ -106,6 +134,7 @@ Verdict NumericInputs(Check& check) {
         !(ownInputs && (number.control == &form.cboStep || number.control == &form.txtRadius)) &&
         !getval(session, *number.control, number.upperLimit, number.sign))
       return Verdict::End;
+  if (!MethodNumbers(check)) return Verdict::End;
   check.Xmin = Val(form.txtXmin.Text);
   check.Xmax = Val(form.txtXmax.Text);
   if (!IsAxisGraph(check.state)) return Verdict::GoOn;

@@ -22,9 +22,9 @@ bool OneOf(int code, std::initializer_list<int> codes) {
 constexpr std::string_view onlyMieAndDebye = "Selected graph type is available only for Mie and Debye calculations";
 constexpr std::string_view onlyMie = "Selected graph type is available only for Mie calculations";
 
-/// The chart of two angles has sizes of its own.
+/// The chart of two angles has sizes of its own; the terms of a point are those of one sphere.
 bool NeedsOneSphere(const RunState& s) {
-  return IsTwoAngleContour(s);
+  return IsTwoAngleContour(s) || (s.GraphType == 10 && s.GraphSubType == 10);
 }
 
 /// Graphs against angle other than plain intensity, and the impulse response.

@@ -12,6 +12,7 @@
 #include "session/methods.h"
 #include "session/page.h"
 #include "session/record/number_text.h"
+#include "session/two_angle_inputs.h"
 
 namespace lumivex {
 
@@ -34,6 +35,9 @@ bool InputsHold(Session& session) {
   double Ymin = s.Ymin, Ymax = s.Ymax;
   RangeCheck(session, s.Xmin, s.Xmax, Ymin, Ymax, s.CommandAborted);
   if (session.form1.txtLambda.BackColour == colours::BadInput) s.CommandAborted = 1;
+  // The chart of two angles has inputs of its own, which are held against their limits before anybody is asked for
+  // time.
+  if (s.CommandAborted == 0 && IsTwoAngleContour(s) && !ReadTwoAngleInputs(session)) s.CommandAborted = 1;
   return s.CommandAborted == 0;
 }
 

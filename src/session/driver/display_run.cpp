@@ -7,6 +7,7 @@
 #include "graphs/spectrum_graph.h"
 #include "graphs/two_angle_chart.h"
 #include "graphs/two_panels.h"
+#include "session/info.h"
 #include "solvers/visible_data.h"
 
 namespace lumivex {
@@ -28,6 +29,7 @@ void DisplayRun(Session& session) {
     Display(session, s.Iperp, s.Ipar, s.Iunpol);
   }
   if (form.mnuPolarPlot.Checked && !IsTwoAngleContour(s)) PolarLabel(session);
+  TakeRunParameters(session.state);
   PrintTitle(session);
   VisibleData(session);
   DrawHuygens(session);

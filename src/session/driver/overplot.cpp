@@ -51,6 +51,10 @@ void ShowRunning(Session& session) {
 }
 
 void ShowEnded(Session& session) {
+  // Only intensity against angle is a matter of several wavelengths.
+  const auto& s = session.state;
+  session.form1.cboWave.Enabled =
+      (s.GraphType == 1 && s.GraphSubType == 1) || s.GraphType >= 20 || s.NumberWavelengths > 1;
   session.form1.cmdStop.Visible = session.form1.cmdStop.Enabled = false;
 }
 
@@ -134,6 +138,7 @@ void Overplot(Session& session) {
     s.PrevGraphType = s.GraphType;
     s.PrevGraphSubType = s.GraphSubType;
     s.ResultMethod = s.CalcMethod;
+    KeepRunParameters(session);
   } else {
     before.Restore(s);
     s.HuygensWaves = std::move(waves);

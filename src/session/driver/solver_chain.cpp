@@ -7,6 +7,7 @@
 #include "session/record/number_text.h"
 #include "solvers/debye.h"
 #include "solvers/kernel/mie_efficiencies.h"
+#include "solvers/kernel/simple_scattering.h"
 #include "solvers/mie.h"
 #include "solvers/rays.h"
 #include "solvers/simple_methods.h"
@@ -15,7 +16,7 @@ namespace lumivex {
 
 namespace {
 
-constexpr int debyeMethod = 2, stopRequested = 4;
+constexpr int debyeMethod = 2, diffractionMethod = 4, stopRequested = 4;
 
 struct SolverRow {
   int method;
@@ -38,7 +39,11 @@ void Call(Session& session, const SolverCall& call, AmplitudeTable& S1, Amplitud
   SessionMonitor monitor(session);
   const auto row = std::ranges::find(solverRows, s.CalcMethod, &SolverRow::method);
   if (row == solverRows.end()) return;
+  // What a run by another method left is no result of this one.
+  if (s.CalcMethod > debyeMethod) s.Qext = s.Qsca = s.Qback = s.Gsca = 0;
   row->solver(session, call, S1, S2, s.Qext, s.Qsca, s.Qback, s.Gsca, monitor);
+  if (s.CalcMethod == diffractionMethod && s.Qext == 0)
+    s.Qext = s.Qsca = 4 / (call.x * call.x) * ForwardDiffraction(call.x);
   if (s.CalcMethod != debyeMethod || s.PlotMode == stopRequested || Val(session.form1.txtRefractImag.Text) == 0) return;
   // The series tells no efficiencies of an absorbing sphere: those of the selected terms' own field stand, not what a
   // run before has left.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <type_traits>
 #include <vector>
 
@@ -13,6 +14,7 @@ struct RayState {
   std::vector<int> RayEnabled;  ///< 1 where the term p is selected, by p from 0 to RayMax
   int RayMax = 0;               ///< highest p of RayEnabled
   int RayCount = 0;             ///< number of selected terms
+  std::string KeptRays = "2";   ///< text of cboRays before its last change
   int RayIndex = 0;             ///< running p
   int Pmin = 0;                 ///< lowest p, highest p and step of "Multiple" by steps
   int Pmax = 0;
@@ -45,6 +47,7 @@ void ForEachField(Group& g, Visitor&& visit) {
   visit("RayEnabled", g.RayEnabled);
   visit("RayMax", g.RayMax);
   visit("RayCount", g.RayCount);
+  visit("KeptRays", g.KeptRays);
   visit("RayIndex", g.RayIndex);
   visit("Pmin", g.Pmin);
   visit("Pmax", g.Pmax);
