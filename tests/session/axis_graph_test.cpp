@@ -198,6 +198,7 @@ TEST_F(AxisGraphs, TheScatteringMatrixOfASphereHasItsSymmetry) {
 }
 
 TEST_F(AxisGraphs, AStopLeavesThePointsThatWereDone) {
+  Do("choose cboType Debye");
   Choose("Intensity v. radius");
   Do("set txtXmin 10\nset txtXmax 100\nset cboStep 0.1\nstop-at 50\nclick cmdNewPlot");
   EXPECT_EQ(LastTitle(), "Calculation in progress!");

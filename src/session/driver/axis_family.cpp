@@ -126,8 +126,9 @@ bool Stopped(const Session& session) {
   return session.state.PlotMode == stopRequested;
 }
 
-/// Efficiencies of all points at once, without angles.
-void SolveEfficienciesOfAll(Session& session, AxisRun& run) {
+/// All points at once: efficiencies, and where the graph has one the amplitudes at the angle typed.
+void SolveAllAtOnce(Session& session, AxisRun& run) {
+  auto& s = session.state;
   const auto from1 = [&](std::vector<double>& list) { return std::span(list).subspan(1); };
   for (int point = 1; point <= run.points; ++point) {
     const auto i = static_cast<std::size_t>(point);
@@ -135,10 +136,30 @@ void SolveEfficienciesOfAll(Session& session, AxisRun& run) {
   }
   SessionMonitor monitor(session, SessionMonitor::Share::Points);
   const ArithmeticGuard guard;
-  const EfficiencyOptions options{session.form1.mnuSize.Checked, session.form1.mnuClassicStart.Checked};
-  run.done = static_cast<int>(SolveEfficiencies({from1(run.size), from1(run.mRe), from1(run.mIm)},
-                                                {from1(run.Qext), from1(run.Qsca), from1(run.Qback), from1(run.g)},
-                                                options, monitor));
+  EfficiencyOptions options{session.form1.mnuSize.Checked, session.form1.mnuClassicStart.Checked};
+  EfficiencyLists lists{from1(run.Qext), from1(run.Qsca), from1(run.Qback), from1(run.g)};
+  std::vector<double> S1Re, S1Im, S2Re, S2Im;
+  if (!NeedsNoAngle(*run.graph)) {
+    options.angle = Val(session.form1.txtAngle.Text) * pi / 180;
+    for (auto* column : {&S1Re, &S1Im, &S2Re, &S2Im}) column->resize(static_cast<std::size_t>(run.points));
+    lists.S1Re = S1Re;
+    lists.S1Im = S1Im;
+    lists.S2Re = S2Re;
+    lists.S2Im = S2Im;
+  }
+  run.done =
+      static_cast<int>(SolveEfficiencies({from1(run.size), from1(run.mRe), from1(run.mIm)}, lists, options, monitor));
+  if (options.angle) {
+    s.S1ofPoint.Resize(run.points);
+    s.S2ofPoint.Resize(run.points);
+    for (int point = 1; point <= run.done; ++point) {
+      const auto i = static_cast<std::size_t>(point) - 1;
+      s.S1ofPoint.Set(point, S1Re[i], S1Im[i]);
+      s.S2ofPoint.Set(point, S2Re[i], S2Im[i]);
+    }
+    s.CloudCrossRe.clear();
+    s.CloudCrossIm.clear();
+  }
   for (std::size_t i = 1; i < run.radius.size(); ++i) {
     const double area = pi * run.radius[i] * run.radius[i];
     run.Cext[i] = area * run.Qext[i];
@@ -372,8 +393,10 @@ void CalculateAxis(Session& session) {
     return;
   }
   if (s.CalcMethod == mieMethod) WriteMieTitle(session);
-  if (s.CalcMethod == mieMethod && NeedsNoAngle(*run.graph) && !session.form1.optDisp.Checked) {
-    SolveEfficienciesOfAll(session, run);
+  const bool power = run.graph->quantity == AxisQuantity::Power;
+  if (s.CalcMethod == mieMethod && !power && !session.form1.optDisp.Checked) {
+    session.form1.lblDebyeRays.Caption = "Mie (plane wave)";
+    SolveAllAtOnce(session, run);
   } else {
     SolvePointByPoint(session, run);
   }

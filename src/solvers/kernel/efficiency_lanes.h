@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -35,6 +36,11 @@ struct EfficiencySums {
   alignas(64) double backRe[MaxGroup];      ///< sum (-1)^n (2n+1) (b_n - a_n)
   alignas(64) double backIm[MaxGroup];
   alignas(64) double asymmetry[MaxGroup];  ///< sum of the products of neighbouring coefficients
+  // With an angle only:
+  alignas(64) double S1Re[MaxGroup];  ///< S1 and S2 at the angle
+  alignas(64) double S1Im[MaxGroup];
+  alignas(64) double S2Re[MaxGroup];
+  alignas(64) double S2Im[MaxGroup];
 };
 
 /// Numbers of a term that all spheres share.
@@ -43,6 +49,8 @@ struct TermWeights {
   double twoNPlusOne;
   double same;   ///< (2n+1)/(n(n+1)), of Re(a_n conj b_n)
   double below;  ///< (n-1)(n+1)/n, of Re(a_(n-1) conj a_n + b_(n-1) conj b_n)
+  double pi;     ///< (2n+1)/(n(n+1)) pi_n of the angle, and tau_n likewise; 0 without one
+  double tau;
 };
 
 /// Memory of the groups of one call, kept from group to group.
@@ -50,8 +58,11 @@ struct EfficiencyWorkspace {
   std::vector<TermWeights> weights;  ///< Index n - 1.
   std::vector<double> functions;     ///< psi_n of both arguments, by block.
 
+  bool atAngle = false;  ///< Whether S1 and S2 are summed too.
+
   /// Makes room for series of up to `terms` terms.
-  void Reserve(int terms);
+  /// @param angle  radians, where amplitudes are wanted.
+  void Reserve(int terms, std::optional<double> angle = std::nullopt);
 };
 
 /// Spheres of a group under an instruction set: 2 (or 1), 4 or 8.

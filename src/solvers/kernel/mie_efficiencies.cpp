@@ -51,7 +51,7 @@ class EfficiencySolver {
     for (std::size_t i = 0; i < spheres.x.size(); ++i) {
       if (Allowed(i)) terms = std::max(terms, NStopEstimate(spheres.x[i]));
     }
-    workspace_.Reserve(terms);
+    workspace_.Reserve(terms, options.angle);
   }
 
   /// Spheres from `first` on that can be one group.
@@ -97,6 +97,8 @@ class EfficiencySolver {
       Store(results_, first + lane,
             FromSums(group.x[lane], sums.extinction[lane], sums.scattering[lane], backSquare, sums.asymmetry[lane],
                      options_.divideBySize));
+      if (options_.angle)
+        StoreAmplitudes(first + lane, {sums.S1Re[lane], sums.S1Im[lane]}, {sums.S2Re[lane], sums.S2Im[lane]});
     }
     return static_cast<std::size_t>(rows) * GroupSize(set_);
   }
@@ -105,6 +107,7 @@ class EfficiencySolver {
     if (!Allowed(i)) {
       constexpr double unknown = std::numeric_limits<double>::quiet_NaN();
       Store(results_, i, {unknown, unknown, unknown, unknown});
+      StoreAmplitudes(i, {unknown, unknown}, {unknown, unknown});
       return 1;
     }
     const double x = spheres_.x[i];
@@ -112,10 +115,25 @@ class EfficiencySolver {
         ComputeMieTruncation(x, spheres_.mRe[i], spheres_.mIm[i], false, options_.classicStart);
     const PartialWaves waves = MieCoefficients(x, spheres_.mRe[i], spheres_.mIm[i], truncation);
     Store(results_, i, EfficienciesOf(waves, x, options_.divideBySize));
+    if (options_.angle) {
+      AmplitudeTable S1(1), S2(1);
+      SilentMonitor silent;
+      SumAngularSeries(waves, std::span(&*options_.angle, 1), S1, S2, silent, set_);
+      StoreAmplitudes(i, S1.Value(1), S2.Value(1));
+    }
     return static_cast<std::size_t>(truncation.start);
   }
 
  private:
+  void StoreAmplitudes(std::size_t i, const ComplexD& S1, const ComplexD& S2) const {
+    if (!options_.angle) return;
+    const double scale = options_.divideBySize ? 1.0 / spheres_.x[i] : 1.0;
+    results_.S1Re[i] = scale * S1.re;
+    results_.S1Im[i] = scale * S1.im;
+    results_.S2Re[i] = scale * S2.re;
+    results_.S2Im[i] = scale * S2.im;
+  }
+
   bool Allowed(std::size_t i) const {
     return CheckMieLimits(spheres_.x[i], spheres_.mRe[i], spheres_.mIm[i]) == MieRefusal::None;
   }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <span>
 
 #include "session/kernel/run_monitor.h"
@@ -37,17 +38,20 @@ struct EfficiencyLists {
   std::span<double> Qsca;
   std::span<double> Qback;
   std::span<double> g;
+  // Amplitudes at EfficiencyOptions::angle; not used without one.
+  std::span<double> S1Re = {}, S1Im = {}, S2Re = {}, S2Im = {};
 };
 
 struct EfficiencyOptions {
-  bool divideBySize = false;  ///< As in EfficienciesOf.
-  bool classicStart = false;  ///< As in ComputeMieTruncation; takes the slow path.
+  bool divideBySize = false;                   ///< As in EfficienciesOf.
+  bool classicStart = false;                   ///< As in ComputeMieTruncation; takes the slow path.
+  std::optional<double> angle = std::nullopt;  ///< One scattering angle (radians) at which S1 and S2 are wanted too.
 };
 
 /// Most sums over vector lanes and terms between two looks at the monitor.
 inline constexpr std::size_t MaxLaneTermsPerLook = 4'000'000;
 
-/// Mie efficiencies of many spheres; no angles are computed.
+/// Mie efficiencies of many spheres, and their amplitudes at one angle where it is asked for.
 ///
 /// Neighbours in the list share vector lanes and run as long as the largest of them: give radii in order. The
 /// coefficients follow from psi_n(mx) and psi_n(x) by downward recurrence without division, normalised by the

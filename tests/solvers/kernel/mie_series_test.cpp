@@ -1,4 +1,5 @@
 #include "solvers/kernel/mie_series.h"
+#include "solvers/kernel/mie_point.h"
 
 #include <gtest/gtest.h>
 
@@ -123,6 +124,37 @@ struct List {
     return SolveEfficiencies({x, mRe, mIm}, {Qext, Qsca, Qback, g}, options, monitor, set);
   }
 };
+
+// Amplitudes at one angle, by lanes and by the slow path, against those of single spheres; near the axis too, where the
+// recurrence of pi_n is at its worst.
+TEST(MieEfficiencies, AmplitudesAtAnAngleEqualSingleSpheres) {
+  List list;
+  for (const double x : {0.001, 0.5, 3.0, 40.0, 41.0, 900.0, 905.0, 5000.0}) {
+    list.Add(x, 1.33, 0.0);
+    list.Add(x, 1.5, 0.01);
+  }
+  SilentMonitor monitor;
+  const std::size_t count = list.x.size();
+  for (const InstructionSet set : {InstructionSet::Plain, BestInstructionSet()}) {
+    for (const double degrees : {0.0, 0.01, 60.0, 90.0, 138.37, 179.99, 180.0}) {
+      std::vector<double> S1Re(count), S1Im(count), S2Re(count), S2Im(count);
+      EfficiencyOptions options{true};
+      options.angle = degrees * std::numbers::pi / 180;
+      ASSERT_EQ(
+          SolveEfficiencies({list.x, list.mRe, list.mIm},
+                            {list.Qext, list.Qsca, list.Qback, list.g, S1Re, S1Im, S2Re, S2Im}, options, monitor, set),
+          count);
+      for (std::size_t i = 0; i < count; ++i) {
+        const MiePoint point = SolveMiePoint({list.x[i], list.mRe[i], list.mIm[i], *options.angle, true}, monitor);
+        const double forward = list.x[i] * list.Qext[i] * list.x[i] / 4 + 1e-12;
+        EXPECT_NEAR(S1Re[i], point.S1.re, 1e-11 * forward) << list.x[i] << " at " << degrees;
+        EXPECT_NEAR(S1Im[i], point.S1.im, 1e-11 * forward) << list.x[i] << " at " << degrees;
+        EXPECT_NEAR(S2Re[i], point.S2.re, 1e-11 * forward) << list.x[i] << " at " << degrees;
+        EXPECT_NEAR(S2Im[i], point.S2.im, 1e-11 * forward) << list.x[i] << " at " << degrees;
+      }
+    }
+  }
+}
 
 // Lanes of very different spheres must not disturb each other: order, size, absorption and the slow path are mixed.
 TEST(MieEfficiencies, ListsEqualSingleSpheres) {
