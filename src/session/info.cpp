@@ -150,9 +150,10 @@ std::string StatusText(const Session& session) {
     return session.form1.txtProgress.Text + (left.empty() ? "" : "   " + left);
   }
   if (s.PrevGraphType == 0) return "Ready";
-  if (s.ResultWavelengths > 1)
-    return MethodName(s) + ", " + std::to_string(s.WavelengthsDone) + " wavelengths, " + TimeWords(s.LastRunSeconds);
-  return MethodName(s) + ", " + RunWords(s);
+  const std::string words = s.ResultWavelengths > 1
+                                ? std::to_string(s.WavelengthsDone) + " wavelengths, " + TimeWords(s.LastRunSeconds)
+                                : RunWords(s);
+  return MethodName(s) + ", " + words + (s.StopAnswer != 0 ? ", stopped: Replot draws what was done" : "");
 }
 
 }  // namespace lumivex

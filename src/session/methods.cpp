@@ -203,6 +203,7 @@ void ShowWavelengthInputs(Session& session) {
 void cboWave_Click(Session& session) {
   auto& form = session.form1;
   form.cmdReplot.Enabled = form.cmdOverPlot.Enabled = false;
+  form.cboGraph.BackColour = colours::White;
   form.cmdNewPlot.Enabled = true;
   ShowWavelengthInputs(session);
   if (Trim(form.cboWave.Text) == "1") session.events.Raise("txtLambda_change");

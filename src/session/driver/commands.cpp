@@ -61,6 +61,8 @@ void OfferCommands(Session& session) {
   const auto& s = session.state;
   // A curve of one wavelength over the colours of several would have no scale in common with them.
   const bool single = s.NumberWavelengths == 1 && s.ResultWavelengths == 1;
+  // Only intensity against angle is a matter of several wavelengths.
+  form.cboWave.Enabled = (s.GraphType == 1 && s.GraphSubType == 1) || s.GraphType >= 20 || s.NumberWavelengths > 1;
   form.cmdReplot.Visible = HasRun(s);
   form.cmdReplot.Enabled = HasRun(s);
   form.cmdOverPlot.Visible = HasRun(s);
@@ -119,6 +121,7 @@ void cmdReplot_Click(Session& session) {
     return;
   }
   s.CommandAborted = 0;
+  s.StopAnswer = 0;
   // What was calculated counts, whatever the list says by now.
   s.NumberWavelengths = s.ResultWavelengths;
   double Ymin = s.Ymin, Ymax = s.Ymax;

@@ -51,10 +51,6 @@ void ShowRunning(Session& session) {
 }
 
 void ShowEnded(Session& session) {
-  // Only intensity against angle is a matter of several wavelengths.
-  const auto& s = session.state;
-  session.form1.cboWave.Enabled =
-      (s.GraphType == 1 && s.GraphSubType == 1) || s.GraphType >= 20 || s.NumberWavelengths > 1;
   session.form1.cmdStop.Visible = session.form1.cmdStop.Enabled = false;
 }
 
@@ -148,8 +144,8 @@ void Overplot(Session& session) {
   if (s.PlotMode != stopRequested) {
     DisplayRun(session);
     DistDisplay(session);
-  } else if (!stored && s.PrevGraphType != 0) {
-    // The bar ran over the readings of the results that stay.
+  } else if (s.PrevGraphType != 0) {
+    // The bar ran over the readings: those of the results that a Replot draws.
     VisibleData(session);
     DistDisplay(session, false);
     DrawHuygens(session);
