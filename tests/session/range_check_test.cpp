@@ -32,6 +32,12 @@ const RuleCase ruleCases[] = {
        s.form1.cboGraph.Text = "Intensity v. radius";
      },
      "", "Error", "Coated sphere calculations are not available for graph type Intensity v. radius"},
+    {"core beyond the whole",
+     [](Session& s) {
+       s.state.CalcMethod = 13;
+       s.forms.dlogCoatedSphere.txtCoreRadius.Text = "10";
+     },
+     "", "Input error", "The radius of the core must be less than the radius of the overall particle"},
     {"beam with Descartes",
      [](Session& s) {
        s.state.CalcMethod = 6;
@@ -299,6 +305,12 @@ const RuleCase ruleCases[] = {
        s.form1.cboStep.Text = "0.25";
      },
      "", "Warning . . .", "Sun requires angular resolution < 0.25 degrees", false},
+    {"sun without a step",
+     [](Session& s) {
+       s.form1.optSun.Select();
+       s.form1.cboStep.Text = "0";
+     },
+     "", "Input error", "Value must be > 0"},
     {"large Rayleigh sphere",
      [](Session& s) {
        s.state.CalcMethod = 3;

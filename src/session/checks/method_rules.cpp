@@ -36,7 +36,15 @@ bool NeedsOneWavelength(const RunState& s) {
 
 Verdict CoatedSphereGraphs(Check& check) {
   const auto& s = check.state;
-  if (s.CalcMethod != 13 || OneOf(s.GraphType, {1, 13, 19})) return Verdict::GoOn;
+  if (s.CalcMethod != 13) return Verdict::GoOn;
+  if (OneOf(s.GraphType, {1, 13, 19})) {
+    auto& dialog = check.session.forms.dlogCoatedSphere;
+    if (Val(dialog.txtCoreRadius.Text) < Val(dialog.txtMantleRadius.Text)) return Verdict::GoOn;
+    Refuse(check, {&dialog.txtMantleRadius},
+           "The radius of the core must be less than the radius of the overall particle");
+    dialog.txtMantleRadius.BackColour = colours::White;
+    return Verdict::End;
+  }
   return Refuse(check, {}, "Coated sphere calculations are not available for graph type " + check.form.cboGraph.Text,
                 "Error");
 }

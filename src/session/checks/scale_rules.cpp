@@ -55,7 +55,14 @@ Verdict SunOnlyAgainstAngle(Check& check) {
 
 Verdict SunResolution(Check& check) {
   constexpr double halfDisc = 0.25;  // degrees
-  if (!check.form.optSun.Checked || Val(check.form.cboStep.Text) < halfDisc) return Verdict::GoOn;
+  auto& step = check.form.cboStep;
+  if (!check.form.optSun.Checked) return Verdict::GoOn;
+  if (Val(step.Text) <= 0) {
+    Refuse(check, {&step}, "Value must be > 0");
+    step.BackColour = colours::White;
+    return Verdict::End;
+  }
+  if (Val(step.Text) < halfDisc) return Verdict::GoOn;
   check.form.optPoint.Select();
   return Warn(check, "Sun requires angular resolution < 0.25 degrees", "Warning . . .");
 }

@@ -4,6 +4,7 @@
 
 #include "session/record/form.h"
 #include "session/record/forms/angle_dialogs.h"
+#include "session/record/forms/coated_dialog.h"
 #include "session/record/forms/light_dialogs.h"
 #include "session/record/forms/main_form.h"
 #include "session/record/forms/material_dialogs.h"
@@ -59,10 +60,11 @@ struct Forms : MaterialDialogs, LightDialogs, SizeDialogs, RayDialogs, AngleDial
   DlogSpectrumBand dlogSpectrumBand;
   DlogAverage dlogAverage;
   DlogPlotColour dlogPlotColour;
+  DlogCoatedSphere dlogCoatedSphere;
 
   /// All of them, the main window first.
   std::vector<Form*> All() {
-    std::vector<Form*> all = {&form1, &dlogTemp, &dlogSpectrumBand, &dlogAverage, &dlogPlotColour};
+    std::vector<Form*> all = {&form1, &dlogTemp, &dlogSpectrumBand, &dlogAverage, &dlogPlotColour, &dlogCoatedSphere};
     for (const auto& more : {MaterialForms(), LightForms(), SizeForms(), RayForms(), AngleForms()})
       all.insert(all.end(), more.begin(), more.end());
     return all;
