@@ -19,7 +19,11 @@ FormSnapshot Form::Snapshot() const {
 
 void Form::Restore(const FormSnapshot& snapshot) {
   for (const auto& [name, value] : snapshot)
-    if (Control* control = Find(name)) control->SetValue(value);
+    if (Control* control = Find(name); control && control->Value() != value) {
+      control->SetValue(value);
+      // The mark belonged to what stood there.
+      if (control->BackColour == colours::BadInput) control->BackColour = colours::White;
+    }
 }
 
 }  // namespace lumivex

@@ -26,7 +26,8 @@ class Form {
   Control* Find(std::string_view name) const;
 
   FormSnapshot Snapshot() const;
-  /// Puts a snapshot's values back; raises no events. Names that the form does not hold are passed over.
+  /// Puts a snapshot's values back, and takes the mark of bad input off those that change; raises no events. Names that
+  /// the form does not hold are passed over.
   void Restore(const FormSnapshot& snapshot);
 
   std::string Caption;
