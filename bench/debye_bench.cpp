@@ -7,9 +7,9 @@
 #include <numbers>
 #include <vector>
 
-#include "solvers/kernel/debye_series.h"
-#include "solvers/kernel/mie_series.h"
-#include "solvers/kernel/ray_series.h"
+#include "solvers/rays/ray_series.h"
+#include "solvers/series/debye_series.h"
+#include "solvers/series/mie_series.h"
 
 namespace {
 

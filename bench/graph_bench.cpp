@@ -6,9 +6,9 @@
 #include <cstdio>
 #include <sstream>
 
-#include "graphs/line_graph.h"
-#include "graphs/read_out.h"
-#include "graphs/redraw.h"
+#include "pages/line_graph.h"
+#include "pages/read_out.h"
+#include "pages/redraw.h"
 #include "scripts/script_runner.h"
 
 namespace {

@@ -7,7 +7,7 @@
 #include <numbers>
 #include <vector>
 
-#include "solvers/kernel/mie_series.h"
+#include "solvers/series/mie_series.h"
 #include "textbook_mie.h"
 
 namespace {

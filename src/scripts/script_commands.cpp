@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <type_traits>
 
-#include "graphs/curve_text.h"
-#include "session/graph_types.h"
-#include "session/methods.h"
+#include "pages/curve_text.h"
+#include "record/number_text.h"
+#include "record/recording_surface.h"
+#include "session/inputs/graph_types.h"
+#include "session/inputs/methods.h"
 #include "session/page.h"
-#include "session/record/number_text.h"
-#include "session/record/recording_surface.h"
 
 namespace lumivex {
 

@@ -5,10 +5,10 @@
 #include <sstream>
 #include <vector>
 
+#include "record/number_text.h"
+#include "record/text_file.h"
 #include "scripts/script_commands.h"
 #include "session/checks/number_input.h"
-#include "session/record/number_text.h"
-#include "session/record/text_file.h"
 #include "session/start_up.h"
 #include "session/undo.h"
 #include "session/user_actions.h"

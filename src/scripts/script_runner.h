@@ -6,9 +6,9 @@
 #include <string>
 #include <string_view>
 
+#include "record/recording_surface.h"
 #include "scripts/scripted_platform.h"
 #include "session/open_session.h"
-#include "session/record/recording_surface.h"
 
 namespace lumivex {
 

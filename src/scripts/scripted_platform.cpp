@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <ostream>
 
-#include "session/record/form.h"
-#include "session/record/number_text.h"
+#include "record/form.h"
+#include "record/number_text.h"
 
 namespace lumivex {
 

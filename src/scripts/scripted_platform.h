@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "session/record/platform.h"
+#include "record/platform.h"
 
 namespace lumivex {
 

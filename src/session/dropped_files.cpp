@@ -1,7 +1,7 @@
 #include "session/dropped_files.h"
 
-#include "materials/dialog_use.h"
-#include "materials/dropped_file.h"
+#include "session/inputs/dialog_use.h"
+#include "session/inputs/dropped_file.h"
 #include "session/undo.h"
 
 namespace lumivex {

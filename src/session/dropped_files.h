@@ -3,7 +3,7 @@
 #include <span>
 #include <string>
 
-#include "session/record/session.h"
+#include "record/session.h"
 
 namespace lumivex {
 

@@ -3,19 +3,19 @@
 #include <algorithm>
 #include <cctype>
 
-#include "graphs/look_menus.h"
-#include "materials/material_events.h"
 #include "session/driver/commands.h"
 #include "session/file_menu.h"
-#include "session/graph_types.h"
 #include "session/info.h"
-#include "session/input_events.h"
-#include "session/methods.h"
+#include "session/inputs/graph_types.h"
+#include "session/inputs/input_events.h"
+#include "session/inputs/look/look_menus.h"
+#include "session/inputs/materials/material_events.h"
+#include "session/inputs/methods.h"
+#include "session/inputs/methods/debye_menus.h"
+#include "session/inputs/two_angle_inputs.h"
 #include "session/start_up.h"
-#include "session/two_angle_inputs.h"
 #include "session/undo.h"
 #include "session/window_events.h"
-#include "solvers/debye_menus.h"
 
 namespace lumivex {
 

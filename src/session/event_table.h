@@ -3,8 +3,8 @@
 #include <map>
 #include <string>
 
-#include "session/record/events.h"
-#include "session/record/session.h"
+#include "record/events.h"
+#include "record/session.h"
 
 namespace lumivex {
 

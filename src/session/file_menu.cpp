@@ -1,8 +1,8 @@
 #include "session/file_menu.h"
 
-#include "graphs/curve_text.h"
+#include "pages/curve_text.h"
+#include "record/text_file.h"
 #include "session/info.h"
-#include "session/record/text_file.h"
 #include "session/window_events.h"
 
 namespace lumivex {

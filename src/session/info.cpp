@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "session/axis_graphs.h"
+#include "record/number_text.h"
 #include "session/driver/progress.h"
-#include "session/methods.h"
-#include "session/record/number_text.h"
+#include "session/inputs/axis_graphs.h"
+#include "session/inputs/methods.h"
 
 namespace lumivex {
 

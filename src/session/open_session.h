@@ -1,7 +1,7 @@
 #pragma once
 
+#include "record/session.h"
 #include "session/event_table.h"
-#include "session/record/session.h"
 
 namespace lumivex {
 

@@ -1,9 +1,9 @@
 #include "session/page.h"
 
-#include "graphs/huygens_drawing.h"
-#include "graphs/redraw.h"
-#include "particles/size_distribution_display.h"
-#include "solvers/visible_data.h"
+#include "pages/huygens_drawing.h"
+#include "pages/redraw.h"
+#include "pages/size_distribution_display.h"
+#include "pages/visible_data.h"
 
 namespace lumivex {
 

@@ -7,18 +7,18 @@
 #include <system_error>
 #include <vector>
 
-#include "graphs/frame.h"
-#include "graphs/look_menus.h"
-#include "graphs/spectrum_sums.h"
-#include "materials/sellmeier_catalogue.h"
-#include "particles/kernel/gamma_function.h"
+#include "pages/frame.h"
+#include "pages/spectrum_sums.h"
+#include "particles/gamma_function.h"
+#include "record/features.h"
+#include "record/number_text.h"
 #include "session/driver/array_size.h"
 #include "session/driver/commands.h"
-#include "session/graph_types.h"
 #include "session/info.h"
-#include "session/methods.h"
-#include "session/record/features.h"
-#include "session/record/number_text.h"
+#include "session/inputs/graph_types.h"
+#include "session/inputs/look/look_menus.h"
+#include "session/inputs/materials/sellmeier_catalogue.h"
+#include "session/inputs/methods.h"
 #include "session/window_events.h"
 
 namespace lumivex {

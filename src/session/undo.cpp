@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "session/graph_types.h"
-#include "session/input_events.h"
+#include "session/inputs/graph_types.h"
+#include "session/inputs/input_events.h"
 
 namespace lumivex {
 

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "session/record/session.h"
+#include "record/session.h"
 
 namespace lumivex {
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "session/record/session.h"
+#include "record/session.h"
 
 namespace lumivex {
 

@@ -5,7 +5,7 @@
 #include <functional>
 #include <string>
 
-#include "session/record/controls.h"
+#include "record/controls.h"
 
 class QButtonGroup;
 

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <string>
 
-#include "session/record/number_text.h"
+#include "record/number_text.h"
 #include "ui/look.h"
 
 namespace lumivex {

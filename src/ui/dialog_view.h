@@ -3,7 +3,7 @@
 #include <QDialog>
 #include <memory>
 
-#include "session/record/form.h"
+#include "record/form.h"
 #include "ui/form_view.h"
 #include "ui/undo_keys.h"
 

@@ -5,8 +5,8 @@
 #include <span>
 #include <vector>
 
-#include "session/record/form.h"
-#include "session/record/layout/panel_layout.h"
+#include "record/form.h"
+#include "record/layout/panel_layout.h"
 #include "ui/control_view.h"
 
 class QVBoxLayout;

@@ -4,9 +4,9 @@
 #include <cmath>
 #include <utility>
 
-#include "graphs/zoom.h"
+#include "pages/zoom.h"
+#include "record/number_text.h"
 #include "session/page.h"
-#include "session/record/number_text.h"
 #include "session/user_actions.h"
 #include "ui/look.h"
 

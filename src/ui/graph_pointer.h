@@ -6,8 +6,8 @@
 #include <functional>
 #include <optional>
 
-#include "graphs/curve_steps.h"
-#include "session/record/session.h"
+#include "pages/curve_steps.h"
+#include "record/session.h"
 #include "ui/canvas.h"
 #include "ui/command_gate.h"
 

@@ -2,7 +2,7 @@
 
 #include <QFrame>
 
-#include "session/record/controls.h"
+#include "record/controls.h"
 
 class QLabel;
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "session/record/colour.h"
+#include "record/colour.h"
 
 namespace lumivex {
 

@@ -8,7 +8,7 @@
 #include <memory>
 #include <vector>
 
-#include "session/record/session.h"
+#include "record/session.h"
 #include "ui/canvas.h"
 #include "ui/command_gate.h"
 #include "ui/dialog_view.h"

@@ -4,7 +4,7 @@
 #include <QMenu>
 #include <QMenuBar>
 
-#include "session/record/layout/menu_tree.h"
+#include "record/layout/menu_tree.h"
 #include "ui/look.h"
 
 namespace lumivex {

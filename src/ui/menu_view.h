@@ -5,7 +5,7 @@
 #include <map>
 #include <vector>
 
-#include "session/record/form.h"
+#include "record/form.h"
 
 class QAction;
 class QMenu;

@@ -8,7 +8,7 @@
 #include <memory>
 #include <tuple>
 
-#include "session/record/drawing_surface.h"
+#include "record/drawing_surface.h"
 
 namespace lumivex {
 

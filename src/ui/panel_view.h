@@ -4,7 +4,7 @@
 #include <memory>
 #include <vector>
 
-#include "session/record/controls.h"
+#include "record/controls.h"
 #include "ui/form_view.h"
 
 class QLabel;

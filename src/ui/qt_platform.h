@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <functional>
 
-#include "session/record/platform.h"
+#include "record/platform.h"
 #include "ui/command_gate.h"
 
 namespace lumivex {

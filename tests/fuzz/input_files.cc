@@ -7,11 +7,11 @@
 #include <sstream>
 #include <string>
 
-#include "materials/kernel/catalogue_file.h"
-#include "materials/kernel/index_import.h"
-#include "materials/kernel/spectrum_file.h"
-#include "materials/kernel/spectrum_weight.h"
-#include "particles/kernel/size_file.h"
+#include "materials/files/catalogue_file.h"
+#include "materials/files/index_import.h"
+#include "materials/files/spectrum_file.h"
+#include "materials/light/spectrum_weight.h"
+#include "particles/size_file.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 #include <sstream>
 
-#include "materials/kernel/catalogue_file.h"
+#include "materials/files/catalogue_file.h"
 #include "materials/material_fixture.h"
-#include "materials/sellmeier_catalogue.h"
-#include "session/record/text_file.h"
+#include "record/text_file.h"
+#include "session/inputs/materials/sellmeier_catalogue.h"
 
 namespace lumivex {
 namespace {

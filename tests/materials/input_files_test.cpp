@@ -1,14 +1,14 @@
 #include <sys/stat.h>
 
-#include "materials/dropped_file.h"
-#include "materials/kernel/index_import.h"
-#include "materials/kernel/spectrum_file.h"
+#include "materials/files/index_import.h"
+#include "materials/files/spectrum_file.h"
 #include "materials/material_fixture.h"
-#include "materials/read_ref_index.h"
-#include "materials/read_spectrum.h"
-#include "materials/refractive_index.h"
-#include "particles/kernel/size_file.h"
-#include "particles/read_size_dist.h"
+#include "particles/size_file.h"
+#include "session/inputs/dropped_file.h"
+#include "session/inputs/light/read_spectrum.h"
+#include "session/inputs/materials/read_ref_index.h"
+#include "session/inputs/materials/refractive_index.h"
+#include "session/inputs/sizes/read_size_dist.h"
 
 namespace lumivex {
 namespace {

@@ -1,9 +1,9 @@
-#include "materials/kernel/spectrum_weight.h"
-#include "materials/light_sources.h"
+#include "materials/light/spectrum_weight.h"
 #include "materials/material_fixture.h"
-#include "materials/read_spectrum.h"
 #include "materials/tables/sun_spectra.h"
-#include "materials/wavelength_list.h"
+#include "session/inputs/light/light_sources.h"
+#include "session/inputs/light/read_spectrum.h"
+#include "session/inputs/light/wavelength_list.h"
 
 namespace lumivex {
 namespace {

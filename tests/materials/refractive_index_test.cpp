@@ -1,12 +1,12 @@
-#include "materials/refractive_index.h"
+#include "session/inputs/materials/refractive_index.h"
 
-#include "materials/kernel/dispersion_formulas.h"
-#include "materials/kernel/index_formulas.h"
+#include "materials/index/dispersion_formulas.h"
+#include "materials/index/index_formulas.h"
 #include "materials/material_fixture.h"
-#include "materials/read_ref_index.h"
 #include "materials/tables/metals.h"
 #include "materials/tables/ray_water.h"
 #include "materials/tables/segelstein_water.h"
+#include "session/inputs/materials/read_ref_index.h"
 
 namespace lumivex {
 namespace {

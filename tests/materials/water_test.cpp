@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "materials/kernel/table_lookup.h"
-#include "materials/kernel/water.h"
+#include "materials/index/table_lookup.h"
+#include "materials/index/water.h"
 #include "materials/tables/segelstein_water.h"
 
 namespace lumivex {

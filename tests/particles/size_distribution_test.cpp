@@ -1,21 +1,21 @@
-#include "particles/size_distribution.h"
+#include "session/inputs/sizes/size_distribution.h"
 
 #include <complex>
 #include <functional>
 #include <span>
 
 #include "materials/material_fixture.h"
-#include "particles/kernel/gamma_function.h"
-#include "particles/kernel/normal_samples.h"
-#include "particles/kernel/size_models.h"
-#include "particles/read_size_dist.h"
-#include "particles/size_distribution_display.h"
-#include "particles/size_menus.h"
+#include "pages/size_distribution_display.h"
+#include "particles/gamma_function.h"
+#include "particles/normal_samples.h"
+#include "particles/size_models.h"
 #include "session/driver/solver_chain.h"
+#include "session/inputs/sizes/read_size_dist.h"
+#include "session/inputs/sizes/size_menus.h"
 #include "session/page.h"
-#include "solvers/kernel/mie_point.h"
-#include "solvers/kernel/mie_series.h"
-#include "solvers/kernel/scattering_pattern.h"
+#include "solvers/angles/scattering_pattern.h"
+#include "solvers/series/mie_point.h"
+#include "solvers/series/mie_series.h"
 
 namespace lumivex {
 namespace {

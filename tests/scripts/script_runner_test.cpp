@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "session/record/text_file.h"
+#include "record/text_file.h"
 #include "session/session_fixture.h"
 
 namespace lumivex {

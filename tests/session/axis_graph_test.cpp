@@ -2,10 +2,10 @@
 
 #include <cmath>
 
-#include "session/graph_types.h"
-#include "session/methods.h"
+#include "session/inputs/graph_types.h"
+#include "session/inputs/methods.h"
 #include "session/session_fixture.h"
-#include "solvers/kernel/scattering_pattern.h"
+#include "solvers/angles/scattering_pattern.h"
 
 namespace lumivex {
 namespace {

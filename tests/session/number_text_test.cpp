@@ -1,4 +1,4 @@
-#include "session/record/number_text.h"
+#include "record/number_text.h"
 
 #include <gtest/gtest.h>
 

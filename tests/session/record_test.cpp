@@ -3,9 +3,9 @@
 #include <fstream>
 #include <set>
 
+#include "record/layout/menu_tree.h"
+#include "record/layout/panel_layout.h"
 #include "session/event_table.h"
-#include "session/record/layout/menu_tree.h"
-#include "session/record/layout/panel_layout.h"
 #include "session/session_fixture.h"
 
 namespace lumivex {

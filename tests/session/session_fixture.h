@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "record/number_text.h"
 #include "scripts/script_runner.h"
-#include "session/record/number_text.h"
 
 namespace lumivex {
 

@@ -2,17 +2,17 @@
 #include <cmath>
 #include <set>
 
-#include "graphs/curve_text.h"
-#include "graphs/read_out.h"
-#include "graphs/spectrum_sums.h"
-#include "graphs/zoom.h"
 #include "materials/material_fixture.h"
+#include "pages/curve_text.h"
+#include "pages/read_out.h"
+#include "pages/spectrum_sums.h"
+#include "pages/zoom.h"
+#include "record/layout/menu_tree.h"
 #include "session/driver/duration.h"
 #include "session/driver/progress.h"
 #include "session/driver/spectrum_family.h"
-#include "session/graph_types.h"
 #include "session/info.h"
-#include "session/record/layout/menu_tree.h"
+#include "session/inputs/graph_types.h"
 
 namespace lumivex {
 namespace {

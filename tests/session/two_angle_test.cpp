@@ -3,9 +3,9 @@
 #include <cmath>
 #include <sstream>
 
+#include "session/inputs/two_angle_inputs.h"
 #include "session/session_fixture.h"
-#include "session/two_angle_inputs.h"
-#include "solvers/kernel/mie_point.h"
+#include "solvers/series/mie_point.h"
 
 namespace lumivex {
 namespace {

@@ -2,8 +2,8 @@
 #include <QStatusBar>
 #include <QWheelEvent>
 
-#include "graphs/zoom.h"
-#include "session/record/number_text.h"
+#include "pages/zoom.h"
+#include "record/number_text.h"
 #include "window_fixture.h"
 
 namespace lumivex {

@@ -5,14 +5,14 @@
 #include <cmath>
 #include <initializer_list>
 
-#include "graphs/spectrum_sums.h"
-#include "session/axis_graphs.h"
+#include "pages/spectrum_sums.h"
+#include "record/number_text.h"
 #include "session/checks/check.h"
 #include "session/checks/number_input.h"
 #include "session/driver/array_size.h"
 #include "session/driver/spectrum_family.h"
-#include "session/record/number_text.h"
-#include "solvers/rays_check.h"
+#include "session/inputs/axis_graphs.h"
+#include "session/inputs/methods/rays_check.h"
 
 namespace lumivex {
 

@@ -3,9 +3,9 @@
 #include <cmath>
 #include <string>
 
-#include "session/axis_graphs.h"
+#include "record/number_text.h"
 #include "session/checks/check.h"
-#include "session/record/number_text.h"
+#include "session/inputs/axis_graphs.h"
 
 namespace lumivex {
 

@@ -5,9 +5,9 @@
 #include <optional>
 #include <string>
 
+#include "record/features.h"
+#include "record/number_text.h"
 #include "session/checks/check.h"
-#include "session/record/features.h"
-#include "session/record/number_text.h"
 
 namespace lumivex {
 

@@ -4,12 +4,12 @@
 #include <initializer_list>
 #include <string>
 
-#include "session/axis_graphs.h"
+#include "record/number_text.h"
 #include "session/checks/check.h"
-#include "session/methods.h"
-#include "session/record/number_text.h"
-#include "solvers/rays_check.h"
-#include "solvers/sphere_size.h"
+#include "session/inputs/axis_graphs.h"
+#include "session/inputs/methods.h"
+#include "session/inputs/methods/rays_check.h"
+#include "session/inputs/methods/sphere_size.h"
 
 namespace lumivex {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "session/record/number_text.h"
+#include "record/number_text.h"
 
 namespace lumivex {
 

@@ -1,7 +1,7 @@
 /// Rules on the vertical scale, the polar plot, interpolation and the sun.
 
+#include "record/number_text.h"
 #include "session/checks/check.h"
-#include "session/record/number_text.h"
 
 namespace lumivex {
 

@@ -5,14 +5,14 @@
 #include <limits>
 #include <utility>
 
-#include "graphs/spectrum_sums.h"
-#include "graphs/sun_disc.h"
-#include "particles/size_distribution.h"
+#include "pages/spectrum_sums.h"
+#include "pages/sun_disc.h"
+#include "record/number_text.h"
 #include "session/driver/angle_quantities.h"
 #include "session/driver/progress.h"
 #include "session/driver/solver_chain.h"
-#include "session/record/number_text.h"
-#include "solvers/kernel/phase_degrees.h"
+#include "session/inputs/sizes/size_distribution.h"
+#include "solvers/functions/phase_degrees.h"
 
 namespace lumivex {
 

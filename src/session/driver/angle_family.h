@@ -1,7 +1,7 @@
 #pragma once
 
-#include "session/record/session.h"
-#include "solvers/kernel/complex_pairs.h"
+#include "record/session.h"
+#include "solvers/functions/complex_pairs.h"
 
 namespace lumivex {
 

@@ -4,9 +4,9 @@
 #include <array>
 #include <cmath>
 
-#include "session/record/number_text.h"
-#include "solvers/kernel/angle_grid.h"
-#include "solvers/kernel/scattering_pattern.h"
+#include "record/number_text.h"
+#include "solvers/angles/angle_grid.h"
+#include "solvers/angles/scattering_pattern.h"
 
 namespace lumivex {
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "record/session.h"
 #include "session/driver/angle_family.h"
-#include "session/record/session.h"
 
 namespace lumivex {
 

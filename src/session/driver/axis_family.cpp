@@ -6,22 +6,22 @@
 #include <optional>
 #include <vector>
 
-#include "graphs/spectrum_sums.h"
-#include "materials/refractive_index.h"
-#include "particles/size_distribution.h"
-#include "session/axis_graphs.h"
+#include "pages/spectrum_sums.h"
+#include "record/number_text.h"
 #include "session/driver/angle_family.h"
 #include "session/driver/angle_quantities.h"
 #include "session/driver/debye_analysis.h"
 #include "session/driver/point_solver.h"
 #include "session/driver/progress.h"
 #include "session/driver/solver_chain.h"
-#include "session/record/number_text.h"
-#include "solvers/arithmetic_guard.h"
-#include "solvers/kernel/angle_grid.h"
-#include "solvers/kernel/mie_coefficients.h"
-#include "solvers/kernel/mie_efficiencies.h"
-#include "solvers/mie.h"
+#include "session/inputs/axis_graphs.h"
+#include "session/inputs/materials/refractive_index.h"
+#include "session/inputs/sizes/size_distribution.h"
+#include "session/routines/arithmetic_guard.h"
+#include "session/routines/mie.h"
+#include "solvers/angles/angle_grid.h"
+#include "solvers/series/mie_coefficients.h"
+#include "solvers/series/mie_efficiencies.h"
 
 namespace lumivex {
 

@@ -1,7 +1,8 @@
 #include "session/driver/commands.h"
 
-#include "graphs/spectrum_sums.h"
-#include "graphs/sun_disc.h"
+#include "pages/spectrum_sums.h"
+#include "pages/sun_disc.h"
+#include "record/number_text.h"
 #include "session/checks/range_check.h"
 #include "session/driver/angle_family.h"
 #include "session/driver/axis_family.h"
@@ -9,10 +10,9 @@
 #include "session/driver/duration.h"
 #include "session/driver/lock.h"
 #include "session/driver/overplot.h"
-#include "session/methods.h"
+#include "session/inputs/methods.h"
+#include "session/inputs/two_angle_inputs.h"
 #include "session/page.h"
-#include "session/record/number_text.h"
-#include "session/two_angle_inputs.h"
 
 namespace lumivex {
 

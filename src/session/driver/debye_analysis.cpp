@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <cmath>
 
+#include "record/number_text.h"
 #include "session/driver/progress.h"
 #include "session/driver/solver_chain.h"
-#include "session/record/number_text.h"
-#include "solvers/kernel/mie_efficiencies.h"
-#include "solvers/rays_check.h"
+#include "session/inputs/methods/rays_check.h"
+#include "solvers/series/mie_efficiencies.h"
 
 namespace lumivex {
 

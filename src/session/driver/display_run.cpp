@@ -1,14 +1,14 @@
 #include "session/driver/display_run.h"
 
-#include "graphs/huygens_drawing.h"
-#include "graphs/line_graph.h"
-#include "graphs/phasor_diagram.h"
-#include "graphs/polar_plot.h"
-#include "graphs/spectrum_graph.h"
-#include "graphs/two_angle_chart.h"
-#include "graphs/two_panels.h"
+#include "pages/huygens_drawing.h"
+#include "pages/line_graph.h"
+#include "pages/phasor_diagram.h"
+#include "pages/polar_plot.h"
+#include "pages/spectrum_graph.h"
+#include "pages/two_angle_chart.h"
+#include "pages/two_panels.h"
+#include "pages/visible_data.h"
 #include "session/info.h"
-#include "solvers/visible_data.h"
 
 namespace lumivex {
 

@@ -4,13 +4,13 @@
 #include <cmath>
 #include <string>
 
-#include "session/record/number_text.h"
-#include "session/two_angle_inputs.h"
-#include "solvers/kernel/angular_sum.h"
-#include "solvers/kernel/logarithmic_derivative.h"
-#include "solvers/kernel/mie_coefficients.h"
-#include "solvers/rays_check.h"
-#include "solvers/sphere_size.h"
+#include "record/number_text.h"
+#include "session/inputs/methods/rays_check.h"
+#include "session/inputs/methods/sphere_size.h"
+#include "session/inputs/two_angle_inputs.h"
+#include "solvers/functions/logarithmic_derivative.h"
+#include "solvers/series/angular_sum.h"
+#include "solvers/series/mie_coefficients.h"
 
 namespace lumivex {
 

@@ -1,6 +1,6 @@
 #include "session/driver/lock.h"
 
-#include "session/record/number_text.h"
+#include "record/number_text.h"
 
 namespace lumivex {
 

@@ -2,9 +2,10 @@
 
 #include <utility>
 
-#include "graphs/huygens_drawing.h"
-#include "materials/refractive_index.h"
-#include "particles/size_distribution_display.h"
+#include "pages/huygens_drawing.h"
+#include "pages/size_distribution_display.h"
+#include "pages/visible_data.h"
+#include "record/number_text.h"
 #include "session/driver/angle_family.h"
 #include "session/driver/array_size.h"
 #include "session/driver/axis_family.h"
@@ -13,9 +14,8 @@
 #include "session/driver/spectrum_family.h"
 #include "session/driver/two_angle_family.h"
 #include "session/info.h"
-#include "session/record/number_text.h"
-#include "solvers/sphere_size.h"
-#include "solvers/visible_data.h"
+#include "session/inputs/materials/refractive_index.h"
+#include "session/inputs/methods/sphere_size.h"
 
 namespace lumivex {
 

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
+#include "record/number_text.h"
 #include "session/driver/solver_chain.h"
-#include "session/record/number_text.h"
-#include "solvers/kernel/angle_grid.h"
-#include "solvers/kernel/mie_coefficients.h"
+#include "solvers/angles/angle_grid.h"
+#include "solvers/series/mie_coefficients.h"
 
 namespace lumivex {
 

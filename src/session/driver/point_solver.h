@@ -2,9 +2,9 @@
 
 #include <optional>
 
-#include "session/record/session.h"
-#include "solvers/kernel/complex_pairs.h"
-#include "solvers/kernel/mie_efficiencies.h"
+#include "record/session.h"
+#include "solvers/functions/complex_pairs.h"
+#include "solvers/series/mie_efficiencies.h"
 
 namespace lumivex {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "session/record/number_text.h"
+#include "record/number_text.h"
 
 namespace lumivex {
 

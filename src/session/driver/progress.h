@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "session/kernel/run_monitor.h"
-#include "session/record/session.h"
+#include "record/session.h"
+#include "solvers/run_monitor.h"
 
 namespace lumivex {
 

@@ -3,14 +3,14 @@
 #include <algorithm>
 #include <array>
 
+#include "record/number_text.h"
 #include "session/driver/progress.h"
-#include "session/record/number_text.h"
-#include "solvers/debye.h"
-#include "solvers/kernel/mie_efficiencies.h"
-#include "solvers/kernel/simple_scattering.h"
-#include "solvers/mie.h"
-#include "solvers/rays.h"
-#include "solvers/simple_methods.h"
+#include "session/routines/debye.h"
+#include "session/routines/mie.h"
+#include "session/routines/rays.h"
+#include "session/routines/simple_methods.h"
+#include "solvers/patterns/simple_scattering.h"
+#include "solvers/series/mie_efficiencies.h"
 
 namespace lumivex {
 

@@ -5,16 +5,16 @@
 #include <string>
 #include <utility>
 
-#include "graphs/kernel/wavelength_colour.h"
-#include "graphs/spectrum_sums.h"
-#include "materials/refractive_index.h"
-#include "materials/wavelength_list.h"
+#include "colour/wavelength_colour.h"
+#include "pages/spectrum_sums.h"
+#include "record/number_text.h"
 #include "session/driver/angle_family.h"
 #include "session/driver/array_size.h"
 #include "session/driver/progress.h"
-#include "session/methods.h"
-#include "session/record/number_text.h"
-#include "solvers/sphere_size.h"
+#include "session/inputs/light/wavelength_list.h"
+#include "session/inputs/materials/refractive_index.h"
+#include "session/inputs/methods.h"
+#include "session/inputs/methods/sphere_size.h"
 
 namespace lumivex {
 

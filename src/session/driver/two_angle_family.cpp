@@ -4,9 +4,9 @@
 #include <limits>
 
 #include "session/driver/progress.h"
-#include "session/two_angle_inputs.h"
-#include "solvers/kernel/angle_window.h"
-#include "solvers/mie.h"
+#include "session/inputs/two_angle_inputs.h"
+#include "session/routines/mie.h"
+#include "solvers/angles/angle_window.h"
 
 namespace lumivex {
 

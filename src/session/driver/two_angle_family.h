@@ -1,6 +1,6 @@
 #pragma once
 
-#include "session/record/session.h"
+#include "record/session.h"
 
 namespace lumivex {
 

@@ -1,0 +1,136 @@
+#pragma once
+
+#include <span>
+
+namespace lumivex {
+
+/// How a graph is calculated: one kind of run each.
+enum class Family {
+  Angle,            ///< rows of scattering angle, at one wavelength or several
+  TwoAngle,         ///< cross-sections into two ranges of angle, by radius and index
+  Axis,             ///< points of wavelength, size or index
+  Convergence,      ///< running sums of one series at one angle
+  DebyeAnalysis,    ///< what is left of the Mie amplitude of one point after each Debye term
+  EfficiencyPulse,  ///< efficiencies as an impulse response
+  Impulse,
+  Lee,
+  AngleMap,
+  EfficiencyMap,
+  Volume,
+};
+
+/// What runs along the horizontal axis.
+enum class AxisVariable {
+  Angle,
+  Wavelength,
+  Radius,
+  Diameter,
+  SizeParameter,
+  RefractiveIndex,
+  Terms,         ///< number of terms of a series
+  CrossSection,  ///< into a range of angles
+  Time,
+  Number,  ///< of spheres
+  Place,   ///< of a sphere
+};
+
+/// What is calculated.
+enum class Quantity {
+  Intensity,
+  PhaseFunction,
+  Irradiance,  ///< Watts/m2 at a distance
+  DifferentialCrossSection,
+  RangeCrossSections,
+  ScatteringMatrix,
+  CumulativeProbability,
+  Efficiencies,   ///< Qext, Qsca, Qabs
+  CrossSections,  ///< Cext, Csca, Cabs
+  Qback,
+  Qradar,
+  Asymmetry,
+  Albedo,
+  Power,      ///< scattered into a range of angles
+  Remainder,  ///< of an amplitude, after terms have been taken away
+};
+
+/// How it is drawn.
+enum class Drawing { Curves, MatrixPanels, TwoAngleChart, PhasorDiagram, ColourImage };
+
+/// Which methods a graph takes.
+enum class MethodsTaken {
+  Any,
+  MieAlone,              ///< others are refused
+  MieInstead,            ///< others give way to Mie
+  DebyeAlone,            ///< others are refused
+  Series,                ///< those that sum partial waves
+  SeriesAndClosedForms,  ///< those that have efficiencies
+};
+
+/// The numbers by which files and scripts name a graph.
+struct GraphCode {
+  int type = 1;
+  int subType = 1;  ///< 0 in the table below: any
+  bool operator==(const GraphCode&) const = default;
+};
+
+/// One graph, as far as a run and the kinds of drawing need it.
+struct Graph {
+  GraphCode code;
+  Family family = Family::Angle;
+  AxisVariable axis = AxisVariable::Angle;
+  Quantity quantity = Quantity::Intensity;
+  Drawing drawing = Drawing::Curves;
+  MethodsTaken methods = MethodsTaken::Any;
+
+  /// Rows of scattering angle along the axis.
+  bool AgainstAngle() const { return family == Family::Angle; }
+  /// Points along an axis, those of the families of one point included.
+  bool AgainstAxis() const {
+    return family == Family::Axis || family == Family::Convergence || family == Family::DebyeAnalysis ||
+           family == Family::EfficiencyPulse;
+  }
+  bool WavelengthAxis() const {
+    return axis == AxisVariable::Wavelength && (family == Family::Axis || family == Family::EfficiencyPulse);
+  }
+  /// The size of the sphere runs along the axis.
+  bool SizeAxis() const {
+    return axis == AxisVariable::Radius || axis == AxisVariable::Diameter || axis == AxisVariable::SizeParameter;
+  }
+  /// Intensity or its like at one scattering angle, which is asked for.
+  bool AtOneAngle() const {
+    return AgainstAxis() && (quantity == Quantity::Intensity || quantity == Quantity::ScatteringMatrix ||
+                             quantity == Quantity::Remainder);
+  }
+  /// Efficiencies and what follows from them.
+  bool OfEfficiencies() const {
+    switch (quantity) {
+      case Quantity::Efficiencies:
+      case Quantity::CrossSections:
+      case Quantity::Qback:
+      case Quantity::Qradar:
+      case Quantity::Asymmetry:
+      case Quantity::Albedo:
+        return true;
+      default:
+        return false;
+    }
+  }
+  /// Integrals over all angles, so that the solver is asked for every row.
+  bool NeedsAllRows() const {
+    return AgainstAngle() && (quantity == Quantity::PhaseFunction || quantity == Quantity::Irradiance ||
+                              quantity == Quantity::CumulativeProbability);
+  }
+  /// Colours of cells: Lee diagrams and maps.
+  bool InColour() const {
+    return family == Family::Lee || family == Family::AngleMap || family == Family::EfficiencyMap;
+  }
+  bool operator==(const Graph&) const = default;
+};
+
+/// All graphs, by code.
+std::span<const Graph> GraphTraitsTable();
+
+/// The graph of that code; where there is none, intensity against angle.
+const Graph& GraphOf(GraphCode code);
+
+}  // namespace lumivex

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <istream>
+#include <string>
+#include <vector>
+
+#include "materials/index/table_lookup.h"
+
+namespace lumivex {
+
+/// A measured table of refractive index; first index 1, row 0 stands empty.
+struct IndexTable {
+  std::string name;           ///< of the material
+  std::vector<float> lambda;  ///< um
+  std::vector<IndexRow> rows;
+  int count = 0;
+
+  FileTable View() const { return {lambda, rows, count}; }
+  void Add(float wavelength, float n, float k);
+};
+
+/// What is wrong with an index file.
+enum class IndexFileFault {
+  None,
+  FirstLine,  ///< no file of this kind; detail is what the line reads
+  Unit,       ///< line 14
+  Type,       ///< line 15
+  Data        ///< detail names the line
+};
+
+struct IndexFileResult {
+  IndexFileFault fault = IndexFileFault::None;
+  std::string detail;
+  IndexTable table;
+};
+
+/// Most rows of a table.
+inline constexpr int mostTableRows = 32767;
+
+/// Reads the format .rix: "Lumivex 300", eleven lines of free text, the material's name, the unit of wavelength, "Real"
+/// or "Complex", the number of rows, the rows (wavelength, n and for "Complex" k). A line is an item (see InputItems).
+/// Wavelengths become micrometres in single precision. That they ascend is not tested.
+IndexFileResult ReadIndexFile(std::istream& stream);
+
+}  // namespace lumivex

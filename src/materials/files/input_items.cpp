@@ -1,0 +1,164 @@
+#include "materials/files/input_items.h"
+
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <filesystem>
+#include <limits>
+#include <system_error>
+
+namespace lumivex {
+
+namespace {
+
+constexpr std::size_t longestItem = 4096;
+constexpr int endOfFile = std::char_traits<char>::eof();
+constexpr std::size_t longestQuote = 40;  ///< of an item in a message
+
+bool IsBlank(int c) {
+  return c == ' ' || c == '\t';
+}
+
+bool IsLineEnd(int c) {
+  return c == '\n' || c == '\r';
+}
+
+void Append(std::string& text, int c) {
+  if (text.size() < longestItem) text += static_cast<char>(c);
+}
+
+}  // namespace
+
+InputItems::InputItems(std::istream& stream) : buffer_(stream.rdbuf()) {
+  for (const int mark : {0xEF, 0xBB, 0xBF})
+    if (Peek() == mark) Take();
+}
+
+int InputItems::Take() {
+  return buffer_->sbumpc();
+}
+
+void InputItems::TakeLineEnd() {
+  const int first = Take();
+  if (first == '\r' && Peek() == '\n') Take();
+  if (line_ < std::numeric_limits<int>::max()) ++line_;
+}
+
+void InputItems::SkipBlanks() {
+  while (IsBlank(Peek())) Take();
+}
+
+std::string InputItems::Unquoted() {
+  std::string text;
+  while (Peek() != endOfFile && Peek() != ',' && !IsLineEnd(Peek())) Append(text, Take());
+  while (!text.empty() && IsBlank(text.back())) text.pop_back();
+  return text;
+}
+
+std::string InputItems::Quoted() {
+  std::string text;
+  Take();
+  while (Peek() != endOfFile && Peek() != '"' && !IsLineEnd(Peek())) Append(text, Take());
+  if (Peek() == '"') Take();
+  while (Peek() != endOfFile && Peek() != ',' && !IsLineEnd(Peek())) Take();
+  return text;
+}
+
+std::optional<std::string> InputItems::TextIfAny() {
+  if (Failed()) return std::nullopt;
+  SkipBlanks();
+  if (Peek() == endOfFile) return std::nullopt;
+  itemLine_ = line_;
+  std::string text = Peek() == '"' ? Quoted() : Unquoted();
+  if (Peek() == ',')
+    Take();
+  else if (IsLineEnd(Peek()))
+    TakeLineEnd();
+  return text;
+}
+
+std::string InputItems::Text() {
+  auto text = TextIfAny();
+  if (text) return std::move(*text);
+  itemLine_ = line_;
+  Fail("the file ends too early");
+  return {};
+}
+
+void InputItems::Skip(int items) {
+  for (int i = 0; i < items && !Failed(); ++i) Text();
+}
+
+std::string InputItems::NumberToken() {
+  while (IsBlank(Peek()) || IsLineEnd(Peek())) {
+    if (IsBlank(Peek()))
+      Take();
+    else
+      TakeLineEnd();
+  }
+  itemLine_ = line_;
+  std::string token;
+  while (Peek() != endOfFile && Peek() != ',' && !IsBlank(Peek()) && !IsLineEnd(Peek())) Append(token, Take());
+  SkipBlanks();
+  if (Peek() == ',')
+    Take();
+  else if (IsLineEnd(Peek()))
+    TakeLineEnd();
+  return token;
+}
+
+double InputItems::Number() {
+  if (Failed()) return 0;
+  const bool more = Peek() != endOfFile;
+  const std::string token = NumberToken();
+  if (const auto number = NumberOfItem(token)) return *number;
+  if (token.empty() && (!more || Peek() == endOfFile))
+    Fail("the file ends too early");
+  else
+    Fail("\"" + token.substr(0, longestQuote) + "\" is not a number");
+  return 0;
+}
+
+float InputItems::Single() {
+  const double number = Number();
+  if (std::abs(number) > static_cast<double>(std::numeric_limits<float>::max())) {
+    Fail("a number is too large");
+    return 0;
+  }
+  return static_cast<float>(number);
+}
+
+int InputItems::Whole(int lowest, int highest) {
+  const double number = std::nearbyint(Number());
+  if (Failed()) return lowest;
+  if (number >= lowest && number <= highest) return static_cast<int>(number);
+  Fail("a number from " + std::to_string(lowest) + " to " + std::to_string(highest) + " is needed");
+  return lowest;
+}
+
+void InputItems::Fail(std::string_view reason) {
+  if (!Failed()) failure_ = "Line " + std::to_string(itemLine_) + ": " + std::string(reason);
+}
+
+std::optional<double> NumberOfItem(std::string_view text) {
+  std::string clean(text.starts_with('+') ? text.substr(1) : text);
+  if (clean.starts_with('+')) return std::nullopt;
+  for (char& c : clean)
+    if (c == 'd' || c == 'D') c = 'e';
+  double value = 0;
+  const auto [end, error] = std::from_chars(clean.data(), clean.data() + clean.size(), value);
+  if (error != std::errc{} || end != clean.data() + clean.size() || !std::isfinite(value)) return std::nullopt;
+  return value;
+}
+
+std::string OpenInput(std::ifstream& file, const std::string& path) {
+  std::error_code error;
+  const auto status = std::filesystem::status(path, error);
+  if (!std::filesystem::exists(status)) return "The file is not there";
+  if (std::filesystem::is_directory(status)) return "This is a folder, not a file";
+  if (!std::filesystem::is_regular_file(status)) return "This is not a file that can be read";
+  file.open(path, std::ios::binary);
+  return file ? "" : "The file cannot be read";
+}
+
+}  // namespace lumivex

@@ -1,0 +1,292 @@
+#include "pages/curve_path.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <iterator>
+#include <limits>
+#include <span>
+
+#include "axes/curve_smoothing.h"
+#include "axes/polar_coordinates.h"
+#include "pages/polar_plot.h"
+
+namespace lumivex {
+
+namespace {
+
+constexpr double degree = 3.14159265358979 / 180;
+constexpr double notThere = std::numeric_limits<double>::quiet_NaN();
+
+/// Half the size of a mark (surface units).
+constexpr double markSize = 70;
+
+/// Values at or below it count as nothing on a logarithmic axis.
+constexpr double logFloor = 1e-300;
+
+/// Parts of the way from one point to the next with cubic interpolation.
+constexpr int piecesPerPoint = 10;
+
+using Runs = std::vector<std::vector<SurfacePoint>>;
+
+bool IsFinite(const SurfacePoint& p) {
+  return std::isfinite(p.x) && std::isfinite(p.y);
+}
+
+PanelMap MapOf(const GraphState& graph, const KeptPanel& panel) {
+  return {panel.box, panel.limits, graph.Drawn.kind.logX, panel.logY};
+}
+
+SurfacePoint Placed(const PanelMap& map, double x, double value) {
+  if (map.logY && std::isfinite(value)) value = value <= logFloor ? map.limits.ymin : std::min(value, map.limits.ymax);
+  return {map.X(x), map.Y(value)};
+}
+
+/// The part of a segment inside the box, as parameters from 0 to 1; false where there is none.
+bool ClipSegment(const GraphBox& box, SurfacePoint a, SurfacePoint b, double& from, double& to) {
+  from = 0;
+  to = 1;
+  const auto cut = [&](double delta, double room) {
+    // delta t <= room
+    if (delta == 0) return room >= 0;
+    const double t = room / delta;
+    if (delta > 0)
+      to = std::min(to, t);
+    else
+      from = std::max(from, t);
+    return from <= to;
+  };
+  const double dx = b.x - a.x, dy = b.y - a.y;
+  return cut(-dx, a.x - box.left) && cut(dx, box.right - a.x) && cut(-dy, a.y - box.top) && cut(dy, box.bottom - a.y);
+}
+
+/// Box edges count as inside to within rounding.
+GraphBox WithRounding(GraphBox box) {
+  constexpr double rounding = 1e-6;
+  return {box.left - rounding, box.right + rounding, box.top - rounding, box.bottom + rounding};
+}
+
+Runs ClippedRuns(const std::vector<SurfacePoint>& points, const GraphBox& edges) {
+  const GraphBox box = WithRounding(edges);
+  Runs runs;
+  bool open = false;
+  for (std::size_t i = 0; i < points.size(); ++i) {
+    if (!IsFinite(points[i])) {
+      open = false;
+      continue;
+    }
+    const bool joined = i > 0 && IsFinite(points[i - 1]);
+    if (!joined) {
+      open = box.Holds(points[i].x, points[i].y);
+      if (open) runs.push_back({points[i]});
+      continue;
+    }
+    const SurfacePoint a = points[i - 1], b = points[i];
+    double from = 0, to = 1;
+    if (!ClipSegment(box, a, b, from, to)) {
+      open = false;
+      continue;
+    }
+    const auto at = [&](double t) { return SurfacePoint{a.x + t * (b.x - a.x), a.y + t * (b.y - a.y)}; };
+    if (!open || from > 0) runs.push_back({at(from)});
+    runs.back().push_back(to < 1 ? at(to) : b);
+    open = to >= 1;
+  }
+  return runs;
+}
+
+Runs UnclippedRuns(const std::vector<SurfacePoint>& points) {
+  Runs runs;
+  bool open = false;
+  for (const auto& p : points) {
+    if (!IsFinite(p)) {
+      open = false;
+      continue;
+    }
+    if (!open) runs.emplace_back();
+    runs.back().push_back(p);
+    open = true;
+  }
+  return runs;
+}
+
+/// A cubic through every four neighbours; between the middle pair only, but for the two ends of the run.
+std::vector<SurfacePoint> Interpolated(const std::vector<SurfacePoint>& run) {
+  if (run.size() < 4) return run;
+  std::vector<SurfacePoint> smooth{run.front()};
+  smooth.reserve(run.size() * piecesPerPoint);
+  for (std::size_t i = 0; i + 1 < run.size(); ++i) {
+    const std::size_t window = std::clamp<std::size_t>(i, 1, run.size() - 3) - 1;
+    const std::array<double, 4> y = {run[window].y, run[window + 1].y, run[window + 2].y, run[window + 3].y};
+    const double start = static_cast<double>(i) - static_cast<double>(window) - 1;
+    for (int piece = 1; piece <= piecesPerPoint; ++piece) {
+      const double part = static_cast<double>(piece) / piecesPerPoint;
+      smooth.push_back({run[i].x + part * (run[i + 1].x - run[i].x), CubicThrough(y, start + part)});
+    }
+  }
+  return smooth;
+}
+
+std::vector<SurfacePoint> InterpolatedPoints(const std::vector<SurfacePoint>& points) {
+  std::vector<SurfacePoint> all;
+  for (const auto& run : UnclippedRuns(points)) {
+    const auto smooth = Interpolated(run);
+    all.insert(all.end(), smooth.begin(), smooth.end());
+    all.push_back({notThere, notThere});
+  }
+  return all;
+}
+
+void DrawMarks(Session& session, const KeptPanel& panel, const KeptCurve& curve) {
+  auto& surface = *session.surface;
+  const bool polar = session.state.Drawn.kind.polar, matrix = session.state.Drawn.kind.IsMatrix();
+  const GraphBox box = WithRounding(panel.box);
+  for (const auto& [row, p] : PlacedRows(session.state, panel, curve)) {
+    if (!IsFinite(p) || (!polar && !box.Holds(p.x, p.y))) continue;
+    surface.ForeColour = row < curve.colours.size() ? curve.colours[row] : curve.colour;
+    if (curve.kind == 1) surface.Circle(p.x, p.y, markSize, surface.ForeColour);
+    if (curve.kind == 2) {
+      surface.Line(p.x - markSize, p.y - markSize, p.x + markSize, p.y + markSize);
+      surface.Line(p.x - markSize, p.y + markSize, p.x + markSize, p.y - markSize);
+    }
+    // The mean of the other two has no mark; the third ratio of the matrix is a curve of its own.
+    if (curve.kind == 3 && matrix) {
+      surface.Line(p.x - markSize, p.y, p.x + markSize, p.y);
+      surface.Line(p.x, p.y - markSize, p.x, p.y + markSize);
+    }
+  }
+}
+
+void DrawRun(DrawingSurface& surface, std::span<const SurfacePoint> run) {
+  if (run.size() > 1)
+    surface.Polyline(run);
+  else
+    surface.PSet(run.front().x, run.front().y, surface.ForeColour);
+}
+
+/// Runs of a curve that changes its colour from row to row: pieces of one colour, which meet.
+void DrawColoured(Session& session, const KeptPanel& panel, const KeptCurve& curve) {
+  auto& surface = *session.surface;
+  auto rows = PlacedRows(session.state, panel, curve);
+  std::erase_if(rows, [](const PlacedRow& placed) { return !std::isfinite(placed.point.x); });
+  const auto colourAt = [&](double x) {
+    const auto after = std::ranges::lower_bound(rows, x, {}, [](const PlacedRow& placed) { return placed.point.x; });
+    const auto nearest =
+        after == rows.end() || (after != rows.begin() && x - std::prev(after)->point.x < after->point.x - x)
+            ? std::prev(after)
+            : after;
+    return nearest->row < curve.colours.size() ? curve.colours[nearest->row] : curve.colour;
+  };
+  for (const auto& run : CurveRuns(session.state, panel, curve)) {
+    std::size_t first = 0;
+    surface.ForeColour = colourAt(run.front().x);
+    for (std::size_t i = 1; i < run.size(); ++i) {
+      const Colour colour = colourAt(0.5 * (run[i - 1].x + run[i].x));
+      if (colour == surface.ForeColour) continue;
+      if (i > first + 1) DrawRun(surface, std::span(run).subspan(first, i - first));
+      first = i - 1;
+      surface.ForeColour = colour;
+    }
+    DrawRun(surface, std::span(run).subspan(first));
+  }
+}
+
+}  // namespace
+
+RowSpan RowsWithin(std::span<const double> x, XRange range) {
+  const double beyond = 1e-6 * (range.xmax - range.xmin);
+  const auto within = [&](double value) { return value >= range.xmin - beyond && value <= range.xmax + beyond; };
+  RowSpan rows;
+  for (std::size_t i = 1; i < x.size(); ++i) {
+    if (!within(x[i])) continue;
+    if (rows.Empty()) rows.first = i;
+    rows.last = i;
+  }
+  return rows;
+}
+
+double DrawnValue(const KeptCurve& curve, std::size_t row, RowSpan shown) {
+  if (!(curve.averageRows > 0) || row < shown.first || row > shown.last) return curve.y[row];
+  return RunningMean(curve.y, row, curve.averageRows, shown.first, shown.last);
+}
+
+double PolarMap::Distance(double value) const {
+  if (!std::isfinite(value)) return notThere;
+  if (!logarithmic) return radius * std::clamp(value / outer, 0.0, 1.0);
+  const double shown = value > 0 ? value : inner / 10;
+  return radius * std::clamp(std::log(shown / inner) / std::log(outer / inner), 0.0, 1.0);
+}
+
+SurfacePoint PolarMap::Point(double angleDegrees, double value) const {
+  const double r = Distance(value);
+  SurfacePoint p;
+  PolarRectangular(r, angleDegrees * degree, p.x, p.y);
+  return {centreX + p.x, centreY + p.y};
+}
+
+PolarMap PolarMapOf(const GraphState& graph, const GraphKind& kind, const AxisLimits& limits) {
+  PolarMap map{graph.PolarCentreX, graph.PolarCentreY, static_cast<double>(graph.PolarRadius),
+               limits.ymin,        limits.ymax,        kind.logY};
+  // The curve is the modulus of the amplitude, the limits were chosen for its square.
+  if (kind.ampPhase && !kind.amplitude) {
+    map.inner = std::sqrt(std::max(limits.ymin, 0.0));
+    map.outer = std::sqrt(std::max(limits.ymax, 0.0));
+  }
+  if (!(map.outer > 0)) map.outer = 1;
+  return map;
+}
+
+std::vector<PlacedRow> PlacedRows(const GraphState& graph, const KeptPanel& panel, const KeptCurve& curve) {
+  std::vector<PlacedRow> placed;
+  const std::size_t size = std::min(curve.x.size(), curve.y.size());
+  if (graph.Drawn.kind.polar) {
+    const PolarMap map = PolarMapOf(graph, graph.Drawn.kind, panel.limits);
+    const RowSpan all{1, size > 0 ? size - 1 : 0};
+    for (std::size_t i = 1; i < size; ++i) placed.push_back({i, map.Point(curve.x[i], DrawnValue(curve, i, all))});
+    return placed;
+  }
+  const RowSpan shown = RowsWithin(curve.x, {panel.limits.xmin, panel.limits.xmax});
+  if (shown.Empty()) return placed;
+  const PanelMap map = MapOf(graph, panel);
+  // One row beyond each end, so that a zoomed curve runs on to the edge of the box.
+  const std::size_t first = std::max<std::size_t>(1, shown.first - 1), last = std::min(size - 1, shown.last + 1);
+  placed.reserve(last - first + 1);
+  for (std::size_t i = first; i <= last; ++i)
+    placed.push_back({i, Placed(map, curve.x[i], DrawnValue(curve, i, shown))});
+  return placed;
+}
+
+std::vector<std::vector<SurfacePoint>> CurveRuns(const GraphState& graph, const KeptPanel& panel,
+                                                 const KeptCurve& curve) {
+  std::vector<SurfacePoint> points;
+  std::size_t before = 0;
+  for (const auto& placed : PlacedRows(graph, panel, curve)) {
+    // From 360 degrees back to 0 there is no line.
+    if (curve.wraps && before > 0 && std::abs(curve.y[placed.row] - curve.y[before]) > 180)
+      points.push_back({notThere, notThere});
+    points.push_back(placed.point);
+    before = placed.row;
+  }
+  if (graph.Drawn.kind.polar) return UnclippedRuns(points);
+  return ClippedRuns(curve.interpolate ? InterpolatedPoints(points) : points, panel.box);
+}
+
+void DrawCurve(Session& session, const KeptPanel& panel, const KeptCurve& curve) {
+  auto& surface = *session.surface;
+  surface.ForeColour = curve.colour;
+  surface.DrawStyle = curve.drawStyle;
+  surface.DrawWidth = curve.drawWidth;
+  surface.FillStyle = 1;
+  if (curve.markers) {
+    DrawMarks(session, panel, curve);
+  } else if (!curve.colours.empty() && !session.state.Drawn.kind.polar) {
+    DrawColoured(session, panel, curve);
+  } else {
+    for (const auto& run : CurveRuns(session.state, panel, curve)) DrawRun(surface, run);
+  }
+  surface.DrawStyle = 0;
+  surface.DrawWidth = 1;
+  if (session.state.Drawn.kind.polar) PaintPolarTicks(session, panel, curve);
+}
+
+}  // namespace lumivex

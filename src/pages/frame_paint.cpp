@@ -1,0 +1,116 @@
+#include "pages/frame_paint.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace lumivex {
+
+namespace {
+
+/// Room between two labels (surface units).
+constexpr double labelGap = 50;
+
+/// Room between the longest tick and a label of the vertical axis.
+constexpr double roomForTick = 130;
+
+/// Left edge of the surface that text keeps from.
+constexpr double surfaceMargin = 30;
+
+constexpr double smallestFont = 6;
+
+Colour GridColour(const Form1& form, const GraphKind& kind) {
+  if (form.mnuWhite.Checked) return RGB(192, 192, 192);
+  if (form.mnuBlack.Checked) return RGB(64, 128, 128);
+  if (form.mnuGrey.Checked) return RGB(64, 64, 64);
+  return kind.numberWavelengths == 1 ? RGB(128, 255, 255) : RGB(64, 64, 64);
+}
+
+}  // namespace
+
+GraphSize SizeTicked(const Form1& form) {
+  if (form.mnuSmall.Checked) return GraphSize::Small;
+  if (form.mnuMedium.Checked) return GraphSize::Medium;
+  return form.mnuVLarge.Checked ? GraphSize::VeryLarge : GraphSize::Large;
+}
+
+bool TickLabels::HasRoom(double x, double y, double width, double height) const {
+  return std::none_of(taken_.begin(), taken_.end(), [&](const GraphBox& box) {
+    return x < box.right + labelGap && x + width + labelGap > box.left && y < box.bottom && y + height > box.top;
+  });
+}
+
+bool TickLabels::Print(std::string_view text, double x, double y) {
+  const double width = surface_->TextWidth(text);
+  const double height = surface_->TextHeight(text);
+  if (!HasRoom(x, y, width, height)) return false;
+  Take(x, y, width, height);
+  surface_->CurrentX = x;
+  surface_->CurrentY = y;
+  surface_->Print(text, false);
+  return true;
+}
+
+double TickLabels::HighestTop(double left, double right, double otherwise) const {
+  double top = otherwise;
+  for (const auto& box : taken_)
+    if (box.left < right && box.right > left) top = std::min(top, box.top);
+  return top;
+}
+
+void TickLabels::Take(double x, double y, double width, double height) {
+  taken_.push_back({x, x + width, y, y + height});
+}
+
+FramePaint::FramePaint(Session& theSession, const GraphKind& graphKind, const KeptPanel& panel)
+    : session(theSession),
+      surface(*theSession.surface),
+      kind(graphKind),
+      map{panel.box, panel.limits, graphKind.logX, panel.logY},
+      place(panel.place),
+      second(panel.second),
+      size(SizeTicked(theSession.form1)),
+      special(theSession.form1.mnuSizeSpecial.Checked),
+      gridColour(GridColour(theSession.form1, graphKind)),
+      labels(surface) {}
+
+void FramePaint::Rule(double x1, double y1, double x2, double y2, Colour colour) const {
+  surface.ForeColour = colour;
+  surface.Line(x1, y1, x2, y2);
+  surface.ForeColour = colours::Black;
+}
+
+void FramePaint::VerticalLine(double x, Colour colour) const {
+  const bool atEnd = std::min(std::abs(x - Box().left), std::abs(x - Box().right)) < 1;
+  Rule(x, Box().top, x, Box().bottom, atEnd ? colours::Black : colour);
+}
+
+void FramePaint::HorizontalLine(double y, Colour colour) const {
+  const bool atEnd = std::min(std::abs(y - Box().top), std::abs(y - Box().bottom)) < 1;
+  Rule(Box().left, y, Box().right, y, atEnd ? colours::Black : colour);
+}
+
+void FramePaint::TickBelow(double x, double length) const {
+  Rule(x, Box().bottom, x, Box().bottom + length, colours::Black);
+}
+
+void FramePaint::TickLeft(double y, double length) const {
+  Rule(Box().left - length, y, Box().left, y, colours::Black);
+}
+
+bool FramePaint::LabelBelow(std::string_view text, double x, double y) {
+  const double width = surface.TextWidth(text);
+  const double rightmost = std::max(surfaceMargin, surface.ScaleWidth() - width - surfaceMargin);
+  return labels.Print(text, std::clamp(x - 0.5 * width, surfaceMargin, rightmost), y);
+}
+
+bool FramePaint::LabelLeft(std::string_view text, double y) {
+  const double fontSize = surface.FontSize;
+  const double room = Box().left - roomForTick - surfaceMargin;
+  while (surface.TextWidth(text) > room && surface.FontSize > smallestFont) surface.FontSize -= 1;
+  const double x = std::max(surfaceMargin, Box().left - roomForTick - surface.TextWidth(text));
+  const bool printed = labels.Print(text, x, y - 0.5 * surface.TextHeight(text));
+  surface.FontSize = fontSize;
+  return printed;
+}
+
+}  // namespace lumivex

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "axes/panel_map.h"
+#include "record/session.h"
+
+namespace lumivex {
+
+enum class GraphSize { Small, Medium, Large, VeryLarge };
+
+/// The size ticked in the menu; "Large" where none is.
+GraphSize SizeTicked(const Form1& form);
+
+/// The texts along an axis: a text that would touch one placed before it is left out.
+class TickLabels {
+ public:
+  /// @param taken  places taken already.
+  explicit TickLabels(DrawingSurface& surface, std::vector<GraphBox> taken = {})
+      : surface_(&surface), taken_(std::move(taken)) {}
+
+  /// Whether a text of that size has room with its top left corner at the place.
+  bool HasRoom(double x, double y, double width, double height) const;
+  /// Prints the text where there is room, and remembers the place. @return whether there was room.
+  bool Print(std::string_view text, double x, double y);
+  /// Top of the highest text from left to right, or `otherwise` where there is none.
+  double HighestTop(double left, double right, double otherwise) const;
+  /// Remembers a place taken by other means.
+  void Take(double x, double y, double width, double height);
+  const std::vector<GraphBox>& Taken() const { return taken_; }
+
+ private:
+  DrawingSurface* surface_;
+  std::vector<GraphBox> taken_;
+};
+
+/// Everything that the painters of one frame share.
+struct FramePaint {
+  FramePaint(Session& theSession, const GraphKind& graphKind, const KeptPanel& panel);
+
+  Session& session;
+  DrawingSurface& surface;
+  const GraphKind& kind;
+  PanelMap map;
+  PanelPlace place;
+  bool second;  ///< the panel of phases or polarisation
+  GraphSize size;
+  bool special;       ///< large bold text for slides
+  Colour gridColour;  ///< of grid lines, by the background
+  TickLabels labels;
+
+  const GraphBox& Box() const { return map.box; }
+  /// A line in a colour.
+  void Rule(double x1, double y1, double x2, double y2, Colour colour) const;
+  /// Full-height and full-width lines; at the ends of the axis they are black.
+  void VerticalLine(double x, Colour colour) const;
+  void HorizontalLine(double y, Colour colour) const;
+  /// Black ticks outward from the bottom and the left side.
+  void TickBelow(double x, double length) const;
+  void TickLeft(double y, double length) const;
+  /// Text centred under the axis at x; the two ends of a wide text stay on the surface.
+  bool LabelBelow(std::string_view text, double x, double y);
+  /// Text that ends left of the axis, beside y; a text that is too wide for the margin is set smaller.
+  bool LabelLeft(std::string_view text, double y);
+};
+
+/// Ticks, grid lines and numbers of the horizontal axis.
+void PaintXAxis(FramePaint& paint);
+/// Ticks, grid lines and numbers of the vertical axis.
+void PaintYAxis(FramePaint& paint);
+/// Titles of both axes.
+void PaintAxisTitles(FramePaint& paint);
+
+/// Title of the horizontal axis of a graph; empty where it has none.
+std::string_view XAxisTitle(const GraphKind& kind);
+
+}  // namespace lumivex

@@ -1,0 +1,124 @@
+#include <algorithm>
+
+#include "pages/frame_paint.h"
+
+namespace lumivex {
+
+namespace {
+
+/// Air between the title of the vertical axis and its highest number.
+constexpr double aboveNumbers = 15;
+
+constexpr double smallestFont = 6;
+
+void Restore(DrawingSurface& surface) {
+  surface.FontName = "MS Sans Serif";
+  surface.FontSize = 8;
+  surface.FontBold = false;
+}
+
+void PrintAt(DrawingSurface& surface, double x, double y, std::string_view text) {
+  surface.CurrentX = x;
+  surface.CurrentY = y;
+  surface.Print(text, false);
+}
+
+/// Title of the vertical axis at x 50, its line above the highest number; the title of the run stands to the right.
+/// @param y  where it starts if there is room.
+void PrintAbove(FramePaint& paint, double y, std::string_view title) {
+  auto& surface = paint.surface;
+  const double fontSize = surface.FontSize;
+  const double margin = paint.Box().left - 70;
+  while (50 + surface.TextWidth(title) > margin && surface.FontSize > smallestFont) surface.FontSize -= 0.5;
+  const double highest = paint.labels.HighestTop(0, paint.Box().left, paint.Box().top);
+  const double height = surface.TextHeight(title);
+  const double top = std::min(y, highest - aboveNumbers - height);
+  PrintAt(surface, 50, top, title);
+  paint.labels.Take(50, top, surface.TextWidth(title), height);
+  surface.FontSize = fontSize;
+}
+
+void PaintXTitle(FramePaint& paint) {
+  auto& surface = paint.surface;
+  const auto& box = paint.Box();
+  const std::string_view title = XAxisTitle(paint.kind);
+  // Larger numbers reach further down.
+  const double belowNumbers = std::max(150.0, 0.5 * surface.TextHeight("X") + 4) + surface.TextHeight("X");
+  const double y = box.bottom + std::max(paint.special ? 450.0 : 350.0, belowNumbers);
+  PrintAt(surface, 0.5 * (box.left + box.right) - 0.5 * surface.TextWidth(title), y, title);
+}
+
+void PaintBackscatterTitle(FramePaint& paint, std::string_view title) {
+  auto& surface = paint.surface;
+  surface.FontBold = true;
+  const double y = 0.5 * (paint.Box().top + paint.Box().bottom);
+  const double width = surface.TextWidth(title), height = surface.TextHeight(title);
+  // A number may stand at half height: the title keeps above it.
+  for (const double shift : {0.0, -1.5 * height, 1.5 * height, -3 * height, 3 * height}) {
+    if (!paint.labels.HasRoom(30, y + shift, width, height)) continue;
+    PrintAt(surface, 30, y + shift, title);
+    return;
+  }
+}
+
+void PaintWattsTitle(FramePaint& paint) {
+  auto& surface = paint.surface;
+  const double highest = paint.labels.HighestTop(0, paint.Box().left, paint.Box().top);
+  const double y = std::min(paint.Box().top - 480, highest - aboveNumbers - surface.TextHeight("X"));
+  PrintAt(surface, 140, y, "Watts/m");
+  surface.FontName = "Small Fonts";
+  surface.FontSize = 7;
+  PrintAt(surface, std::max(770.0, surface.CurrentX + 10), y - 50, "2");
+}
+
+void PaintYTitle(FramePaint& paint) {
+  auto& surface = paint.surface;
+  const GraphKind& kind = paint.kind;
+  const int type = kind.graphType, sub = kind.graphSubType;
+  const double top = paint.Box().top;
+  const double line = surface.TextHeight("X");
+  const bool efficiencies = type == 14 || type == 15;
+  const bool intensities = (type == 1 && sub == 1) || (type == 10 && sub == 1) || type == 11 || type == 12;
+  if (efficiencies && (sub == 2 || sub == 4)) {
+    PrintAbove(paint, top - 500, "Area (sq m)");
+  } else if (efficiencies && sub >= 7 && sub <= 9) {
+    PaintBackscatterTitle(paint, "Qback");
+  } else if (efficiencies && sub >= 10 && sub <= 12) {
+    PaintBackscatterTitle(paint, "Qradar");
+  } else if (type == 16) {
+    PrintAbove(paint, top - 400, "Parameter");
+    PrintAbove(paint, top - 600, "Asymmetry");
+  } else if (type == 17) {
+    PrintAbove(paint, top - 600, "Albedo");
+  } else if (type == 18) {
+    PrintAbove(paint, top - 600, "Power (W)");
+  } else if (kind.IsMatrix()) {
+    if (!paint.second) PrintAbove(paint, top - 600 + line, " S11");
+  } else if (paint.second) {
+    const double y = std::min(top - 350, top - 0.5 * line - line);
+    PrintAt(surface, 50, y, kind.ampPhase ? "Phase angle" : "Degree of linear polarisation");
+  } else if (intensities) {
+    // One blank line below the place of the title.
+    PrintAbove(paint, top - 600 + line, kind.amplitude ? " Amplitude" : " Intensity");
+  } else if (type == 1 && sub == 3) {
+    PaintWattsTitle(paint);
+  } else if (kind.IsTwoAngle()) {
+    // The unit on a line of its own: the margin is narrow.
+    const std::string_view title = kind.yTitle;
+    const auto unit = std::min(title.find('('), title.size());
+    PrintAbove(paint, top - 600 + line, title.substr(unit));
+    PrintAbove(paint, top - 600, title.substr(0, unit));
+  }
+}
+
+}  // namespace
+
+void PaintAxisTitles(FramePaint& paint) {
+  // The upper of two panels shares the title of the horizontal axis with the lower one.
+  if (paint.place != PanelPlace::Upper) PaintXTitle(paint);
+  Restore(paint.surface);
+  if (paint.kind.numberWavelengths <= 1) PaintYTitle(paint);
+  Restore(paint.surface);
+}
+
+}  // namespace lumivex

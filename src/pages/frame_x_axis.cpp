@@ -1,0 +1,219 @@
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "pages/frame_paint.h"
+#include "pages/scale.h"
+#include "record/number_text.h"
+
+namespace lumivex {
+
+namespace {
+
+/// More ticks than any graph has: a loop that counts past it has gone wrong.
+constexpr int mostTicks = 2000;
+
+/// From this value up an axis prints powers of ten.
+constexpr double scientificFrom = 100000;
+
+constexpr double minorTick = 75, majorTick = 120;
+constexpr double labelBelowBox = 150, logLabelBelowBox = 100;
+
+/// Calls visit(value) for the multiples of a step from just above xmin to just above xmax.
+template <class Visit>
+void ForEachTick(double step, int decimals, AxisLimits limits, Visit&& visit) {
+  const double first = RoundTo(step * (std::floor(limits.xmin / step) + 1), decimals);
+  const double last = RoundTo(step * (std::floor(limits.xmax / step) + 1), decimals);
+  for (int i = 0; i < mostTicks; ++i) {
+    const double value = RoundTo(first + i * step, decimals);
+    if (!(value <= last + 0.5 * step)) return;
+    visit(value);
+  }
+}
+
+std::string EndText(double value, double range) {
+  double shown = value;
+  if (value != 0 && value <= 10 && value > 0.05 && range >= 1e-5) shown = RoundTo(value, range < 0.001 ? 6 : 5);
+  if (shown >= scientificFrom) return Format(shown, "Scientific");
+  return Format(shown, range < 1e-5 ? "###,##0.#########" : "###,##0.#######");
+}
+
+struct LinearTicks {
+  double step, labelStep;
+  int decimals;
+};
+
+LinearTicks ChooseTicks(FramePaint& paint) {
+  auto& graph = paint.session.state;
+  const auto& limits = paint.map.limits;
+  double step = 0, range = 0, labelStep = 0;
+  GridxStep(graph, limits.xmin, limits.xmax, step, range, labelStep);
+  labelStep = 2 * step;
+  if (paint.size == GraphSize::Small) {
+    if (limits.xmax == 180)
+      labelStep = 60;
+    else if (range / labelStep > 6)
+      labelStep *= 2;
+  } else if (range == 180 || range == 360) {
+    step = 10;
+    labelStep = 30;
+  }
+  graph.GridOddTest = limits.xmin;
+  if (range == 10 && IsOdd(graph.GridOddTest)) {
+    step = 1;
+    labelStep = 5;
+  }
+  return {step, labelStep, TickDecimals(range, limits.xmax, step)};
+}
+
+/// Top of the numbers: clear of the lowest number of the vertical axis, which reaches below the box by half a line.
+double TopOfNumbers(const FramePaint& paint, double belowBox) {
+  return paint.Box().bottom + std::max(belowBox, 0.5 * paint.surface.TextHeight("X") + 4);
+}
+
+void PaintLinear(FramePaint& paint) {
+  const auto& box = paint.Box();
+  const auto& limits = paint.map.limits;
+  const double range = limits.xmax - limits.xmin;
+  paint.TickBelow(box.left, 50);
+  paint.TickBelow(box.right, 100);
+  const LinearTicks ticks = ChooseTicks(paint);
+  const bool gridLines = paint.session.form1.mnuMajorGridX.Checked;
+
+  ForEachTick(ticks.step, ticks.decimals, limits, [&](double value) {
+    const double x = paint.map.X(value);
+    if (x < box.left || x > box.right) return;
+    if (gridLines) paint.VerticalLine(x, paint.gridColour);
+    paint.TickBelow(x, minorTick);
+  });
+
+  const double labelY = TopOfNumbers(paint, labelBelowBox);
+  for (const double end : {limits.xmin, limits.xmax}) {
+    paint.TickBelow(paint.map.X(end), majorTick);
+    paint.LabelBelow(EndText(end, range), paint.map.X(end), labelY);
+  }
+  ForEachTick(ticks.labelStep, ticks.decimals, limits, [&](double value) {
+    if (value > limits.xmin + 0.98 * range || value < limits.xmin + 0.02 * range) return;
+    const double x = paint.map.X(value);
+    if (gridLines) paint.VerticalLine(x, paint.gridColour);
+    paint.TickBelow(x, majorTick);
+    paint.LabelBelow(TickText(value), x, labelY);
+  });
+}
+
+/// Number at a place of a logarithmic x axis, with its tick.
+void GridXLabel(FramePaint& paint, double value) {
+  const double x = paint.map.X(value);
+  paint.TickBelow(x, 50);
+  const auto& limits = paint.map.limits;
+  const double rounded = RoundTo(value, limits.xmax - limits.xmin >= 0.1 ? 4 : 6);
+  // Rounding to decimals would print the smallest values as 0.
+  const bool plain = value < scientificFrom && std::abs(rounded - value) < 0.01 * value;
+  paint.LabelBelow(plain ? TickText(rounded) : Format(value, "Scientific"), x, TopOfNumbers(paint, logLabelBelowBox));
+}
+
+/// Values 1 to 9 times a power of ten from xmin to xmax, with the fractional part of their logarithm.
+template <class Visit>
+void ForEachLogTick(AxisLimits limits, Visit&& visit) {
+  constexpr double rounding = 1 + 1e-9;
+  double inc = std::pow(10.0, std::floor(Log10Guarded(limits.xmin)));
+  double value = inc;
+  for (int i = 0; i < mostTicks && value * rounding < limits.xmin; ++i) value += inc;
+  for (int i = 0; i < 9 * mostTicks && value <= limits.xmax * rounding; ++i, value += inc) {
+    if ((value + 0.99 * inc) / inc > 10) inc *= 10;
+    const double logarithm = Log10Guarded(value);
+    visit(value, logarithm - std::floor(logarithm));
+  }
+}
+
+bool IsDecade(double fraction) {
+  return fraction < 0.001 || fraction > 0.999;
+}
+
+bool IsTwoOrFive(double fraction) {
+  return (fraction > 0.698 && fraction < 0.7) || (fraction > 0.3 && fraction < 0.302);
+}
+
+void PaintLogarithmic(FramePaint& paint) {
+  const auto& form = paint.session.form1;
+  const auto& limits = paint.map.limits;
+  const bool minor = form.mnuMinorGridX.Checked;
+  const bool major = form.mnuMajorGridX.Checked && !minor;
+  ForEachLogTick(limits, [&](double value, double fraction) {
+    const double x = paint.map.X(value);
+    if (minor) paint.VerticalLine(x, form.mnuWhite.Checked ? colours::Black : paint.gridColour);
+    if (major && IsDecade(fraction)) paint.VerticalLine(x, paint.gridColour);
+  });
+  // Whole decades come first, so that on a crowded axis they are the ones that stay.
+  ForEachLogTick(limits, [&](double value, double fraction) {
+    if (IsDecade(fraction)) GridXLabel(paint, value);
+  });
+  for (const double end : {limits.xmin, limits.xmax}) {
+    paint.TickBelow(paint.map.X(end), 50);
+    const std::string text = end >= scientificFrom ? Format(end, "Scientific") : std::string(Trim(Str(end)));
+    paint.LabelBelow(text, paint.map.X(end), TopOfNumbers(paint, logLabelBelowBox));
+  }
+  if (!minor) return;
+  ForEachLogTick(limits, [&](double value, double fraction) {
+    if (IsTwoOrFive(fraction)) GridXLabel(paint, value);
+  });
+}
+
+struct TitleRow {
+  int type, subType;  ///< sub-type 0 stands for any
+  std::string_view title, frequencyTitle;
+};
+
+constexpr std::string_view radius = "Radius (\u00B5m)", diameter = "Diameter (\u00B5m)", sizeX = "Size parameter x",
+                           wavelength = "Wavelength (nm)", perMicrometre = "Frequency (1/\u00B5m)";
+
+constexpr std::array xTitles = {
+    TitleRow{1, 0, "Scattering angle (deg.)", "Frequency (1/deg.)"},
+    TitleRow{10, 0, wavelength, "Frequency (1/nm)"},
+    TitleRow{15, 0, wavelength, "Frequency (1/nm)"},
+    TitleRow{11, 1, radius, perMicrometre},
+    TitleRow{11, 2, sizeX, sizeX},
+    TitleRow{11, 3, diameter, perMicrometre},
+    TitleRow{12, 0, "Refractive index", "Refractive index"},
+    TitleRow{13, 0, "Convergence", "Convergence"},
+    TitleRow{14, 1, radius, radius},
+    TitleRow{14, 2, radius, radius},
+    TitleRow{14, 7, radius, radius},
+    TitleRow{14, 10, radius, radius},
+    TitleRow{14, 3, sizeX, sizeX},
+    TitleRow{14, 4, sizeX, sizeX},
+    TitleRow{14, 9, sizeX, sizeX},
+    TitleRow{14, 12, sizeX, sizeX},
+    TitleRow{14, 5, diameter, diameter},
+    TitleRow{14, 6, diameter, diameter},
+    TitleRow{14, 8, diameter, diameter},
+    TitleRow{14, 11, diameter, diameter},
+    TitleRow{16, 1, radius, radius},
+    TitleRow{16, 2, sizeX, sizeX},
+    TitleRow{16, 3, wavelength, wavelength},
+    TitleRow{17, 1, radius, radius},
+    TitleRow{17, 2, sizeX, sizeX},
+    TitleRow{17, 3, wavelength, wavelength},
+    TitleRow{18, 1, radius, radius},
+    TitleRow{18, 2, diameter, diameter},
+    TitleRow{18, 3, wavelength, wavelength},
+};
+
+}  // namespace
+
+void PaintXAxis(FramePaint& paint) {
+  if (paint.map.logX)
+    PaintLogarithmic(paint);
+  else
+    PaintLinear(paint);
+}
+
+std::string_view XAxisTitle(const GraphKind& kind) {
+  if (kind.IsTwoAngle()) return kind.xTitle;
+  for (const auto& row : xTitles)
+    if (row.type == kind.graphType && (row.subType == 0 || row.subType == kind.graphSubType))
+      return kind.fourier ? row.frequencyTitle : row.title;
+  return {};
+}
+
+}  // namespace lumivex

@@ -1,0 +1,243 @@
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <span>
+
+#include "pages/frame_paint.h"
+#include "pages/scale.h"
+#include "record/number_text.h"
+
+namespace lumivex {
+
+namespace {
+
+constexpr int mostTicks = 2000;
+
+/// A number of so many characters is printed as a power of ten.
+constexpr std::size_t longText = 5;
+
+constexpr double minorTick = 70, majorTick = 100, labelTick = 50;
+
+std::string AxisNumber(std::string text, double value) {
+  if (text.size() >= longText && text != " 0") return Format(value, "Scientific");
+  return std::string(Trim(text));
+}
+
+// Linear axis.
+
+void PaintEnds(FramePaint& paint) {
+  for (const double end : {paint.map.limits.ymax, paint.map.limits.ymin}) {
+    const double y = paint.map.Y(end);
+    paint.TickLeft(y, majorTick);
+    paint.LabelLeft(AxisNumber(Str(end), end), y);
+  }
+}
+
+/// The scale of the second panel, in round values of its quantity.
+void PaintSecondScale(FramePaint& paint) {
+  static constexpr std::array phases = {90.0, 180.0, 270.0};
+  static constexpr std::array degrees = {-0.8, -0.4, 0.0, 0.4, 0.8};
+  const std::span<const double> values =
+      paint.kind.ampPhase ? std::span<const double>(phases) : std::span<const double>(degrees);
+  for (const double value : values) {
+    const double y = paint.map.Y(value);
+    paint.Rule(paint.Box().left + 20, y, paint.Box().right, y, paint.gridColour);
+    paint.TickLeft(y, minorTick);
+    paint.LabelLeft(AxisNumber(Str(std::abs(value) < 0.001 ? 0 : value), value), y);
+  }
+}
+
+std::string LinearText(double value, double first, double ymax) {
+  if (first > -1 && ymax <= 1) return RoundedText(value, 6);
+  if (first > -1 && ymax < 5) return RoundedText(value, 4);
+  return Str(value);
+}
+
+void PaintLinear(FramePaint& paint) {
+  const auto& limits = paint.map.limits;
+  PaintEnds(paint);
+  if (paint.second) {
+    PaintSecondScale(paint);
+    return;
+  }
+  const double step = YTickStep(limits.ymin, limits.ymax);
+  const double first = step * (std::floor(limits.ymin / step) + 1);
+  const double last = limits.ymax - 0.1 * step;
+  const bool gridLines = paint.session.form1.mnuMajorGridY.Checked;
+  for (int i = 0; i < mostTicks && first + i * step <= last; ++i) {
+    const double value = first + i * step;
+    if (!(value > limits.ymin)) continue;
+    const double y = paint.map.Y(value);
+    if (gridLines) paint.Rule(paint.Box().left + 20, y, paint.Box().right, y, paint.gridColour);
+    paint.TickLeft(y, minorTick);
+  }
+  // Labels count from 0: a negative side has ticks without numbers. Far from 0 they start below the axis.
+  const double labelStep = 2 * step;
+  const double start = std::max(0.0, std::floor(limits.ymin / labelStep)) * labelStep;
+  for (int i = 0; i < mostTicks && start + i * labelStep <= last; ++i) {
+    const double value = start + i * labelStep;
+    if (!(value > limits.ymin)) continue;
+    const double y = paint.map.Y(value);
+    paint.TickLeft(y, majorTick);
+    paint.LabelLeft(AxisNumber(LinearText(value, first, limits.ymax), value), y);
+  }
+}
+
+// Logarithmic axis.
+
+/// Fonts and places of a power of ten.
+struct PowerLook {
+  double ten, exponentSize, exponentRaise;
+  bool exponentBold;
+};
+
+PowerLook LookOfPowers(const FramePaint& paint) {
+  if (paint.special) return {paint.Box().left - 300 - paint.surface.TextWidth("10"), 11, 300, true};
+  return {550, 7, 200, false};
+}
+
+/// Left edge of the "10" of every label: where it has its place, or as far left as the widest exponent needs.
+double PlaceOfTens(FramePaint& paint, const PowerLook& look) {
+  auto& surface = paint.surface;
+  const double ten = surface.TextWidth("10");
+  const double fontSize = surface.FontSize;
+  surface.FontSize = look.exponentSize;
+  double widest = 0;
+  for (const double end : {paint.map.limits.ymin, paint.map.limits.ymax})
+    widest = std::max(widest, surface.TextWidth(Trim(Str(std::floor(Log10Guarded(end))))));
+  surface.FontSize = fontSize;
+  return std::min(look.ten, paint.Box().left - 60 - widest - ten);
+}
+
+/// Number at a place of the axis, with its tick.
+void GridYLabel(FramePaint& paint, double value) {
+  auto& surface = paint.surface;
+  const auto& limits = paint.map.limits;
+  const double y = paint.map.Y(value);
+  paint.TickLeft(y, labelTick);
+  const double e = RoundTo(Log10Guarded(value), 2);
+  const double mantissa = RoundTo(std::pow(10.0, e - std::floor(e)), 1);
+  if (limits.ymax < 1000 && limits.ymin >= 0.001) {
+    paint.LabelLeft(Trim(Str(mantissa == 1 ? std::pow(10.0, std::floor(e)) : value)), y);
+    return;
+  }
+  const PowerLook look = LookOfPowers(paint);
+  const double tens = PlaceOfTens(paint, look);
+  const double height = surface.TextHeight("10");
+  const std::string factor = mantissa == 1 ? "" : std::string(Trim(Str(mantissa))) + "x ";
+  const double left = tens - surface.TextWidth(factor);
+  const double exponentTop = y - look.exponentRaise;
+  if (!paint.labels.HasRoom(left, exponentTop, tens - left, y + 0.5 * height - exponentTop)) return;
+  paint.labels.Take(left, exponentTop, paint.Box().left - left, y + 0.5 * height - exponentTop);
+
+  surface.CurrentX = left;
+  surface.CurrentY = y - 0.5 * height;
+  surface.Print(factor + "10", false);
+  const SurfacePen pen = surface;
+  surface.CurrentY = exponentTop;
+  surface.FontName = "Small Fonts";
+  surface.FontSize = look.exponentSize;
+  surface.FontBold = look.exponentBold;
+  surface.Print(Trim(Str(std::floor(e))), false);
+  static_cast<SurfacePen&>(surface) = pen;
+}
+
+/// Ratio of the ends within which the values between decades are printed.
+struct LabelWindow {
+  double above, below;
+};
+
+LabelWindow WindowBetweenDecades(GraphSize size) {
+  if (size == GraphSize::Medium) return {8, 200};
+  if (size == GraphSize::Small) return {5, 20};
+  return {1, 1001};
+}
+
+/// Decades from label to label: more than one where they would crowd.
+int DecadeStep(const FramePaint& paint, DecadeRange decades) {
+  const int span = decades.last - 1 - decades.first;
+  int step = 1;
+  if (paint.size == GraphSize::Small || paint.size == GraphSize::Medium)
+    step = span > 15 ? 3 : span > 8 ? 2 : 1;
+  else
+    step = span >= 20 ? 3 : span > 12 ? 2 : 1;
+  const double perDecade =
+      paint.Box().Height() / std::max(RuleLog10(paint.map.limits.ymax / paint.map.limits.ymin), 1e-9);
+  const double needed = 1.6 * paint.surface.TextHeight("10");
+  while (step < 100 && step * perDecade < needed) ++step;
+  return step;
+}
+
+bool IsInside(double value, const AxisLimits& limits) {
+  constexpr double rounding = 1e-6;
+  return value >= limits.ymin * (1 - rounding) && value <= limits.ymax * (1 + rounding);
+}
+
+void PaintBetweenDecades(FramePaint& paint, bool lines) {
+  const auto& limits = paint.map.limits;
+  const LabelWindow window = WindowBetweenDecades(paint.size);
+  const double ratio = limits.ymax / limits.ymin;
+  const bool numbers = ratio > window.above && ratio < window.below;
+  double inc = std::pow(10.0, std::floor(Log10Guarded(limits.ymin)));
+  double value = inc;
+  for (int i = 0; i < 9 * mostTicks && value <= limits.ymax; ++i, value += inc) {
+    if (value < limits.ymin) continue;
+    if ((value + 0.99 * inc) / inc > 10) inc *= 10;
+    const double y = paint.map.Y(value);
+    if (lines) {
+      paint.HorizontalLine(y, paint.gridColour);
+      continue;
+    }
+    const double f = Log10Guarded(value) - std::floor(Log10Guarded(value));
+    const bool wanted = f < 0.0001 || f >= 0.9999 || (f > 0.69 && f < 0.71) || (f > 0.3 && f < 0.31);
+    if (!numbers || !wanted) continue;
+    paint.TickLeft(y, majorTick);
+    GridYLabel(paint, value);
+  }
+}
+
+void PaintLogarithmic(FramePaint& paint) {
+  const auto& form = paint.session.form1;
+  const auto& limits = paint.map.limits;
+  const DecadeRange decades = DecadesBetween(limits.ymin, limits.ymax);
+  const int decadeStep = DecadeStep(paint, decades);
+  const bool minor = form.mnuMinorGridY.Checked;
+  if (minor && decadeStep == 1) PaintBetweenDecades(paint, true);
+  int printed = 0;
+  const auto forEachDecade = [&](auto&& visit) {
+    for (int e = decades.first; e <= decades.last; ++e)
+      if (IsInside(std::pow(10.0, e), limits)) visit(e, paint.map.Y(std::pow(10.0, e)));
+  };
+  forEachDecade([&](int, double y) {
+    if (minor || form.mnuMajorGridY.Checked) paint.HorizontalLine(y, paint.gridColour);
+    paint.TickLeft(y, form.mnuMajorGridY.Checked ? majorTick : minorTick);
+  });
+  // The outermost decades come first, so that on a crowded axis they are the ones that stay.
+  for (const int e : {decades.first, decades.last}) {
+    if (decades.last < decades.first || !IsInside(std::pow(10.0, e), limits)) continue;
+    GridYLabel(paint, std::pow(10.0, e));
+    ++printed;
+  }
+  forEachDecade([&](int e, double) {
+    if (e % decadeStep != 0 || e == decades.first || e == decades.last) return;
+    GridYLabel(paint, std::pow(10.0, e));
+  });
+  if (minor && decadeStep == 1) PaintBetweenDecades(paint, false);
+  if (printed > 1 && decades.first != decades.last) return;
+  // Within one decade the ends alone tell the scale.
+  for (const double end : {limits.ymin, limits.ymax}) {
+    paint.TickLeft(paint.map.Y(end), majorTick);
+    GridYLabel(paint, end);
+  }
+}
+
+}  // namespace
+
+void PaintYAxis(FramePaint& paint) {
+  if (paint.map.logY && !paint.second)
+    PaintLogarithmic(paint);
+  else
+    PaintLinear(paint);
+}
+
+}  // namespace lumivex

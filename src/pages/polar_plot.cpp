@@ -1,0 +1,191 @@
+#include "pages/polar_plot.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "pages/curve_path.h"
+#include "pages/scale.h"
+#include "record/number_text.h"
+
+namespace lumivex {
+
+namespace {
+
+constexpr double pi = 3.14159265358979;
+
+constexpr int mostRings = 20;
+
+/// Ticks keep so far from each other (surface units); where a curve turns back on itself they would cover it.
+constexpr double betweenTicks = 100;
+
+/// A ring at the very centre or on the rim says nothing new.
+constexpr double ringRounding = 1e-9;
+
+constexpr std::array rimAngles = {0, 180, 330, 210, 300, 240, 270, 30, 150, 60, 120, 90};
+
+void Refuse(Session& session, std::string_view text) {
+  session.platform.Message("Option not available", text);
+}
+
+void PaintRings(FramePaint& paint, const PolarMap& map) {
+  auto& surface = paint.surface;
+  const auto ring = [&](double part) { surface.Circle(map.centreX, map.centreY, part * map.radius, paint.gridColour); };
+  surface.FillColour = paint.session.state.PlotBackColourMono;
+  surface.FillStyle = 0;
+  ring(1);
+  if (!map.logarithmic) {
+    for (const double part : {0.8, 0.6, 0.4, 0.2}) ring(part);
+  } else {
+    const AxisLimits& limits = paint.map.limits;
+    const double perDecade = paint.kind.amplitude || paint.kind.ampPhase ? 0.5 : 1;
+    for (int k = 1; k <= mostRings; ++k) {
+      const double value = limits.ymax / std::pow(10.0, k * perDecade);
+      const double part = std::log(value / limits.ymin) / std::log(limits.ymax / limits.ymin);
+      if (part > ringRounding && part < 1 - ringRounding) ring(part);
+    }
+  }
+  surface.FillStyle = 1;
+}
+
+void PaintSpokes(FramePaint& paint, const PolarMap& map) {
+  for (int a = 0; a <= 180; a += 30) {
+    const double x = map.radius * std::cos(a * pi / 180), y = map.radius * std::sin(a * pi / 180);
+    paint.Rule(map.centreX + x, map.centreY + y, map.centreX - x, map.centreY - y, paint.gridColour);
+  }
+}
+
+/// Angles round the rim: each text stands clear of the circle, outward from its spoke.
+void PaintRimAngles(FramePaint& paint, const PolarMap& map) {
+  auto& surface = paint.surface;
+  for (const int a : rimAngles) {
+    const std::string text = std::to_string(a);
+    const double width = surface.TextWidth(text), height = surface.TextHeight(text);
+    const double c = std::cos(a * pi / 180), s = std::sin(a * pi / 180);
+    const double reach = map.radius * 3080 / 3000;
+    const double x = map.centreX + (reach + 0.5 * width) * c - 0.5 * width;
+    const double y = map.centreY + (reach + 0.5 * height) * s - 0.5 * height;
+    // The highest one stands inside: the title of the run is printed above the circle.
+    if (a == 270)
+      paint.labels.Print(text, map.centreX + 50, map.centreY - map.radius + 50);
+    else
+      paint.labels.Print(text, x, y);
+  }
+}
+
+/// Below the circle, or beside it where the page ends before.
+void PaintScaleText(FramePaint& paint, const PolarMap& map) {
+  auto& surface = paint.surface;
+  std::vector<std::string> lines;
+  if (paint.kind.ampPhase) lines.emplace_back("Amplitude");
+  lines.emplace_back(map.logarithmic ? "Logarithmic scale" : "Linear scale");
+  lines.push_back("Value at outer circle = " + Format(map.outer, "Scientific"));
+  lines.push_back("Value at centre = " + Format(map.logarithmic ? map.inner : 0, "Scientific"));
+
+  const double height = surface.TextHeight("X"), total = height * static_cast<double>(lines.size());
+  double y = map.centreY + map.radius * 3080 / 3000 + 1.3 * height + 60;
+  const bool below = y + total <= surface.ScaleHeight();
+  if (!below) y = map.centreY - 0.5 * total;
+  for (const auto& text : lines) {
+    const double width = surface.TextWidth(text);
+    surface.CurrentX = below ? map.centreX - 0.5 * width : map.centreX + 1.25 * map.radius;
+    surface.CurrentY = y;
+    paint.labels.Take(surface.CurrentX, y, width, height);
+    surface.Print(text, false);
+    y += height;
+  }
+}
+
+bool RangeIsWhole(const Form1& form) {
+  return Val(form.txtXmin.Text) == 0 && Val(form.txtXmax.Text) == 180;
+}
+
+}  // namespace
+
+void mnuPolarPlot_Click(Session& session) {
+  auto& form = session.form1;
+  if (form.mnuPolarPlot.Checked) {
+    form.mnuPolarPlot.Checked = false;
+  } else if (form.mnuIntPol.Checked) {
+    Refuse(session, "Polar plots are not available for graphs of Intensity and Polarisation");
+    return;
+  } else if (!form.mnuAmpPhase.Checked && !form.mnuPlaneWave.Checked && !RangeIsWhole(form)) {
+    Refuse(session, "Polar plots are available only when scattering angles\ncover entire range from 0 to 180 degrees");
+    return;
+  } else if (session.state.NumberWavelengths != 1) {
+    Refuse(session, "Polar plots are available only for single wavelength calculations");
+    return;
+  } else {
+    form.mnuPolarPlot.Checked = true;
+  }
+  session.events.Raise("cmdReplot_Click");
+}
+
+int AngleDelta(const Session& session) {
+  const int rows = 2 * session.state.NANG - 1;
+  if (rows < 2) return 1;
+  const double row = Val(session.form1.txtAngle.Text) * (rows - 1) / 180 + 1;
+  return ToWhole(std::clamp(row, 1.0, static_cast<double>(rows)));
+}
+
+void PaintPolarFrame(FramePaint& paint) {
+  const PolarMap map = PolarMapOf(paint.session.state, paint.kind, paint.map.limits);
+  PaintRings(paint, map);
+  PaintSpokes(paint, map);
+  paint.surface.ForeColour = colours::Black;
+  PaintRimAngles(paint, map);
+  PaintScaleText(paint, map);
+  paint.session.state.Drawn.labelPlaces = paint.labels.Taken();
+  paint.surface.FontBold = false;
+}
+
+void PaintPolarTicks(Session& session, const KeptPanel& panel, const KeptCurve& curve) {
+  auto& surface = *session.surface;
+  const auto rows = PlacedRows(session.state, panel, curve);
+  const SurfacePen pen = surface;
+  surface.ForeColour = curve.colour;
+  surface.FontSize = 7;
+  surface.FontBold = false;
+  auto& places = session.state.Drawn.labelPlaces;
+  TickLabels labels(surface, places);
+  const auto angleAt = [&](std::size_t row) { return curve.angle.empty() ? curve.x[row] : curve.angle[row]; };
+  bool started = false;
+  std::size_t count = 0;
+  SurfacePoint last;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    const SurfacePoint& p = rows[i].point;
+    if (!std::isfinite(p.x) || !std::isfinite(p.y)) continue;
+    if (!started) {
+      started = true;
+      last = p;
+      surface.Circle(p.x, p.y, 20, curve.colour);
+      labels.Print(TickText(RoundTo(angleAt(rows[i].row), 1)), p.x - 100, p.y + 100);
+    } else if (count % 10 == 0 && i > 0) {
+      const SurfacePoint& before = rows[i - 1].point;
+      const double dx = p.x - before.x, dy = p.y - before.y;
+      const double length = std::hypot(dx, dy);
+      if (!(length > 0)) {
+        ++count;
+        continue;
+      }
+      const bool longTick = count % 100 == 0;
+      if (!longTick && std::hypot(p.x - last.x, p.y - last.y) < betweenTicks) {
+        ++count;
+        continue;
+      }
+      last = p;
+      // Across the curve: 50 units to each side, 90 at the hundreds.
+      const double half = longTick ? std::sqrt(8100.0) : std::sqrt(2500.0);
+      const double x = -half * dy / length, y = half * dx / length;
+      surface.Line(p.x - x, p.y - y, p.x + x, p.y + y);
+      if (longTick) labels.Print(TickText(RoundTo(angleAt(rows[i].row), 1)), p.x + x + 20, p.y + y);
+    }
+    ++count;
+  }
+  places = labels.Taken();
+  static_cast<SurfacePen&>(surface) = pen;
+}
+
+}  // namespace lumivex

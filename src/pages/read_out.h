@@ -1,0 +1,40 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "record/drawing_surface.h"
+#include "record/groups/graph_state.h"
+
+namespace lumivex {
+
+/// What stands under the cursor.
+struct GraphReading {
+  std::size_t panel = 0;
+  double x = 0, y = 0;            ///< values at the cursor, in the units of the axes (in a polar plot angle and value)
+  bool onCurve = false;           ///< whether the panel has a curve
+  std::size_t curve = 0;          ///< nearest curve, index into the kept ones
+  double curveX = 0, curveY = 0;  ///< its nearest computed point, as drawn
+  SurfacePoint place;             ///< where that point lies on the surface
+  std::string text;               ///< all of it in one line for the status bar, with units
+};
+
+/// Reads the graph on the screen at a place of the surface; nothing outside its panels.
+std::optional<GraphReading> ReadGraph(const GraphState& graph, double surfaceX, double surfaceY);
+
+/// Units of the axes: "deg", "nm", "\u00B5m" or empty for numbers; "sq m", "W" or empty.
+std::string_view XUnit(const GraphKind& kind);
+std::string_view YUnit(const GraphKind& kind, bool secondPanel);
+
+/// The x range after a zoom at a place of the surface: `factor` below 1 shows less, the value under the place stays
+/// there. Angles keep within 0 to 180 degrees, other axes within the range of the frame and of its curves.
+XRange ZoomAt(const GraphState& graph, double surfaceX, double factor);
+
+/// The x range after a drag by so many surface units to the right.
+XRange PanBy(const GraphState& graph, double surfaceUnits);
+
+/// The x range on the screen, and that before any zoom.
+XRange RangeShown(const GraphState& graph);
+XRange HomeRange(const GraphState& graph);
+
+}  // namespace lumivex

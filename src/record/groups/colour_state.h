@@ -1,0 +1,40 @@
+#pragma once
+
+#include <type_traits>
+#include <vector>
+
+#include "record/colour.h"
+
+namespace lumivex {
+
+/// Colours of wavelengths, cells and lines.
+struct ColourState {
+  Colour PlotBackColourSpectrum;  ///< fill of the plot box with several wavelengths
+  Colour PlotBackColourMono;      ///< fill of the plot box with one wavelength
+  Colour LogoColour;
+  Colour SecondLineColour;            ///< shade of the second polarisation curve
+  Colour PickedLineColour{0x808080};  ///< line colour picked in the colour dialog
+  std::vector<Colour> WavelengthColours =
+      std::vector<Colour>(2002);  ///< one colour a wavelength of the run, index 1 up
+  double ColourValue = 0;         ///< input of the false-colour ramp
+  float CellRed = 0;              ///< channels of the present cell, 0 to 255
+  float CellGreen = 0;
+  float CellBlue = 0;
+};
+
+template <class Group, class Visitor>
+requires std::is_same_v<std::remove_const_t<Group>, ColourState>
+void ForEachField(Group& g, Visitor&& visit) {
+  visit("PlotBackColourSpectrum", g.PlotBackColourSpectrum);
+  visit("PlotBackColourMono", g.PlotBackColourMono);
+  visit("LogoColour", g.LogoColour);
+  visit("SecondLineColour", g.SecondLineColour);
+  visit("PickedLineColour", g.PickedLineColour);
+  visit("WavelengthColours", g.WavelengthColours);
+  visit("ColourValue", g.ColourValue);
+  visit("CellRed", g.CellRed);
+  visit("CellGreen", g.CellGreen);
+  visit("CellBlue", g.CellBlue);
+}
+
+}  // namespace lumivex

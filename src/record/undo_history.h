@@ -1,0 +1,46 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "record/colour.h"
+#include "record/form.h"
+
+namespace lumivex {
+
+/// Fields of the record that an accepted dialog sets from its inputs.
+struct DialogSettings {
+  float spectrumMin = 0, spectrumMax = 0;
+  double blackBodyTemp = 0, incidentDensity = 0, distance = 0;
+  int indexUserEdited = 0, catalogueIndex = 0;
+  Colour pickedLineColour;
+  bool operator==(const DialogSettings&) const = default;
+};
+
+/// What the user had set on every form, and the codes, names and settings that follow from it.
+struct InputState {
+  std::vector<FormSnapshot> forms;
+  int graphType = 1, graphSubType = 1, calcMethod = 1;
+  std::string sphereName, mediumName;
+  std::vector<std::string> captions;  ///< of the main window's labels and frames, in their order
+  DialogSettings settings;
+  bool operator==(const InputState&) const = default;
+};
+
+/// A dialog that is open: its states before each of the user's actions in it, and those that were undone.
+struct DialogHistory {
+  Form* form = nullptr;
+  std::vector<FormSnapshot> past, future;
+  std::string typedInto;
+};
+
+/// States of the inputs before each action of the user, oldest first, and those that were undone.
+struct UndoHistory {
+  std::vector<InputState> past, future;
+  std::string typedInto;  ///< control of the last action where that was typing; typing on merges with it
+  bool held = false;      ///< while states are restored nothing is recorded
+  int acting = 0;         ///< recorded actions whose events are running: a dialog that they open belongs to them
+  std::vector<DialogHistory> open;  ///< dialogs on the screen, the innermost last
+};
+
+}  // namespace lumivex

@@ -1,0 +1,41 @@
+#include "session/inputs/dialog_use.h"
+
+#include <algorithm>
+
+#include "record/number_text.h"
+
+namespace lumivex {
+
+bool HasBadInput(const Form& form) {
+  return std::ranges::any_of(form.Controls(),
+                             [](const Control* c) { return c->Visible && c->BackColour == colours::BadInput; });
+}
+
+bool AskIn(Session& session, Form& dialog) {
+  if (session.state.RestoringSettings != 0) return true;
+  for (int showing = 0; showing < 2; ++showing) {
+    if (!session.platform.ShowModal(dialog)) return false;
+    if (!HasBadInput(dialog)) return true;
+  }
+  return false;
+}
+
+void RefuseInput(Session& session, Control& control, const std::string& text) {
+  control.BackColour = colours::BadInput;
+  session.platform.Message("Input error", text);
+}
+
+void RaiseInputsChanged(Session& session) {
+  session.events.Raise("Inputs_Changed");
+}
+
+std::string FileNameOf(const std::string& path) {
+  const auto slash = path.find_last_of("/\\");
+  return slash == std::string::npos ? path : path.substr(slash + 1);
+}
+
+bool EndsWith(const std::string& path, std::string_view ending) {
+  return path.size() >= ending.size() && SameName(std::string_view(path).substr(path.size() - ending.size()), ending);
+}
+
+}  // namespace lumivex

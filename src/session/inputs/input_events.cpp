@@ -1,0 +1,116 @@
+#include "session/inputs/input_events.h"
+
+#include <string>
+
+#include "pages/visible_data.h"
+#include "record/number_text.h"
+#include "session/inputs/graph_types.h"
+#include "session/inputs/materials/refractive_index.h"
+#include "session/inputs/methods.h"
+
+namespace lumivex {
+
+namespace {
+
+void ChooseSizeKind(Session& session, MenuEntry& chosen, const std::string& caption) {
+  auto& form = session.form1;
+  for (MenuEntry* entry : {&form.mnuRadius, &form.mnuDiameter, &form.mnuRadiusX}) entry->Checked = entry == &chosen;
+  form.Label7.Caption = caption;
+  Inputs_Changed(session);
+}
+
+void Toggle(Session& session, MenuEntry& entry) {
+  entry.Checked = !entry.Checked;
+  Inputs_Changed(session);
+}
+
+}  // namespace
+
+void Inputs_Changed(Session& session) {
+  auto& form = session.form1;
+  if (session.state.LoadingFlag != 0) return;
+  form.cmdNewPlot.Enabled = true;
+  form.cmdReplot.Enabled = false;
+}
+
+void Picture_Changed(Session& session) {
+  auto& form = session.form1;
+  if (session.state.LoadingFlag != 0) return;
+  for (Control* input : {static_cast<Control*>(&form.txtXmin), static_cast<Control*>(&form.txtXmax),
+                         static_cast<Control*>(&form.cboYmax), static_cast<Control*>(&form.cboYmin)})
+    input->BackColour = colours::White;
+  form.cmdNewPlot.Enabled = true;
+}
+
+void Scale_Click(Session& session) {
+  if (session.state.LoadingFlag != 0 || session.state.Busy != 0) return;
+  session.events.Raise("cmdReplot_Click");
+}
+
+void Step_Changed(Session& session) {
+  session.form1.cboStep.BackColour = colours::White;
+  Inputs_Changed(session);
+}
+
+void Limit_Click(Session& session) {
+  Picture_Changed(session);
+  Scale_Click(session);
+}
+
+void mnuDataVisible_Click(Session& session) {
+  auto& entry = session.form1.mnuDataVisible;
+  entry.Checked = !entry.Checked;
+  VisibleData(session);
+}
+
+void mnuKeepParameters_Click(Session& session) {
+  auto& entry = session.form1.mnuKeepParameters;
+  entry.Checked = !entry.Checked;
+}
+
+void txtLambda_change(Session& session) {
+  auto& form = session.form1;
+  if (session.state.LoadingFlag != 0) return;
+  form.txtLambda.BackColour = colours::White;
+  ShowIndexInputs(form);
+  const bool one = Trim(form.cboWave.Text) == "1";
+  if (one && IsNumber(form.txtLambda.Text) && !RefRel(session, Val(form.txtLambda.Text), LookupVoice::Quiet))
+    form.txtLambda.BackColour = colours::Warning;
+  Inputs_Changed(session);
+}
+
+void txtRadius_Change(Session& session) {
+  session.form1.txtRadius.BackColour = colours::White;
+  Inputs_Changed(session);
+}
+
+void mnuRadius_Click(Session& session) {
+  ChooseSizeKind(session, session.form1.mnuRadius, "Radius (\u00B5m)");
+}
+
+void mnuDiameter_Click(Session& session) {
+  ChooseSizeKind(session, session.form1.mnuDiameter, "Diameter (\u00B5m)");
+}
+
+void mnuRadiusX_Click(Session& session) {
+  ChooseSizeKind(session, session.form1.mnuRadiusX, "Size parameter x");
+}
+
+void mnuSize_Click(Session& session) {
+  Toggle(session, session.form1.mnuSize);
+}
+
+void mnuClassicStart_Click(Session& session) {
+  Toggle(session, session.form1.mnuClassicStart);
+}
+
+void mnuConstantVolume_Click(Session& session) {
+  Toggle(session, session.form1.mnuConstantVolume);
+}
+
+void mnuXStepLog_Click(Session& session) {
+  Toggle(session, session.form1.mnuXStepLog);
+  ShowFamilyInputs(session);
+}
+
+}  // namespace lumivex

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "record/session.h"
+
+namespace lumivex {
+
+/// An event of the menus of this folder and what it does.
+struct GraphEvent {
+  std::string_view name;
+  void (*handler)(Session&);
+};
+
+/// The events of the menus that shape the graph: sizes, backgrounds, line colours, pens, grid lines, the logo, second
+/// panels, averaging and interpolation, the polar plot, saturation and gamma, and the colour test.
+std::span<const GraphEvent> LookEvents();
+
+/// Sizes: each sets the plot box and the polar circle, ticks itself and replots; while the session is busy it presses
+/// New plot instead. "Very large" follows the surface and alone enables mnuSizeVariable.
+void mnuLarge_Click(Session& session);
+void mnuMedium_Click(Session& session);
+void mnuSmall_Click(Session& session);
+void mnuVLarge_Click(Session& session);
+/// Large bold text for slides, on white (a polar plot on the default background); a second click goes back.
+void mnuSizeSpecial_Click(Session& session);
+/// On: very large. Off: large on a screen of up to 1024 pixels, else very large.
+void mnuSizeVariable_Click(Session& session);
+
+/// Backgrounds: each sets the colours of plot box and logo, ticks itself and replots.
+void mnuDefault_Click(Session& session);
+void mnuWhite_Click(Session& session);
+void mnuGrey_Click(Session& session);
+void mnuBlack_Click(Session& session);
+/// What the backgrounds share: enables Replot and unticks all four.
+void BackgroundColour(Session& session);
+
+/// What the line colours share: unticks them all, enables Replot, and cboLee for maps.
+void PlotLineColour(Session& session);
+void mnuTrueColour_Click(Session& session);
+/// Asks for a colour in dlogPlotColour; a cancelled dialog changes nothing.
+void mnuMoreColours_Click(Session& session);
+
+/// What the pens share: untick them all and enable Replot.
+void PlotLineStyle(Session& session);
+void PlotDrawWidth(Session& session);
+
+/// Second panels exclude each other; both replot.
+void mnuAmpPhase_Click(Session& session);
+void mnuIntPol_Click(Session& session);
+/// Moduli instead of intensities; replots.
+void mnuAmplitude_Click(Session& session);
+void mnuInterpolate_Click(Session& session);
+/// Intensities freed of the square of the wave number; the replot fills the curves anew.
+void mnuInvWavelength_Click(Session& session);
+/// A rectangular sun instead of a round one, for curves folded with its disc.
+void mnuSun_Click(Session& session);
+/// Turned on, asks for the width in dlogAverage (not while settings are restored); a cancelled dialog leaves it off.
+void mnuAverage_Click(Session& session);
+
+void mnuPhoto_Click(Session& session);
+void mnuSaturated_Click(Session& session);
+
+}  // namespace lumivex

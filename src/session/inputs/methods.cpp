@@ -1,0 +1,212 @@
+#include "session/inputs/methods.h"
+
+#include <algorithm>
+#include <array>
+
+#include "record/number_text.h"
+#include "session/inputs/dialog_use.h"
+#include "session/inputs/graph_types.h"
+#include "session/inputs/methods/debye_label.h"
+#include "session/inputs/methods/rays_check.h"
+#include "session/inputs/sizes/size_distribution.h"
+
+namespace lumivex {
+
+namespace {
+
+using enum Feature;
+
+constexpr std::array methodRows = {
+    MethodRow{1, "Mie", MieSeries, true, 0},
+    MethodRow{2, "Debye", DebyeSeries, true, 0},
+    MethodRow{3, "Rayleigh", SimpleScattering, true, 0},
+    MethodRow{5, "Airy", AiryTheory, true, 0},
+    MethodRow{4, "Diffraction", SimpleScattering, true, 0},
+    MethodRow{6, "Descartes", RayOptics, true, 0},
+    MethodRow{7, "Young", RayOptics, true, 0},
+    MethodRow{8, "Young mod", RayOptics, true, 0},
+    MethodRow{14, "Young + Airy", RayOptics, true, 0},
+    MethodRow{11, "Surface wave", SurfaceWaves, true, 0},
+    MethodRow{13, "Coated sphere", Feature::CoatedSphere, true, 0},
+    MethodRow{4, "Diffraction new", SimpleScattering, false, 1},
+    MethodRow{9, "Huygens", RayOptics, false, 0},
+    MethodRow{10, "Aperture", SimpleScattering, false, 0},
+    MethodRow{12, "van de Hulst", SimpleScattering, false, 0},
+    MethodRow{15, "Burgeroid", NonSphericalDrops, false, 0},
+    MethodRow{16, "Heiligenschein", Feature::Heiligenschein, false, 0},
+    MethodRow{17, "Inhomogeneous sphere", Feature::InhomogeneousSphere, false, 0},
+};
+
+/// Samples of a spectrum whose colours change the faster with wavelength the larger the drop is.
+struct SpectrumDensity {
+  std::string_view text;
+  double product;  ///< samples times radius (um)
+  int ceiling, floor;
+};
+constexpr std::array spectrumDensities = {
+    SpectrumDensity{"High", 6000, 1000, 30},
+    SpectrumDensity{"Med.", 3000, 300, 10},
+    SpectrumDensity{"Low", 1000, 100, 7},
+};
+
+bool OneOf(int code, std::initializer_list<int> codes) {
+  return std::ranges::find(codes, code) != codes.end();
+}
+
+/// Wavefronts and strips are counted by the angle's input; small spheres around the rainbow show them best.
+void StripStartValues(Session& session) {
+  auto& form = session.form1;
+  const auto& s = session.state;
+  if (!OneOf(s.CalcMethod, {9, 10}) || !OneOf(s.GraphType, {1, 19}) || s.RestoringSettings != 0) return;
+  form.txtRadius.Text = "100";
+  form.cboRays.Text = "2";
+  form.txtXmin.Text = "120";
+  form.txtXmax.Text = "150";
+  form.cboStep.Text = "0.1";
+}
+
+/// Which illumination a method can have.
+void IlluminationOf(Session& session) {
+  auto& form = session.form1;
+  const int method = session.state.CalcMethod;
+  const bool beams = OneOf(method, {1, 2, 8, 11, 14});
+  form.mnuIllumination.Enabled = beams;
+  if (!beams) {
+    form.mnuPlaneWave.Checked = true;
+    form.mnuGaussian.Checked = form.mnuTopHat.Checked = form.mnuCentralBeam.Checked = false;
+  }
+  const bool rays = OneOf(method, {8, 14});
+  form.mnuTopHat.Visible = rays;
+  if (!rays) return;
+  form.mnuTopHat.Caption = "Top hat beam";
+  form.mnuGaussian.Caption = "Gaussian beam";
+  if (session.state.RestoringSettings == 0) form.txtAngle.Text = "90";
+}
+
+}  // namespace
+
+std::span<const MethodRow> MethodTable() {
+  return methodRows;
+}
+
+std::vector<std::string> OfferedMethods() {
+  std::vector<std::string> texts;
+  for (const auto& row : methodRows)
+    if (row.inStartList && IsAvailable(row.feature)) texts.emplace_back(row.text);
+  return texts;
+}
+
+void TypeCalc(Session& session) {
+  auto& list = session.form1.cboType;
+  auto& s = session.state;
+  list.BackColour = colours::White;
+  s.CalcMethod = 0;
+  for (const auto& row : methodRows) {
+    if (row.text != list.Text || !IsAvailable(row.feature)) continue;
+    s.CalcMethod = row.code;
+    if (row.code == 4) s.DiffractionVariant = row.diffractionVariant;
+  }
+  if (s.CalcMethod != 0) return;
+  list.BackColour = colours::BadInput;
+  session.platform.Message("Error", "Unknown calculation method");
+}
+
+void cboType_click(Session& session) {
+  auto& form = session.form1;
+  const auto& s = session.state;
+  form.lblDebyeRays.Caption.clear();
+  TypeCalc(session);
+  const bool byRays = OneOf(s.CalcMethod, {2, 5, 6, 7, 8, 9, 10, 11, 14});
+  form.cboRays.Visible = form.Label9.Visible = byRays;
+  if (s.CalcMethod == 5 && (form.cboRays.Text == "0" || form.cboRays.Text == "1")) form.cboRays.Text = "2";
+  if (byRays) cborays_Click(session);
+  form.chkDiffraction.Visible = OneOf(s.CalcMethod, {6, 7, 8, 14});
+  form.mnuHidden.Visible = OneOf(s.CalcMethod, {3, 8, 14});
+  for (MenuEntry* entry : {&form.mnuBessel, &form.mnuAiry, &form.mnuReadDiff})
+    entry->Visible = form.mnuHidden.Visible && form.mnuHidden.Checked;
+  StripStartValues(session);
+  IlluminationOf(session);
+  const bool surfaceWave = s.CalcMethod == 11;
+  form.cboQmin.Visible = form.cboQmax.Visible = form.lblQminQmax.Visible = form.txtSWAmp.Visible = surfaceWave;
+  form.mnuSurfaceWave.Visible = surfaceWave;
+  if (surfaceWave) form.txtSWAmp.Text = "1";
+  ShowFamilyInputs(session);
+  form.cmdNewPlot.Enabled = true;
+  DebyeLabel(session);
+}
+
+void ChooseMethod(Session& session, std::string_view text) {
+  auto& list = session.form1.cboType;
+  if (!list.Holds(text)) list.Items.emplace_back(text);
+  list.Text = text;
+  cboType_click(session);
+}
+
+void mnuDiffractionNew_Click(Session& session) {
+  ChooseMethod(session, "Diffraction new");
+}
+
+void mnuHuygens_Click(Session& session) {
+  ChooseMethod(session, "Huygens");
+}
+
+void mnuAperture_Click(Session& session) {
+  ChooseMethod(session, "Aperture");
+}
+
+void mnuvdh_Click(Session& session) {
+  ChooseMethod(session, "van de Hulst");
+}
+
+void mnuDebyeSequence_Click(Session& session) {
+  if (!AskIn(session, session.forms.dlogDebyeSeq)) return;
+  ChooseMethod(session, "Debye");
+  ChooseGraph(session, "Debye analysis");
+}
+
+void NumberWavelengths(Session& session) {
+  auto& s = session.state;
+  TakeSpecialRadius(session);
+  const std::string& text = session.form1.cboWave.Text;
+  s.NumberWavelengths = std::clamp(ToWhole(Val(text)), 0, 32767);
+  if (text == "RGB") s.NumberWavelengths = 3;
+  for (const auto& density : spectrumDensities)
+    if (text == density.text && s.Radius > 0)
+      s.NumberWavelengths =
+          std::clamp(ToWhole(std::min(Int(density.product / s.Radius), 1e6)), density.floor, density.ceiling);
+  if (s.NumberWavelengths < 1) s.NumberWavelengths = 1;
+}
+
+void ShowIndexInputs(Form1& form) {
+  const bool one = Trim(form.cboWave.Text) == "1";
+  form.txtRefractReal.Visible = form.Label10.Visible = form.txtRefractImag.Visible = one || form.mnuRI_Fixed1.Checked;
+  form.txtRefractMedium.Visible = one || form.mnuRI_Fixed2.Checked;
+}
+
+void ShowWavelengthInputs(Session& session) {
+  auto& form = session.form1;
+  const int type = session.state.GraphType;
+  const bool one = Trim(form.cboWave.Text) == "1";
+  form.Label6.Visible = form.txtLambda.Visible = one;
+  ShowIndexInputs(form);
+  form.lblSpectrum.Visible = form.mnuSpectrum.Visible = !one;
+  // Red, green and blue stand where they stand, whatever the band.
+  form.lblSpectrumBand.Visible = !one && form.cboWave.Text != "RGB";
+  form.mnuAverage.Visible = one;
+  form.Label18.Visible = form.cboBright.Visible = IsAvailable(Feature::ColourBars) && (!one || type >= 20);
+  form.chkComponents.Visible = form.cboWave.Text == "RGB";
+  // A size parameter belongs to one wavelength.
+  form.mnuRadiusX.Enabled = one && type == 1;
+  if (form.mnuRadiusX.Checked && !form.mnuRadiusX.Enabled) session.events.Raise("mnuRadius_Click");
+}
+
+void cboWave_Click(Session& session) {
+  auto& form = session.form1;
+  form.cmdReplot.Enabled = form.cmdOverPlot.Enabled = false;
+  form.cboGraph.BackColour = colours::White;
+  form.cmdNewPlot.Enabled = true;
+  ShowWavelengthInputs(session);
+  if (Trim(form.cboWave.Text) == "1") session.events.Raise("txtLambda_change");
+}
+
+}  // namespace lumivex

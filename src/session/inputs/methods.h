@@ -1,0 +1,59 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "record/features.h"
+#include "record/session.h"
+
+namespace lumivex {
+
+/// One calculation method: the text of cboType and the code that everything else branches on.
+struct MethodRow {
+  int code;
+  std::string_view text;
+  Feature feature;
+  bool inStartList;        ///< whether the list holds it from the start
+  int diffractionVariant;  ///< only for code 4
+};
+
+/// All methods in the order in which texts are compared.
+std::span<const MethodRow> MethodTable();
+
+/// The texts that cboType offers at the start: those of the start list whose solver is there.
+std::vector<std::string> OfferedMethods();
+
+/// Translates the text of cboType into CalcMethod and DiffractionVariant. A text that is no method, or whose solver is
+/// not there, marks the list and reports "Unknown calculation method"; CalcMethod is then 0.
+void TypeCalc(Session& session);
+
+/// cboType_click: what shows and what is allowed with the chosen method.
+void cboType_click(Session& session);
+
+/// Chooses a method by its text, which joins the list where it is not in it: the way of the methods that have a menu
+/// entry instead of a place in the list.
+void ChooseMethod(Session& session, std::string_view text);
+
+void mnuDiffractionNew_Click(Session& session);
+void mnuHuygens_Click(Session& session);
+void mnuAperture_Click(Session& session);
+void mnuvdh_Click(Session& session);
+
+/// Asks how far the Debye terms of one point are followed, and chooses the graph that shows them.
+void mnuDebyeSequence_Click(Session& session);
+
+/// Settles NumberWavelengths from cboWave ("RGB" is 3; "High", "Med." and "Low" depend on the radius).
+void NumberWavelengths(Session& session);
+
+/// The indices of sphere and medium have one value each only at one wavelength, or where they are fixed.
+void ShowIndexInputs(Form1& form);
+
+/// Shows the inputs of one wavelength or those of a spectrum, after cboWave.
+void ShowWavelengthInputs(Session& session);
+
+/// A new number of wavelengths needs a new calculation; one wavelength shows its inputs, several the spectrum's.
+void cboWave_Click(Session& session);
+
+}  // namespace lumivex

@@ -1,0 +1,153 @@
+#include "session/inputs/methods/debye_label.h"
+
+#include "record/number_text.h"
+#include "session/inputs/methods/rays_check.h"
+
+namespace lumivex {
+
+namespace {
+
+using Details = DebyeLabelDetails;
+
+std::string BeamLabel(const Details& d) {
+  const auto& b = d.beamNumbers;
+  std::string text = "Mie (Gaussian beam)\nx0 = " + b.x0 + "   y0 = " + b.y0 + "   z0 = " + b.z0 + "   w0 = " + b.w0;
+  text += "\nLmax = " + b.Lmax + (b.multiple ? "  Mmax = " : " Mmax = ") + b.Mmax;
+  if (b.multiple) text += "  Mmax1 = " + b.Mmax1;
+  if (b.lockPolarisation) text += "\nLock's definition of polarisation";
+  if (b.multiple) text += b.central ? "\nMultiple beams and Central beam" : "\nMultiple beams";
+  if (!b.multiple && b.central) text += "\nCentral beam";
+  return text;
+}
+
+/// " (p = 2)" or ": Pmin = 0, Pmax = 4, Step = 1".
+std::string RayText(const Details& d) {
+  if (d.p == "Multiple" && d.range)
+    return " (p = Multiple) : Pmin = " + d.range->Pmin + ", Pmax = " + d.range->Pmax + ", Step = " + d.range->Pstep;
+  if (d.p == "Multiple") return " (p = " + d.selected + ")";
+  if (Val(d.p) < 0) return " (p = 0 to " + Shortest(-Val(d.p)) + ")";
+  return " (p = " + d.p + ")";
+}
+
+std::string BeamSuffix(Details::Beam beam) {
+  if (beam == Details::Beam::Gaussian) return " (Gaussian beam)";
+  return beam == Details::Beam::TopHat ? " (Top hat)" : "";
+}
+
+std::string DebyeText(const Details& d) {
+  using enum Details::Difference;
+  const std::string name = d.difference == MinusGo   ? "Debye series - GO"
+                           : d.difference == FromMie ? "Mie - Debye series"
+                                                     : "Debye series";
+  const std::string waves = d.partial ? ": " + d.partial->first + "x - " + d.partial->last + "x" : "";
+  return name + waves + BeamSuffix(d.beam) + RayText(d);
+}
+
+std::string RayTheory(const char* name, const Details& d) {
+  return name + BeamSuffix(d.beam) + RayText(d);
+}
+
+std::string RaySum(const char* name, const Details& d) {
+  return RayTheory(name, d) + (d.diffraction ? "+ Diffraction" : "");
+}
+
+std::string SurfaceWaveText(const Details& d) {
+  using enum Details::Path;
+  const std::string start = d.path == ShortAndLong ? "Surface wave: short + long paths (p = "
+                            : d.path == Short      ? "Surface wave: short path (p = "
+                                                   : "Surface wave: long path (p = ";
+  return start + d.p + ")";
+}
+
+std::string CoatedText(const Details::Coating& c) {
+  const std::string name = c.version == 1 ? "Coated sphere 1" : "Coated sphere 2";
+  if (!c.N) return name;
+  if (c.version == 2) return "Coated sphere 2: Debye N = " + *c.N;
+  return "Coated sphere 1: Debye N = " + *c.N + ", A = " + c.A + ", B = " + c.B;
+}
+
+std::string ProfileText(const Details::RadialProfile& profile) {
+  using enum Details::Profile;
+  const std::string ends = "\nn1 = " + profile.n1 + " from r = 0 to r = " + profile.r1 + "\u00B5m\nn2 = " + profile.n2 +
+                           " from r = " + profile.r1 + "\u00B5m to r = " + profile.r2 + "\u00B5m";
+  const std::string name = "Inhomogeneous sphere";
+  switch (profile.kind) {
+    case Linear:
+      return name + " (linear transition)" + ends;
+    case Sinusoidal:
+      return name + " (sinusoidal transition)" + ends;
+    case ModLuneburg:
+      return name + " (Mod. Luneburg)\nF = " + profile.F;
+    case Exponential:
+      return name + " (exponential)\nB = " + profile.B + ", C = " + profile.C;
+    case Polynomial:
+      return name + " (polynomial)\nB = " + profile.B + ", C = " + profile.C;
+    case Luneburg:
+      return name + " (Luneburg)";
+    case ThreeLayer:
+      return name + " (3-layer)";
+    case None:
+      break;
+  }
+  return name;
+}
+
+}  // namespace
+
+std::string DebyeLabelText(const DebyeLabelDetails& d) {
+  switch (d.method) {
+    case 1:
+      return d.beam == Details::Beam::Gaussian ? BeamLabel(d) : "Mie (plane wave)";
+    case 2:
+      return DebyeText(d);
+    case 4:
+      return "Diffraction";
+    case 3:
+      return "Rayleigh scattering";
+    case 5:
+      return RayTheory("Airy theory", d);
+    case 6:
+      return RaySum("Descartes", d);
+    case 7:
+      return RaySum("Young", d);
+    case 8:
+      return RaySum("Young mod.", d);
+    case 9:
+      return RayTheory("Huygens", d);
+    case 11:
+      return SurfaceWaveText(d);
+    case 13:
+      return CoatedText(d.coating);
+    case 14:
+      return RaySum("Young + Airy", d);
+    case 16:
+      return "Heiligenschein (L = " + d.heiligenscheinL + ", gamma = " + d.heiligenscheinGamma + ")";
+    case 17:
+      return ProfileText(d.profile);
+    default:
+      return "";
+  }
+}
+
+void DebyeLabel(Session& session) {
+  const auto& form = session.form1;
+  Details details;
+  details.method = session.state.CalcMethod;
+  details.p = form.cboRays.Text;
+  if (details.p == "Multiple") {
+    const auto& dialog = session.forms.dlogP;
+    RaysCheck(session);
+    if (dialog.chkMultStep.Checked)
+      details.range = {dialog.txtPmin.Text, dialog.txtPmax.Text, dialog.txtPstep.Text};
+    else
+      details.selected = SelectedRaysText(session.state.RayEnabled);
+  }
+  const auto& partial = session.forms.dlogPartial;
+  if (partial.optPartial.Checked) details.partial = {partial.txtMin.Text, partial.txtMax.Text};
+  details.diffraction = WithDiffraction(session);
+  if (form.mnuGODebye.Checked || form.mnuSWsub.Checked) details.difference = Details::Difference::MinusGo;
+  if (form.mnuMieDebye.Checked) details.difference = Details::Difference::FromMie;
+  session.form1.lblDebyeRays.Caption = DebyeLabelText(details);
+}
+
+}  // namespace lumivex

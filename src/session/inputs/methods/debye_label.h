@@ -1,0 +1,61 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "record/session.h"
+
+namespace lumivex {
+
+/// What the label of the method in use tells beyond the method itself. Numbers are texts as their fields show them.
+struct DebyeLabelDetails {
+  enum class Beam { PlaneWave, Gaussian, TopHat };
+  enum class Difference { None, MinusGo, FromMie };
+  enum class Profile { None, Linear, Sinusoidal, ModLuneburg, Exponential, Polynomial, Luneburg, ThreeLayer };
+  enum class Path { ShortAndLong, Short, Long };
+
+  struct BeamNumbers {
+    std::string x0, y0, z0, w0, Lmax, Mmax, Mmax1;
+    bool lockPolarisation = false, multiple = false, central = false;
+  };
+  /// The range of p when "Multiple" is chosen.
+  struct RayRange {
+    std::string Pmin, Pmax, Pstep;
+  };
+  /// Ends of the partial waves summed, over x.
+  struct PartialRange {
+    std::string first, last;
+  };
+  /// A coated sphere: version 1 or 2; N, A, B of its Debye series where that is what is summed.
+  struct Coating {
+    int version = 1;
+    std::optional<std::string> N;
+    std::string A, B;
+  };
+  struct RadialProfile {
+    Profile kind = Profile::None;
+    std::string n1, n2, r1, r2, B, C, F;
+  };
+
+  int method = 1;  ///< CalcMethod
+  Beam beam = Beam::PlaneWave;
+  BeamNumbers beamNumbers;
+  Difference difference = Difference::None;
+  std::string p = "0";                  ///< text of cboRays
+  std::optional<RayRange> range;        ///< for "Multiple" by a range of p
+  std::string selected;                 ///< for "Multiple" one by one: "0, 3"
+  std::optional<PartialRange> partial;  ///< of a Debye term
+  Path path = Path::ShortAndLong;
+  bool diffraction = false;
+  Coating coating;
+  RadialProfile profile;
+  std::string heiligenscheinL, heiligenscheinGamma;
+};
+
+/// The label as text, lines parted by '\n'.
+std::string DebyeLabelText(const DebyeLabelDetails& details);
+
+/// Writes lblDebyeRays for the method in use.
+void DebyeLabel(Session& session);
+
+}  // namespace lumivex

@@ -1,0 +1,20 @@
+#include "session/inputs/methods/sphere_size.h"
+
+#include "record/number_text.h"
+
+namespace lumivex {
+
+double MediumIndexInUse(const Session& session) {
+  const double medium = Val(session.form1.txtRefractMedium.Text);
+  return medium == 0 ? 1 : medium;
+}
+
+double SphereRadius(const Session& session) {
+  const auto& form = session.form1;
+  const double size = Val(form.txtRadius.Text);
+  constexpr double twoPi = 6.28318530717958648;
+  if (form.mnuRadiusX.Checked) return size * Val(form.txtLambda.Text) / (twoPi * MediumIndexInUse(session));
+  return form.mnuDiameter.Checked ? size / 2 : size;
+}
+
+}  // namespace lumivex

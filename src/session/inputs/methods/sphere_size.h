@@ -1,0 +1,14 @@
+#pragma once
+
+#include "record/session.h"
+
+namespace lumivex {
+
+/// The radius in micrometres that txtRadius means: itself, a diameter to be halved, or a size parameter, after which of
+/// mnuRadius, mnuDiameter and mnuRadiusX is ticked. Wavelength and medium are read from their fields.
+double SphereRadius(const Session& session);
+
+/// The medium's index as a run uses it: an entry of exactly 0 counts as 1.
+double MediumIndexInUse(const Session& session);
+
+}  // namespace lumivex

@@ -1,0 +1,110 @@
+#include "pages/colours.h"
+
+#include <gtest/gtest.h>
+
+#include "pages/drawing_reader.h"
+#include "pages/graph_fixture.h"
+
+namespace lumivex {
+namespace {
+
+void ExpectColour(ColourTriple c, double r, double g, double b, const std::string& where) {
+  EXPECT_NEAR(c.r, r, 0.05) << where;
+  EXPECT_NEAR(c.g, g, 0.05) << where;
+  EXPECT_NEAR(c.b, b, 0.05) << where;
+}
+
+TEST(WavelengthColour, FollowsItsPieces) {
+  ExpectColour(colRGB2(0.44), 0, 0, 255, "440 nm");
+  ExpectColour(colRGB2(0.465), 0, 127.5, 255, "465 nm");
+  ExpectColour(colRGB2(0.51), 0, 255, 0, "510 nm");
+  ExpectColour(colRGB2(0.545), 127.5, 255, 0, "545 nm");
+  ExpectColour(colRGB2(0.645), 255, 0, 0, "645 nm");
+  ExpectColour(colRGB2(1.2), 255, 0, 0, "no fade beyond red");
+  EXPECT_NEAR(colRGB2(0.38).r, 318.7, 0.1) << "not clipped before it becomes a colour";
+  EXPECT_EQ(ToColour(colRGB2(0.38)), RGB(255, 0, 255));
+  ExpectColour(colrgb3(0.46), 255 * (1 - 80.0 / 90), 255 * 0.2, 255, "the other rule at 460 nm");
+  ExpectColour(colrgb3(0.71), 0, 0, 0, "the other rule ends at 700 nm");
+}
+
+TEST(Saturation, TreatsACellThatIsTooBright) {
+  const ColourTriple cell{300, 100, 100};
+  ExpectColour(Saturation(cell, SaturationRule::Photo), 255, 100, 100, "Photo");
+  ExpectColour(Saturation(cell, SaturationRule::Freeze), 255, 85, 85, "Freeze");
+  ExpectColour(Saturation(cell, SaturationRule::PeakWhite), 255, 255, 255, "Peak White");
+  ExpectColour(Saturation({200, 100, 0}, SaturationRule::PeakWhite), 200, 100, 0, "nothing above 255");
+}
+
+TEST(Gamma, JoinsItsBranchesAndKeepsRatiosInGroups) {
+  EXPECT_NEAR(TransferCurve(4.59), 20.655, 1e-9);
+  EXPECT_NEAR(TransferCurve(4.5901), 20.655, 0.1);
+  EXPECT_NEAR(TransferCurve(255), 255, 1e-9);
+  const ColourTriple group = GammaCorrect({100, 50, 25}, GammaRule::GroupRGB);
+  EXPECT_NEAR(group.r, TransferCurve(100), 1e-9);
+  EXPECT_NEAR(group.r / group.g, 2, 1e-12);
+  ExpectColour(GammaCorrect({0, 0, 0}, GammaRule::GroupRGB), 0, 0, 0, "black stays black");
+}
+
+struct FalseColours : testing::Test, GraphSession {
+  Colour At(double value) {
+    state.ColourValue = value;
+    ColourScale(session);
+    return surface.ForeColour;
+  }
+};
+
+TEST_F(FalseColours, RunDownTheRainbow) {
+  state.GraphType = 22;
+  form.cboBright.Text = "1";
+  EXPECT_EQ(At(0), RGB(255, 255, 255));
+  EXPECT_EQ(At(-0.4), RGB(255, 0, 0));
+  EXPECT_EQ(At(-0.8), RGB(255, 255, 0));
+  EXPECT_EQ(At(-1.2), RGB(0, 255, 0));
+  EXPECT_EQ(At(-1.4), RGB(0, 255, 255));
+  EXPECT_EQ(At(-1.6), RGB(0, 0, 255));
+  EXPECT_EQ(At(-2), RGB(255, 0, 255));
+  EXPECT_EQ(At(-3), RGB(0, 0, 0));
+  Click("mnuGrey_Click");
+  EXPECT_EQ(At(-3), RGB(245, 245, 245)) << "the pale end reads on grey";
+  form.cboBright.Text = "-1";
+  EXPECT_EQ(At(0.5), RGB(127.5, 127.5, 127.5)) << "no brightness: greys";
+  form.cboBright.Text = "1";
+  state.GraphType = 27;
+  EXPECT_EQ(At(-5).Red(), 0) << "ratios are positive";
+  EXPECT_EQ(At(1), RGB(0, 255, 255));
+  EXPECT_EQ(At(3), RGB(255, 0, 0));
+  EXPECT_EQ(At(9), RGB(255, 255, 255));
+}
+
+TEST_F(FalseColours, TheKeyRunsAwayFromTheThirdPanel) {
+  surface.Cls();
+  cmdColourTest_Click(session);
+  const DrawingReader drawing(surface);
+  EXPECT_EQ(drawing.All(DrawnOperation::Kind::Line).size(), 701U);
+  const auto box = drawing.All(DrawnOperation::Kind::Box);
+  ASSERT_EQ(box.size(), 1U);
+  EXPECT_NEAR(box[0].points[0].x, 2 * 5000 + 1000, 1);
+  EXPECT_NEAR(box[0].points[1].x, 2 * 5000 + 1000 + 4000, 1);
+}
+
+TEST_F(FalseColours, LineColoursComeWithTheirShade) {
+  Click("mnuCyanLine_Click");
+  LineColour(session);
+  EXPECT_EQ(surface.ForeColour, RGB(0, 255, 255));
+  EXPECT_EQ(state.SecondLineColour, RGB(0, 128, 128));
+  auto& dialog = session.forms.dlogPlotColour;
+  platform.dialogAnswer = false;
+  Click("mnuMoreColours_Click");
+  EXPECT_TRUE(form.mnuCyanLine.Checked) << "a cancelled dialog changes nothing";
+  state.RestoringSettings = 1;
+  dialog.txtRed.Text = "200";
+  dialog.txtGreen.Text = "100";
+  dialog.txtBlue.Text = "999";
+  Click("mnuMoreColours_Click");
+  LineColour(session);
+  EXPECT_EQ(surface.ForeColour, RGB(200, 100, 255));
+  EXPECT_FALSE(form.mnuCyanLine.Checked);
+}
+
+}  // namespace
+}  // namespace lumivex

@@ -1,0 +1,400 @@
+// Rays, rainbows and wavefronts against the Debye series, in amplitude and phase.
+
+#include <gtest/gtest.h>
+
+#include <cfenv>
+#include <cmath>
+#include <complex>
+
+#include "solvers/rays/huygens_wave.h"
+#include "solvers/rays/rainbow.h"
+#include "solvers/rays/ray_series.h"
+#include "solvers/rays/ray_table.h"
+#include "solvers/series/debye_series.h"
+#include "solvers/series/mie_series.h"
+
+namespace lumivex {
+namespace {
+
+using Complex = std::complex<double>;
+constexpr double pi = 3.14159265358979324;
+constexpr int watched = FE_OVERFLOW | FE_DIVBYZERO | FE_INVALID;
+constexpr int fineRows = 901;  // 0.1 degrees
+
+int RowOf(double degrees) {
+  return static_cast<int>(std::lround(degrees * 10)) + 1;
+}
+
+std::vector<int> Only(int p) {
+  std::vector<int> selected(static_cast<std::size_t>(p) + 1, 0);
+  selected.back() = 1;
+  return selected;
+}
+
+struct Pair {
+  AmplitudeTable S1{2 * fineRows - 1};
+  AmplitudeTable S2{2 * fineRows - 1};
+};
+
+struct Sphere {
+  double x, m, k;
+};
+
+Pair Debye(const Sphere& sphere, const std::vector<int>& selected, RowWindow window) {
+  DebyeRequest request;
+  request.x = sphere.x;
+  request.mRe = sphere.m;
+  request.mIm = sphere.k;
+  request.NANG = fineRows;
+  request.selected = selected;
+  request.window = window;
+  SilentMonitor monitor;
+  DebyeResult result = SolveDebye(request, monitor);
+  return {std::move(result.S1), std::move(result.S2)};
+}
+
+Pair Rays(const Sphere& sphere, const std::vector<int>& selected, RowWindow window,
+          RayMethod method = RayMethod::YoungMod) {
+  RayRequest request;
+  request.x = sphere.x;
+  request.mRe = sphere.m;
+  request.mIm = sphere.k;
+  request.selected = selected;
+  request.method = method;
+  request.grid = AngleGrid(fineRows);
+  request.window = window;
+  Pair result;
+  SilentMonitor monitor;
+  SumRays(request, result.S1, result.S2, monitor);
+  return result;
+}
+
+/// Root mean square of the difference of moduli, relative to the root mean square of the first.
+double ModulusError(const AmplitudeTable& a, const AmplitudeTable& b, RowWindow window) {
+  double difference = 0.0;
+  double sum = 0.0;
+  for (int row = window.low; row <= window.high; ++row) {
+    const double d = std::sqrt(a.Intensity(row)) - std::sqrt(b.Intensity(row));
+    difference += d * d;
+    sum += a.Intensity(row);
+  }
+  return std::sqrt(difference / sum);
+}
+
+struct RayCase {
+  double m, k;
+  int p;
+  double degrees;
+};
+
+// The ratio of Debye term and ray is 1 + O(1/x): a wrong quarter wave, sign or turn shows at once.
+TEST(Rays, TendToTheirDebyeTerm) {
+  // Away from rainbows, grazing rays and angles where a polarisation nearly vanishes.
+  const RayCase cases[] = {
+      {1.333, 0, 0, 60}, {1.333, 0, 0, 170},   {1.333, 0, 1, 10},    {1.333, 0, 1, 40}, {1.333, 0, 3, 40},
+      {1.333, 0, 3, 80}, {1.333, 0, 4, 90},    {1.333, 0, 4, 150},   {1.333, 0, 6, 80}, {1.5, 0, 0, 90},
+      {1.5, 0, 1, 50},   {1.5, 0, 3, 20},      {1.5, 0, 4, 80},      {1.5, 0, 4, 100},  {1.5, 0, 5, 30},
+      {1.5, 0, 5, 60},   {1.5, 0, 6, 30},      {1.5, 0, 6, 60},      {2.5, 0, 2, 150},  {0.75, 0, 1, 20},
+      {0.75, 0, 2, 150}, {1.333, 5e-4, 1, 10}, {1.333, 5e-4, 3, 40},
+  };
+  std::feclearexcept(FE_ALL_EXCEPT);
+  for (const auto& c : cases) {
+    const int row = RowOf(c.degrees);
+    double errors[2] = {};
+    for (const int i : {0, 1}) {
+      const Sphere sphere{i == 0 ? 1000.0 : 4000.0, c.m, i == 0 ? c.k : c.k / 4};
+      const Pair debye = Debye(sphere, Only(c.p), {row, row});
+      const Pair rays = Rays(sphere, Only(c.p), {row, row});
+      const Complex ratio = Complex(debye.S1.Value(row)) / Complex(rays.S1.Value(row));
+      errors[i] = std::abs(ratio - 1.0);
+      const Complex other = Complex(debye.S2.Value(row)) / Complex(rays.S2.Value(row));
+      EXPECT_LT(std::abs(other - 1.0), i == 0 ? 0.1 : 0.03) << "S2, m " << c.m << ", p " << c.p << ", " << c.degrees;
+    }
+    EXPECT_LT(errors[0], 0.02) << "m " << c.m << ", p " << c.p << ", " << c.degrees;
+    EXPECT_LT(errors[1], 0.4 * errors[0] + 2e-5) << "m " << c.m << ", p " << c.p << ", " << c.degrees;
+  }
+  EXPECT_EQ(std::fetestexcept(watched), 0);
+}
+
+TEST(Rays, ReflectionIsRightToSecondOrder) {
+  for (const double degrees : {60.0, 120.0, 170.0}) {
+    const int row = RowOf(degrees);
+    const Pair debye = Debye({2000, 1.333, 0}, Only(0), {row, row});
+    const Pair corrected = Rays({2000, 1.333, 0}, Only(0), {row, row});
+    const Pair plain = Rays({2000, 1.333, 0}, Only(0), {row, row}, RayMethod::YoungAiry);
+    for (const auto member : {&Pair::S1, &Pair::S2}) {
+      const Complex exact = (debye.*member).Value(row);
+      EXPECT_LT(std::abs(exact / Complex((corrected.*member).Value(row)) - 1.0), 1e-4) << degrees;
+      EXPECT_GT(std::abs(exact / Complex((plain.*member).Value(row)) - 1.0), 1.5e-4) << degrees;
+    }
+  }
+}
+
+// Below the critical angle total reflection is a matter of phase alone; the Mie series is the judge, since the Debye
+// series of m < 1 counts it otherwise.
+TEST(Rays, TotalReflectionAgreesWithMie) {
+  MieRequest request;
+  request.x = 3000;
+  request.mRe = 0.75;
+  request.NANG = fineRows;
+  SilentMonitor monitor;
+  const MieResult mie = SolveMie(request, monitor);
+  const Pair rays = Rays({3000, 0.75, 0}, std::vector<int>(8, 1), {301, 651});
+  double difference = 0.0;
+  for (int row = 301; row <= 651; ++row) {
+    difference += std::norm(Complex(mie.S1.Value(row)) - Complex(rays.S1.Value(row)));
+  }
+  EXPECT_LT(std::sqrt(difference / 351) / 1500, 0.05);
+}
+
+TEST(Rays, YoungWithCausticPhasesShowsTheFringesOfTheRainbow) {
+  const RowWindow bright{RowOf(142), RowOf(165)};
+  for (const auto& [x, tolerance] : {std::pair{1000.0, 0.16}, {5000.0, 0.06}}) {
+    const Pair debye = Debye({x, 1.333, 0}, Only(2), bright);
+    const Pair rays = Rays({x, 1.333, 0}, Only(2), bright);
+    EXPECT_LT(ModulusError(debye.S1, rays.S1, bright), tolerance);
+    EXPECT_LT(ModulusError(debye.S2, rays.S2, bright), tolerance);
+  }
+  // Without the quarter wave of the caustic the fringes are misplaced: the theory as it was first given.
+  const Pair debye = Debye({1000, 1.333, 0}, Only(2), bright);
+  const Pair young = Rays({1000, 1.333, 0}, Only(2), bright, RayMethod::Young);
+  EXPECT_GT(ModulusError(debye.S1, young.S1, bright), 0.3);
+}
+
+TEST(Rays, IntensitiesAddToTheMeanOfTheFringes) {
+  const RowWindow window{RowOf(150), RowOf(164)};
+  const Pair waves = Rays({3000, 1.333, 0}, Only(2), window, RayMethod::YoungAiry);
+  const Pair plain = Rays({3000, 1.333, 0}, Only(2), window, RayMethod::Intensities);
+  double fringes = 0.0;
+  double mean = 0.0;
+  for (int row = window.low; row <= window.high; ++row) {
+    fringes += waves.S1.Intensity(row);
+    mean += plain.S1.Intensity(row);
+    EXPECT_EQ(plain.S1.Im(row), 0.0);
+  }
+  EXPECT_NEAR(fringes / mean, 1, 0.05);
+}
+
+TEST(Rays, EndRowsGrazingRaysAndOddIndicesAreFinite) {
+  std::feclearexcept(FE_ALL_EXCEPT);
+  for (const Sphere& sphere :
+       {Sphere{0.005, 1.333, 0}, Sphere{500, 1, 0}, Sphere{500, 1.0000001, 0}, Sphere{500, 0.2, 3}, Sphere{500, 2, 0},
+        Sphere{500, 3.5, 0}, Sphere{500, 0.999, 0}, Sphere{500, 1.333, 100}}) {
+    for (const auto method : {RayMethod::Intensities, RayMethod::Young, RayMethod::YoungMod, RayMethod::YoungAiry}) {
+      for (const RowWindow window : {RowWindow{1, 9}, RowWindow{1378, 1384}, RowWindow{1797, 1801}}) {
+        const Pair rays = Rays(sphere, std::vector<int>(51, 1), window, method);
+        for (int row = window.low; row <= window.high; ++row)
+          ASSERT_TRUE(std::isfinite(std::sqrt(rays.S1.Intensity(row) + rays.S2.Intensity(row))))
+              << sphere.m << ", row " << row;
+      }
+    }
+  }
+  EXPECT_EQ(std::fetestexcept(watched), 0);
+}
+
+// A reflected ray is met exactly once at every angle; rays of p = 2 two, one or none times.
+TEST(Rays, TableMeetsEveryAngleAsOftenAsThereAreRays) {
+  const RayTable reflected = MakeRayTable(1.333, 0);
+  EXPECT_EQ(reflected.SegmentLast, 0);
+  EXPECT_DOUBLE_EQ(ScatteringAngle(reflected.folds[0], reflected.RayDeviation[0]), pi);
+  EXPECT_NEAR(ScatteringAngle(reflected.folds[0], reflected.RayDeviation[1]), 0.0, 1e-15);
+  const RayTable rainbow = MakeRayTable(1.333, 2);
+  ASSERT_EQ(rainbow.SegmentCount, 2);
+  EXPECT_NEAR(rainbow.RayDeviation[1] * 180 / pi, 137.92189262, 1e-8);
+  EXPECT_TRUE(rainbow.AtRainbow(0) && rainbow.AtRainbow(1));
+  EXPECT_EQ(MakeRayTable(1, 1).SegmentCount, 0);
+  EXPECT_EQ(MakeRayTable(2.5, 2).rainbowPoint, 0U);  // m above p: no rainbow
+  for (const int p : {1, 2, 5, 50, 1000}) {
+    for (const double m : {0.6, 1.333, 1.9}) {
+      const RayTable table = MakeRayTable(m, p);
+      for (int k = 0; k <= table.SegmentLast; ++k) {
+        const auto i = static_cast<std::size_t>(k);
+        EXPECT_LE(table.RayImpact[i], table.RayImpact[i + 1] + 1e-15) << "m " << m << ", p " << p << ", " << k;
+        const double middle = 0.4 * table.RayDeviation[i] + 0.6 * table.RayDeviation[i + 1];
+        const double t = GOAngleCalc(table.family, middle, table.parameter[i], table.parameter[i + 1], 0);
+        EXPECT_NEAR(table.family.At(t).deviation, middle, 1e-11 * (1 + std::fabs(middle))) << m << ", p " << p;
+        EXPECT_EQ(FoldDeviation(middle).halfTurn, table.folds[i].halfTurn);
+      }
+    }
+  }
+}
+
+TEST(Rays, BeamsWeightTheRaysBySideAndImpact) {
+  RayRequest request;
+  request.x = 500;
+  request.mRe = 1.333;
+  const std::vector<int> selected = Only(1);
+  request.selected = selected;
+  request.grid = AngleGrid(fineRows);
+  request.window = {1, 601};
+  request.firstAngle = -30 * pi / 180;
+  request.beam = {RayBeam::Profile::TopHat, 0.5, 0.1};
+  AmplitudeTable S1(601);
+  AmplitudeTable S2(601);
+  SilentMonitor monitor;
+  SumRays(request, S1, S2, monitor);
+  int lit = 0;
+  const RayFamily family(1.333, 1);
+  for (int row = 1; row <= 601; ++row) {
+    const double angle = request.firstAngle + request.grid.Angle(row);
+    const bool hit = S1.Intensity(row) > 0;
+    lit += hit;
+    const auto at = [&](double impact) { return family.At(family.Parameter(impact)).deviation; };
+    if (hit) {
+      EXPECT_TRUE(angle > at(0.4) - 1e-9 && angle < at(0.6) + 1e-9) << angle;
+    }
+  }
+  EXPECT_GT(lit, 20);
+  // A very wide beam is a plane wave.
+  request.beam = {RayBeam::Profile::Gaussian, 0.0, 1e6};
+  request.firstAngle = 0;
+  AmplitudeTable wide1(601);
+  AmplitudeTable wide2(601);
+  SumRays(request, wide1, wide2, monitor);
+  EXPECT_NEAR(wide1.Re(300), Rays({500, 1.333, 0}, Only(1), {300, 300}).S1.Re(300), 1e-6);
+}
+
+TEST(Airy, AmplitudesAtTheRainbow) {
+  const auto rainbow = MakeRainbow(1.333, 2);
+  ASSERT_TRUE(rainbow);
+  EXPECT_NEAR(rainbow->h, 4.8991939584, 1e-9);
+  EXPECT_NEAR(rainbow->RainbowAngle * 180 / pi, 137.92189262, 1e-8);
+  EXPECT_NEAR(rainbow->epsPerpendicular, 8.0 / 27.0, 1e-14);
+  EXPECT_NEAR(MakeRainbow(1.333, 3)->h, 27.9100844469, 1e-8);
+  ComplexD S1, S2;
+  AddAiry(*rainbow, 1000, rainbow->RainbowAngle, 1, AiryDerivative::None, S1, S2);
+  EXPECT_NEAR(S1.re, 498.1538, 1e-3);
+  EXPECT_NEAR(S1.im, 247.9140, 1e-3);
+  EXPECT_NEAR(S2.re, 98.9705, 1e-3);
+  ComplexD both1, both2;
+  AddAiry(*rainbow, 1000, rainbow->RainbowAngle, 1, AiryDerivative::Both, both1, both2);
+  EXPECT_NEAR(both1.re, 524.683, 2e-3);
+  EXPECT_NEAR(both2.re, 143.116, 2e-3);
+  EXPECT_NEAR(both2.im, -39.450, 2e-3);
+  for (const auto& [m, p] : {std::pair{1.333, 0}, {1.333, 1}, {0.75, 2}, {1.0, 2}, {2.5, 2}}) {
+    EXPECT_FALSE(MakeRainbow(m, p)) << m << ", " << p;
+  }
+}
+
+struct Peak {
+  double modulus = 0.0;
+  int row = 0;
+};
+
+Peak HighestOf(const AmplitudeTable& S, RowWindow window) {
+  Peak peak;
+  for (int row = window.low; row <= window.high; ++row) {
+    if (S.Intensity(row) > peak.modulus * peak.modulus) peak = {std::sqrt(S.Intensity(row)), row};
+  }
+  return peak;
+}
+
+TEST(Airy, PeakAgreesWithTheDebyeTerm) {
+  const AngleGrid grid(9001);
+  const RowWindow window{13700, 14000};
+  for (const auto& [x, height] : {std::pair{1000.0, 0.021}, {5000.0, 0.01}}) {
+    DebyeRequest debye;
+    debye.x = x;
+    debye.mRe = 1.333;
+    debye.NANG = 9001;
+    debye.selected = Only(2);
+    debye.window = window;
+    SilentMonitor monitor;
+    const DebyeResult exact = SolveDebye(debye, monitor);
+    AiryRequest request;
+    request.x = x;
+    request.m = 1.333;
+    request.grid = AngleGrid(9001);
+    request.window = window;
+    const std::vector<int> selected = Only(2);
+    request.selected = selected;
+    AmplitudeTable S1(18001);
+    AmplitudeTable S2(18001);
+    const RowsDone done = SolveAiry(request, S1, S2, monitor);
+    EXPECT_TRUE(done.Contains(13700) && done.Contains(14000) && !done.Contains(14001));
+    const Peak airy = HighestOf(S1, window);
+    const Peak term = HighestOf(exact.S1, window);
+    EXPECT_NEAR(airy.modulus / term.modulus, 1, height) << x;
+    EXPECT_NEAR(airy.row, term.row, 3) << x;  // 0.03 degrees
+    // Across the rainbow in amplitude and phase; S2 only with the derivative term.
+    const int row = 13792 + 1;
+    EXPECT_LT(std::abs(Complex(exact.S1.Value(row)) / Complex(S1.Value(row)) - 1.0), 0.05) << x;
+    EXPECT_LT(std::abs(Complex(exact.S2.Value(row)) / Complex(S2.Value(row)) - 1.0), 0.05) << x;
+  }
+}
+
+TEST(Airy, SeveralRainbowsAddAndFarAwayNothingFails) {
+  std::feclearexcept(FE_ALL_EXCEPT);
+  const auto solve = [](const std::vector<int>& selected) {
+    AiryRequest request;
+    request.x = 20000;
+    request.m = 1.333;
+    request.grid = AngleGrid(91);
+    request.window = {1, 181};
+    request.selected = selected;
+    Pair result;
+    SilentMonitor monitor;
+    SolveAiry(request, result.S1, result.S2, monitor);
+    return result;
+  };
+  const Pair both = solve({1, 1, 1, 1});
+  const Pair two = solve({0, 0, 1});
+  const Pair three = solve({0, 0, 0, 1});
+  for (int row = 1; row <= 181; ++row) {
+    EXPECT_TRUE(std::isfinite(both.S2.Re(row)));
+    EXPECT_NEAR(both.S1.Re(row), two.S1.Re(row) + three.S1.Re(row), 1e-9 * (1 + std::fabs(both.S1.Re(row))));
+  }
+  EXPECT_EQ(std::fetestexcept(watched), 0);
+}
+
+TEST(Rays, YoungAndAiryTogetherFollowTheDebyeTerm) {
+  struct Case {
+    double x;
+    int p;
+    double low, high, perpendicular, parallel;
+  };
+  for (const Case& c : {Case{1000, 2, 134, 152, 0.025, 0.025}, Case{5000, 2, 134, 152, 0.013, 0.01},
+                        Case{1000, 3, 112, 132, 0.11, 0.3}, Case{5000, 3, 112, 132, 0.05, 0.15}}) {
+    const RowWindow window{RowOf(c.low), RowOf(c.high)};
+    const Pair debye = Debye({c.x, 1.333, 0}, Only(c.p), window);
+    const Pair rays = Rays({c.x, 1.333, 0}, Only(c.p), window, RayMethod::YoungAiry);
+    EXPECT_LT(ModulusError(debye.S1, rays.S1, window), c.perpendicular) << c.x << ", p " << c.p;
+    EXPECT_LT(ModulusError(debye.S2, rays.S2, window), c.parallel) << c.x << ", p " << c.p;
+  }
+}
+
+TEST(Huygens, WaveletsGiveRaysAndRainbow) {
+  const RowWindow rainbow{RowOf(134), RowOf(152)};
+  const RowWindow forward{RowOf(10), RowOf(60)};
+  for (const auto& [p, window, tolerance] : {std::tuple{2, rainbow, 0.06}, std::tuple{1, forward, 0.01}}) {
+    const std::vector<int> selected = Only(p);
+    HuygensRequest request;
+    request.x = 1000;
+    request.m = 1.333;
+    request.selected = selected;
+    request.grid = AngleGrid(fineRows);
+    request.window = window;
+    Pair result;
+    SilentMonitor monitor;
+    SumHuygens(request, result.S1, result.S2, monitor);
+    const Pair debye = Debye({1000, 1.333, 0}, selected, window);
+    EXPECT_LT(ModulusError(debye.S1, result.S1, window), tolerance) << p;
+  }
+}
+
+TEST(Huygens, TracesRaysThroughTheSphere) {
+  const HuygensWave wave = TraceHuygens(1000, 4.0 / 3.0, 1, 50);
+  ASSERT_EQ(wave.impact.size(), 51U);
+  EXPECT_DOUBLE_EQ(wave.amplitudePerpendicular[0] / (1 - 1.0 / 49.0), 2000.0);
+  EXPECT_NEAR(wave.exitX[0], 1, 1e-12);
+  EXPECT_NEAR(wave.exitY[0], 0, 1e-12);
+  // The axial wave stands half a radius behind the exit; next to it the wavefront converges.
+  EXPECT_NEAR(wave.waveX[0], 0.5, 1e-12);
+  EXPECT_GT(wave.deviation[10], 0);
+  for (std::size_t k = 1; k < 50; ++k) EXPECT_NEAR(std::hypot(wave.exitX[k], wave.exitY[k]), 1, 1e-12);
+  // Rays that are totally reflected do not enter.
+  EXPECT_EQ(TraceHuygens(1000, 0.75, 1, 100).impact.size(), 76U);
+}
+
+}  // namespace
+}  // namespace lumivex
