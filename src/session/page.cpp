@@ -2,8 +2,8 @@
 
 #include "pages/huygens_drawing.h"
 #include "pages/redraw.h"
-#include "pages/size_distribution_display.h"
 #include "pages/visible_data.h"
+#include "session/inputs/sizes/size_distribution_display.h"
 
 namespace lumivex {
 

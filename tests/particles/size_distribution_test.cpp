@@ -5,7 +5,7 @@
 #include <span>
 
 #include "materials/material_fixture.h"
-#include "pages/size_distribution_display.h"
+#include "session/inputs/sizes/size_distribution_display.h"
 #include "particles/gamma_function.h"
 #include "particles/normal_samples.h"
 #include "particles/size_models.h"

@@ -3,7 +3,7 @@
 #include <type_traits>
 #include <vector>
 
-#include "record/table2d.h"
+#include "axes/table2d.h"
 #include "solvers/angles/amplitude_table.h"
 
 namespace lumivex {

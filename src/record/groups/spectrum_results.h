@@ -4,7 +4,7 @@
 #include <type_traits>
 #include <vector>
 
-#include "record/table2d.h"
+#include "axes/table2d.h"
 
 namespace lumivex {
 

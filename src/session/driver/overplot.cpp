@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "pages/huygens_drawing.h"
-#include "pages/size_distribution_display.h"
 #include "pages/visible_data.h"
 #include "record/number_text.h"
 #include "session/driver/angle_family.h"
@@ -16,6 +15,7 @@
 #include "session/info.h"
 #include "session/inputs/materials/refractive_index.h"
 #include "session/inputs/methods/sphere_size.h"
+#include "session/inputs/sizes/size_distribution_display.h"
 
 namespace lumivex {
 

@@ -1,10 +1,10 @@
 #include "session/inputs/materials/material_events.h"
 
-#include "pages/size_distribution_display.h"
 #include "session/inputs/light/light_sources.h"
 #include "session/inputs/materials/material_dialogs.h"
 #include "session/inputs/materials/material_menus.h"
 #include "session/inputs/materials/sellmeier_catalogue.h"
+#include "session/inputs/sizes/size_distribution_display.h"
 #include "session/inputs/sizes/size_menus.h"
 
 namespace lumivex {

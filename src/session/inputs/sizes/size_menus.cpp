@@ -5,11 +5,11 @@
 #include <string>
 #include <string_view>
 
-#include "pages/size_distribution_display.h"
 #include "record/number_text.h"
 #include "session/inputs/dialog_use.h"
 #include "session/inputs/sizes/read_size_dist.h"
 #include "session/inputs/sizes/size_distribution.h"
+#include "session/inputs/sizes/size_distribution_display.h"
 
 namespace lumivex {
 

@@ -1,4 +1,4 @@
-#include "pages/size_distribution_display.h"
+#include "session/inputs/sizes/size_distribution_display.h"
 
 #include <algorithm>
 #include <cmath>

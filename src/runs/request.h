@@ -1,0 +1,143 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "catalogue/graph.h"
+#include "catalogue/method.h"
+#include "materials/index/material.h"
+#include "particles/size_distribution.h"
+#include "solvers/angles/angle_grid.h"
+#include "solvers/patterns/simple_scattering.h"
+#include "solvers/rays/ray_series.h"
+
+namespace lumivex {
+
+/// What of the Debye series is drawn: itself, or what it leaves of another field.
+enum class Difference { None, MieLessDebye, RaysLessDebye, DebyeLessRays };
+
+/// The partial waves that the Debye terms are summed over, as ratios of x.
+struct PartialWaveRange {
+  double first = 0.2, last = 0.4;
+};
+
+/// How one sphere is calculated, whatever its size.
+struct MethodOptions {
+  Method method = Method::Mie;
+  std::vector<int> rays;        ///< rays[p] is not 0 for the numbers p of internal reflections that are wanted
+  bool addDiffraction = false;  ///< to rays
+  Difference difference = Difference::None;
+  std::optional<PartialWaveRange> partialWaves;
+  bool byRatio = false;       ///< Debye coefficients by continued fractions
+  bool divideBySize = false;  ///< Mie amplitudes are divided by x
+  bool classicStart = false;  ///< see ComputeMieTruncation
+  DiffractionForm diffraction = DiffractionForm::Disc;
+  bool forwardEfficiency = false;  ///< Rayleigh's Qext from the amplitude straight forward
+  int counted = 90;                ///< rays of a wavefront, strips of an aperture
+  float Qmin = 1, Qmax = 1;        ///< amplitudes of the glory of a ring
+  RayBeam beam;
+
+  /// Of p = 0 alone.
+  bool OnlyReflected() const { return rays.size() == 1 && rays[0] != 0; }
+};
+
+/// The sphere and the medium about it.
+struct Particle {
+  double radius = 10;               ///< um
+  std::optional<double> sizeTyped;  ///< the size parameter, where that was given instead of a radius
+  Material sphere = FixedIndex{1.33, 0};
+  Material medium = Vacuum{};
+};
+
+/// Wavelengths with their weights and colours; first index 1.
+struct SpectrumOfLight {
+  std::vector<float> wavelength;  ///< um
+  std::vector<float> weight;
+  std::vector<double> red, green, blue;  ///< 0 to 1
+  bool components = false;               ///< red, green and blue alone
+  int Count() const { return wavelength.empty() ? 0 : static_cast<int>(wavelength.size()) - 1; }
+  /// The one in the middle, which stands for the others where only one can be told.
+  int Middle() const { return (Count() + 1) / 2; }
+};
+
+struct Light {
+  double lambda = 0.65;                     ///< um in vacuo; of a spectrum the one in its middle
+  std::optional<SpectrumOfLight> spectrum;  ///< of more than one wavelength
+  double incidentDensity = 100;             ///< W/m2
+  double distance = 1;                      ///< of the observer (m)
+};
+
+/// Rows of scattering angle: row j is (j - 1) step degrees.
+struct AngleRows {
+  double xmin = 0, xmax = 180, step = 0.1;  ///< degrees
+  int NANG = 901;                           ///< rows from 0 to 90 degrees
+  RowWindow window{1, 1801};                ///< rows that are calculated: those shown and the neighbours averages need
+  double firstPoint = 1, lastPoint = 1801;  ///< rows shown
+};
+
+// The families. One alternative each; what they share stands in RunRequest.
+
+struct AngleRun {
+  AngleRows rows;
+};
+/// A spectrum against scattering angle.
+struct SpectrumRun {
+  AngleRows rows;
+};
+/// Points along an axis.
+struct AxisRun {
+  double xmin = 1, xmax = 20,
+         step = 0.02;  ///< in the unit of the axis; the number of steps where those are logarithmic
+  bool logSteps = false;
+  int points = 1;
+  double angle = 0;             ///< radians; of graphs at one angle
+  bool constantVolume = false;  ///< per volume of the spheres
+  struct Range {
+    double low = 0, high = 180, step = 0.1;  ///< degrees
+  } range;                                   ///< of a scattered power
+};
+struct ConvergenceRun {
+  double angle = 0;  ///< degrees
+};
+struct DebyeAnalysisRun {
+  double angle = 0;  ///< radians
+  int limit = 0;     ///< the highest p
+};
+struct TwoAngleRun {
+  double angle1Min = 0, angle1Max = 0, angle2Min = 0, angle2Max = 0;  ///< degrees
+  std::vector<double> index;   ///< of the sphere in vacuo, by column, first index 0
+  std::vector<double> radius;  ///< um, by row, first index 0
+};
+using FamilyRun = std::variant<AngleRun, SpectrumRun, AxisRun, ConvergenceRun, DebyeAnalysisRun, TwoAngleRun>;
+
+/// The request in the words of whoever made it: titles, keys, headers and files are written with them; no calculation
+/// reads them.
+struct RunWords {
+  std::string method, graph;  ///< as their lists have them
+  std::string methodLabel;    ///< the method with its p, partial waves and differences
+  std::string rays;           ///< the p selected: "0, 2"
+  std::string sphereName, mediumName;
+  std::string sphere, medium;  ///< "Sphere: Water (IAPWS 5C Complex)"
+  std::string light;           ///< source of a spectrum
+  std::string sizes;           ///< of a cloud: "Log-normal, Std Dev % 5, 20 samples"
+  std::string scale;           ///< caption of the axis' inputs
+};
+
+/// All that a run is asked.
+struct RunRequest {
+  Graph graph;
+  MethodOptions method;
+  Particle particle;
+  Light light;
+  SizeDistribution sizes;
+  FamilyRun run;
+  RunWords words;
+
+  bool Cloud() const { return IsCloud(sizes); }
+  int Wavelengths() const { return light.spectrum ? light.spectrum->Count() : 1; }
+};
+
+}  // namespace lumivex

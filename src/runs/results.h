@@ -1,0 +1,128 @@
+#pragma once
+
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "axes/table2d.h"
+#include "runs/request.h"
+#include "solvers/angles/amplitude_table.h"
+#include "solvers/rays/huygens_wave.h"
+#include "solvers/series/angular_sum.h"
+#include "solvers/series/mie_efficiencies.h"
+#include "solvers/series/partial_waves.h"
+
+namespace lumivex {
+
+/// How a run ended.
+enum class Outcome {
+  Done,
+  Stopped,   ///< what was finished is there: whole rows, wavelengths, points or columns
+  Refused,   ///< nothing is there but the reason
+  Overflow,  ///< the arithmetic failed; nothing is there
+};
+
+/// The input that is to blame for a refusal.
+enum class InputAtFault { None, StandardDeviation, Distribution };
+
+/// What is told of a refused run.
+struct Refusal {
+  std::string title, text;
+  InputAtFault at = InputAtFault::None;
+};
+
+/// What a solver tells of the last sphere that it calculated.
+struct LastSphere {
+  double lambda = 0;  ///< um in vacuo
+  double radius = 0;  ///< um
+  double sizeParameter = 0;
+  double waveNumber = 0;  ///< in the medium (1/m)
+  OpticalIndices indices;
+  double relativeRe = 1, relativeIm = 0;
+  Efficiencies efficiencies;  ///< of the sphere, or means over the cloud
+  int NSTOP = 0, NMX = 0;
+  int NANG = 2;         ///< rows from 0 to 90 degrees of its grid
+  int selectedRow = 1;  ///< of one angle: the row of the grid nearest to it
+  int partialWaveFirst = 0, partialWaveLast = 0;
+  int samples = 1;  ///< of its cloud
+  // What rays and closed forms leave.
+  double rainbowImpact = 1, rainbowAngle = 0, rayAngle = 0;  ///< sin i, radians, degrees
+  std::vector<double> apertureCentre, apertureWeight, besselOrders;
+};
+
+/// Amplitudes by row; of a cloud the roots of the mean intensities, without phase.
+struct AngleFound {
+  AmplitudeTable S1, S2;
+  AmplitudeTable S1b, S2b;               ///< the second field of a difference
+  std::vector<double> crossRe, crossIm;  ///< of a cloud the means of S1 conj(S2) by row; empty for one sphere
+  RowsDone rows;                         ///< rows that hold the whole sum
+  PartialWaves waves;                    ///< empty for a cloud
+  std::vector<HuygensWave> wavefronts;
+};
+
+/// Intensities by wavelength and row: element (i - 1) n + j - low is wavelength i at row j, with n rows from low on.
+/// Neither weighed by the light source nor divided by the square of the wave number.
+struct SpectrumFound {
+  std::vector<double> perpendicular, parallel;  ///< |S1|^2 and |S2|^2, of a cloud their means
+  std::vector<double> waveNumber;               ///< 1/m, first index 1
+  int done = 0;                                 ///< wavelengths, from the first
+};
+
+/// Points of an axis, first index 1; what was not calculated is 0 and lies beyond `done`.
+struct AxisFound {
+  std::vector<double> x;  ///< in the unit of the axis
+  AmplitudeTable S1, S2;  ///< a row a point; of a cloud as in AngleFound
+  std::vector<double> crossRe, crossIm;
+  std::vector<double> waveNumber;  ///< 1/m
+  std::vector<double> radius, size;
+  std::vector<double> Qext, Qsca, Qback, g;
+  std::vector<double> Cext, Csca;           ///< um2; of a cloud their means
+  std::vector<double> powerPerp, powerPar;  ///< W
+  int done = 0;                             ///< points, from the first
+};
+
+/// Intensities of the running sums by number of terms, index 0 unused.
+struct ConvergenceFound {
+  std::vector<double> perpendicular, parallel, unpolarised;
+  AmplitudeTable S1, S2;
+  PartialWaves waves;
+};
+
+/// Row 1 is the Mie amplitude of a point, row j what is left of it after the first j - 1 terms.
+struct DebyeAnalysisFound {
+  AmplitudeTable dots1, dots2;
+  AmplitudeTable S1b, S2b;  ///< the Mie amplitudes
+  int done = 0;             ///< rows
+};
+
+/// Cross-sections (um2), a row a radius and a column an index, first index 0; not a number where a Stop came before.
+struct TwoAngleFound {
+  Table2D first, second;
+  int done = 0;  ///< spheres
+};
+
+using FamilyFound =
+    std::variant<AngleFound, SpectrumFound, AxisFound, ConvergenceFound, DebyeAnalysisFound, TwoAngleFound>;
+
+/// What a run found, with what it was asked: whoever holds results knows what they are results of.
+struct Results {
+  RunRequest asked;
+  FamilyFound found;  ///< the alternative of asked.run
+  LastSphere last;
+  double seconds = 0;  ///< that the run took
+
+  const Graph& AskedGraph() const { return asked.graph; }
+  template <class Family>
+  const Family* Find() const {
+    return std::get_if<Family>(&found);
+  }
+};
+
+/// A run that has ended.
+struct RunEnd {
+  Outcome outcome = Outcome::Refused;
+  Refusal refusal;  ///< of a refused run, and of an overflow
+  Results results;  ///< of one that is done or stopped
+};
+
+}  // namespace lumivex
