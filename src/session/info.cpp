@@ -4,7 +4,6 @@
 
 #include "record/number_text.h"
 #include "session/driver/progress.h"
-#include "session/inputs/axis_graphs.h"
 #include "session/inputs/methods.h"
 
 namespace lumivex {
@@ -32,10 +31,7 @@ std::string TimeWords(double seconds) {
 
 /// The method of the results as its list has it.
 std::string MethodName(const MainFormState& s) {
-  const auto row = std::ranges::find_if(MethodTable(), [&s](const MethodRow& r) {
-    return r.code == s.ResultMethod && r.diffractionVariant == (r.code == 4 ? s.DiffractionVariant : 0);
-  });
-  return row == MethodTable().end() ? "" : std::string(row->text);
+  return std::string(TextOfMethod(static_cast<Method>(s.ResultMethod), s.DiffractionVariant));
 }
 
 bool BySeries(const MainFormState& s) {
@@ -55,9 +51,9 @@ std::string SpectrumRange(const MainFormState& s) {
 }
 
 bool SizeOnAxis(const MainFormState& s) {
-  const AxisGraph* graph = FindAxisGraph(s.PrevGraphType, s.PrevGraphSubType);
-  if (graph == nullptr) return false;
-  const AxisVariable v = graph->variable;
+  const Graph* graph = &GraphOf({s.PrevGraphType, s.PrevGraphSubType});
+  if (graph->family != Family::Axis) return false;
+  const AxisVariable v = graph->axis;
   return v == AxisVariable::Radius || v == AxisVariable::Diameter || v == AxisVariable::SizeParameter;
 }
 

@@ -80,7 +80,7 @@ struct IndexFound {
   std::optional<IndexValue> value;
   bool missingRow = false;
   /// Segelstein's water as a medium, at exactly its last wavelength: the row that is written into the sphere's index.
-  std::optional<double> intoSphere;
+  std::optional<double> intoSphere = std::nullopt;
 };
 
 /// The index of the material of a sphere.

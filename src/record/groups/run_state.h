@@ -3,6 +3,8 @@
 #include <string>
 #include <type_traits>
 
+#include "catalogue/graph.h"
+
 namespace lumivex {
 
 /// What is being run, and how far it is.
@@ -38,6 +40,17 @@ struct RunState {
   double EstimateTime = 0;        ///< seconds, when it was last looked at
   double SecondsPerPairTerm = 0;  ///< of this machine: one term of one pair of angles; 0 until measured
 };
+
+/// The graph chosen.
+inline const Graph& ChosenGraph(const RunState& s) {
+  return GraphOf({s.GraphType, s.GraphSubType});
+}
+
+/// The same where it has an axis of points; null for graphs against angle and all others.
+inline const Graph* ChosenAxisGraph(const RunState& s) {
+  const Graph& graph = ChosenGraph(s);
+  return graph.family == Family::Axis || graph.family == Family::Convergence ? &graph : nullptr;
+}
 
 template <class Group, class Visitor>
 requires std::is_same_v<std::remove_const_t<Group>, RunState>

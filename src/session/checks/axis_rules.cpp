@@ -11,7 +11,6 @@
 #include "session/checks/number_input.h"
 #include "session/driver/array_size.h"
 #include "session/driver/spectrum_family.h"
-#include "session/inputs/axis_graphs.h"
 #include "session/inputs/methods/rays_check.h"
 
 namespace lumivex {
@@ -168,9 +167,9 @@ Verdict ColourCount(Check& check) {
 }
 
 Verdict SizeAxis(Check& check) {
-  const AxisGraph* graph = FindAxisGraph(check.state.GraphType, check.state.GraphSubType);
-  if (graph == nullptr || graph->type != 11) return Verdict::GoOn;
-  if (graph->variable == AxisVariable::SizeParameter)
+  const Graph* graph = ChosenAxisGraph(check.state);
+  if (graph == nullptr || graph->code.type != 11) return Verdict::GoOn;
+  if (graph->axis == AxisVariable::SizeParameter)
     return CheckAxis(
         check, {"Minimum value of size parameter x must be less than maximum value", "Size parameter x must be > 0"});
   return CheckAxis(check, {"Minimum value of radius must be less than maximum value", "Radius must be > 0"});

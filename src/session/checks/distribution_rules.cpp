@@ -5,7 +5,6 @@
 
 #include "record/number_text.h"
 #include "session/checks/check.h"
-#include "session/inputs/axis_graphs.h"
 
 namespace lumivex {
 

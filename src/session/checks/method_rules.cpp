@@ -6,7 +6,6 @@
 
 #include "record/number_text.h"
 #include "session/checks/check.h"
-#include "session/inputs/axis_graphs.h"
 #include "session/inputs/methods.h"
 #include "session/inputs/methods/rays_check.h"
 #include "session/inputs/methods/sphere_size.h"

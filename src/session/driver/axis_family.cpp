@@ -14,7 +14,6 @@
 #include "session/driver/point_solver.h"
 #include "session/driver/progress.h"
 #include "session/driver/solver_chain.h"
-#include "session/inputs/axis_graphs.h"
 #include "session/inputs/materials/refractive_index.h"
 #include "session/inputs/sizes/size_distribution.h"
 #include "session/routines/arithmetic_guard.h"
@@ -34,7 +33,7 @@ constexpr int stopRequested = 4;
 
 /// The points of the axis, what was found at each, first index 1.
 struct AxisRun {
-  const AxisGraph* graph = nullptr;
+  const Graph* graph = nullptr;
   int points = 0;
   std::vector<double> x;                       ///< in the axis' unit
   std::vector<double> size, mRe, mIm, radius;  ///< size parameter, relative index, radius (um)
@@ -87,7 +86,7 @@ bool PlacePoint(Session& session, AxisRun& run, int point) {
   const double x = run.x[i] = AxisPosition(session, point);
   double radius = s.Radius, mRe = s.RefRelReal;
   double mIm = s.RefRelImag;
-  switch (run.graph->variable) {
+  switch (run.graph->axis) {
     case Wavelength: {
       s.Lambda = x / 1000;
       const auto relative = RefRel(session, s.Lambda);
@@ -109,13 +108,13 @@ bool PlacePoint(Session& session, AxisRun& run, int point) {
     case RefractiveIndex:
       mRe = x / s.MediumRIReal;
       break;
-    case Iterations:
+    default:
       break;
   }
   run.radius[i] = radius;
   run.mRe[i] = mRe;
   run.mIm[i] = mIm;
-  run.size[i] = run.graph->variable == AxisVariable::SizeParameter ? x : 2 * pi * radius * s.MediumRIReal / s.Lambda;
+  run.size[i] = run.graph->axis == AxisVariable::SizeParameter ? x : 2 * pi * radius * s.MediumRIReal / s.Lambda;
   run.lambda[i] = s.Lambda;
   run.medium[i] = s.MediumRIReal;
   run.waveNumber[i] = 2 * pi * s.MediumRIReal / (s.Lambda * 1e-6);
@@ -139,7 +138,7 @@ void SolveAllAtOnce(Session& session, AxisRun& run) {
   EfficiencyOptions options{session.form1.mnuSize.Checked, session.form1.mnuClassicStart.Checked};
   EfficiencyLists lists{from1(run.Qext), from1(run.Qsca), from1(run.Qback), from1(run.g)};
   std::vector<double> S1Re, S1Im, S2Re, S2Im;
-  if (!NeedsNoAngle(*run.graph)) {
+  if (!run.graph->OfEfficiencies()) {
     options.angle = Val(session.form1.txtAngle.Text) * pi / 180;
     for (auto* column : {&S1Re, &S1Im, &S2Re, &S2Im}) column->resize(static_cast<std::size_t>(run.points));
     lists.S1Re = S1Re;
@@ -225,7 +224,7 @@ std::optional<PointResult> SolveCloud(Session& session, double angle) {
 
 void SolvePointByPoint(Session& session, AxisRun& run) {
   auto& s = session.state;
-  const double angle = NeedsNoAngle(*run.graph) ? 0 : Val(session.form1.txtAngle.Text) * pi / 180;
+  const double angle = run.graph->OfEfficiencies() ? 0 : Val(session.form1.txtAngle.Text) * pi / 180;
   const bool disperse = session.form1.optDisp.Checked;
   s.S1ofPoint.Resize(run.points);
   s.S2ofPoint.Resize(run.points);
@@ -242,7 +241,7 @@ void SolvePointByPoint(Session& session, AxisRun& run) {
     // The sizes of a cloud are made from these.
     s.Lambda = run.lambda[i];
     s.MediumRIReal = run.medium[i];
-    if (run.graph->quantity == AxisQuantity::Power) {
+    if (run.graph->quantity == Quantity::Power) {
       SolvePower(session, run, i);
       if (Stopped(session)) return;
       run.done = point;
@@ -274,20 +273,20 @@ struct PointCurves {
 
 /// The three curves of a quantity at a point.
 PointCurves QuantityAt(const Session& session, const AxisRun& run, std::size_t i) {
-  using enum AxisQuantity;
+  using enum Quantity;
   const auto all = [](double value) { return PointCurves{value, value, value}; };
   const double volume = 4.0 / 3 * pi * std::pow(run.radius[i], 3);  // um3
   const bool constantVolume = session.form1.mnuConstantVolume.Checked;
   double factor = 1;
   switch (run.graph->quantity) {
-    case Q:
+    case Efficiencies:
       // Per volume: many small spheres in place of one large.
       factor = constantVolume ? pi * run.radius[i] * run.radius[i] / volume : 1;
       break;
-    case CrossSection:
+    case CrossSections:
       factor = constantVolume ? 1e-12 / volume : 1e-12;  // m2
       return {factor * run.Cext[i], factor * run.Csca[i], factor * (run.Cext[i] - run.Csca[i])};
-    case AxisQuantity::Qback:
+    case Quantity::Qback:
       return all(run.Qback[i]);
     case Qradar:
       return all(4 * pi * run.Qback[i]);
@@ -322,7 +321,7 @@ void StoreCurves(Session& session, AxisRun& run) {
     curve->assign(static_cast<std::size_t>(run.points) + 1, notComputed);
   s.XValues = run.x;
   s.PointsDone = run.done;
-  if (NeedsNoAngle(*run.graph) || run.graph->quantity == AxisQuantity::Power) {
+  if (run.graph->OfEfficiencies() || run.graph->quantity == Quantity::Power) {
     StoreQuantities(session, run);
   } else {
     s.WaveNumbers = run.waveNumber;
@@ -384,7 +383,7 @@ void CalculateAxis(Session& session) {
   if (s.GraphType == 13) return CalculateConvergence(session);
   if (s.GraphType == 10 && s.GraphSubType == 10) return CalculateDebyeAnalysis(session);
   AxisRun run;
-  run.graph = FindAxisGraph(s.GraphType, s.GraphSubType);
+  run.graph = ChosenAxisGraph(s);
   if (run.graph == nullptr) return;
   ReadAxis(session, run);
   for (int point = 1; point <= run.points; ++point) {
@@ -393,7 +392,7 @@ void CalculateAxis(Session& session) {
     return;
   }
   if (s.CalcMethod == mieMethod) WriteMieTitle(session);
-  const bool power = run.graph->quantity == AxisQuantity::Power;
+  const bool power = run.graph->quantity == Quantity::Power;
   if (s.CalcMethod == mieMethod && !power && !session.form1.optDisp.Checked) {
     session.form1.lblDebyeRays.Caption = "Mie (plane wave)";
     SolveAllAtOnce(session, run);

@@ -6,77 +6,12 @@
 #include <iterator>
 
 #include "record/number_text.h"
-#include "session/inputs/axis_graphs.h"
 #include "session/inputs/methods.h"
 #include "session/inputs/sizes/size_menus.h"
 
 namespace lumivex {
 
 namespace {
-
-using enum Feature;
-
-constexpr std::array graphRows = {
-    GraphRow{1, 1, "Intensity v. scattering angle", 1, AngleIntensity},
-    GraphRow{1, 2, "Phase function", 3, AngleFamily},
-    GraphRow{1, 3, "Watts/sq. m. v. scattering angle", 2, AngleFamily},
-    GraphRow{1, 4, "Differential cross-section v. angle", 0, AngleFamily},
-    GraphRow{1, 5, "Contour 2-angle", 0, AngleFamily},
-    GraphRow{1, 6, "Scattering matrix", 4, AngleFamily},
-    GraphRow{1, 7, "CPDF", 6, AngleFamily},
-    GraphRow{10, 1, "Intensity v. wavelength", 10, AxisFamilies},
-    GraphRow{10, 2, "Scattering matrix: wavelength", 5, AxisFamilies},
-    GraphRow{10, 10, "Debye analysis", 0, DebyeSeries},
-    GraphRow{11, 1, "Intensity v. radius", 11, AxisFamilies},
-    GraphRow{11, 2, "Intensity v. size parameter x", 13, AxisFamilies},
-    GraphRow{11, 3, "Intensity v. diameter", 12, AxisFamilies},
-    GraphRow{12, 0, "Intensity v. refractive index", 14, AxisFamilies},
-    GraphRow{13, 0, "Convergence", 0, AxisFamilies},
-    GraphRow{14, 1, "Qext/Qsca/Qabs v. radius", 17, AxisFamilies},
-    GraphRow{14, 2, "Cext/Csca/Cabs v. radius", 18, AxisFamilies},
-    GraphRow{14, 3, "Qext/Qsca/Qabs v. size x", 21, AxisFamilies},
-    GraphRow{14, 4, "Cext/Csca/Cabs v. size x", 22, AxisFamilies},
-    GraphRow{14, 5, "Qext/Qsca/Qabs v. diameter", 19, AxisFamilies},
-    GraphRow{14, 6, "Cext/Csca/Cabs v. diameter", 20, AxisFamilies},
-    GraphRow{14, 7, "Qback v. radius", 25, AxisFamilies},
-    GraphRow{14, 8, "Qback v. diameter", 26, AxisFamilies},
-    GraphRow{14, 9, "Qback v. size x", 27, AxisFamilies},
-    GraphRow{14, 10, "Qradar v. radius", 29, AxisFamilies},
-    GraphRow{14, 11, "Qradar v. diameter", 30, AxisFamilies},
-    GraphRow{14, 12, "Qradar v. size x", 31, AxisFamilies},
-    GraphRow{15, 1, "Qext/Qsca/Qabs v. wavelength", 23, AxisFamilies},
-    GraphRow{15, 2, "Cext/Csca/Cabs v. wavelength", 24, AxisFamilies},
-    GraphRow{15, 9, "Qback v. wavelength", 28, AxisFamilies},
-    GraphRow{15, 12, "Qradar v. wavelength", 32, AxisFamilies},
-    GraphRow{15, 13, "Qext/Qsca/Qabs impulse response", 0, Feature::ImpulseResponse},
-    GraphRow{16, 1, "Asymmetry g v. radius", 33, AxisFamilies},
-    GraphRow{16, 2, "Asymmetry g v. size x", 34, AxisFamilies},
-    GraphRow{16, 3, "Asymmetry g v. wavelength", 35, AxisFamilies},
-    GraphRow{17, 1, "Albedo v. radius", 36, AxisFamilies},
-    GraphRow{17, 2, "Albedo v. size x", 37, AxisFamilies},
-    GraphRow{17, 3, "Albedo v. wavelength", 38, AxisFamilies},
-    GraphRow{18, 1, "Scattered power v. radius", 7, AxisFamilies},
-    GraphRow{18, 2, "Scattered power v. diameter", 8, AxisFamilies},
-    GraphRow{18, 3, "Scattered power v. wavelength", 9, AxisFamilies},
-    GraphRow{19, 1, "Impulse response", 49, Feature::ImpulseResponse},
-    GraphRow{20, 1, "Lee diagram: radius", 15, LeeDiagrams},
-    GraphRow{20, 2, "Lee diagram: refractive index", 16, LeeDiagrams},
-    GraphRow{22, 1, "Map: angle v. RI of sphere", 39, Maps},
-    GraphRow{22, 2, "Map: angle v. RI of medium", 40, Maps},
-    GraphRow{23, 1, "Map: angle v. imaginary RI", 41, Maps},
-    GraphRow{24, 1, "Map: angle v. radius", 42, Maps},
-    GraphRow{25, 1, "Map: angle v. wavelength", 43, Maps},
-    GraphRow{26, 1, "Map: Q v. RI & size x", 46, Maps},
-    GraphRow{26, 2, "Map: Q1 v. RI and size x", 0, Maps},
-    GraphRow{26, 4, "Map: RI v. size x", 45, Maps},
-    GraphRow{27, 1, "Map: Q v. Imag RI & size x", 47, Maps},
-    GraphRow{28, 1, "Map: Q v. Real RI & Imag RI", 48, Maps},
-    GraphRow{28, 3, "Map: real RI v. imag RI", 44, Maps},
-    GraphRow{30, 0, "Vol: Int v. xPart", 0, VolumeGraphs},
-    GraphRow{31, 0, "Vol: Int v. N", 0, VolumeGraphs},
-    GraphRow{32, 0, "Vol: Int v. time", 0, VolumeGraphs},
-    GraphRow{33, 0, "Vol: Int v. radius", 0, VolumeGraphs},
-};
 
 constexpr std::string_view variableIndex = "Sphere: Variable refractive index";
 constexpr std::string_view setByUser[] = {"Sphere: Refractive index set by user", "Sphere: Fixed refractive index",
@@ -93,7 +28,7 @@ void AngleCaptions(Form1& form) {
   form.Label3.Caption = "Minimum angle";
 }
 
-void AxisCaptionsOf(Form1& form, const AxisGraph& graph) {
+void AxisCaptionsOf(Form1& form, const Graph& graph) {
   const AxisCaptions captions = CaptionsOf(graph);
   form.Frame2.Caption = captions.frame;
   form.Label2.Caption = WithUnit("Maximum", captions.unit);
@@ -106,14 +41,14 @@ bool IsDebyeAnalysis(const RunState& s) {
 }
 
 /// The further axis is for Lee diagrams, maps, impulse and power graphs, and for the angle of x-axis graphs.
-void ShowFurtherAxis(Session& session, const AxisGraph* graph) {
+void ShowFurtherAxis(Session& session, const Graph* graph) {
   auto& form = session.form1;
   const int type = session.state.GraphType;
-  const bool power = graph != nullptr && graph->quantity == AxisQuantity::Power;
+  const bool power = graph != nullptr && graph->quantity == Quantity::Power;
   const int method = session.state.CalcMethod;
   const bool strips = (type == 1 || type == 19) && (method == 9 || method == 10);
   const bool onePoint = IsDebyeAnalysis(session.state);
-  const bool angle = (graph != nullptr && !NeedsNoAngle(*graph) && !power) || strips || onePoint;
+  const bool angle = (graph != nullptr && !graph->OfEfficiencies() && !power) || strips || onePoint;
   const bool axis = power || (type >= 19 && type < 30 && type != 20);
   form.Frame9.Visible = angle || axis;
   form.Label19.Visible = form.txtAngle.Visible = angle;
@@ -131,12 +66,6 @@ void ShowFurtherAxis(Session& session, const AxisGraph* graph) {
   form.Label35.Caption = "Step size";
 }
 
-const GraphRow* FindGraph(std::string_view text) {
-  const auto row =
-      std::ranges::find_if(graphRows, [text](const GraphRow& r) { return r.text == text && IsAvailable(r.feature); });
-  return row == graphRows.end() ? nullptr : &*row;
-}
-
 /// Values that a change of family brings; a change of sub-type leaves the user's ranges.
 void AngleStartValues(Session& session) {
   auto& form = session.form1;
@@ -148,22 +77,22 @@ void AngleStartValues(Session& session) {
   form.cboStep.Text = "0.1";
 }
 
-void AxisStartValues(Session& session, const AxisGraph& graph) {
+void AxisStartValues(Session& session, const Graph& graph, const AxisStart& start) {
   auto& form = session.form1;
-  const bool efficiencies = graph.type >= 14;
+  const bool efficiencies = graph.code.type >= 14;
   form.cboYmin.Text = form.cboYmax.Text = "Automatic";
   form.cboWave.Text = "1";
   form.cboPol.Text = efficiencies ? "All 3" : "Both";
-  form.txtXmin.Text = graph.xmin;
-  form.txtXmax.Text = graph.xmax;
-  form.cboStep.Text = graph.step;
-  if (graph.variable != AxisVariable::Wavelength && efficiencies) form.txtLambda.Text = "0.65";
-  if (graph.type == 16 || graph.type == 17) {
-    form.txtRadius.Text = graph.variable == AxisVariable::Wavelength ? "1" : "10";
+  form.txtXmin.Text = start.xmin;
+  form.txtXmax.Text = start.xmax;
+  form.cboStep.Text = start.step;
+  if (graph.axis != AxisVariable::Wavelength && efficiencies) form.txtLambda.Text = "0.65";
+  if (graph.code.type == 16 || graph.code.type == 17) {
+    form.txtRadius.Text = graph.axis == AxisVariable::Wavelength ? "1" : "10";
     form.txtAngle.Text = "0";
   }
-  if (graph.type >= 12 && graph.type != 15) form.cboDistrib.Text = "Log-normal";
-  if (graph.quantity == AxisQuantity::Power) {
+  if (graph.code.type >= 12 && graph.code.type != 15) form.cboDistrib.Text = "Log-normal";
+  if (graph.quantity == Quantity::Power) {
     form.txtF9_min.Text = "0";
     form.txtF9_max.Text = "180";
     form.txtF9_step.Text = "0.1";
@@ -177,16 +106,17 @@ void ChangeFamily(Session& session, int oldType, bool fromPoint) {
   auto& form = session.form1;
   // The graph of one point has no axis, and so no range to keep.
   if (oldType == s.GraphType && !fromPoint) return;
-  const AxisGraph* graph = FindAxisGraph(s.GraphType, s.GraphSubType);
+  const Graph* graph = ChosenAxisGraph(s);
+  const AxisStart* start = graph != nullptr ? FindAxisStart(*graph) : nullptr;
   if (oldType == 12) {
     form.lblSphere.Caption = s.KeptSphereLabel;
     s.SphereName = s.KeptSphereName;
   }
-  if (graph != nullptr && graph->variable == AxisVariable::RefractiveIndex) form.lblSphere.Caption = variableIndex;
-  form.mnuXStepLog.Checked = graph != nullptr && graph->logSteps && !form.mnuKeepParameters.Checked;
+  if (graph != nullptr && graph->axis == AxisVariable::RefractiveIndex) form.lblSphere.Caption = variableIndex;
+  form.mnuXStepLog.Checked = start != nullptr && start->logSteps && !form.mnuKeepParameters.Checked;
   if (form.mnuKeepParameters.Checked) return;
-  if (graph != nullptr) {
-    AxisStartValues(session, *graph);
+  if (start != nullptr) {
+    AxisStartValues(session, *graph, *start);
   } else if (s.GraphType == 1) {
     AngleStartValues(session);
   }
@@ -233,25 +163,10 @@ void AskForDistance(Session& session) {
 
 }  // namespace
 
-std::span<const GraphRow> GraphTable() {
-  return graphRows;
-}
-
-std::vector<std::string> OfferedGraphs() {
-  std::vector<const GraphRow*> rows;
-  for (const auto& row : graphRows)
-    if (row.place > 0 && IsAvailable(row.feature)) rows.push_back(&row);
-  std::ranges::sort(rows, {}, &GraphRow::place);
-  std::vector<std::string> texts;
-  texts.reserve(rows.size());
-  for (const auto* row : rows) texts.emplace_back(row->text);
-  return texts;
-}
-
 void ShowFamilyInputs(Session& session) {
   auto& form = session.form1;
   const int type = session.state.GraphType;
-  const AxisGraph* graph = FindAxisGraph(type, session.state.GraphSubType);
+  const Graph* graph = ChosenAxisGraph(session.state);
   if (graph != nullptr) {
     AxisCaptionsOf(form, *graph);
   } else {
@@ -265,13 +180,13 @@ void ShowFamilyInputs(Session& session) {
   form.Label26.Visible = form.cboLee.Visible = type >= 20 && type < 30;
   form.Label24.Visible = form.txtRmax.Visible = form.txtRstep.Visible = type == 20;
   const bool sizeOnAxis =
-      graph != nullptr && (graph->variable == AxisVariable::Radius || graph->variable == AxisVariable::Diameter ||
-                           graph->variable == AxisVariable::SizeParameter);
+      graph != nullptr && (graph->axis == AxisVariable::Radius || graph->axis == AxisVariable::Diameter ||
+                           graph->axis == AxisVariable::SizeParameter);
   form.cboWave.Enabled = true;
   ShowSizeInputs(session);
   ShowTwoAngleInputs(session);
   if (sizeOnAxis) form.Label7.Visible = form.txtRadius.Visible = false;
-  const bool wavelengthOnAxis = graph != nullptr && graph->variable == AxisVariable::Wavelength;
+  const bool wavelengthOnAxis = graph != nullptr && graph->axis == AxisVariable::Wavelength;
   if (wavelengthOnAxis) form.Label6.Visible = form.txtLambda.Visible = false;
   form.Frame3.Visible = form.txtRadius.Visible || form.optMono.Visible;
   form.Frame4.Visible = form.txtLambda.Visible || form.cboWave.Visible || form.optPoint.Visible;
@@ -304,8 +219,8 @@ void cboGraph_Click(Session& session) {
   const int oldType = s.GraphType;
   const bool fromPoint = IsDebyeAnalysis(s);
   const bool wasTwoAngle = IsTwoAngleContour(s);
-  s.GraphType = row->type;
-  if (row->subType != 0) s.GraphSubType = row->subType;
+  s.GraphType = row->code.type;
+  if (row->code.subType != 0) s.GraphSubType = row->code.subType;
   ChangeFamily(session, oldType, fromPoint && !IsDebyeAnalysis(s));
   EnterOrLeaveTwoAngle(session, wasTwoAngle);
   if (s.GraphType == 1) {

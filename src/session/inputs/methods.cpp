@@ -14,29 +14,6 @@ namespace lumivex {
 
 namespace {
 
-using enum Feature;
-
-constexpr std::array methodRows = {
-    MethodRow{1, "Mie", MieSeries, true, 0},
-    MethodRow{2, "Debye", DebyeSeries, true, 0},
-    MethodRow{3, "Rayleigh", SimpleScattering, true, 0},
-    MethodRow{5, "Airy", AiryTheory, true, 0},
-    MethodRow{4, "Diffraction", SimpleScattering, true, 0},
-    MethodRow{6, "Descartes", RayOptics, true, 0},
-    MethodRow{7, "Young", RayOptics, true, 0},
-    MethodRow{8, "Young mod", RayOptics, true, 0},
-    MethodRow{14, "Young + Airy", RayOptics, true, 0},
-    MethodRow{11, "Surface wave", SurfaceWaves, true, 0},
-    MethodRow{13, "Coated sphere", Feature::CoatedSphere, true, 0},
-    MethodRow{4, "Diffraction new", SimpleScattering, false, 1},
-    MethodRow{9, "Huygens", RayOptics, false, 0},
-    MethodRow{10, "Aperture", SimpleScattering, false, 0},
-    MethodRow{12, "van de Hulst", SimpleScattering, false, 0},
-    MethodRow{15, "Burgeroid", NonSphericalDrops, false, 0},
-    MethodRow{16, "Heiligenschein", Feature::Heiligenschein, false, 0},
-    MethodRow{17, "Inhomogeneous sphere", Feature::InhomogeneousSphere, false, 0},
-};
-
 /// Samples of a spectrum whose colours change the faster with wavelength the larger the drop is.
 struct SpectrumDensity {
   std::string_view text;
@@ -85,26 +62,14 @@ void IlluminationOf(Session& session) {
 
 }  // namespace
 
-std::span<const MethodRow> MethodTable() {
-  return methodRows;
-}
-
-std::vector<std::string> OfferedMethods() {
-  std::vector<std::string> texts;
-  for (const auto& row : methodRows)
-    if (row.inStartList && IsAvailable(row.feature)) texts.emplace_back(row.text);
-  return texts;
-}
-
 void TypeCalc(Session& session) {
   auto& list = session.form1.cboType;
   auto& s = session.state;
   list.BackColour = colours::White;
   s.CalcMethod = 0;
-  for (const auto& row : methodRows) {
-    if (row.text != list.Text || !IsAvailable(row.feature)) continue;
-    s.CalcMethod = row.code;
-    if (row.code == 4) s.DiffractionVariant = row.diffractionVariant;
+  if (const MethodRow* row = FindMethod(list.Text)) {
+    s.CalcMethod = static_cast<int>(row->method);
+    if (row->method == Method::Diffraction) s.DiffractionVariant = row->diffractionVariant;
   }
   if (s.CalcMethod != 0) return;
   list.BackColour = colours::BadInput;

@@ -5,25 +5,10 @@
 #include <string_view>
 #include <vector>
 
-#include "record/features.h"
+#include "record/catalogue/method_texts.h"
 #include "record/session.h"
 
 namespace lumivex {
-
-/// One calculation method: the text of cboType and the code that everything else branches on.
-struct MethodRow {
-  int code;
-  std::string_view text;
-  Feature feature;
-  bool inStartList;        ///< whether the list holds it from the start
-  int diffractionVariant;  ///< only for code 4
-};
-
-/// All methods in the order in which texts are compared.
-std::span<const MethodRow> MethodTable();
-
-/// The texts that cboType offers at the start: those of the start list whose solver is there.
-std::vector<std::string> OfferedMethods();
 
 /// Translates the text of cboType into CalcMethod and DiffractionVariant. A text that is no method, or whose solver is
 /// not there, marks the list and reports "Unknown calculation method"; CalcMethod is then 0.
