@@ -66,6 +66,7 @@ struct SpectrumFound {
   std::vector<double> perpendicular, parallel;  ///< |S1|^2 and |S2|^2, of a cloud their means
   std::vector<double> waveNumber;               ///< 1/m, first index 1
   int done = 0;                                 ///< wavelengths, from the first
+  AmplitudeTable S1, S2;                        ///< of the last of them, as in AngleFound
 };
 
 /// Points of an axis, first index 1; what was not calculated is 0 and lies beyond `done`.
@@ -121,8 +122,9 @@ struct Results {
 /// A run that has ended.
 struct RunEnd {
   Outcome outcome = Outcome::Refused;
-  Refusal refusal;  ///< of a refused run, and of an overflow
-  Results results;  ///< of one that is done or stopped
+  Refusal refusal;          ///< of a refused run, and of an overflow
+  bool hasResults = false;  ///< a run that is stopped before anything was whole has none
+  Results results;
 };
 
 }  // namespace lumivex

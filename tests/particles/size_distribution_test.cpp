@@ -5,12 +5,12 @@
 #include <span>
 
 #include "materials/material_fixture.h"
-#include "session/inputs/sizes/size_distribution_display.h"
 #include "particles/gamma_function.h"
 #include "particles/normal_samples.h"
 #include "particles/size_models.h"
 #include "session/driver/solver_chain.h"
 #include "session/inputs/sizes/read_size_dist.h"
+#include "session/inputs/sizes/size_distribution_display.h"
 #include "session/inputs/sizes/size_menus.h"
 #include "session/page.h"
 #include "solvers/angles/scattering_pattern.h"

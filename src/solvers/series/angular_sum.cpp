@@ -151,10 +151,16 @@ RowsDone SumAngularSeries(const PartialWaves& waves, const AngleGrid& grid, RowW
 RowsDone SumAngularSeries(const PartialWaves& waves, const AngleGrid& grid, const AngleCosines& cosines,
                           RowWindow window, AmplitudeTable& S1, AmplitudeTable& S2, RunMonitor& monitor,
                           InstructionSet set) {
+  return SumFoldedRows(waves, grid, cosines, window, AngleCosines::Folded(grid, window), S1, S2, monitor, set);
+}
+
+RowsDone SumFoldedRows(const PartialWaves& waves, const AngleGrid& grid, const AngleCosines& cosines, RowWindow window,
+                       RowWindow part, AmplitudeTable& S1, AmplitudeTable& S2, RunMonitor& monitor,
+                       InstructionSet set) {
   const int last = grid.RowCount();
   const RowWindow wanted = Cut(window, 1, last);
-  if (wanted.Empty()) return {};
-  const RowWindow folded = AngleCosines::Folded(grid, wanted);
+  const RowWindow folded = part;
+  if (wanted.Empty() || folded.Empty()) return {};
   PairSummer summer(waves, set);
   const std::size_t count = static_cast<std::size_t>(folded.high - folded.low) + 1;
   const TableParts parts{S1.RealParts(), S1.ImaginaryParts(), S2.RealParts(), S2.ImaginaryParts()};
@@ -164,14 +170,14 @@ RowsDone SumAngularSeries(const PartialWaves& waves, const AngleGrid& grid, cons
     summer.Sum(cosines, low, size);
     StoreForward(summer.Sums(), low, Cut(wanted, low, high), parts);
     // Row NANG is its own mirror.
-    StoreBackward(summer.Sums(), grid.Mirror(low), Cut(wanted, std::max(grid.Mirror(high), grid.NANG + 1), last),
-                  parts);
+    StoreBackward(summer.Sums(), grid.Mirror(low),
+                  Cut(wanted, std::max(grid.Mirror(high), grid.NANG + 1), grid.Mirror(low)), parts);
   };
   const std::size_t done = RunBlocks(count, summer.BlocksPerLook(), monitor, work);
   if (done == 0) return {};
   const int doneHigh = folded.low + static_cast<int>(done) - 1;
-  const RowsDone rows{Cut(wanted, folded.low, doneHigh),
-                      Cut(wanted, std::max(grid.Mirror(doneHigh), grid.NANG + 1), last)};
+  const RowsDone rows{Cut(wanted, folded.low, doneHigh), Cut(wanted, std::max(grid.Mirror(doneHigh), grid.NANG + 1),
+                                                             std::min(last, grid.Mirror(folded.low)))};
   if (rows.Contains(1)) {
     const ComplexD forward = ForwardAmplitude(waves);
     S1.Set(1, forward.re, forward.im);

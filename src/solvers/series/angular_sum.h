@@ -23,6 +23,7 @@ struct RowsDone {
   RowWindow mirrored;  ///< Within NANG + 1..2 NANG - 1.
 
   bool Contains(int row) const { return forward.Contains(row) || mirrored.Contains(row); }
+  bool Empty() const { return forward.Empty() && mirrored.Empty(); }
 };
 
 /// Sums S1 and S2 of a partial-wave series over a window of angle rows.
@@ -57,6 +58,17 @@ RowsDone SumAngularSeries(const PartialWaves& waves, const AngleGrid& grid, RowW
 RowsDone SumAngularSeries(const PartialWaves& waves, const AngleGrid& grid, const AngleCosines& cosines,
                           RowWindow window, AmplitudeTable& S1, AmplitudeTable& S2, RunMonitor& monitor,
                           InstructionSet set = BestInstructionSet());
+
+/// A part of such a sum, so that a large one can be divided among threads: the rows of the window that fold onto
+/// `part`.
+///
+/// @param part  folded rows, within AngleCosines::Folded(grid, window). Parts that begin whole multiples of PairBlock
+/// rows
+///              after its first give the rows the very values that the undivided sum gives them.
+/// @return the rows done; none after a Stop before the first.
+RowsDone SumFoldedRows(const PartialWaves& waves, const AngleGrid& grid, const AngleCosines& cosines, RowWindow window,
+                       RowWindow part, AmplitudeTable& S1, AmplitudeTable& S2, RunMonitor& monitor,
+                       InstructionSet set = BestInstructionSet());
 
 /// The same sums at any angles.
 ///

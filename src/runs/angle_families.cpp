@@ -1,0 +1,111 @@
+/// Runs over rows of scattering angle, at one wavelength or several.
+
+#include <algorithm>
+#include <utility>
+
+#include "runs/families.h"
+
+namespace lumivex {
+
+namespace {
+
+/// Rows beyond the grid, which averaging and interpolation read; they stay 0.
+constexpr int spareRows = 100;
+
+void Lengthen(AmplitudeTable& table, int rows) {
+  if (table.Rows() >= rows) return;
+  AmplitudeTable longer(rows);
+  for (int row = 1; row <= table.Rows(); ++row) longer.Set(row, table.Re(row), table.Im(row));
+  table = std::move(longer);
+}
+
+FamilyEnd RunOneSphere(const RunRequest& request, const AngleRows& rows, const Setting& setting, TaskPool& pool,
+                       Results& results) {
+  SphereSolution sphere = SolveInParts(
+      request.method, {setting.x, setting.mRe, setting.mIm, AngleGrid(rows.NANG), rows.window, nullptr}, pool);
+  if (sphere.Refused()) return {false, sphere.refusal};
+  if (sphere.rows.Empty()) return {};
+  TellSphere(sphere, results.last);
+  AngleFound found;
+  found.S1 = std::move(sphere.S1);
+  found.S2 = std::move(sphere.S2);
+  found.S1b = std::move(sphere.S1b);
+  found.S2b = std::move(sphere.S2b);
+  found.rows = sphere.rows;
+  found.waves = std::move(sphere.waves);
+  found.wavefronts = std::move(sphere.wavefronts);
+  results.found = std::move(found);
+  return {true, {}};
+}
+
+FamilyEnd RunOneCloud(const RunRequest& request, const AngleRows& rows, const Setting& setting, TaskPool& pool,
+                      Results& results) {
+  AngleFound found;
+  SettingsPlan plan{request, {setting}, AngleGrid(rows.NANG), rows.window, true, {}, {}};
+  plan.keep = [&](std::size_t, SettingFound&& cloud) {
+    TellSphere(cloud.sphere, results.last);
+    results.last.samples = cloud.samples;
+    found.S1 = std::move(cloud.sphere.S1);
+    found.S2 = std::move(cloud.sphere.S2);
+    found.crossRe = std::move(cloud.crossRe);
+    found.crossIm = std::move(cloud.crossIm);
+    found.rows = cloud.sphere.rows;
+  };
+  const SettingsEnd end = RunSettings(plan, pool);
+  if (end.kept > 0) results.found = std::move(found);
+  return {end.kept > 0, end.refusal};
+}
+
+}  // namespace
+
+FamilyEnd RunAngles(const RunRequest& request, const AngleRun& run, TaskPool& pool, Results& results) {
+  const SettingResult at = SettingAt(request, request.light.lambda);
+  if (!at.Good()) return {false, at.refusal};
+  TellSetting(at.setting, results.last);
+  results.last.NANG = run.rows.NANG;
+  FamilyEnd end = request.Cloud() ? RunOneCloud(request, run.rows, at.setting, pool, results)
+                                  : RunOneSphere(request, run.rows, at.setting, pool, results);
+  if (!end.found) return end;
+  auto& found = std::get<AngleFound>(results.found);
+  const int tableRows = AngleGrid(run.rows.NANG).RowCount() + spareRows;
+  for (AmplitudeTable* table : {&found.S1, &found.S2}) Lengthen(*table, tableRows);
+  return end;
+}
+
+FamilyEnd RunSpectrum(const RunRequest& request, const SpectrumRun& run, TaskPool& pool, Results& results) {
+  const SpectrumOfLight& light = *request.light.spectrum;
+  const RowWindow window = run.rows.window;
+  SettingsPlan plan{request, {}, AngleGrid(run.rows.NANG), window, false, {}, {}};
+  for (int i = 1; i <= light.Count(); ++i) {
+    const SettingResult at = SettingAt(request, double{light.wavelength[static_cast<std::size_t>(i)]});
+    if (!at.Good()) return {false, at.refusal};
+    plan.settings.push_back(at.setting);
+  }
+  SpectrumFound found;
+  const auto rows = static_cast<std::size_t>(window.high - window.low + 1);
+  const auto count = static_cast<std::size_t>(light.Count());
+  found.perpendicular.reserve(count * rows);
+  found.parallel.reserve(count * rows);
+  found.waveNumber.assign(count + 1, 0.0);
+  plan.keep = [&](std::size_t i, SettingFound&& sphere) {
+    for (int row = window.low; row <= window.high; ++row) {
+      found.perpendicular.push_back(sphere.sphere.S1.Intensity(row));
+      found.parallel.push_back(sphere.sphere.S2.Intensity(row));
+    }
+    found.waveNumber[static_cast<std::size_t>(++found.done)] = plan.settings[i].WaveNumber();
+    TellSphere(sphere.sphere, results.last);
+    results.last.samples = sphere.samples;
+    found.S1 = std::move(sphere.sphere.S1);
+    found.S2 = std::move(sphere.sphere.S2);
+  };
+  plan.place = [](std::size_t i, RunProgress& progress) { progress.wavelength = static_cast<int>(i) + 1; };
+  SettingsEnd end = RunSettings(plan, pool);
+  if (!end.refusal.text.empty() || found.done == 0) return {false, std::move(end.refusal)};
+  // One wavelength stands for all where only one can be told.
+  TellSetting(plan.settings[static_cast<std::size_t>(light.Middle() - 1)], results.last);
+  results.last.NANG = run.rows.NANG;
+  results.found = std::move(found);
+  return {true, {}};
+}
+
+}  // namespace lumivex

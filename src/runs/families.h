@@ -1,0 +1,28 @@
+#pragma once
+
+#include "runs/results.h"
+#include "runs/settings.h"
+
+namespace lumivex {
+
+/// What a family leaves: whether anything was found, and a refusal where it gave up. Stops and overflows are told by
+/// the pool.
+struct FamilyEnd {
+  bool found = false;
+  Refusal refusal;
+};
+
+// One function a family, each for its alternative of the request. They fill `results.found` and `results.last`.
+FamilyEnd RunAngles(const RunRequest& request, const AngleRun& run, TaskPool& pool, Results& results);
+FamilyEnd RunSpectrum(const RunRequest& request, const SpectrumRun& run, TaskPool& pool, Results& results);
+FamilyEnd RunAxis(const RunRequest& request, const AxisRun& run, TaskPool& pool, Results& results);
+FamilyEnd RunConvergence(const RunRequest& request, const ConvergenceRun& run, TaskPool& pool, Results& results);
+FamilyEnd RunDebyeAnalysis(const RunRequest& request, const DebyeAnalysisRun& run, TaskPool& pool, Results& results);
+FamilyEnd RunTwoAngle(const RunRequest& request, const TwoAngleRun& run, TaskPool& pool, Results& results);
+
+/// What a setting tells of the last sphere.
+void TellSetting(const Setting& setting, LastSphere& last);
+/// What a solution tells of it; leaves the setting's part.
+void TellSphere(const SphereSolution& sphere, LastSphere& last);
+
+}  // namespace lumivex

@@ -1,0 +1,239 @@
+/// Runs about one sphere at one angle, and the cross-sections into two ranges of angle.
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <numbers>
+#include <utility>
+
+#include "runs/families.h"
+#include "runs/run.h"
+#include "solvers/angles/angle_window.h"
+#include "solvers/series/debye_series.h"
+#include "solvers/series/mie_series.h"
+
+namespace lumivex {
+
+namespace {
+
+constexpr double pi = std::numbers::pi;
+constexpr int tenthsTo90 = 901;  // rows of 0.1 degrees
+constexpr double notComputed = std::numeric_limits<double>::quiet_NaN();
+
+/// What a series leaves of its running sums.
+struct Sums {
+  Refusal refusal;
+  ConvergenceFound found;
+  SphereSolution sphere;
+};
+
+Sums SumMie(const RunRequest& request, const Setting& setting, int row, RunMonitor& monitor) {
+  MieRequest asked;
+  asked.x = setting.x;
+  asked.mRe = setting.mRe;
+  asked.mIm = setting.mIm;
+  asked.NANG = tenthsTo90;
+  asked.window = {row, row};
+  asked.divideBySize = request.method.divideBySize;
+  asked.classicStart = request.method.classicStart;
+  asked.convergence = true;
+  asked.selectedAngleIndex = row;
+  MieResult result = SolveMie(asked, monitor);
+  Sums sums;
+  if (result.refusal != MieRefusal::None) {
+    sums.refusal = BeyondMie();
+    return sums;
+  }
+  sums.found = {std::move(result.convergence.perpendicular),
+                std::move(result.convergence.parallel),
+                std::move(result.convergence.unpolarised),
+                std::move(result.S1),
+                std::move(result.S2),
+                std::move(result.waves)};
+  sums.sphere.efficiencies = result.efficiencies;
+  sums.sphere.NSTOP = result.truncation.NSTOP;
+  sums.sphere.NMX = result.truncation.NMX;
+  return sums;
+}
+
+Sums SumDebye(const RunRequest& request, const Setting& setting, int row, RunMonitor& monitor) {
+  Sums sums;
+  if (std::ranges::none_of(request.method.rays, [](int p) { return p != 0; })) {
+    sums.refusal = NoRays();
+    return sums;
+  }
+  DebyeRequest asked;
+  asked.x = setting.x;
+  asked.mRe = setting.mRe;
+  asked.mIm = setting.mIm;
+  asked.NANG = tenthsTo90;
+  asked.window = {row, row};
+  asked.selected = request.method.rays;
+  asked.byRatio = request.method.byRatio;
+  asked.convergence = true;
+  if (const auto& range = request.method.partialWaves) {
+    asked.partial = true;
+    asked.firstRatio = range->first;
+    asked.lastRatio = range->last;
+  }
+  DebyeResult result = SolveDebye(asked, monitor);
+  if (result.refusal != MieRefusal::None) {
+    sums.refusal = {"Error", "Reduce radius or increase wavelength"};
+    return sums;
+  }
+  sums.sphere.efficiencies = EfficienciesOf(result.waves, setting.x);
+  if (setting.mIm == 0) sums.sphere.efficiencies.Qsca = sums.sphere.efficiencies.Qext;
+  sums.sphere.NSTOP = result.NSTOP;
+  sums.sphere.NMX = result.NMX;
+  sums.sphere.partialWaveFirst = result.PartialWaveFirst;
+  sums.sphere.partialWaveLast = result.PartialWaveLast;
+  sums.found = {std::move(result.convergence.perpendicular),
+                std::move(result.convergence.parallel),
+                std::move(result.convergence.unpolarised),
+                std::move(result.S1),
+                std::move(result.S2),
+                std::move(result.waves)};
+  return sums;
+}
+
+}  // namespace
+
+FamilyEnd RunConvergence(const RunRequest& request, const ConvergenceRun& run, TaskPool& pool, Results& results) {
+  const SettingResult at = SettingAt(request, request.light.lambda);
+  if (!at.Good()) return {false, at.refusal};
+  const int row = std::clamp(static_cast<int>(std::nearbyint(run.angle * 10)) + 1, 1, 2 * tenthsTo90 - 1);
+  Sums sums;
+  TaskList one;
+  one.count = 1;
+  one.work = [&](std::size_t, std::size_t, RunMonitor& monitor) {
+    sums = request.method.method == Method::Debye ? SumDebye(request, at.setting, row, monitor)
+                                                  : SumMie(request, at.setting, row, monitor);
+    return monitor.Report(1, 1) && sums.refusal.text.empty();
+  };
+  one.take = [](std::size_t, std::size_t) { return true; };
+  if (pool.Do(one) == 0) return {false, std::move(sums.refusal)};
+  TellSetting(at.setting, results.last);
+  TellSphere(sums.sphere, results.last);
+  results.last.NANG = tenthsTo90;
+  results.last.selectedRow = row;
+  results.found = std::move(sums.found);
+  return {true, {}};
+}
+
+FamilyEnd RunDebyeAnalysis(const RunRequest& request, const DebyeAnalysisRun& run, TaskPool& pool, Results& results) {
+  const SettingResult at = SettingAt(request, request.light.lambda);
+  if (!at.Good()) return {false, at.refusal};
+  const SphereAsked asked{at.setting.x, at.setting.mRe, at.setting.mIm, AngleGrid::At(run.angle), {1, 1}, nullptr};
+  DebyeAnalysisFound found;
+  found.dots1.Resize(run.limit + 2);
+  found.dots2.Resize(run.limit + 2);
+  std::vector<SphereSolution> slots(pool.Slots());
+  Refusal refusal;
+  SphereSolution mie;
+  TaskList tasks;
+  tasks.count = static_cast<std::size_t>(run.limit) + 2;  // the sphere, then each p from 0
+  tasks.work = [&](std::size_t task, std::size_t slot, RunMonitor& monitor) {
+    MethodOptions options = request.method;
+    options.difference = Difference::None;
+    options.method = task == 0 ? Method::Mie : Method::Debye;
+    options.rays.assign(task, 0);
+    if (task > 0) options.rays.back() = 1;
+    slots[slot] = SolveSphere(options, asked, monitor);
+    return slots[slot].finished && !slots[slot].Refused();
+  };
+  tasks.take = [&](std::size_t task, std::size_t slot) {
+    SphereSolution& term = slots[slot];
+    const int row = static_cast<int>(task) + 1;
+    if (task == 0) {
+      found.dots1.Set(1, term.S1.Re(1), term.S1.Im(1));
+      found.dots2.Set(1, term.S2.Re(1), term.S2.Im(1));
+      mie = std::move(term);
+    } else {
+      found.dots1.Set(row, found.dots1.Re(row - 1) - term.S1.Re(1), found.dots1.Im(row - 1) - term.S1.Im(1));
+      found.dots2.Set(row, found.dots2.Re(row - 1) - term.S2.Re(1), found.dots2.Im(row - 1) - term.S2.Im(1));
+    }
+    found.done = row;
+    return true;
+  };
+  tasks.place = [](std::size_t task, RunProgress& progress) { progress.point = static_cast<int>(task) + 1; };
+  const std::size_t taken = pool.Do(tasks);
+  if (taken < tasks.count && !pool.Stopped())
+    for (const SphereSolution& slot : slots)
+      if (slot.Refused()) refusal = slot.refusal;
+  if (!refusal.text.empty() || found.done == 0) return {false, std::move(refusal)};
+  TellSetting(at.setting, results.last);
+  TellSphere(mie, results.last);
+  results.last.NANG = 9001;
+  found.S1b = std::move(mie.S1);
+  found.S2b = std::move(mie.S2);
+  results.found = std::move(found);
+  return {true, {}};
+}
+
+FamilyEnd RunTwoAngle(const RunRequest& request, const TwoAngleRun& run, TaskPool& pool, Results& results) {
+  const SettingResult at = SettingAt(request, request.light.lambda);
+  if (!at.Good()) return {false, at.refusal};
+  const double medium = at.setting.indices.MediumInUse();
+  const double k = 2 * pi * medium / at.setting.lambda;  // 1/um
+  const AngleGrid grid(twoAngleRowsTo90);
+  const auto radians = [](double low, double high) { return AngleRange{low * pi / 180, high * pi / 180}; };
+  const AngleRange first = radians(run.angle1Min, run.angle1Max), second = radians(run.angle2Min, run.angle2Max);
+  const RowWindow a = RowsOfRange(grid, first), b = RowsOfRange(grid, second);
+  const RowWindow rows{std::min(a.low, b.low), std::max(a.high, b.high)};
+  const auto cosines = std::make_shared<const AngleCosines>(grid, rows);
+  const std::size_t lines = run.radius.size();
+
+  TwoAngleFound found;
+  for (Table2D* table : {&found.first, &found.second}) {
+    table->Resize(lines, run.index.size());
+    std::ranges::fill(table->cells, notComputed);
+  }
+  struct Slot {
+    SphereSolution sphere;
+    double first = 0, second = 0;
+  };
+  std::vector<Slot> slots(pool.Slots());
+  bool refused = false;
+  TaskList tasks;
+  tasks.count = lines * run.index.size();
+  const auto sizeOf = [&](std::size_t task) { return k * run.radius[task % lines]; };
+  tasks.work = [&](std::size_t task, std::size_t slotIndex, RunMonitor& monitor) {
+    Slot& slot = slots[slotIndex];
+    const double x = sizeOf(task);
+    slot.sphere =
+        BHMIE(request.method, {x, run.index[task / lines] / medium, at.setting.mIm, grid, rows, cosines}, monitor);
+    if (slot.sphere.Refused() || !slot.sphere.finished) return false;
+    const double scale = 2 * pi / (k * k) * (request.method.divideBySize ? x * x : 1);
+    slot.first = scale * IntegrateProduct(slot.sphere.S1, slot.sphere.S2, grid, first);
+    slot.second = scale * IntegrateProduct(slot.sphere.S1, slot.sphere.S2, grid, second);
+    return true;
+  };
+  tasks.take = [&](std::size_t task, std::size_t slotIndex) {
+    const Slot& slot = slots[slotIndex];
+    found.first.At(task % lines, task / lines) = slot.first;
+    found.second.At(task % lines, task / lines) = slot.second;
+    ++found.done;
+    TellSphere(slot.sphere, results.last);
+    return true;
+  };
+  tasks.place = [&](std::size_t task, RunProgress& progress) {
+    progress.column = static_cast<int>(task / lines);
+    progress.row = static_cast<int>(task % lines);
+    progress.radius = run.radius[task % lines];
+  };
+  const std::size_t taken = pool.Do(tasks);
+  if (taken < tasks.count && !pool.Stopped())
+    refused = std::ranges::any_of(slots, [](const Slot& slot) { return slot.sphere.Refused(); });
+  if (refused) return {false, BeyondMie()};
+  if (found.done == 0) return {};
+  TellSetting(at.setting, results.last);
+  const auto lastSphere = static_cast<std::size_t>(found.done) - 1;
+  results.last.radius = run.radius[lastSphere % lines];
+  results.last.sizeParameter = sizeOf(lastSphere);
+  results.last.relativeRe = run.index[lastSphere / lines] / medium;
+  results.last.NANG = twoAngleRowsTo90;
+  results.found = std::move(found);
+  return {true, {}};
+}
+
+}  // namespace lumivex

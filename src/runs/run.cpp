@@ -1,0 +1,74 @@
+#include "runs/run.h"
+
+#include <chrono>
+#include <utility>
+
+#include "runs/families.h"
+
+namespace lumivex {
+
+namespace {
+
+struct RunFamily {
+  const RunRequest& request;
+  TaskPool& pool;
+  Results& results;
+
+  FamilyEnd operator()(const AngleRun& run) const { return RunAngles(request, run, pool, results); }
+  FamilyEnd operator()(const SpectrumRun& run) const { return RunSpectrum(request, run, pool, results); }
+  FamilyEnd operator()(const AxisRun& run) const { return RunAxis(request, run, pool, results); }
+  FamilyEnd operator()(const ConvergenceRun& run) const { return RunConvergence(request, run, pool, results); }
+  FamilyEnd operator()(const DebyeAnalysisRun& run) const { return RunDebyeAnalysis(request, run, pool, results); }
+  FamilyEnd operator()(const TwoAngleRun& run) const { return RunTwoAngle(request, run, pool, results); }
+};
+
+}  // namespace
+
+void TellSetting(const Setting& setting, LastSphere& last) {
+  last.lambda = setting.lambda;
+  last.radius = setting.radius;
+  last.sizeParameter = setting.x;
+  last.waveNumber = setting.WaveNumber();
+  last.indices = setting.indices;
+  last.relativeRe = setting.mRe;
+  last.relativeIm = setting.mIm;
+}
+
+void TellSphere(const SphereSolution& sphere, LastSphere& last) {
+  last.efficiencies = sphere.efficiencies;
+  last.NSTOP = sphere.NSTOP;
+  last.NMX = sphere.NMX;
+  last.partialWaveFirst = sphere.partialWaveFirst;
+  last.partialWaveLast = sphere.partialWaveLast;
+  last.rainbowImpact = sphere.rainbowImpact;
+  last.rainbowAngle = sphere.rainbowAngle;
+  last.rayAngle = sphere.rayAngle;
+  last.apertureCentre = sphere.apertureCentre;
+  last.apertureWeight = sphere.apertureWeight;
+  last.besselOrders = sphere.besselOrders;
+}
+
+RunEnd Run(const RunRequest& request, RunWatch& watch, unsigned threads) {
+  const auto start = std::chrono::steady_clock::now();
+  TaskPool pool(watch, threads);
+  RunEnd end;
+  Results results{request, {}, {}, 0};
+  FamilyEnd family = std::visit(RunFamily{request, pool, results}, request.run);
+  if (pool.Overflowed()) {
+    end.outcome = Outcome::Overflow;
+    end.refusal = {"Error", "Overflow, division by zero or invalid operation in the calculation"};
+    return end;
+  }
+  if (!family.refusal.text.empty()) {
+    end.refusal = std::move(family.refusal);
+    return end;
+  }
+  end.outcome = pool.Stopped() ? Outcome::Stopped : Outcome::Done;
+  end.hasResults = family.found;
+  if (!family.found) return end;
+  results.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  end.results = std::move(results);
+  return end;
+}
+
+}  // namespace lumivex

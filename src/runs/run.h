@@ -1,0 +1,30 @@
+#pragma once
+
+#include "runs/request.h"
+#include "runs/results.h"
+#include "runs/run_watch.h"
+
+namespace lumivex {
+
+/// Runs a request to its results. Pure: it reads nothing but the request and writes nothing but what it returns, so
+/// that any thread may call it and several at once.
+///
+/// Wavelengths, sizes, points and blocks of angles are shared among threads; results are the same to the last bit on
+/// any number of them.
+/// @param watch    looked to by the calling thread alone; it may stop the run.
+/// @param threads  at most so many, the calling one included; 0 for as many as the machine has.
+/// @return the results of a run that is done, or of one that was stopped with something whole in hand: whole rows,
+///         wavelengths, points or spheres, never a false one. A run that is stopped before, refused, or whose
+///         arithmetic fails has none.
+RunEnd Run(const RunRequest& request, RunWatch& watch, unsigned threads = 0);
+
+/// Most points of an x axis.
+inline constexpr int mostPoints = 18001;
+
+/// Rows from 0 to 90 degrees of a two-angle run: steps of 0.1 degrees.
+inline constexpr int twoAngleRowsTo90 = 901;
+
+/// Position of a point of an axis, from 1, in the unit of the axis.
+double AxisPosition(const AxisRun& axis, int point);
+
+}  // namespace lumivex

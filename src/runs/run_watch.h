@@ -1,0 +1,33 @@
+#pragma once
+
+namespace lumivex {
+
+/// Where a run stands: the piece that was begun last, and the share of all the work that is done.
+struct RunProgress {
+  double share = 0;    ///< 0 to 1; never falls
+  int wavelength = 1;  ///< running wavelength of a spectrum, from 1
+  int sample = 0;      ///< running size of a cloud, from 1; 0 for one size
+  int point = 0;       ///< running point of an axis, from 1
+  int column = 0;      ///< running cell of a table, from 0
+  int row = 0;
+  double lambda = 0;  ///< um
+  double radius = 0;  ///< um
+};
+
+/// Who watches a run: shows how far it is, and may stop it.
+class RunWatch {
+ public:
+  virtual ~RunWatch() = default;
+
+  /// Called now and again, at least every 50 ms, by the thread that called Run and by no other.
+  /// @return true to go on, false to stop.
+  virtual bool Look(const RunProgress& progress) = 0;
+};
+
+/// Of whoever neither watches nor stops.
+class SilentWatch final : public RunWatch {
+ public:
+  bool Look(const RunProgress&) override { return true; }
+};
+
+}  // namespace lumivex

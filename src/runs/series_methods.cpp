@@ -1,0 +1,164 @@
+/// The methods that sum partial waves.
+
+#include <algorithm>
+#include <utility>
+
+#include "runs/sphere_solver.h"
+#include "solvers/series/debye_series.h"
+#include "solvers/series/mie_point.h"
+#include "solvers/series/mie_series.h"
+
+namespace lumivex {
+
+namespace {
+
+/// Beyond this absorption nothing comes out of the sphere any more.
+constexpr double opaque = 700;
+
+bool OneAngle(const AngleGrid& grid) {
+  return grid.NANG == 1;
+}
+
+SphereSolution MieAtAngle(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor) {
+  MiePoint point = SolveMiePoint(
+      {asked.x, asked.mRe, asked.mIm, asked.grid.first, options.divideBySize, options.classicStart}, monitor);
+  SphereSolution solution;
+  if (point.refusal != MieRefusal::None) {
+    solution.refusal = BeyondMie();
+    return solution;
+  }
+  solution.S1.Resize(1);
+  solution.S2.Resize(1);
+  solution.S1.Set(1, point.S1.re, point.S1.im);
+  solution.S2.Set(1, point.S2.re, point.S2.im);
+  solution.rows.forward = {1, 1};
+  solution.efficiencies = point.efficiencies;
+  solution.NSTOP = point.NSTOP;
+  solution.NMX = point.NMX;
+  return solution;
+}
+
+DebyeRequest RequestOf(const MethodOptions& options, const SphereAsked& asked) {
+  DebyeRequest request;
+  request.x = asked.x;
+  request.mRe = asked.mRe;
+  request.mIm = asked.mIm;
+  request.NANG = std::max(asked.grid.NANG, 2);
+  request.window = asked.window;
+  if (OneAngle(asked.grid)) request.angle = asked.grid.first;
+  request.selected = options.rays;
+  request.byRatio = options.byRatio;
+  if (options.partialWaves) {
+    request.partial = true;
+    request.firstRatio = options.partialWaves->first;
+    request.lastRatio = options.partialWaves->last;
+  }
+  return request;
+}
+
+RowWindow Both(const RowWindow& a, const RowWindow& b) {
+  return {std::max(a.low, b.low), std::min(a.high, b.high)};
+}
+
+/// The series becomes the difference that is asked for.
+void TakeDifference(const MethodOptions& options, const SphereAsked& asked, SphereSolution& series,
+                    RunMonitor& monitor) {
+  const bool fromMie = options.difference == Difference::MieLessDebye;
+  SphereSolution other = fromMie ? BHMIE(options, asked, monitor) : GO2(options, asked, monitor);
+  if (other.Refused()) {
+    series.refusal = other.refusal;
+    return;
+  }
+  const double sign = options.difference == Difference::DebyeLessRays ? -1 : 1;
+  const int last = std::min({asked.window.high, series.S1.Rows(), other.S1.Rows()});
+  for (int row = std::max(asked.window.low, 1); row <= last; ++row) {
+    series.S1.Set(row, sign * (other.S1.Re(row) - series.S1.Re(row)), sign * (other.S1.Im(row) - series.S1.Im(row)));
+    series.S2.Set(row, sign * (other.S2.Re(row) - series.S2.Re(row)), sign * (other.S2.Im(row) - series.S2.Im(row)));
+  }
+  series.rows = {Both(series.rows.forward, other.rows.forward), Both(series.rows.mirrored, other.rows.mirrored)};
+  series.finished = series.finished && other.finished;
+  series.S1b = std::move(other.S1);
+  series.S2b = std::move(other.S2);
+}
+
+/// Passes reports on and remembers whether a Stop was asked for.
+class Watched final : public RunMonitor {
+ public:
+  explicit Watched(RunMonitor& outer) : outer_(outer) {}
+  bool Report(std::size_t index, std::size_t count) override {
+    goesOn = outer_.Report(index, count) && goesOn;
+    return goesOn;
+  }
+  bool goesOn = true;
+
+ private:
+  RunMonitor& outer_;
+};
+
+}  // namespace
+
+SphereSolution BHMIE(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor) {
+  if (OneAngle(asked.grid)) return MieAtAngle(options, asked, monitor);
+  MieRequest request;
+  request.x = asked.x;
+  request.mRe = asked.mRe;
+  request.mIm = asked.mIm;
+  request.NANG = asked.grid.NANG;
+  request.window = asked.window;
+  request.cosines = asked.cosines;
+  request.divideBySize = options.divideBySize;
+  request.classicStart = options.classicStart;
+  MieResult result = SolveMie(request, monitor);
+  SphereSolution solution;
+  if (result.refusal != MieRefusal::None) {
+    solution.refusal = BeyondMie();
+    return solution;
+  }
+  solution.finished = !result.stopped;
+  solution.S1 = std::move(result.S1);
+  solution.S2 = std::move(result.S2);
+  solution.rows = result.rows;
+  solution.efficiencies = result.efficiencies;
+  solution.waves = std::move(result.waves);
+  solution.NSTOP = result.truncation.NSTOP;
+  solution.NMX = result.truncation.NMX;
+  return solution;
+}
+
+SphereSolution DebyeSeries(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor) {
+  if (options.OnlyReflected() && asked.x * asked.mIm > opaque) {
+    SphereSolution mie = BHMIE(options, asked, monitor);
+    if (!mie.waves.aRe.empty() && mie.waves.Terms() > 0) mie.efficiencies = EfficienciesOf(mie.waves, asked.x);
+    return mie;
+  }
+  SphereSolution solution;
+  if (std::ranges::count(options.rays, 0) == std::ssize(options.rays)) {
+    solution.refusal = NoRays();
+    return solution;
+  }
+  Watched watched(monitor);
+  DebyeResult result = SolveDebye(RequestOf(options, asked), watched);
+  if (result.refusal != MieRefusal::None) {
+    solution.refusal = {"Error", "Reduce radius or increase wavelength"};
+    return solution;
+  }
+  solution.finished = watched.goesOn;
+  solution.S1 = std::move(result.S1);
+  solution.S2 = std::move(result.S2);
+  solution.rows = result.rows;
+  solution.NSTOP = result.NSTOP;
+  solution.NMX = result.NMX;
+  solution.partialWaveFirst = result.PartialWaveFirst;
+  solution.partialWaveLast = result.PartialWaveLast;
+  solution.waves = std::move(result.waves);
+  if (solution.waves.Terms() > 0) solution.efficiencies = EfficienciesOf(solution.waves, asked.x);
+  if (asked.mIm == 0) solution.efficiencies.Qsca = solution.efficiencies.Qext;
+  if (options.difference == Difference::None) return solution;
+  if (solution.finished)
+    TakeDifference(options, asked, solution, monitor);
+  else
+    solution.rows = {};  // of a difference nothing is there yet
+  return solution;
+}
+
+}  // namespace lumivex

@@ -1,0 +1,205 @@
+#include "runs/settings.h"
+
+#include <algorithm>
+#include <mutex>
+#include <numbers>
+#include <utility>
+
+namespace lumivex {
+
+namespace {
+
+constexpr double twoPi = 2 * std::numbers::pi;
+
+/// The first refusal of a run in the order of its tasks, whichever thread met it.
+class FirstRefusal {
+ public:
+  void Note(std::size_t task, Refusal refusal) {
+    const std::lock_guard lock(mutex_);
+    if (task >= task_) return;
+    task_ = task;
+    refusal_ = std::move(refusal);
+  }
+  /// That of a task before or at `last`.
+  Refusal Of(std::size_t last) const { return task_ <= last ? refusal_ : Refusal{}; }
+
+ private:
+  std::mutex mutex_;
+  std::size_t task_ = static_cast<std::size_t>(-1);
+  Refusal refusal_;
+};
+
+std::shared_ptr<const AngleCosines> CosinesOf(const SettingsPlan& plan) {
+  return plan.grid.NANG > 1 ? std::make_shared<const AngleCosines>(plan.grid, plan.window) : nullptr;
+}
+
+SphereAsked AskedAt(const SettingsPlan& plan, const Setting& setting, double x,
+                    const std::shared_ptr<const AngleCosines>& cosines) {
+  return {x, setting.mRe, setting.mIm, plan.grid, plan.window, cosines};
+}
+
+Refusal RefusalOf(SizeFailure failure) {
+  return {"Input error", WordsFor(failure),
+          failure == SizeFailure::NegativeRadius || failure == SizeFailure::BadGamma ? InputAtFault::StandardDeviation
+                                                                                     : InputAtFault::Distribution};
+}
+
+/// The samples of a setting; those of the setting before where its radius is the same.
+class SamplesCache {
+ public:
+  const CloudSamples& At(const RunRequest& request, double radius) {
+    if (!samples_ || radius != radius_) samples_ = std::make_shared<CloudSamples>(SamplesOf(request.sizes, radius));
+    radius_ = radius;
+    return *samples_;
+  }
+
+ private:
+  std::shared_ptr<const CloudSamples> samples_;
+  double radius_ = 0;
+};
+
+bool IsActual(const SizeDistribution& sizes) {
+  const auto* file = std::get_if<FileSizes>(&sizes);
+  return file != nullptr && file->actual;
+}
+
+}  // namespace
+
+double Setting::WaveNumber() const {
+  return twoPi * indices.MediumInUse() / (lambda * 1e-6);
+}
+
+double SizeParameterOf(double radius, double medium, double lambda) {
+  return twoPi * radius * medium / lambda;
+}
+
+SettingResult SettingAt(const RunRequest& request, double lambda) {
+  SettingResult result;
+  const IndicesFound found = IndicesAt(request.particle.sphere, request.particle.medium, lambda);
+  switch (found.failure) {
+    case IndexFailure::None:
+      break;
+    case IndexFailure::MissingRow:
+      result.refusal = {"Error", "Subscript out of range"};
+      return result;
+    case IndexFailure::SphereUndefined:
+      result.refusal = {"Error", "Help! RI of sphere undefined"};
+      return result;
+    case IndexFailure::MediumUndefined:
+      result.refusal = {"Error", "Help! RI of medium undefined"};
+      return result;
+  }
+  Setting& setting = result.setting;
+  setting.lambda = lambda;
+  setting.indices = found.indices;
+  setting.mRe = found.indices.RelativeRe();
+  setting.mIm = found.indices.RelativeIm();
+  const double medium = found.indices.MediumInUse();
+  const auto& typed = request.particle.sizeTyped;
+  setting.radius = typed ? *typed * lambda / (twoPi * medium) : request.particle.radius;
+  setting.x = typed ? *typed : SizeParameterOf(setting.radius, medium, lambda);
+  return result;
+}
+
+SettingsEnd RunSettings(const SettingsPlan& plan, TaskPool& pool) {
+  if (plan.request.Cloud()) return DispCalc(plan, pool);
+  const auto cosines = CosinesOf(plan);
+  std::vector<SphereSolution> slots(pool.Slots());
+  FirstRefusal refusals;
+  TaskList tasks;
+  tasks.count = plan.settings.size();
+  tasks.work = [&](std::size_t task, std::size_t slot, RunMonitor& monitor) {
+    const Setting& setting = plan.settings[task];
+    slots[slot] = SolveSphere(plan.request.method, AskedAt(plan, setting, setting.x, cosines), monitor);
+    if (slots[slot].Refused()) refusals.Note(task, slots[slot].refusal);
+    return slots[slot].finished && !slots[slot].Refused();
+  };
+  tasks.take = [&](std::size_t task, std::size_t slot) {
+    const double area = std::numbers::pi * plan.settings[task].radius * plan.settings[task].radius;
+    SettingFound found;
+    found.sphere = std::move(slots[slot]);
+    found.Cext = found.sphere.efficiencies.Qext * area;
+    found.Csca = found.sphere.efficiencies.Qsca * area;
+    plan.keep(task, std::move(found));
+    return true;
+  };
+  tasks.place = [&](std::size_t task, RunProgress& progress) {
+    progress.lambda = plan.settings[task].lambda;
+    progress.radius = plan.settings[task].radius;
+    if (plan.place) plan.place(task, progress);
+  };
+  SettingsEnd end;
+  end.kept = pool.Do(tasks);
+  if (end.kept < tasks.count) end.refusal = refusals.Of(end.kept);
+  return end;
+}
+
+SettingsEnd DispCalc(const SettingsPlan& plan, TaskPool& pool) {
+  SettingsEnd end;
+  if (plan.settings.empty()) return end;
+  const CloudSamples first = SamplesOf(plan.request.sizes, plan.settings.front().radius);
+  if (first.failure != SizeFailure::None) {
+    end.refusal = RefusalOf(first.failure);
+    return end;
+  }
+  const auto perCloud = static_cast<std::size_t>(first.Count());
+  const bool actual = IsActual(plan.request.sizes);
+  const auto cosines = CosinesOf(plan);
+  struct Slot {
+    SphereSolution sphere;
+    SamplesCache samples;
+    double radius = 0, weight = 0;
+    bool counts = false;  ///< a size that is there
+  };
+  std::vector<Slot> slots(pool.Slots());
+  FirstRefusal refusals;
+  CloudSums sums;
+  sums.Begin(plan.window);
+  const int tableRows = plan.grid.RowCount();
+  TaskList tasks;
+  tasks.count = plan.settings.size() * perCloud;
+  tasks.work = [&](std::size_t task, std::size_t slotIndex, RunMonitor& monitor) {
+    const Setting& setting = plan.settings[task / perCloud];
+    Slot& slot = slots[slotIndex];
+    const CloudSamples& samples = slot.samples.At(plan.request, setting.radius);
+    if (samples.failure != SizeFailure::None) {
+      refusals.Note(task, RefusalOf(samples.failure));
+      return false;
+    }
+    const std::size_t sample = task % perCloud + 1;
+    slot.radius = samples.radius[sample];
+    slot.weight = samples.weight[sample];
+    slot.counts = slot.weight > 0 && slot.radius > 0;
+    if (!slot.counts) return true;
+    const double x = SizeParameterOf(slot.radius, setting.indices.MediumInUse(), setting.lambda);
+    slot.sphere = SolveSphere(plan.request.method, AskedAt(plan, setting, x, cosines), monitor);
+    if (slot.sphere.Refused()) refusals.Note(task, slot.sphere.refusal);
+    return slot.sphere.finished && !slot.sphere.Refused();
+  };
+  tasks.take = [&](std::size_t task, std::size_t slotIndex) {
+    const Slot& slot = slots[slotIndex];
+    if (slot.counts) sums.Add(slot.sphere, slot.radius, slot.weight);
+    if (task % perCloud + 1 < perCloud) return true;
+    plan.keep(task / perCloud, sums.Means(tableRows, actual));
+    ++end.kept;
+    sums.Begin(plan.window);
+    return true;
+  };
+  tasks.place = [&](std::size_t task, RunProgress& progress) {
+    const Setting& setting = plan.settings[task / perCloud];
+    progress.lambda = setting.lambda;
+    progress.radius = slots[task % slots.size()].radius;
+    progress.sample = static_cast<int>(task % perCloud) + 1;
+    if (plan.place) plan.place(task / perCloud, progress);
+  };
+  const std::size_t taken = pool.Do(tasks);
+  if (taken < tasks.count) end.refusal = refusals.Of(taken);
+  const bool part = plan.keepsPartOfCloud && pool.Stopped() && sums.HasMeans() && end.refusal.text.empty();
+  if (part) {
+    plan.keep(end.kept, sums.Means(tableRows, actual));
+    ++end.kept;
+  }
+  return end;
+}
+
+}  // namespace lumivex

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "runs/cloud_sums.h"
+#include "runs/request.h"
+#include "runs/task_pool.h"
+
+namespace lumivex {
+
+/// Everything that a run varies from one calculation to the next: a wavelength of a spectrum, a point of an axis.
+struct Setting {
+  double lambda = 0.65;  ///< um in vacuo
+  double radius = 10;    ///< um; of a cloud the one that its sizes lie about
+  OpticalIndices indices;
+  double mRe = 1, mIm = 0;    ///< relative index
+  double x = 1;               ///< size parameter of the radius
+  double WaveNumber() const;  ///< in the medium (1/m)
+};
+
+/// 2 pi r n/lambda.
+double SizeParameterOf(double radius, double medium, double lambda);
+
+/// Indices and size parameter of the request's particle at a wavelength; nothing, and why, where a material has no
+/// index there.
+struct SettingResult {
+  Setting setting;
+  Refusal refusal;
+  bool Good() const { return refusal.text.empty(); }
+};
+SettingResult SettingAt(const RunRequest& request, double lambda);
+
+/// A run over settings: at each the sphere, or the cloud about it.
+struct SettingsPlan {
+  const RunRequest& request;
+  std::vector<Setting> settings;
+  AngleGrid grid;  ///< the same at all of them
+  RowWindow window{1, 1};
+  bool keepsPartOfCloud = false;  ///< after a Stop the means over the sizes that were done are kept
+  /// Takes what was found, setting by setting in their order.
+  std::function<void(std::size_t setting, SettingFound&& found)> keep;
+  /// Tells where a setting stands.
+  std::function<void(std::size_t setting, RunProgress& progress)> place;
+};
+
+/// @return the settings that were kept and why the run ended before its end, where that was a refusal.
+struct SettingsEnd {
+  std::size_t kept = 0;
+  Refusal refusal;
+};
+SettingsEnd RunSettings(const SettingsPlan& plan, TaskPool& pool);
+
+/// DispCalc: the sizes of the plan's cloud at each setting, in place of one solver call. Means are sums over numbers
+/// of particles; for a size file and "actual" results they stay sums.
+SettingsEnd DispCalc(const SettingsPlan& plan, TaskPool& pool);
+
+/// One sphere whose rows are divided among the threads.
+SphereSolution SolveInParts(const MethodOptions& options, const SphereAsked& asked, TaskPool& pool);
+
+}  // namespace lumivex

@@ -1,0 +1,50 @@
+#include "runs/sphere_solver.h"
+
+#include <algorithm>
+
+#include "solvers/angles/cross_section.h"
+
+namespace lumivex {
+
+namespace {
+
+struct SolverRow {
+  Method method;
+  SphereSolution (*solve)(const MethodOptions&, const SphereAsked&, RunMonitor&);
+};
+
+// One row a method; the differences of the Debye series stand in the row of the series.
+constexpr SolverRow solverRows[] = {
+    {Method::Mie, BHMIE},         {Method::Debye, DebyeSeries},
+    {Method::Rayleigh, Rayleigh}, {Method::Diffraction, Diffraction},
+    {Method::Airy, Airy},         {Method::Descartes, GO},
+    {Method::Young, GO},          {Method::YoungMod, GO},
+    {Method::Huygens, Huygens},   {Method::Aperture, Aperture},
+    {Method::VanDeHulst, vdh},    {Method::YoungAiry, GO},
+};
+
+}  // namespace
+
+SphereSolution SolveSphere(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor) {
+  for (const auto& row : solverRows)
+    if (row.method == options.method) return row.solve(options, asked, monitor);
+  SphereSolution none;
+  none.refusal = {"Error", "Unknown calculation method"};
+  return none;
+}
+
+void CrossSection(const AngleGrid& grid, double x, SphereSolution& solution) {
+  const AngularIntegral integral = IntegrateAngles(solution.S1, solution.S2, grid);
+  solution.efficiencies.Qsca = 2 * integral.sum / (x * x);
+  solution.efficiencies.g = integral.sum > 0 ? integral.moment / integral.sum : 0;
+}
+
+Refusal BeyondMie() {
+  return {"Error in BHMIE sub-routine", "Reduce radius or increase wavelength"};
+}
+
+Refusal NoRays() {
+  return {"Error", "No rays selected"};
+}
+
+}  // namespace lumivex

@@ -1,0 +1,97 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "runs/request.h"
+#include "runs/results.h"
+#include "solvers/angles/angle_cosines.h"
+#include "solvers/run_monitor.h"
+
+namespace lumivex {
+
+/// One sphere, as a solver is asked for it.
+struct SphereAsked {
+  double x = 1;                                 ///< size parameter
+  double mRe = 1, mIm = 0;                      ///< relative refractive index, absorption positive
+  AngleGrid grid;                               ///< rows of scattering angle, or one angle exactly
+  RowWindow window{1, 1};                       ///< rows wanted
+  std::shared_ptr<const AngleCosines> cosines;  ///< of the window, from a call before; may be empty
+};
+
+/// What a solver finds of one sphere.
+struct SphereSolution {
+  Refusal refusal;          ///< its text is empty where the sphere was not refused
+  bool finished = true;     ///< false after a Stop; `rows` then tells what is whole
+  AmplitudeTable S1, S2;    ///< rows of the grid; rows not asked for are 0
+  AmplitudeTable S1b, S2b;  ///< of a difference, the field that the other was taken from
+  RowsDone rows;
+  Efficiencies efficiencies;
+  PartialWaves waves;  ///< of a method that sums them
+  int NSTOP = 0, NMX = 0;
+  int partialWaveFirst = 0, partialWaveLast = 0;
+  double rainbowImpact = 1, rainbowAngle = 0, rayAngle = 0;  ///< of the highest p: sin i, radians; degrees
+  std::vector<HuygensWave> wavefronts;
+  std::vector<double> apertureCentre, apertureWeight, besselOrders;
+
+  bool Refused() const { return !refusal.text.empty(); }
+};
+
+/// A sphere by the method of the options.
+///
+/// Efficiencies of methods that have none are 0. A refusal, or a method without a solver, leaves the tables empty.
+SphereSolution SolveSphere(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor);
+
+// The methods.
+
+/// The Mie series of a homogeneous sphere in a plane wave. With divideBySize the amplitudes are divided by x before
+/// Qext and Qback are formed. A sphere beyond the limits (|m x| or NMX of 200000 and more) is refused with "Error in
+/// BHMIE sub-routine".
+SphereSolution BHMIE(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor);
+
+/// The Debye series: the terms p that are selected, in the form of the Mie series, less what a difference asks for.
+///
+/// Of a sphere that does not absorb Qext = 4 Re S(0)/x^2 of the selected terms and Qsca = Qext; of one that does, those
+/// of the selected terms' own field. Qback and g are those of the selected terms. With p = 0 alone and x mIm above 700
+/// the Mie series takes over, for it is that term then. Without a selection, or beyond the limits, refused.
+SphereSolution DebyeSeries(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor);
+
+/// Ray optics of the selected p: Descartes (intensities are added), Young, Young mod and Young + Airy. Diffraction is
+/// added where it is asked for, and then Qext and Qsca are those of the disc. Without a selection and without
+/// diffraction refused with "No rays selected".
+///
+/// In an absorbing sphere the parallel amplitude of rays alone has its sign changed; a sum with diffraction, or a
+/// difference, has the physical sign. See docs/physics_rays.md.
+SphereSolution GO(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor);
+
+/// The rays of "Young mod" for the differences from a series: no diffraction, the physical sign.
+SphereSolution GO2(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor);
+
+/// Airy's theory of the rainbows of the selected p >= 2 at every angle; others add nothing.
+SphereSolution Airy(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor);
+
+/// The wavefronts of the selected p and the field that they send far away.
+SphereSolution Huygens(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor);
+
+/// Diffraction of the sphere's disc; g where the rows cover all angles.
+SphereSolution Diffraction(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor);
+
+/// A sphere much smaller than the wavelength, without absorption. Qsca comes from the integral over the angles where
+/// the rows cover all of them, otherwise from its closed form; Qext = Qsca, but |4 S1(0)/x^2| with forwardEfficiency.
+SphereSolution Rayleigh(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor);
+
+/// The field of coherent strips across an aperture as wide as the sphere.
+SphereSolution Aperture(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor);
+
+/// The glory of a ring with the amplitudes Qmin and Qmax, near 180 degrees.
+SphereSolution vdh(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor);
+
+/// Qsca and g by integration of the amplitudes over all angles, for methods that have no series for them:
+/// Qsca = 2/x^2 times the integral of (|S1|^2 + |S2|^2)/2 sin(theta).
+void CrossSection(const AngleGrid& grid, double x, SphereSolution& solution);
+
+/// Refusals that more than one place tells.
+Refusal BeyondMie();
+Refusal NoRays();
+
+}  // namespace lumivex
