@@ -12,7 +12,7 @@ namespace lumivex {
 struct DialogSettings {
   float spectrumMin = 0, spectrumMax = 0;
   double blackBodyTemp = 0, incidentDensity = 0, distance = 0;
-  int indexUserEdited = 0, catalogueIndex = 0;
+  int indexUserEdited = 0, sphereIndexTyped = 0, sphereIndexVaries = 0, mediumIndexTyped = 0, catalogueIndex = 0;
   Colour pickedLineColour;
   bool operator==(const DialogSettings&) const = default;
 };

@@ -5,6 +5,7 @@
 #include "record/number_text.h"
 #include "session/driver/progress.h"
 #include "session/inputs/methods.h"
+#include "session/inputs/sizes/read_sizes.h"
 
 namespace lumivex {
 
@@ -57,13 +58,6 @@ bool SizeOnAxis(const MainFormState& s) {
   return v == AxisVariable::Radius || v == AxisVariable::Diameter || v == AxisVariable::SizeParameter;
 }
 
-/// "Sizes: Log-normal, Std Dev % 5, 20 samples".
-std::string CloudWords(const Form1& form) {
-  std::string words = "Sizes: " + form.cboDistrib.Text;
-  if (form.cboSD.Visible) words += ", " + form.Label11.Caption + " " + form.cboSD.Text;
-  return words + ", " + form.cboN.Text + " samples";
-}
-
 /// The parameters that the record and the inputs hold.
 std::vector<std::string> ParametersNow(const Session& session) {
   const auto& s = session.state;
@@ -90,7 +84,7 @@ std::vector<std::string> ParametersNow(const Session& session) {
       lines.push_back("Radius: " + Number(s.Radius) + " \u00B5m");
       lines.push_back("Size parameter x: " + Number(s.SizeParameter) + middle);
     }
-    if (form.optDisp.Checked) lines.push_back(CloudWords(form));
+    if (form.optDisp.Checked) lines.push_back("Sizes: " + WordsForSizes(form));
     lines.push_back(form.lblSphere.Caption);
     lines.push_back("   n = " + IndexWords(s.SphereRIReal, s.SphereRIImag) + middle);
   }

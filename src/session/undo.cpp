@@ -21,8 +21,9 @@ void ForEachCaption(Form1& form, Visitor&& visit) {
 InputState Present(Session& session) {
   const auto& s = session.state;
   InputState state{{}, s.GraphType, s.GraphSubType, s.CalcMethod, s.SphereName, s.MediumName, {}, {}};
-  state.settings = {s.SpectrumMin, s.SpectrumMax,  s.BlackBodyTemp,  s.IncidentDensity,
-                    s.Distance,    s.RIUserEdited, s.CatalogueIndex, s.PickedLineColour};
+  state.settings = {s.SpectrumMin,      s.SpectrumMax,    s.BlackBodyTemp,    s.IncidentDensity,
+                    s.Distance,         s.RIUserEdited,   s.SphereIndexTyped, s.SphereIndexVaries,
+                    s.MediumIndexTyped, s.CatalogueIndex, s.PickedLineColour};
   for (const Form* form : session.forms.All()) state.forms.push_back(form->Snapshot());
   ForEachCaption(session.form1, [&](const std::string& caption) { state.captions.push_back(caption); });
   return state;
@@ -35,6 +36,9 @@ void RestoreSettings(MainFormState& s, const DialogSettings& settings) {
   s.IncidentDensity = settings.incidentDensity;
   s.Distance = settings.distance;
   s.RIUserEdited = settings.indexUserEdited;
+  s.SphereIndexTyped = settings.sphereIndexTyped;
+  s.SphereIndexVaries = settings.sphereIndexVaries;
+  s.MediumIndexTyped = settings.mediumIndexTyped;
   s.CatalogueIndex = settings.catalogueIndex;
   s.PickedLineColour = settings.pickedLineColour;
 }

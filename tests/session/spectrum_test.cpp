@@ -13,6 +13,7 @@
 #include "session/driver/spectrum_family.h"
 #include "session/info.h"
 #include "session/inputs/graph_types.h"
+#include "session/inputs/sizes/size_menus.h"
 
 namespace lumivex {
 namespace {

@@ -2,22 +2,10 @@
 
 #include <istream>
 #include <string>
-#include <vector>
 
-#include "materials/index/table_lookup.h"
+#include "materials/index/index_table.h"
 
 namespace lumivex {
-
-/// A measured table of refractive index; first index 1, row 0 stands empty.
-struct IndexTable {
-  std::string name;           ///< of the material
-  std::vector<float> lambda;  ///< um
-  std::vector<IndexRow> rows;
-  int count = 0;
-
-  FileTable View() const { return {lambda, rows, count}; }
-  void Add(float wavelength, float n, float k);
-};
 
 /// What is wrong with an index file.
 enum class IndexFileFault {

@@ -55,7 +55,7 @@ struct Evaluate {
   }
   IndexFound operator()(const IndexFromFile& m) const {
     if (!m.table) return {};
-    const FileLookup found = LookUpFile({m.table->lambda, m.table->rows, m.table->count}, lambda, m.rule, m.gate);
+    const FileLookup found = LookUpFile(m.table->View(), lambda, m.rule, m.gate);
     return {found.value, found.beyondRows};
   }
   IndexFound operator()(const FourPoints& m) const { return Real(LagrangePolynomial(m.lambda, m.n, lambda)); }

@@ -3,21 +3,13 @@
 #include <array>
 #include <memory>
 #include <optional>
-#include <string>
 #include <variant>
-#include <vector>
 
 #include "materials/index/index_formulas.h"
+#include "materials/index/index_table.h"
 #include "materials/index/table_lookup.h"
 
 namespace lumivex {
-
-/// A table of n and k read from a file, first index 1.
-struct IndexTable {
-  std::vector<float> lambda;   ///< ascending (um)
-  std::vector<IndexRow> rows;  ///< n and k
-  int count = 0;               ///< the last row
-};
 
 // The models of a refractive index, as values.
 

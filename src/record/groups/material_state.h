@@ -1,9 +1,12 @@
 #pragma once
 
 #include <array>
+#include <memory>
 #include <string>
 #include <type_traits>
 #include <vector>
+
+#include "materials/index/index_table.h"
 
 namespace lumivex {
 
@@ -18,6 +21,9 @@ struct MaterialState {
   float WaterDensity = 0.99996382F;     ///< g/cm3
   float LookupWavelength = 0;           ///< wavelength rounded to single precision, as the tables are searched (um)
   int RIUserEdited = 0;                 ///< 1 when an index was typed in since the last evaluation
+  int SphereIndexTyped = 0;             ///< 1 while the sphere's index is one that was typed in
+  int SphereIndexVaries = 0;            ///< 1 while the sphere is named after a graph that varies its index
+  int MediumIndexTyped = 0;             ///< 1 from the typing of the medium's index to its next evaluation
   std::string SphereCaptionBefore;      ///< caption of lblSphere before an index was typed in
 
   // The four points of the user-defined materials, first index 1; wavelengths in um.
@@ -29,6 +35,7 @@ struct MaterialState {
   // Tables from files, sphere (1) and medium (2): rows 1 to FileRows, um; columns 0 n, 1 k, 2 unused.
   std::vector<float> FileLambda1, FileLambda2;
   std::vector<std::array<float, 3>> FileData1, FileData2;
+  std::shared_ptr<const IndexTable> FileTable1, FileTable2;  ///< the same, as runs share them; null before a file
   int FileRows1 = 0, FileRows2 = 0;
   float FileFirst1 = 0, FileLast1 = 0;  ///< first and last wavelength of the sphere's table (um)
   float FileFirst2 = 0, FileLast2 = 0;  ///< the same of the medium's
@@ -51,6 +58,9 @@ void ForEachField(Group& g, Visitor&& visit) {
   visit("WaterDensity", g.WaterDensity);
   visit("LookupWavelength", g.LookupWavelength);
   visit("RIUserEdited", g.RIUserEdited);
+  visit("SphereIndexTyped", g.SphereIndexTyped);
+  visit("SphereIndexVaries", g.SphereIndexVaries);
+  visit("MediumIndexTyped", g.MediumIndexTyped);
   visit("SphereCaptionBefore", g.SphereCaptionBefore);
   visit("UserLambda1", g.UserLambda1);
   visit("UserRI1", g.UserRI1);

@@ -15,6 +15,7 @@
 #include "session/inputs/materials/refractive_index.h"
 #include "session/inputs/methods.h"
 #include "session/inputs/methods/sphere_size.h"
+#include "session/inputs/sizes/size_menus.h"
 
 namespace lumivex {
 
@@ -147,16 +148,6 @@ void RestoreLight(MainFormState& s, const LightState& before) {
     const ColourTriple colour = colRGB2(s.WavelengthList[i]);
     s.WavelengthColours[i] = RGB(colour.r, colour.g, colour.b);
   }
-}
-
-void RefuseDisperseLeeDiagram(Session& session) {
-  auto& form = session.form1;
-  const bool lee = session.state.GraphType == 20 || form.cboGraph.Text.starts_with("Lee diagram");
-  if (!lee || !form.optDisp.Checked) return;
-  session.platform.Message("Disperse calculations",
-                           "Lee diagrams are calculated for monodisperse droplets\nAfter this calculation, select "
-                           "\"Disperse\" and use the \"Replot\" command");
-  form.optMono.Select();
 }
 
 void CalculateSpectrum(Session& session) {

@@ -26,7 +26,4 @@ void CalculateSpectrum(Session& session);
 /// Puts wavelengths, weights and colours of the old results back after a run that was refused.
 void RestoreLight(MainFormState& s, const LightState& before);
 
-/// Lee diagrams are calculated for one size: with a size distribution chosen, tells how to go on and chooses "Mono".
-void RefuseDisperseLeeDiagram(Session& session);
-
 }  // namespace lumivex

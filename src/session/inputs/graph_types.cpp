@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <initializer_list>
-#include <iterator>
 
 #include "record/number_text.h"
 #include "session/inputs/methods.h"
@@ -14,8 +13,27 @@ namespace lumivex {
 namespace {
 
 constexpr std::string_view variableIndex = "Sphere: Variable refractive index";
-constexpr std::string_view setByUser[] = {"Sphere: Refractive index set by user", "Sphere: Fixed refractive index",
-                                          variableIndex};
+
+/// The sphere's name is that of a graph that varies its index.
+void NameVariableSphere(Session& session) {
+  session.form1.lblSphere.Caption = variableIndex;
+  session.state.SphereIndexVaries = 1;
+  session.state.SphereIndexTyped = 0;
+}
+
+/// Label and name of the sphere from before.
+void NameKeptSphere(Session& session) {
+  auto& s = session.state;
+  session.form1.lblSphere.Caption = s.KeptSphereLabel;
+  s.SphereName = s.KeptSphereName;
+  s.SphereIndexVaries = s.SphereIndexTyped = 0;
+}
+
+/// Whether the sphere is named after a material, and not after an index.
+bool NamedByMaterial(const Session& session) {
+  const auto& s = session.state;
+  return s.SphereIndexTyped == 0 && s.SphereIndexVaries == 0 && !session.form1.mnuRI_Fixed1.Checked;
+}
 
 std::string WithUnit(std::string_view caption, std::string_view unit) {
   return unit.empty() ? std::string(caption) : std::string(caption) + " (" + std::string(unit) + ")";
@@ -108,11 +126,8 @@ void ChangeFamily(Session& session, int oldType, bool fromPoint) {
   if (oldType == s.GraphType && !fromPoint) return;
   const Graph* graph = ChosenAxisGraph(s);
   const AxisStart* start = graph != nullptr ? FindAxisStart(*graph) : nullptr;
-  if (oldType == 12) {
-    form.lblSphere.Caption = s.KeptSphereLabel;
-    s.SphereName = s.KeptSphereName;
-  }
-  if (graph != nullptr && graph->axis == AxisVariable::RefractiveIndex) form.lblSphere.Caption = variableIndex;
+  if (oldType == 12) NameKeptSphere(session);
+  if (graph != nullptr && graph->axis == AxisVariable::RefractiveIndex) NameVariableSphere(session);
   form.mnuXStepLog.Checked = start != nullptr && start->logSteps && !form.mnuKeepParameters.Checked;
   if (form.mnuKeepParameters.Checked) return;
   if (start != nullptr) {
@@ -129,11 +144,10 @@ void EnterOrLeaveTwoAngle(Session& session, bool was) {
   auto& form = session.form1;
   const bool is = IsTwoAngleContour(s);
   if (is) {
-    form.lblSphere.Caption = variableIndex;
+    NameVariableSphere(session);
     if (form.OptLog.Checked) form.optXLog.Select();
-  } else if (was && form.lblSphere.Caption == variableIndex) {
-    form.lblSphere.Caption = s.KeptSphereLabel;
-    s.SphereName = s.KeptSphereName;
+  } else if (was && s.SphereIndexVaries != 0) {
+    NameKeptSphere(session);
   }
 }
 
@@ -202,7 +216,7 @@ void cboGraph_Click(Session& session) {
     return;
   }
   form.cboGraph.BackColour = colours::White;
-  if (std::ranges::find(setByUser, form.lblSphere.Caption) == std::end(setByUser)) {
+  if (NamedByMaterial(session)) {
     s.KeptSphereLabel = form.lblSphere.Caption;
     s.KeptSphereName = s.SphereName;
   }

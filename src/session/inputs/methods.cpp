@@ -1,30 +1,19 @@
 #include "session/inputs/methods.h"
 
 #include <algorithm>
-#include <array>
 
 #include "record/number_text.h"
 #include "session/inputs/dialog_use.h"
 #include "session/inputs/graph_types.h"
+#include "session/inputs/light/wavelength_list.h"
 #include "session/inputs/methods/debye_label.h"
 #include "session/inputs/methods/rays_check.h"
+#include "session/inputs/methods/sphere_size.h"
 #include "session/inputs/sizes/size_distribution.h"
 
 namespace lumivex {
 
 namespace {
-
-/// Samples of a spectrum whose colours change the faster with wavelength the larger the drop is.
-struct SpectrumDensity {
-  std::string_view text;
-  double product;  ///< samples times radius (um)
-  int ceiling, floor;
-};
-constexpr std::array spectrumDensities = {
-    SpectrumDensity{"High", 6000, 1000, 30},
-    SpectrumDensity{"Med.", 3000, 300, 10},
-    SpectrumDensity{"Low", 1000, 100, 7},
-};
 
 bool OneOf(int code, std::initializer_list<int> codes) {
   return std::ranges::find(codes, code) != codes.end();
@@ -130,16 +119,8 @@ void mnuDebyeSequence_Click(Session& session) {
 }
 
 void NumberWavelengths(Session& session) {
-  auto& s = session.state;
   TakeSpecialRadius(session);
-  const std::string& text = session.form1.cboWave.Text;
-  s.NumberWavelengths = std::clamp(ToWhole(Val(text)), 0, 32767);
-  if (text == "RGB") s.NumberWavelengths = 3;
-  for (const auto& density : spectrumDensities)
-    if (text == density.text && s.Radius > 0)
-      s.NumberWavelengths =
-          std::clamp(ToWhole(std::min(Int(density.product / s.Radius), 1e6)), density.floor, density.ceiling);
-  if (s.NumberWavelengths < 1) s.NumberWavelengths = 1;
+  session.state.NumberWavelengths = WavelengthCount(session.form1.cboWave.Text, RadiusInUse(session));
 }
 
 void ShowIndexInputs(Form1& form) {

@@ -29,7 +29,8 @@ void mnuvdh_Click(Session& session);
 /// Asks how far the Debye terms of one point are followed, and chooses the graph that shows them.
 void mnuDebyeSequence_Click(Session& session);
 
-/// Settles NumberWavelengths from cboWave ("RGB" is 3; "High", "Med." and "Low" depend on the radius).
+/// Settles NumberWavelengths from cboWave; "High", "Med." and "Low" depend on the radius in use, which becomes Radius
+/// where it is that of a size file.
 void NumberWavelengths(Session& session);
 
 /// The indices of sphere and medium have one value each only at one wavelength, or where they are fixed.

@@ -5,7 +5,7 @@
 #include "materials/index/water.h"
 #include "materials/tables/metals.h"
 #include "record/number_text.h"
-#include "session/inputs/materials/index_models.h"
+#include "session/inputs/materials/read_material.h"
 
 namespace lumivex {
 
@@ -33,7 +33,7 @@ double WaterLayer(MaterialState& s, double wavelength) {
 std::optional<double> MetalLayer(Session& session, const MetalTable& table, double wavelength, bool keepsK) {
   auto& s = session.state;
   s.LookupWavelength = static_cast<float>(wavelength);
-  const TableRule rule = index_models::RuleTicked(session.form1);
+  const TableRule rule = RuleTicked(session.form1);
   const auto found = LookUpMetal(MetalLambda, table, s.LookupWavelength, rule);
   if (!keepsK) s.RefractImag = 0;
   if (!found) return std::nullopt;

@@ -3,9 +3,9 @@
 #include <string>
 #include <vector>
 
+#include "catalogue/method.h"
 #include "record/number_text.h"
 #include "session/inputs/dialog_use.h"
-#include "session/inputs/materials/index_models.h"
 #include "session/inputs/materials/material_dialogs.h"
 #include "session/inputs/materials/read_ref_index.h"
 
@@ -42,6 +42,7 @@ void ChooseSphere(Session& session, MenuEntry& entry, const std::string& name, c
   entry.Checked = true;
   session.state.SphereName = name;
   session.form1.lblSphere.Caption = caption;
+  session.state.SphereIndexTyped = session.state.SphereIndexVaries = 0;
   Reevaluate(session);
 }
 
@@ -50,6 +51,7 @@ void ChooseMedium(Session& session, MenuEntry& entry, const std::string& name, c
   entry.Checked = true;
   session.state.MediumName = name;
   session.form1.lblRI_Medium.Caption = caption;
+  session.state.MediumIndexTyped = 0;
   Reevaluate(session);
 }
 
@@ -66,8 +68,10 @@ void SphereTyped(Session& session, TextInput& field) {
     form.mnuRI_Fixed1.Checked = true;
   }
   s.SphereName = "Sphere of fixed RI";
-  if (form.lblSphere.Caption != sphereSetByUser) s.SphereCaptionBefore = form.lblSphere.Caption;
-  form.lblSphere.Caption = sphereSetByUser;
+  if (s.SphereIndexTyped == 0) s.SphereCaptionBefore = form.lblSphere.Caption;
+  s.SphereIndexTyped = 1;
+  s.SphereIndexVaries = 0;
+  form.lblSphere.Caption = "Sphere: Refractive index set by user";
   form.lblSphere.ForeColour = colours::BadInput;
   field.BackColour = colours::Warning;
   s.RIUserEdited = 1;
@@ -169,7 +173,8 @@ void mnuRI_Fixed1_Click(Session& session) {
   ClearMenuRI(session);
   form.mnuRI_Fixed1.Checked = true;
   s.SphereName = "Sphere of fixed RI";
-  if (s.CalcMethod != 13 && s.CalcMethod != 17) {
+  s.SphereIndexTyped = s.SphereIndexVaries = 0;
+  if (!TraitsOf(static_cast<Method>(s.CalcMethod)).layered) {
     form.lblSphere.Caption = "Sphere: Fixed refractive index";
     form.lblSphere.ForeColour = colours::BadInput;
   }
@@ -250,7 +255,8 @@ void txtRefractMedium_Change(Session& session) {
     form.mnuRI_Fixed2.Checked = true;
   }
   s.MediumName = "medium of fixed RI";
-  form.lblRI_Medium.Caption = mediumSetByUser;
+  s.MediumIndexTyped = 1;
+  form.lblRI_Medium.Caption = "Medium: Refractive index set by user";
   form.lblRI_Medium.ForeColour = colours::BadInput;
   form.txtRefractMedium.BackColour = colours::Warning;
   s.RIUserEdited = 1;

@@ -1,6 +1,7 @@
 #include "session/inputs/materials/read_ref_index.h"
 
 #include <fstream>
+#include <memory>
 
 #include "materials/files/index_import.h"
 #include "materials/files/input_items.h"
@@ -58,15 +59,16 @@ bool Read(Session& session, const std::string& path, Reader reader) {
     return false;
   }
   MaterialState& s = session.state;
-  IndexTable& table = result.table;
+  const auto table = std::make_shared<const IndexTable>(std::move(result.table));
   const bool sphere = reader == Reader::Sphere;
-  (sphere ? s.FileRows1 : s.FileRows2) = table.count;
-  (sphere ? s.FileFirst1 : s.FileFirst2) = table.lambda[1];
-  (sphere ? s.FileLast1 : s.FileLast2) = table.lambda.back();
-  (sphere ? s.FileName1 : s.FileName2) = table.name;
-  (sphere ? session.state.SphereName : session.state.MediumName) = table.name;
-  (sphere ? s.FileLambda1 : s.FileLambda2) = std::move(table.lambda);
-  (sphere ? s.FileData1 : s.FileData2) = std::move(table.rows);
+  (sphere ? s.FileRows1 : s.FileRows2) = table->count;
+  (sphere ? s.FileFirst1 : s.FileFirst2) = table->lambda[1];
+  (sphere ? s.FileLast1 : s.FileLast2) = table->lambda.back();
+  (sphere ? s.FileName1 : s.FileName2) = table->name;
+  (sphere ? session.state.SphereName : session.state.MediumName) = table->name;
+  (sphere ? s.FileLambda1 : s.FileLambda2) = table->lambda;
+  (sphere ? s.FileData1 : s.FileData2) = table->rows;
+  (sphere ? s.FileTable1 : s.FileTable2) = table;
   session.events.Raise("txtLambda_change");
   session.form1.txtLambda.BackColour = colours::White;
   return true;

@@ -18,7 +18,8 @@ enum class LookupVoice { Aloud, Quiet };
 /// the user fixed or typed stay as typed), clears RIUserEdited and the labels' colours.
 /// @return the real part of the relative index. A wavelength of 0 or less gives the ratio that stands in the fields and
 ///         changes nothing. Empty, with nothing changed, for the layered methods 13 and 17, which have indices of their
-///         own; empty after "Help! RI of sphere undefined" where the sphere's index is not to be had.
+///         own; empty after "Help! RI of sphere undefined" or "Help! RI of medium undefined" where the index is not to
+///         be had; RefractMedium and the fields then stay.
 std::optional<double> RefRel(Session& session, double wavelength, LookupVoice voice = LookupVoice::Aloud);
 
 /// Index n of a layer of a coated sphere by the name of its material; k goes to RefractImag.

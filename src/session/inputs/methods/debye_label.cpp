@@ -1,7 +1,6 @@
 #include "session/inputs/methods/debye_label.h"
 
 #include "record/number_text.h"
-#include "session/inputs/methods/rays_check.h"
 
 namespace lumivex {
 
@@ -96,58 +95,60 @@ std::string ProfileText(const Details::RadialProfile& profile) {
 
 std::string DebyeLabelText(const DebyeLabelDetails& d) {
   switch (d.method) {
-    case 1:
+    case Method::Mie:
       return d.beam == Details::Beam::Gaussian ? BeamLabel(d) : "Mie (plane wave)";
-    case 2:
+    case Method::Debye:
       return DebyeText(d);
-    case 4:
+    case Method::Diffraction:
       return "Diffraction";
-    case 3:
+    case Method::Rayleigh:
       return "Rayleigh scattering";
-    case 5:
+    case Method::Airy:
       return RayTheory("Airy theory", d);
-    case 6:
+    case Method::Descartes:
       return RaySum("Descartes", d);
-    case 7:
+    case Method::Young:
       return RaySum("Young", d);
-    case 8:
+    case Method::YoungMod:
       return RaySum("Young mod.", d);
-    case 9:
+    case Method::Huygens:
       return RayTheory("Huygens", d);
-    case 11:
+    case Method::SurfaceWave:
       return SurfaceWaveText(d);
-    case 13:
+    case Method::CoatedSphere:
       return CoatedText(d.coating);
-    case 14:
+    case Method::YoungAiry:
       return RaySum("Young + Airy", d);
-    case 16:
+    case Method::Heiligenschein:
       return "Heiligenschein (L = " + d.heiligenscheinL + ", gamma = " + d.heiligenscheinGamma + ")";
-    case 17:
+    case Method::InhomogeneousSphere:
       return ProfileText(d.profile);
     default:
       return "";
   }
 }
 
-void DebyeLabel(Session& session) {
+std::string MethodLabel(const Session& session) {
   const auto& form = session.form1;
   Details details;
-  details.method = session.state.CalcMethod;
-  details.p = form.cboRays.Text;
+  details.method = static_cast<Method>(session.state.CalcMethod);
+  const RayInputs rays = RayInputsOf(session);
+  details.p = rays.text;
   if (details.p == "Multiple") {
-    const auto& dialog = session.forms.dlogP;
-    RaysCheck(session);
-    if (dialog.chkMultStep.Checked)
-      details.range = {dialog.txtPmin.Text, dialog.txtPmax.Text, dialog.txtPstep.Text};
-    else
-      details.selected = SelectedRaysText(session.state.RayEnabled);
+    details.range = rays.range;
+    if (!rays.range) details.selected = SelectedRaysText(SelectedRays(rays));
   }
   const auto& partial = session.forms.dlogPartial;
   if (partial.optPartial.Checked) details.partial = {partial.txtMin.Text, partial.txtMax.Text};
   details.diffraction = WithDiffraction(session);
   if (form.mnuGODebye.Checked || form.mnuSWsub.Checked) details.difference = Details::Difference::MinusGo;
   if (form.mnuMieDebye.Checked) details.difference = Details::Difference::FromMie;
-  session.form1.lblDebyeRays.Caption = DebyeLabelText(details);
+  return DebyeLabelText(details);
+}
+
+void DebyeLabel(Session& session) {
+  if (session.form1.cboRays.Text == "Multiple") RaysCheck(session);
+  session.form1.lblDebyeRays.Caption = MethodLabel(session);
 }
 
 }  // namespace lumivex

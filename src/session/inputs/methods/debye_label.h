@@ -3,7 +3,9 @@
 #include <optional>
 #include <string>
 
+#include "catalogue/method.h"
 #include "record/session.h"
+#include "session/inputs/methods/rays_check.h"
 
 namespace lumivex {
 
@@ -17,10 +19,6 @@ struct DebyeLabelDetails {
   struct BeamNumbers {
     std::string x0, y0, z0, w0, Lmax, Mmax, Mmax1;
     bool lockPolarisation = false, multiple = false, central = false;
-  };
-  /// The range of p when "Multiple" is chosen.
-  struct RayRange {
-    std::string Pmin, Pmax, Pstep;
   };
   /// Ends of the partial waves summed, over x.
   struct PartialRange {
@@ -37,7 +35,7 @@ struct DebyeLabelDetails {
     std::string n1, n2, r1, r2, B, C, F;
   };
 
-  int method = 1;  ///< CalcMethod
+  Method method = Method::Mie;
   Beam beam = Beam::PlaneWave;
   BeamNumbers beamNumbers;
   Difference difference = Difference::None;
@@ -54,6 +52,9 @@ struct DebyeLabelDetails {
 
 /// The label as text, lines parted by '\n'.
 std::string DebyeLabelText(const DebyeLabelDetails& details);
+
+/// That of the method in use, as the inputs stand.
+std::string MethodLabel(const Session& session);
 
 /// Writes lblDebyeRays for the method in use.
 void DebyeLabel(Session& session);

@@ -17,20 +17,19 @@ int RayNumber(double value) {
   return ToWhole(std::clamp(value, 0.0, static_cast<double>(HighestRay)));
 }
 
-void SelectRange(RayState& rays, const DlogP& dialog) {
-  rays.Pmin = RayNumber(Val(dialog.txtPmin.Text));
-  rays.Pmax = RayNumber(Val(dialog.txtPmax.Text));
-  rays.Pstep = RayNumber(Val(dialog.txtPstep.Text));
-  rays.RayMax = rays.Pmax;
-  rays.RayEnabled.assign(static_cast<std::size_t>(rays.RayMax) + 1, 0);
-  if (rays.Pstep < 1) return;
-  for (int p = rays.Pmin; p <= rays.Pmax; p += rays.Pstep) rays.RayEnabled[static_cast<std::size_t>(p)] = 1;
+std::vector<int> SelectRange(const RayRange& range) {
+  const int low = RayNumber(Val(range.Pmin)), high = RayNumber(Val(range.Pmax)), step = RayNumber(Val(range.Pstep));
+  std::vector<int> enabled(static_cast<std::size_t>(high) + 1, 0);
+  if (step < 1) return enabled;
+  for (int p = low; p <= high; p += step) enabled[static_cast<std::size_t>(p)] = 1;
+  return enabled;
 }
 
-void SelectBoxes(RayState& rays, const DlogP& dialog) {
-  rays.RayMax = LastRayBox;
-  rays.RayEnabled.clear();
-  for (const CheckBox& box : dialog.chkRays) rays.RayEnabled.push_back(box.Checked ? 1 : 0);
+std::vector<int> SelectOne(std::string_view text) {
+  const double value = Val(text);
+  std::vector<int> enabled(static_cast<std::size_t>(RayNumber(std::abs(value))) + 1, value < 0 ? 1 : 0);
+  enabled.back() = 1;
+  return enabled;
 }
 
 void SetBoxes(Session& session, bool checked) {
@@ -44,21 +43,29 @@ bool Asks(const Session& session) {
 
 }  // namespace
 
+RayInputs RayInputsOf(const Session& session) {
+  const DlogP& dialog = session.forms.dlogP;
+  RayInputs inputs{session.form1.cboRays.Text, std::nullopt, {}};
+  if (dialog.chkMultStep.Checked) inputs.range = {dialog.txtPmin.Text, dialog.txtPmax.Text, dialog.txtPstep.Text};
+  for (const CheckBox& box : dialog.chkRays) inputs.boxes.push_back(box.Checked ? 1 : 0);
+  return inputs;
+}
+
+std::vector<int> SelectedRays(const RayInputs& inputs) {
+  if (inputs.text != multiple) return SelectOne(inputs.text);
+  return inputs.range ? SelectRange(*inputs.range) : inputs.boxes;
+}
+
 void RaysCheck(Session& session) {
   RayState& rays = session.state;
-  const std::string& text = session.form1.cboRays.Text;
-  if (text == multiple) {
-    const DlogP& dialog = session.forms.dlogP;
-    if (dialog.chkMultStep.Checked)
-      SelectRange(rays, dialog);
-    else
-      SelectBoxes(rays, dialog);
-  } else {
-    const double value = Val(text);
-    rays.RayMax = RayNumber(std::abs(value));
-    rays.RayEnabled.assign(static_cast<std::size_t>(rays.RayMax) + 1, value < 0 ? 1 : 0);
-    rays.RayEnabled.back() = 1;
+  const RayInputs inputs = RayInputsOf(session);
+  if (inputs.text == multiple && inputs.range) {
+    rays.Pmin = RayNumber(Val(inputs.range->Pmin));
+    rays.Pmax = RayNumber(Val(inputs.range->Pmax));
+    rays.Pstep = RayNumber(Val(inputs.range->Pstep));
   }
+  rays.RayEnabled = SelectedRays(inputs);
+  rays.RayMax = static_cast<int>(rays.RayEnabled.size()) - 1;
   rays.RayCount = static_cast<int>(std::ranges::count(rays.RayEnabled, 1));
 }
 

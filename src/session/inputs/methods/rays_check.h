@@ -1,7 +1,9 @@
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
+#include <vector>
 
 #include "record/session.h"
 
@@ -10,9 +12,25 @@ namespace lumivex {
 /// Highest number p of internal reflections that a single value or a range may name.
 inline constexpr int HighestRay = 1000;
 
-/// Reads which p are selected into RayEnabled, RayMax and RayCount: a single number of cboRays, all from 0 to -p where
-/// it is negative, or for "Multiple" the range or the boxes of dlogP. Numbers beyond HighestRay are cut to it; a range
-/// without a positive step selects nothing.
+/// A range of p as its fields have it.
+struct RayRange {
+  std::string Pmin, Pmax, Pstep;
+};
+
+/// The texts and boxes by which p is selected.
+struct RayInputs {
+  std::string text;               ///< of cboRays
+  std::optional<RayRange> range;  ///< of "Multiple" by a range in place of the boxes
+  std::vector<int> boxes;         ///< by p, 1 where ticked
+};
+RayInputs RayInputsOf(const Session& session);
+
+/// The selected p, element p not 0, the highest last: a single number, all from 0 to -p where it is negative, or for
+/// "Multiple" the range or the boxes. Numbers beyond HighestRay are cut to it; a range without a positive step selects
+/// nothing.
+std::vector<int> SelectedRays(const RayInputs& inputs);
+
+/// Reads which p are selected into RayEnabled, RayMax and RayCount, and the range into Pmin, Pmax and Pstep.
 void RaysCheck(Session& session);
 
 /// Whether cboRays reads "Multiple" without a selection.

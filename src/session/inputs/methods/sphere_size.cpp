@@ -1,6 +1,7 @@
 #include "session/inputs/methods/sphere_size.h"
 
 #include "record/number_text.h"
+#include "session/inputs/sizes/read_sizes.h"
 
 namespace lumivex {
 
@@ -15,6 +16,10 @@ double SphereRadius(const Session& session) {
   constexpr double twoPi = 6.28318530717958648;
   if (form.mnuRadiusX.Checked) return size * Val(form.txtLambda.Text) / (twoPi * MediumIndexInUse(session));
   return form.mnuDiameter.Checked ? size / 2 : size;
+}
+
+double RadiusInUse(const Session& session) {
+  return RadiusOfSizeFile(ChosenSizes(session)).value_or(SphereRadius(session));
 }
 
 }  // namespace lumivex

@@ -8,6 +8,9 @@ namespace lumivex {
 /// mnuRadius, mnuDiameter and mnuRadiusX is ticked. Wavelength and medium are read from their fields.
 double SphereRadius(const Session& session);
 
+/// That radius, or the one that stands for a size file.
+double RadiusInUse(const Session& session);
+
 /// The medium's index as a run uses it: an entry of exactly 0 counts as 1.
 double MediumIndexInUse(const Session& session);
 

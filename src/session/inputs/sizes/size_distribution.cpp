@@ -3,100 +3,22 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
-#include "particles/normal_samples.h"
-#include "particles/size_models.h"
+#include "particles/size_distribution.h"
 #include "record/number_text.h"
+#include "session/inputs/sizes/read_sizes.h"
 
 namespace lumivex {
 
 namespace {
 
-constexpr int mostSamples = 32767;
 constexpr int stopRequested = 4;
 
-bool Refuse(Session& session, bool aloud, Control& control, const char* text) {
-  if (!aloud) return false;
-  control.BackColour = colours::BadInput;
-  session.platform.Message("Input error", text);
-  return false;
-}
-
-/// "Normal" and "Log-normal": every sample stands for the same share.
-bool PrepareNormal(Session& session, bool aloud) {
-  auto& s = session.state;
-  Disperse(session);
-  const auto rows = static_cast<std::size_t>(s.NumberSamples) + 1;
-  s.DistRadius.assign(rows, 0);
-  s.DistWeight.assign(rows, 0);
-  const bool logarithmic = session.form1.cboDistrib.Text == "Log-normal";
-  for (std::size_t i = 1; i < rows; ++i) {
-    const double z = s.DistSample[i];
-    s.DistRadius[i] = logarithmic ? s.Radius * std::pow(1 + s.RelativeSD, z) : s.Radius * (1 + z * s.RelativeSD);
-    s.DistWeight[i] = 1.0 / s.NumberSamples;
-  }
-  const auto [low, high] = std::minmax_element(s.DistRadius.begin() + 1, s.DistRadius.end());
-  s.DistMin = static_cast<float>(*low);
-  s.DistMax = static_cast<float>(*high);
-  if (*low > 0 && std::isfinite(*high)) return true;
-  return Refuse(session, aloud, session.form1.cboSD, "Reduce standard deviation to avoid negative values of radius");
-}
-
-bool PrepareFile(Session& session, bool aloud) {
-  auto& s = session.state;
-  if (s.SizeFileLoaded == 0)
-    return Refuse(session, aloud, session.form1.cboDistrib, "Read a size distribution file first");
-  s.NumberSamples = s.SizeFileCount;
-  const auto rows = static_cast<std::size_t>(s.SizeFileCount) + 1;
-  const auto& radius = s.SizeTableMode == 1 ? s.SizeTableNonUniform : s.SizeTableUniform;
-  s.DistRadius.assign(radius.begin(), radius.begin() + static_cast<std::ptrdiff_t>(rows));
-  s.DistWeight.assign(s.SizeTableNumber.begin(), s.SizeTableNumber.begin() + static_cast<std::ptrdiff_t>(rows));
-  s.DistMin = s.SizeFileMin;
-  s.DistMax = s.SizeFileMax;
-  return true;
-}
-
-std::vector<SizeMode> ModesOfDialog(const DlogMultiModal& d) {
-  const auto mode = [](const TextInput& median, const TextInput& spread, const TextInput& fraction) {
-    return SizeMode{Val(median.Text), Val(spread.Text), Val(fraction.Text)};
-  };
-  std::vector<SizeMode> modes = {mode(d.txtMedian1, d.txtSpread1, d.txtFraction1)};
-  if (d.chkMode2.Checked) modes.push_back(mode(d.txtMedian2, d.txtSpread2, d.txtFraction2));
-  if (d.chkMode3.Checked) modes.push_back(mode(d.txtMedian3, d.txtSpread3, d.txtFraction3));
-  return modes;
-}
-
-/// The model in cboDistrib, or nothing where its parameters cannot be used.
-std::optional<SizeModel> ModelChosen(Session& session, bool aloud) {
-  auto& form = session.form1;
-  const std::string& name = form.cboDistrib.Text;
-  if (name == "Cumulus cloud") return CumulusCloud;
-  if (name == "Haze") return Haze;
-  if (name == "Gamma") {
-    if (const auto gamma = GammaOfShape(Val(form.cboSD.Text), session.state.Radius)) return *gamma;
-    Refuse(session, aloud, form.cboSD, "Shape and radius of the distribution must be positive");
-    return std::nullopt;
-  }
-  std::vector<SizeMode> modes = IsAerosol(name) ? AerosolModes(name) : ModesOfDialog(session.forms.dlogMultiModal);
-  if (AreUsable(modes)) return modes;
-  Refuse(session, aloud, form.cboDistrib,
-         "A median radius must be positive, a spread above 1 and a fraction not negative");
-  return std::nullopt;
-}
-
-bool PrepareModel(Session& session, bool aloud) {
-  auto& s = session.state;
-  const auto model = ModelChosen(session, aloud);
-  if (!model) return false;
-  s.NumberSamples = std::clamp(ToWhole(Val(session.form1.cboN.Text)), 1, mostSamples);
-  const bool equal = session.forms.dlogDistDisplay.optLinearX.Checked;
-  SizeSamples samples = SampleModel(*model, s.NumberSamples, equal ? SizeSteps::Equal : SizeSteps::Ratio);
-  s.DistRadius = std::move(samples.radius);
-  s.DistWeight = std::move(samples.weight);
-  s.DistMin = samples.lowest;
-  s.DistMax = samples.highest;
-  s.DistRatio = samples.ratio;
-  return true;
+/// The input that is to blame for a distribution that cannot be used.
+Control& ControlAtFault(Form1& form, SizeFailure failure) {
+  const bool width = failure == SizeFailure::NegativeRadius || failure == SizeFailure::BadGamma;
+  return width ? form.cboSD : form.cboDistrib;
 }
 
 /// Sums over one row of a cloud.
@@ -230,25 +152,37 @@ bool IsAerosol(std::string_view distribution) {
 
 void Disperse(Session& session) {
   auto& s = session.state;
-  s.RelativeSD = Val(session.form1.cboSD.Text) / 100;
-  if (auto samples = NormalSamples(ToWhole(Val(session.form1.cboN.Text))); !samples.empty())
-    s.DistSample = std::move(samples);
+  const SizeDistribution sizes = ChosenSizes(session);
+  const auto* normal = std::get_if<NormalSizes>(&sizes);
+  if (normal == nullptr) return;
+  s.RelativeSD = normal->relativeSD;
+  s.DistSample = normal->z;
   s.NumberSamples = static_cast<int>(s.DistSample.size()) - 1;
 }
 
 bool PrepareSizes(Session& session, bool aloud) {
-  const std::string& name = session.form1.cboDistrib.Text;
-  if (name == "Special") return PrepareFile(session, aloud);
-  if (name == "Normal" || name == "Log-normal") return PrepareNormal(session, aloud);
-  return PrepareModel(session, aloud);
+  auto& s = session.state;
+  Disperse(session);
+  const SizeDistribution sizes = ChosenSizes(session);
+  CloudSamples samples = SamplesOf(sizes, s.Radius);
+  const SizeFailure failure = samples.failure;
+  if (samples.Count() > 0) {
+    s.NumberSamples = samples.Count();
+    s.DistRadius = std::move(samples.radius);
+    s.DistWeight = std::move(samples.weight);
+    s.DistMin = samples.lowest;
+    s.DistMax = samples.highest;
+    if (std::holds_alternative<ModelSizes>(sizes)) s.DistRatio = samples.ratio;
+  }
+  if (failure == SizeFailure::None) return true;
+  if (!aloud) return false;
+  ControlAtFault(session.form1, failure).BackColour = colours::BadInput;
+  session.platform.Message("Input error", WordsFor(failure));
+  return false;
 }
 
 void TakeSpecialRadius(Session& session) {
-  auto& s = session.state;
-  const auto& form = session.form1;
-  if (form.cboDistrib.Text != "Special" || !form.optDisp.Checked || s.SizeFileLoaded == 0) return;
-  const auto& radius = s.SizeTableMode == 1 ? s.SizeTableNonUniform : s.SizeTableUniform;
-  s.Radius = (double{radius[1]} + double{radius.back()}) / 2;
+  if (const auto radius = RadiusOfSizeFile(ChosenSizes(session))) session.state.Radius = *radius;
 }
 
 void DispCalc(Session& session, int rowLow, int rowHigh, const CloudCalls& calls) {

@@ -8,8 +8,8 @@
 
 namespace lumivex {
 
-/// Fills RelativeSD from cboSD, DistSample from the table for cboN, and NumberSamples. A cboN that is not 5, 10, 20 or
-/// 50 leaves DistSample as it was.
+/// For "Normal" and "Log-normal": fills RelativeSD from cboSD, DistSample from the table for cboN, and NumberSamples. A
+/// cboN that is not 5, 10, 20 or 50 leaves DistSample as it was.
 void Disperse(Session& session);
 
 /// Fills DistRadius, DistWeight (shares or numbers of particles), NumberSamples and the range DistMin to DistMax for

@@ -120,6 +120,16 @@ void cboDistrib_Change(Session& session) {
   DrawnAnew(session);
 }
 
+void RefuseDisperseLeeDiagram(Session& session) {
+  auto& form = session.form1;
+  const bool lee = session.state.GraphType == 20 || form.cboGraph.Text.starts_with("Lee diagram");
+  if (!lee || !form.optDisp.Checked) return;
+  session.platform.Message("Disperse calculations",
+                           "Lee diagrams are calculated for monodisperse droplets\nAfter this calculation, select "
+                           "\"Disperse\" and use the \"Replot\" command");
+  form.optMono.Select();
+}
+
 void cboSD_Change(Session& session) {
   session.form1.cboSD.BackColour = colours::White;
   DrawnAnew(session, !Trim(session.form1.cboSD.Text).empty());

@@ -29,4 +29,7 @@ void dlogMultiModal_cboN_Change(Session& session);
 /// Shows of the size inputs those that distribution, graph and optDisp ask for.
 void ShowSizeInputs(Session& session);
 
+/// Lee diagrams are calculated for one size: with a size distribution chosen, tells how to go on and chooses "Mono".
+void RefuseDisperseLeeDiagram(Session& session);
+
 }  // namespace lumivex

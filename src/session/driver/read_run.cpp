@@ -1,0 +1,167 @@
+#include "session/driver/read_run.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "pages/spectrum_sums.h"
+#include "record/catalogue/method_texts.h"
+#include "record/number_text.h"
+#include "session/inputs/light/wavelength_list.h"
+#include "session/inputs/materials/read_material.h"
+#include "session/inputs/methods/debye_label.h"
+#include "session/inputs/methods/rays_check.h"
+#include "session/inputs/methods/read_method.h"
+#include "session/inputs/methods/sphere_size.h"
+#include "session/inputs/sizes/read_sizes.h"
+#include "session/inputs/sizes/size_menus.h"
+#include "session/inputs/two_angle_inputs.h"
+
+namespace lumivex {
+
+namespace {
+
+constexpr double degree = 0.017453292519943295;
+constexpr double finestSpectrumStep = 0.01;  // degrees: mostSpectrumRows rows
+constexpr int mostAxisPoints = 18001;
+
+int WavelengthsOf(const Session& session, const Graph& graph) {
+  if (!graph.AgainstAngle()) return 1;
+  return std::min(WavelengthCount(session.form1.cboWave.Text, RadiusInUse(session)), mostWavelengths);
+}
+
+void RepairInputs(Session& session, const Graph& graph) {
+  auto& form = session.form1;
+  if (graph.family == Family::Lee) RefuseDisperseLeeDiagram(session);
+  if (WavelengthsOf(session, graph) == 1) return;
+  if (form.cboWave.Text == "RGB") form.chkComponents.Checked = true;
+  if (2 * Int(90 / Val(form.cboStep.Text)) + 1 > mostSpectrumRows) form.cboStep.Text = Shortest(finestSpectrumStep);
+}
+
+Light ReadLight(const Session& session, const Graph& graph) {
+  const auto& s = session.state;
+  Light light{Val(session.form1.txtLambda.Text), std::nullopt, s.IncidentDensity, s.Distance};
+  if (const int count = WavelengthsOf(session, graph); count > 1) {
+    light.spectrum = ChosenSpectrum(session, count);
+    light.lambda = double{light.spectrum->wavelength[static_cast<std::size_t>(light.spectrum->Middle())]};
+  }
+  return light;
+}
+
+Particle ReadParticle(const Session& session, double lambda) {
+  const auto& form = session.form1;
+  Particle particle{RadiusInUse(session), std::nullopt, SphereMaterial(session), MediumMaterial(session)};
+  if (!form.mnuRadiusX.Checked) return particle;
+  particle.sizeTyped = Val(form.txtRadius.Text);
+  OpticalIndices indices;
+  if (const auto found = MediumIndexAt(particle.medium, lambda).value) indices.medium = found->n;
+  particle.radius = *particle.sizeTyped * lambda / (2 * std::numbers::pi * indices.MediumInUse());
+  return particle;
+}
+
+AngleRows ReadAngleRows(const Session& session, const Graph& graph) {
+  const auto& form = session.form1;
+  AngleRows rows;
+  rows.xmin = Val(form.txtXmin.Text);
+  rows.xmax = Val(form.txtXmax.Text);
+  rows.step = Val(form.cboStep.Text);
+  rows.NANG = ToWhole(90 / rows.step) + 1;
+  const int last = 2 * rows.NANG - 1;
+  const bool planeWave = form.mnuPlaneWave.Checked;
+  rows.firstPoint = planeWave ? rows.xmin / rows.step + 1 : 1;
+  rows.lastPoint = planeWave ? rows.xmax / rows.step + 1 : (rows.xmax - rows.xmin) / rows.step + 1;
+  // The neighbours that averages and the disc of the sun look at.
+  const double margin = Int(0.25 / rows.step);
+  rows.window = {std::max(1, ToWhole(rows.firstPoint - margin)), std::min(last, ToWhole(rows.lastPoint + margin))};
+  if (graph.NeedsAllRows()) rows.window = {1, last};
+  return rows;
+}
+
+AxisRun ReadAxis(const Session& session, const Graph& graph) {
+  const auto& form = session.form1;
+  AxisRun axis;
+  axis.xmin = Val(form.txtXmin.Text);
+  axis.xmax = Val(form.txtXmax.Text);
+  axis.step = Val(form.cboStep.Text);
+  axis.logSteps = form.mnuXStepLog.Checked;
+  const int points =
+      axis.logSteps ? ToWhole(axis.step) + 1 : ToWhole(Int((axis.xmax - axis.xmin) / axis.step + 1.0001));
+  axis.points = std::clamp(points, 1, mostAxisPoints);
+  if (graph.AtOneAngle()) axis.angle = Val(form.txtAngle.Text) * std::numbers::pi / 180;
+  axis.constantVolume = form.mnuConstantVolume.Checked;
+  if (graph.quantity == Quantity::Power)
+    axis.range = {Val(form.txtF9_min.Text), Val(form.txtF9_max.Text), Val(form.txtF9_step.Text)};
+  return axis;
+}
+
+std::optional<FamilyRun> ReadFamily(Session& session, const RunRequest& request) {
+  const Graph& graph = request.graph;
+  const double angle = Val(session.form1.txtAngle.Text);
+  switch (graph.family) {
+    case Family::Angle:
+      if (request.light.spectrum) return SpectrumRun{ReadAngleRows(session, graph)};
+      return AngleRun{ReadAngleRows(session, graph)};
+    case Family::TwoAngle: {
+      auto inputs = ReadTwoAngleInputs(session);
+      if (!inputs) return std::nullopt;
+      return TwoAngleRun{inputs->angle1Min, inputs->angle1Max,        inputs->angle2Min,
+                         inputs->angle2Max, std::move(inputs->index), std::move(inputs->radius)};
+    }
+    case Family::Axis:
+      return ReadAxis(session, graph);
+    case Family::Convergence:
+      return ConvergenceRun{angle};
+    case Family::DebyeAnalysis: {
+      const double limit = Val(session.forms.dlogDebyeSeq.txtLimit.Text);
+      return DebyeAnalysisRun{angle * degree, ToWhole(std::clamp(limit, 0.0, double{HighestRay}))};
+    }
+    default:
+      return std::nullopt;  // not on offer
+  }
+}
+
+RunWords ReadWords(const Session& session, const RunRequest& request) {
+  const auto& form = session.form1;
+  RunWords words;
+  words.method = TextOfMethod(request.method.method, session.state.DiffractionVariant);
+  words.graph = form.cboGraph.Text;
+  words.methodLabel = MethodLabel(session);
+  words.rays = SelectedRaysText(request.method.rays);
+  MaterialWords sphere = SphereWords(session), medium = MediumWords(session);
+  words.sphereName = std::move(sphere.name);
+  words.mediumName = std::move(medium.name);
+  words.sphere = std::move(sphere.caption);
+  words.medium = std::move(medium.caption);
+  words.light = form.lblSpectrum.Caption;
+  if (request.Cloud()) words.sizes = WordsForSizes(form);
+  words.scale = form.Frame2.Caption;
+  return words;
+}
+
+/// "Multiple" without a p leaves rays nothing to sum but their diffraction.
+bool RaysAreThere(Session& session, const MethodOptions& options) {
+  const bool none = std::ranges::all_of(options.rays, [](int selected) { return selected == 0; });
+  if (!TraitsOf(options.method).needsP || !none || options.addDiffraction) return true;
+  session.platform.Message("Error", "No rays selected");
+  return false;
+}
+
+}  // namespace
+
+std::optional<RunRequest> ReadRun(Session& session) {
+  const Graph& graph = ChosenGraph(session.state);
+  RepairInputs(session, graph);
+  RunRequest request;
+  request.graph = graph;
+  request.method = ChosenMethod(session);
+  request.light = ReadLight(session, graph);
+  request.particle = ReadParticle(session, request.light.lambda);
+  request.sizes = ChosenSizes(session);
+  auto run = ReadFamily(session, request);
+  if (!run || !RaysAreThere(session, request.method)) return std::nullopt;
+  request.run = std::move(*run);
+  request.words = ReadWords(session, request);
+  return request;
+}
+
+}  // namespace lumivex

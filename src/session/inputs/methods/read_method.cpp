@@ -1,0 +1,62 @@
+#include "session/inputs/methods/read_method.h"
+
+#include <algorithm>
+
+#include "record/number_text.h"
+#include "session/inputs/methods/rays_check.h"
+
+namespace lumivex {
+
+namespace {
+
+Difference DifferenceTicked(const Form1& form) {
+  if (form.mnuMieDebye.Checked) return Difference::MieLessDebye;
+  if (form.mnuGODebye.Checked) return Difference::RaysLessDebye;
+  return form.mnuSWsub.Checked ? Difference::DebyeLessRays : Difference::None;
+}
+
+std::optional<PartialWaveRange> PartialWavesOf(const DlogPartial& dialog) {
+  if (!dialog.optPartial.Checked) return std::nullopt;
+  return PartialWaveRange{Val(dialog.txtMin.Text), Val(dialog.txtMax.Text)};
+}
+
+RayBeam BeamOf(const Session& session) {
+  const auto& form = session.form1;
+  const auto& s = session.state;
+  if (form.mnuPlaneWave.Checked || form.mnuCentralBeam.Checked) return {};
+  return {form.mnuTopHat.Checked ? RayBeam::Profile::TopHat : RayBeam::Profile::Gaussian, s.BeamCentreOffset,
+          s.BeamWaist};
+}
+
+int CountTyped(const TextInput& field, int most) {
+  return std::clamp(ToWhole(std::min(Val(field.Text), 1e6)), 1, most);
+}
+
+}  // namespace
+
+MethodOptions ChosenMethod(const Session& session) {
+  constexpr int mostRays = 100000, mostStrips = 10000;
+  const auto& form = session.form1;
+  MethodOptions options;
+  options.method = static_cast<Method>(session.state.CalcMethod);
+  const MethodTraits& traits = TraitsOf(options.method);
+  if (traits.showsP) options.rays = SelectedRays(RayInputsOf(session));
+  options.addDiffraction = traits.takesDiffraction && WithDiffraction(session);
+  if (options.method == Method::Debye) {
+    options.difference = DifferenceTicked(form);
+    options.partialWaves = PartialWavesOf(session.forms.dlogPartial);
+  }
+  options.byRatio = form.mnuDebyeRecursion.Checked;
+  options.divideBySize = form.mnuSize.Checked;
+  options.classicStart = form.mnuClassicStart.Checked;
+  if (session.state.DiffractionVariant == 1) options.diffraction = DiffractionForm::PartialWaves;
+  options.forwardEfficiency = form.mnuHidden.Checked;
+  if (traits.counts == Counted::Rays) options.counted = CountTyped(form.txtAngle, mostRays);
+  if (traits.counts == Counted::Strips) options.counted = CountTyped(form.txtAngle, mostStrips);
+  options.Qmin = static_cast<float>(Val(form.cboQmin.Text));
+  options.Qmax = static_cast<float>(Val(form.cboQmax.Text));
+  if (traits.beams) options.beam = BeamOf(session);
+  return options;
+}
+
+}  // namespace lumivex
