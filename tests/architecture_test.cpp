@@ -73,6 +73,19 @@ TEST(Architecture, IncludesPointDown) {
   EXPECT_GT(seen, 100);
 }
 
+/// A page knows its results and its look; whoever reads controls or the record is above it.
+TEST(Architecture, PagesKnowNeitherControlsNorRecord) {
+  for (const auto& include : AllIncludes()) {
+    // These two serve runs.
+    const bool ofRuns = include.from.starts_with("pages/spectrum_sums") || include.from.starts_with("pages/sun_disc");
+    if (!include.from.starts_with("pages/") || ofRuns) continue;
+    const bool above = include.what.starts_with("record/session") || include.what.starts_with("record/forms/") ||
+                       include.what.starts_with("record/controls") ||
+                       include.what.starts_with("record/main_form_state");
+    EXPECT_FALSE(above) << include.from << " includes " << include.what;
+  }
+}
+
 TEST(Architecture, OnlyTheWindowKnowsTheWindowSystem) {
   for (const auto& include : AllIncludes()) {
     if (include.quoted || include.from.starts_with("ui/")) continue;

@@ -84,6 +84,8 @@ struct Graph {
 
   /// Rows of scattering angle along the axis.
   bool AgainstAngle() const { return family == Family::Angle; }
+  /// Scattering angles in any form: the two-angle chart is one of these graphs for the user.
+  bool OfAngles() const { return family == Family::Angle || family == Family::TwoAngle; }
   /// Points along an axis, those of the families of one point included.
   bool AgainstAxis() const {
     return family == Family::Axis || family == Family::Convergence || family == Family::DebyeAnalysis ||
@@ -115,6 +117,27 @@ struct Graph {
         return false;
     }
   }
+  /// Intensity against the size of the sphere.
+  bool IntensityBySize() const { return SizeAxis() && family == Family::Axis && quantity == Quantity::Intensity; }
+  /// Efficiencies of a spectrum: Q, C, Qback and Qradar.
+  bool SpectrumOfEfficiencies() const {
+    return WavelengthAxis() && OfEfficiencies() && quantity != Quantity::Asymmetry && quantity != Quantity::Albedo;
+  }
+  /// Absolute units, for which distance and incident light are asked.
+  bool InUnitsOfLight() const {
+    return quantity == Quantity::Irradiance || quantity == Quantity::DifferentialCrossSection ||
+           quantity == Quantity::RangeCrossSections || quantity == Quantity::Power;
+  }
+  /// Calculated at one wavelength only.
+  bool OneWavelengthOnly() const {
+    return (OfAngles() && quantity != Quantity::Intensity) || AgainstAxis() || family == Family::Impulse;
+  }
+  /// Whether its index of the sphere is one of its own, and no material's.
+  bool VariesIndex() const { return family == Family::Axis && axis == AxisVariable::RefractiveIndex; }
+  /// A map over real index and size parameter.
+  bool MapsIndexAndSize() const { return code.type == 26; }
+  /// Graphs of one type have their ranges in common: a change between them keeps what was typed.
+  bool SharesRangesWith(const Graph& other) const { return code.type == other.code.type; }
   /// Integrals over all angles, so that the solver is asked for every row.
   bool NeedsAllRows() const {
     return AgainstAngle() && (quantity == Quantity::PhaseFunction || quantity == Quantity::Irradiance ||

@@ -9,7 +9,6 @@
 
 #include "axes/curve_smoothing.h"
 #include "axes/polar_coordinates.h"
-#include "pages/polar_plot.h"
 
 namespace lumivex {
 
@@ -33,8 +32,8 @@ bool IsFinite(const SurfacePoint& p) {
   return std::isfinite(p.x) && std::isfinite(p.y);
 }
 
-PanelMap MapOf(const GraphState& graph, const KeptPanel& panel) {
-  return {panel.box, panel.limits, graph.Drawn.kind.logX, panel.logY};
+PanelMap MapOf(const Page& page, const PagePanel& panel) {
+  return {panel.box, panel.limits, page.kind.logX, panel.logY};
 }
 
 SurfacePoint Placed(const PanelMap& map, double x, double value) {
@@ -137,11 +136,10 @@ std::vector<SurfacePoint> InterpolatedPoints(const std::vector<SurfacePoint>& po
   return all;
 }
 
-void DrawMarks(Session& session, const KeptPanel& panel, const KeptCurve& curve) {
-  auto& surface = *session.surface;
-  const bool polar = session.state.Drawn.kind.polar, matrix = session.state.Drawn.kind.IsMatrix();
+void DrawMarks(DrawingSurface& surface, const Page& page, const PagePanel& panel, const PageCurve& curve) {
+  const bool polar = page.kind.polar, matrix = page.kind.IsMatrix();
   const GraphBox box = WithRounding(panel.box);
-  for (const auto& [row, p] : PlacedRows(session.state, panel, curve)) {
+  for (const auto& [row, p] : PlacedRows(page, panel, curve)) {
     if (!IsFinite(p) || (!polar && !box.Holds(p.x, p.y))) continue;
     surface.ForeColour = row < curve.colours.size() ? curve.colours[row] : curve.colour;
     if (curve.kind == 1) surface.Circle(p.x, p.y, markSize, surface.ForeColour);
@@ -165,9 +163,8 @@ void DrawRun(DrawingSurface& surface, std::span<const SurfacePoint> run) {
 }
 
 /// Runs of a curve that changes its colour from row to row: pieces of one colour, which meet.
-void DrawColoured(Session& session, const KeptPanel& panel, const KeptCurve& curve) {
-  auto& surface = *session.surface;
-  auto rows = PlacedRows(session.state, panel, curve);
+void DrawColoured(DrawingSurface& surface, const Page& page, const PagePanel& panel, const PageCurve& curve) {
+  auto rows = PlacedRows(page, panel, curve);
   std::erase_if(rows, [](const PlacedRow& placed) { return !std::isfinite(placed.point.x); });
   const auto colourAt = [&](double x) {
     const auto after = std::ranges::lower_bound(rows, x, {}, [](const PlacedRow& placed) { return placed.point.x; });
@@ -177,7 +174,7 @@ void DrawColoured(Session& session, const KeptPanel& panel, const KeptCurve& cur
             : after;
     return nearest->row < curve.colours.size() ? curve.colours[nearest->row] : curve.colour;
   };
-  for (const auto& run : CurveRuns(session.state, panel, curve)) {
+  for (const auto& run : CurveRuns(page, panel, curve)) {
     std::size_t first = 0;
     surface.ForeColour = colourAt(run.front().x);
     for (std::size_t i = 1; i < run.size(); ++i) {
@@ -205,7 +202,7 @@ RowSpan RowsWithin(std::span<const double> x, XRange range) {
   return rows;
 }
 
-double DrawnValue(const KeptCurve& curve, std::size_t row, RowSpan shown) {
+double DrawnValue(const PageCurve& curve, std::size_t row, RowSpan shown) {
   if (!(curve.averageRows > 0) || row < shown.first || row > shown.last) return curve.y[row];
   return RunningMean(curve.y, row, curve.averageRows, shown.first, shown.last);
 }
@@ -224,11 +221,12 @@ SurfacePoint PolarMap::Point(double angleDegrees, double value) const {
   return {centreX + p.x, centreY + p.y};
 }
 
-PolarMap PolarMapOf(const GraphState& graph, const GraphKind& kind, const AxisLimits& limits) {
-  PolarMap map{graph.PolarCentreX, graph.PolarCentreY, static_cast<double>(graph.PolarRadius),
-               limits.ymin,        limits.ymax,        kind.logY};
+PolarMap PolarMapOf(const Page& page) {
+  const AxisLimits limits = page.panels.empty() ? AxisLimits{} : page.panels.front().limits;
+  const PageGeometry& at = page.geometry;
+  PolarMap map{at.polarX, at.polarY, at.polarRadius, limits.ymin, limits.ymax, page.kind.logY};
   // The curve is the modulus of the amplitude, the limits were chosen for its square.
-  if (kind.ampPhase && !kind.amplitude) {
+  if (page.kind.IsComplexPolar() && !page.kind.amplitude) {
     map.inner = std::sqrt(std::max(limits.ymin, 0.0));
     map.outer = std::sqrt(std::max(limits.ymax, 0.0));
   }
@@ -236,18 +234,18 @@ PolarMap PolarMapOf(const GraphState& graph, const GraphKind& kind, const AxisLi
   return map;
 }
 
-std::vector<PlacedRow> PlacedRows(const GraphState& graph, const KeptPanel& panel, const KeptCurve& curve) {
+std::vector<PlacedRow> PlacedRows(const Page& page, const PagePanel& panel, const PageCurve& curve) {
   std::vector<PlacedRow> placed;
   const std::size_t size = std::min(curve.x.size(), curve.y.size());
-  if (graph.Drawn.kind.polar) {
-    const PolarMap map = PolarMapOf(graph, graph.Drawn.kind, panel.limits);
+  if (page.kind.polar) {
+    const PolarMap map = PolarMapOf(page);
     const RowSpan all{1, size > 0 ? size - 1 : 0};
     for (std::size_t i = 1; i < size; ++i) placed.push_back({i, map.Point(curve.x[i], DrawnValue(curve, i, all))});
     return placed;
   }
   const RowSpan shown = RowsWithin(curve.x, {panel.limits.xmin, panel.limits.xmax});
   if (shown.Empty()) return placed;
-  const PanelMap map = MapOf(graph, panel);
+  const PanelMap map = MapOf(page, panel);
   // One row beyond each end, so that a zoomed curve runs on to the edge of the box.
   const std::size_t first = std::max<std::size_t>(1, shown.first - 1), last = std::min(size - 1, shown.last + 1);
   placed.reserve(last - first + 1);
@@ -256,37 +254,35 @@ std::vector<PlacedRow> PlacedRows(const GraphState& graph, const KeptPanel& pane
   return placed;
 }
 
-std::vector<std::vector<SurfacePoint>> CurveRuns(const GraphState& graph, const KeptPanel& panel,
-                                                 const KeptCurve& curve) {
+std::vector<std::vector<SurfacePoint>> CurveRuns(const Page& page, const PagePanel& panel, const PageCurve& curve) {
   std::vector<SurfacePoint> points;
   std::size_t before = 0;
-  for (const auto& placed : PlacedRows(graph, panel, curve)) {
+  for (const auto& placed : PlacedRows(page, panel, curve)) {
     // From 360 degrees back to 0 there is no line.
     if (curve.wraps && before > 0 && std::abs(curve.y[placed.row] - curve.y[before]) > 180)
       points.push_back({notThere, notThere});
     points.push_back(placed.point);
     before = placed.row;
   }
-  if (graph.Drawn.kind.polar) return UnclippedRuns(points);
+  if (page.kind.polar) return UnclippedRuns(points);
   return ClippedRuns(curve.interpolate ? InterpolatedPoints(points) : points, panel.box);
 }
 
-void DrawCurve(Session& session, const KeptPanel& panel, const KeptCurve& curve) {
-  auto& surface = *session.surface;
+void PaintCurve(DrawingSurface& surface, const Page& page, const PageCurve& curve) {
+  const PagePanel& panel = page.panels[curve.panel];
   surface.ForeColour = curve.colour;
   surface.DrawStyle = curve.drawStyle;
   surface.DrawWidth = curve.drawWidth;
   surface.FillStyle = 1;
   if (curve.markers) {
-    DrawMarks(session, panel, curve);
-  } else if (!curve.colours.empty() && !session.state.Drawn.kind.polar) {
-    DrawColoured(session, panel, curve);
+    DrawMarks(surface, page, panel, curve);
+  } else if (!curve.colours.empty() && !page.kind.polar) {
+    DrawColoured(surface, page, panel, curve);
   } else {
-    for (const auto& run : CurveRuns(session.state, panel, curve)) DrawRun(surface, run);
+    for (const auto& run : CurveRuns(page, panel, curve)) DrawRun(surface, run);
   }
   surface.DrawStyle = 0;
   surface.DrawWidth = 1;
-  if (session.state.Drawn.kind.polar) PaintPolarTicks(session, panel, curve);
 }
 
 }  // namespace lumivex

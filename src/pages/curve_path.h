@@ -4,8 +4,8 @@
 #include <span>
 #include <vector>
 
-#include "record/groups/graph_state.h"
-#include "record/session.h"
+#include "record/drawing_surface.h"
+#include "record/page.h"
 
 namespace lumivex {
 
@@ -19,7 +19,7 @@ struct RowSpan {
 RowSpan RowsWithin(std::span<const double> x, XRange range);
 
 /// The value that is drawn for a row: y, or its running mean over the rows shown.
-double DrawnValue(const KeptCurve& curve, std::size_t row, RowSpan shown);
+double DrawnValue(const PageCurve& curve, std::size_t row, RowSpan shown);
 
 /// The circle of a polar plot with the values at its centre and at its rim.
 struct PolarMap {
@@ -31,20 +31,19 @@ struct PolarMap {
   double Distance(double value) const;
   SurfacePoint Point(double angleDegrees, double value) const;
 };
-PolarMap PolarMapOf(const GraphState& graph, const GraphKind& kind, const AxisLimits& limits);
+PolarMap PolarMapOf(const Page& page);
 
 /// Where each row of a curve lies on the surface; a row that was not computed lies nowhere (not a number).
 struct PlacedRow {
   std::size_t row = 0;
   SurfacePoint point;
 };
-std::vector<PlacedRow> PlacedRows(const GraphState& graph, const KeptPanel& panel, const KeptCurve& curve);
+std::vector<PlacedRow> PlacedRows(const Page& page, const PagePanel& panel, const PageCurve& curve);
 
 /// Uninterrupted runs of a curve, clipped to the panel's box (not in a polar plot), interpolated where it is wanted.
-std::vector<std::vector<SurfacePoint>> CurveRuns(const GraphState& graph, const KeptPanel& panel,
-                                                 const KeptCurve& curve);
+std::vector<std::vector<SurfacePoint>> CurveRuns(const Page& page, const PagePanel& panel, const PageCurve& curve);
 
-/// Draws a kept curve with its own pen, which is put back to solid and thin; the colour of the surface changes.
-void DrawCurve(Session& session, const KeptPanel& panel, const KeptCurve& curve);
+/// Paints a curve with its own pen, which is put back to solid and thin; the colour of the surface changes.
+void PaintCurve(DrawingSurface& surface, const Page& page, const PageCurve& curve);
 
 }  // namespace lumivex

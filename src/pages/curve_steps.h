@@ -9,9 +9,9 @@ namespace lumivex {
 /// A reading goes from point to point without a pointer, for hands on the keyboard.
 
 /// The next point in view of the curve that is read, forward (1) or backward (-1); at the end the reading stays.
-GraphReading StepAlongCurve(const GraphState& graph, const GraphReading& reading, int direction);
+GraphReading StepAlongCurve(const Page& page, const GraphReading& reading, int direction);
 
 /// The point of the next (1) or previous (-1) curve at nearly the same x, from panel to panel; nothing with one curve.
-std::optional<GraphReading> NeighbourCurve(const GraphState& graph, const GraphReading& reading, int direction);
+std::optional<GraphReading> NeighbourCurve(const Page& page, const GraphReading& reading, int direction);
 
 }  // namespace lumivex

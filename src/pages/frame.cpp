@@ -2,9 +2,8 @@
 
 #include <algorithm>
 
+#include "pages/curve_path.h"
 #include "pages/polar_plot.h"
-#include "pages/scale.h"
-#include "pages/two_angle_chart.h"
 
 namespace lumivex {
 
@@ -30,146 +29,91 @@ double LogoFontSize(GraphSize size) {
   return 18;
 }
 
-void PlaceLogo(Session& session, const FramePaint& paint) {
-  auto& form = session.form1;
-  auto& logo = form.lblLogo;
-  const GraphBox& box = paint.Box();
-  const bool right = form.mnuLogoPositionTR.Checked || form.mnuLogoPositionBR.Checked;
-  const bool above = form.mnuLogoPositionTR.Checked || form.mnuLogoPositionTL.Checked;
-  logo.Left = right ? box.right - 3000 : 1080;
-  logo.Top = above ? box.top + 80 : box.bottom - 500;
-  logo.FontSize = LogoFontSize(paint.size);
-  if (paint.kind.polar) {
-    // The corner above the circle is free, the foot of the page is not.
-    logo.Top = 3200;
-    if (paint.special) logo.FontSize = 24;
-  }
-  const bool mono = paint.kind.numberWavelengths == 1;
-  const bool onPale = form.mnuDefault.Checked || form.mnuWhite.Checked;
-  session.state.LogoColour = mono && onPale ? RGB(200, 200, 200) : RGB(100, 100, 100);
-  logo.ForeColour = session.state.LogoColour;
-  logo.Visible = paint.kind.graphType < 19 && !form.mnuHideLogo.Checked && paint.place != PanelPlace::Upper;
-}
-
-void PaintLogo(FramePaint& paint) {
-  auto& logo = paint.session.form1.lblLogo;
-  if (!logo.Visible) return;
-  auto& surface = paint.surface;
-  const SurfacePen pen = surface;
-  surface.FontSize = logo.FontSize;
-  surface.FontBold = paint.kind.polar && paint.special;
-  surface.ForeColour = logo.ForeColour;
-  if (paint.kind.polar &&
-      !paint.labels.HasRoom(logo.Left, logo.Top, surface.TextWidth(logo.Caption), surface.TextHeight(logo.Caption))) {
-    // A number of the rim stands there: beside the circle there is room.
-    const auto& graph = paint.session.state;
-    logo.Left = graph.PolarCentreX + 1.25 * graph.PolarRadius;
-  }
-  surface.CurrentX = std::max(0.0, std::min(logo.Left, surface.ScaleWidth() - surface.TextWidth(logo.Caption)));
-  surface.CurrentY = logo.Top;
-  surface.Print(logo.Caption, false);
-  static_cast<SurfacePen&>(surface) = pen;
-}
-
 /// The surface as every frame starts on it.
-void PrepareSurface(Session& session) {
-  auto& surface = *session.surface;
+void PrepareSurface(DrawingSurface& surface, const PageStyle& style) {
   surface.ForeColour = colours::Black;
-  surface.BackColour = session.form1.mnuWhite.Checked ? colours::White : colours::ButtonFace;
   surface.FillStyle = 1;
   surface.DrawStyle = 0;
   surface.DrawWidth = 1;
   surface.FontName = "MS Sans Serif";
-  const bool special = session.form1.mnuSizeSpecial.Checked;
-  surface.FontSize = special ? slideFont : 8;
-  surface.FontBold = special;
+  surface.FontSize = style.special ? slideFont : 8;
+  surface.FontBold = style.special;
 }
 
-PanelPlace PlaceOf(const AxisState& axis, const GraphBox& box) {
-  if (box == WholeBox(axis)) return PanelPlace::Whole;
-  if (box == UpperPanel(axis)) return PanelPlace::Upper;
-  return box == LowerPanel(axis) ? PanelPlace::Lower : PanelPlace::Fixed;
+void PaintLogo(FramePaint& paint) {
+  const PageStyle& style = paint.style;
+  const LogoPlacement logo = LogoOf(paint.page, paint.panel);
+  if (!logo.visible) return;
+  auto& surface = paint.surface;
+  const SurfacePen pen = surface;
+  surface.FontSize = logo.fontSize;
+  surface.FontBold = paint.kind.polar && style.special;
+  surface.ForeColour = style.logoColour;
+  double left = logo.left;
+  const bool covered = paint.kind.polar && !paint.labels.HasRoom(left, logo.top, surface.TextWidth(style.logo),
+                                                                 surface.TextHeight(style.logo));
+  // Where a number of the rim stands, there is room beside the circle.
+  if (covered) left = paint.page.geometry.polarX + 1.25 * paint.page.geometry.polarRadius;
+  surface.CurrentX = std::max(0.0, std::min(left, surface.ScaleWidth() - surface.TextWidth(style.logo)));
+  surface.CurrentY = logo.top;
+  surface.Print(style.logo, false);
+  static_cast<SurfacePen&>(surface) = pen;
 }
 
 }  // namespace
 
-GraphBox WholeBox(const AxisState& axis) {
-  return {axis.GraphLeft, axis.GraphRight, axis.GraphTop, axis.GraphBottom};
-}
-
-GraphBox UpperPanel(const AxisState& axis) {
-  GraphBox box = WholeBox(axis);
-  box.bottom = 0.5 * (box.top + box.bottom - gapBetweenPanels);
+GraphBox BoxOf(const PageGeometry& geometry, PanelPlace place) {
+  GraphBox box = geometry.box;
+  if (place == PanelPlace::Upper) box.bottom = 0.5 * (box.top + box.bottom - gapBetweenPanels);
+  if (place == PanelPlace::Lower) box.top = 0.5 * (box.top + box.bottom + gapBetweenPanels);
   return box;
 }
 
-GraphBox LowerPanel(const AxisState& axis) {
-  GraphBox box = WholeBox(axis);
-  box.top = 0.5 * (box.top + box.bottom + gapBetweenPanels);
-  return box;
-}
-
-GraphKind KindNow(const Session& session) {
-  const auto& form = session.form1;
-  GraphKind kind;
-  kind.graphType = session.state.GraphType;
-  kind.graphSubType = session.state.GraphSubType;
-  kind.numberWavelengths = session.state.NumberWavelengths;
-  kind.logX = form.optXLog.Checked && form.Frame8.Visible;
-  kind.logY = form.OptLog.Checked;
-  if (IsTwoAngleContour(session.state)) {
-    kind.xTitle = TwoAngleXTitle(session.state);
-    kind.yTitle = TwoAngleYTitle(session.state);
+LogoPlacement LogoOf(const Page& page, const PagePanel& panel) {
+  const PageStyle& style = page.style;
+  const GraphBox& box = panel.box;
+  const bool right = style.logoPlace == LogoPlace::TopRight || style.logoPlace == LogoPlace::BottomRight;
+  const bool above = style.logoPlace == LogoPlace::TopRight || style.logoPlace == LogoPlace::TopLeft;
+  LogoPlacement logo;
+  logo.left = right ? box.right - 3000 : 1080;
+  logo.top = above ? box.top + 80 : box.bottom - 500;
+  logo.fontSize = LogoFontSize(style.size);
+  if (page.kind.polar) {
+    // The corner above the circle is free, the foot of the page is not.
+    logo.top = 3200;
+    if (style.special) logo.fontSize = 24;
   }
-  kind.polar = form.mnuPolarPlot.Checked && !kind.IsMatrix() && !kind.IsTwoAngle();
-  kind.ampPhase = form.mnuAmpPhase.Checked && !kind.IsMatrix();
-  kind.intPol = form.mnuIntPol.Checked && !kind.IsMatrix();
-  kind.amplitude = form.mnuAmplitude.Checked;
-  kind.fourier = form.mnuFFT.Checked;
-  return kind;
+  logo.visible = !style.logo.empty() && panel.place != PanelPlace::Upper;
+  return logo;
 }
 
-void Grid(Session& session, double left, double right, double top, double bottom, double& xmin, double& xmax,
-          double ymin, double ymax) {
-  auto& state = session.state;
-  if (!session.form1.Frame8.Visible) session.form1.OptXLinear.Select();
-  const GraphKind kind = KindNow(session);
-  if (!kind.logX && kind.graphType != 16 && xmin != 0 && xmax / xmin > 10 && xmin < 0.1) xmin = 0;
-
-  KeptPanel panel;
-  panel.box = {left, right, top, bottom};
-  panel.place = PlaceOf(state, panel.box);
-  panel.second = state.SecondPanel == 1;
-  panel.logY = kind.logY && !panel.second;
-  panel.limits = RepairedLimits({xmin, xmax, ymin, ymax}, kind.logX, panel.logY);
-  xmin = panel.limits.xmin;
-  xmax = panel.limits.xmax;
-  if (panel.logY && state.YAutoMin == 0) state.YAutoMin = 0.0001;
-
-  if (!panel.second) {
-    state.Drawn = KeptGraph{};
-    state.Drawn.kind = kind;
-    state.Drawn.home = {xmin, xmax};
-  }
-  state.Drawn.panels.push_back(panel);
-  PrepareSurface(session);
-  // The second panel joins the first; every other frame begins a page.
-  if (!panel.second) session.surface->Cls();
-  PaintFrame(session, kind, panel);
+PagePanel& Grid(Page& page, PanelPlace place, AxisLimits limits, bool second) {
+  const PageKind& kind = page.kind;
+  const bool fromZero = !kind.logX && kind.graph.quantity != Quantity::Asymmetry && limits.xmin != 0 &&
+                        limits.xmax / limits.xmin > 10 && limits.xmin < 0.1;
+  if (fromZero) limits.xmin = 0;
+  PagePanel panel;
+  panel.place = place;
+  panel.box = BoxOf(page.geometry, place);
+  panel.second = second;
+  panel.logY = kind.logY && !second;
+  panel.limits = RepairedLimits(limits, kind.logX, panel.logY);
+  panel.oddTest = page.scale.GridOddTest;
+  if (!kind.logX && !kind.polar) page.scale.GridOddTest = panel.limits.xmin;
+  if (!second) page.home = {panel.limits.xmin, panel.limits.xmax};
+  return page.panels.emplace_back(panel);
 }
 
-void PaintFrame(Session& session, const GraphKind& kind, const KeptPanel& panel) {
-  PrepareSurface(session);
-  FramePaint paint(session, kind, panel);
-  auto& surface = paint.surface;
-  PlaceLogo(session, paint);
-  if (kind.polar) {
+void PaintFrame(DrawingSurface& surface, const Page& page, const PagePanel& panel, TickLabels& polarLabels) {
+  PrepareSurface(surface, page.style);
+  FramePaint paint(page, panel, surface);
+  if (page.kind.polar) {
     PaintPolarFrame(paint);
     PaintLogo(paint);
+    polarLabels = paint.labels;
   } else {
     const GraphBox& box = paint.Box();
-    surface.ForeColour =
-        kind.numberWavelengths == 1 ? session.state.PlotBackColourMono : session.state.PlotBackColourSpectrum;
+    surface.ForeColour = page.style.ground;
     surface.Line(box.left, box.top, box.right, box.bottom, LineKind::FilledBox);
     surface.ForeColour = colours::Black;
     PaintXAxis(paint);
@@ -179,17 +123,14 @@ void PaintFrame(Session& session, const GraphKind& kind, const KeptPanel& panel)
     surface.Line(box.left, box.top, box.right, box.bottom, LineKind::Box);
     PaintAxisTitles(paint);
   }
-  // A curve's first print goes into the box.
-  surface.CurrentX = paint.Box().left + 100;
-  surface.CurrentY = paint.Box().top + 200;
 }
 
-void PaintBoxSides(DrawingSurface& surface, const GraphKind& kind, const GraphBox& box) {
+void PaintBoxSides(DrawingSurface& surface, const PageKind& kind, const GraphBox& box) {
   surface.ForeColour = colours::Black;
   surface.Line(box.left, box.top, box.right, box.top);
   surface.Line(box.left, box.bottom, box.right, box.bottom);
   surface.Line(box.left, box.top, box.left, box.bottom);
-  if (kind.graphType != 17) surface.Line(box.right, box.top, box.right, box.bottom);
+  if (kind.graph.quantity != Quantity::Albedo) surface.Line(box.right, box.top, box.right, box.bottom);
 }
 
 }  // namespace lumivex

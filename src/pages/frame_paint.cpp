@@ -18,20 +18,7 @@ constexpr double surfaceMargin = 30;
 
 constexpr double smallestFont = 6;
 
-Colour GridColour(const Form1& form, const GraphKind& kind) {
-  if (form.mnuWhite.Checked) return RGB(192, 192, 192);
-  if (form.mnuBlack.Checked) return RGB(64, 128, 128);
-  if (form.mnuGrey.Checked) return RGB(64, 64, 64);
-  return kind.numberWavelengths == 1 ? RGB(128, 255, 255) : RGB(64, 64, 64);
-}
-
 }  // namespace
-
-GraphSize SizeTicked(const Form1& form) {
-  if (form.mnuSmall.Checked) return GraphSize::Small;
-  if (form.mnuMedium.Checked) return GraphSize::Medium;
-  return form.mnuVLarge.Checked ? GraphSize::VeryLarge : GraphSize::Large;
-}
 
 bool TickLabels::HasRoom(double x, double y, double width, double height) const {
   return std::none_of(taken_.begin(), taken_.end(), [&](const GraphBox& box) {
@@ -61,16 +48,13 @@ void TickLabels::Take(double x, double y, double width, double height) {
   taken_.push_back({x, x + width, y, y + height});
 }
 
-FramePaint::FramePaint(Session& theSession, const GraphKind& graphKind, const KeptPanel& panel)
-    : session(theSession),
-      surface(*theSession.surface),
-      kind(graphKind),
-      map{panel.box, panel.limits, graphKind.logX, panel.logY},
-      place(panel.place),
-      second(panel.second),
-      size(SizeTicked(theSession.form1)),
-      special(theSession.form1.mnuSizeSpecial.Checked),
-      gridColour(GridColour(theSession.form1, graphKind)),
+FramePaint::FramePaint(const Page& thePage, const PagePanel& thePanel, DrawingSurface& theSurface)
+    : page(thePage),
+      kind(thePage.kind),
+      style(thePage.style),
+      panel(thePanel),
+      surface(theSurface),
+      map{thePanel.box, thePanel.limits, thePage.kind.logX, thePanel.logY},
       labels(surface) {}
 
 void FramePaint::Rule(double x1, double y1, double x2, double y2, Colour colour) const {

@@ -5,14 +5,10 @@
 #include <vector>
 
 #include "axes/panel_map.h"
-#include "record/session.h"
+#include "record/drawing_surface.h"
+#include "record/page.h"
 
 namespace lumivex {
-
-enum class GraphSize { Small, Medium, Large, VeryLarge };
-
-/// The size ticked in the menu; "Large" where none is.
-GraphSize SizeTicked(const Form1& form);
 
 /// The texts along an axis: a text that would touch one placed before it is left out.
 class TickLabels {
@@ -38,17 +34,14 @@ class TickLabels {
 
 /// Everything that the painters of one frame share.
 struct FramePaint {
-  FramePaint(Session& theSession, const GraphKind& graphKind, const KeptPanel& panel);
+  FramePaint(const Page& thePage, const PagePanel& thePanel, DrawingSurface& theSurface);
 
-  Session& session;
+  const Page& page;
+  const PageKind& kind;
+  const PageStyle& style;
+  const PagePanel& panel;
   DrawingSurface& surface;
-  const GraphKind& kind;
   PanelMap map;
-  PanelPlace place;
-  bool second;  ///< the panel of phases or polarisation
-  GraphSize size;
-  bool special;       ///< large bold text for slides
-  Colour gridColour;  ///< of grid lines, by the background
   TickLabels labels;
 
   const GraphBox& Box() const { return map.box; }
@@ -72,8 +65,5 @@ void PaintXAxis(FramePaint& paint);
 void PaintYAxis(FramePaint& paint);
 /// Titles of both axes.
 void PaintAxisTitles(FramePaint& paint);
-
-/// Title of the horizontal axis of a graph; empty where it has none.
-std::string_view XAxisTitle(const GraphKind& kind);
 
 }  // namespace lumivex

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "pages/frame_paint.h"
+#include "record/catalogue/graph_texts.h"
 
 namespace lumivex {
 
@@ -26,6 +27,7 @@ void PrintAt(DrawingSurface& surface, double x, double y, std::string_view text)
 /// Title of the vertical axis at x 50, its line above the highest number; the title of the run stands to the right.
 /// @param y  where it starts if there is room.
 void PrintAbove(FramePaint& paint, double y, std::string_view title) {
+  if (title.empty()) return;
   auto& surface = paint.surface;
   const double fontSize = surface.FontSize;
   const double margin = paint.Box().left - 70;
@@ -41,10 +43,11 @@ void PrintAbove(FramePaint& paint, double y, std::string_view title) {
 void PaintXTitle(FramePaint& paint) {
   auto& surface = paint.surface;
   const auto& box = paint.Box();
-  const std::string_view title = XAxisTitle(paint.kind);
+  const PageKind& kind = paint.kind;
+  const std::string_view title = kind.IsTwoAngle() ? kind.xTitle : XTitleOf(kind.graph, kind.fourier);
   // Larger numbers reach further down.
   const double belowNumbers = std::max(150.0, 0.5 * surface.TextHeight("X") + 4) + surface.TextHeight("X");
-  const double y = box.bottom + std::max(paint.special ? 450.0 : 350.0, belowNumbers);
+  const double y = box.bottom + std::max(paint.style.special ? 450.0 : 350.0, belowNumbers);
   PrintAt(surface, 0.5 * (box.left + box.right) - 0.5 * surface.TextWidth(title), y, title);
 }
 
@@ -71,43 +74,45 @@ void PaintWattsTitle(FramePaint& paint) {
   PrintAt(surface, std::max(770.0, surface.CurrentX + 10), y - 50, "2");
 }
 
+/// A chart of two signals has the unit on a line of its own: the margin is narrow.
+void PaintTwoAngleTitle(FramePaint& paint, double top, double line) {
+  const std::string_view title = paint.kind.yTitle;
+  const auto unit = std::min(title.find('('), title.size());
+  PrintAbove(paint, top - 600 + line, title.substr(unit));
+  PrintAbove(paint, top - 600, title.substr(0, unit));
+}
+
 void PaintYTitle(FramePaint& paint) {
   auto& surface = paint.surface;
-  const GraphKind& kind = paint.kind;
-  const int type = kind.graphType, sub = kind.graphSubType;
+  const PageKind& kind = paint.kind;
   const double top = paint.Box().top;
   const double line = surface.TextHeight("X");
-  const bool efficiencies = type == 14 || type == 15;
-  const bool intensities = (type == 1 && sub == 1) || (type == 10 && sub == 1) || type == 11 || type == 12;
-  if (efficiencies && (sub == 2 || sub == 4)) {
-    PrintAbove(paint, top - 500, "Area (sq m)");
-  } else if (efficiencies && sub >= 7 && sub <= 9) {
-    PaintBackscatterTitle(paint, "Qback");
-  } else if (efficiencies && sub >= 10 && sub <= 12) {
-    PaintBackscatterTitle(paint, "Qradar");
-  } else if (type == 16) {
-    PrintAbove(paint, top - 400, "Parameter");
-    PrintAbove(paint, top - 600, "Asymmetry");
-  } else if (type == 17) {
-    PrintAbove(paint, top - 600, "Albedo");
-  } else if (type == 18) {
-    PrintAbove(paint, top - 600, "Power (W)");
-  } else if (kind.IsMatrix()) {
-    if (!paint.second) PrintAbove(paint, top - 600 + line, " S11");
-  } else if (paint.second) {
+  const std::string_view title = YTitleOf(kind.graph, kind.amplitude);
+  if (paint.panel.second) {
+    if (kind.IsMatrix()) return;
     const double y = std::min(top - 350, top - 0.5 * line - line);
-    PrintAt(surface, 50, y, kind.ampPhase ? "Phase angle" : "Degree of linear polarisation");
-  } else if (intensities) {
-    // One blank line below the place of the title.
-    PrintAbove(paint, top - 600 + line, kind.amplitude ? " Amplitude" : " Intensity");
-  } else if (type == 1 && sub == 3) {
-    PaintWattsTitle(paint);
-  } else if (kind.IsTwoAngle()) {
-    // The unit on a line of its own: the margin is narrow.
-    const std::string_view title = kind.yTitle;
-    const auto unit = std::min(title.find('('), title.size());
-    PrintAbove(paint, top - 600 + line, title.substr(unit));
-    PrintAbove(paint, top - 600, title.substr(0, unit));
+    PrintAt(surface, 50, y, SecondTitleOf(kind.second == SecondPanel::Phases));
+    return;
+  }
+  switch (kind.graph.quantity) {
+    case Quantity::Irradiance:
+      return PaintWattsTitle(paint);
+    case Quantity::RangeCrossSections:
+      return PaintTwoAngleTitle(paint, top, line);
+    case Quantity::Qback:
+    case Quantity::Qradar:
+      return PaintBackscatterTitle(paint, title);
+    case Quantity::Asymmetry:
+      PrintAbove(paint, top - 400, "Parameter");
+      return PrintAbove(paint, top - 600, title);
+    case Quantity::CrossSections:
+      return PrintAbove(paint, top - 500, title);
+    case Quantity::Intensity:
+    case Quantity::ScatteringMatrix:
+      // One blank line below the place of the title.
+      return PrintAbove(paint, top - 600 + line, title);
+    default:
+      return PrintAbove(paint, top - 600, title);
   }
 }
 
@@ -115,9 +120,9 @@ void PaintYTitle(FramePaint& paint) {
 
 void PaintAxisTitles(FramePaint& paint) {
   // The upper of two panels shares the title of the horizontal axis with the lower one.
-  if (paint.place != PanelPlace::Upper) PaintXTitle(paint);
+  if (paint.panel.place != PanelPlace::Upper) PaintXTitle(paint);
   Restore(paint.surface);
-  if (paint.kind.numberWavelengths <= 1) PaintYTitle(paint);
+  if (paint.kind.wavelengths <= 1) PaintYTitle(paint);
   Restore(paint.surface);
 }
 

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 #include "pages/frame_paint.h"
@@ -44,12 +43,11 @@ struct LinearTicks {
 };
 
 LinearTicks ChooseTicks(FramePaint& paint) {
-  auto& graph = paint.session.state;
   const auto& limits = paint.map.limits;
   double step = 0, range = 0, labelStep = 0;
-  GridxStep(graph, limits.xmin, limits.xmax, step, range, labelStep);
+  GridxStep(paint.panel.oddTest, limits.xmin, limits.xmax, step, range, labelStep);
   labelStep = 2 * step;
-  if (paint.size == GraphSize::Small) {
+  if (paint.style.size == GraphSize::Small) {
     if (limits.xmax == 180)
       labelStep = 60;
     else if (range / labelStep > 6)
@@ -58,8 +56,7 @@ LinearTicks ChooseTicks(FramePaint& paint) {
     step = 10;
     labelStep = 30;
   }
-  graph.GridOddTest = limits.xmin;
-  if (range == 10 && IsOdd(graph.GridOddTest)) {
+  if (range == 10 && IsOdd(limits.xmin)) {
     step = 1;
     labelStep = 5;
   }
@@ -78,12 +75,12 @@ void PaintLinear(FramePaint& paint) {
   paint.TickBelow(box.left, 50);
   paint.TickBelow(box.right, 100);
   const LinearTicks ticks = ChooseTicks(paint);
-  const bool gridLines = paint.session.form1.mnuMajorGridX.Checked;
+  const bool gridLines = paint.style.gridLines.majorX;
 
   ForEachTick(ticks.step, ticks.decimals, limits, [&](double value) {
     const double x = paint.map.X(value);
     if (x < box.left || x > box.right) return;
-    if (gridLines) paint.VerticalLine(x, paint.gridColour);
+    if (gridLines) paint.VerticalLine(x, paint.style.gridColour);
     paint.TickBelow(x, minorTick);
   });
 
@@ -95,7 +92,7 @@ void PaintLinear(FramePaint& paint) {
   ForEachTick(ticks.labelStep, ticks.decimals, limits, [&](double value) {
     if (value > limits.xmin + 0.98 * range || value < limits.xmin + 0.02 * range) return;
     const double x = paint.map.X(value);
-    if (gridLines) paint.VerticalLine(x, paint.gridColour);
+    if (gridLines) paint.VerticalLine(x, paint.style.gridColour);
     paint.TickBelow(x, majorTick);
     paint.LabelBelow(TickText(value), x, labelY);
   });
@@ -135,14 +132,13 @@ bool IsTwoOrFive(double fraction) {
 }
 
 void PaintLogarithmic(FramePaint& paint) {
-  const auto& form = paint.session.form1;
   const auto& limits = paint.map.limits;
-  const bool minor = form.mnuMinorGridX.Checked;
-  const bool major = form.mnuMajorGridX.Checked && !minor;
+  const bool minor = paint.style.gridLines.minorX;
+  const bool major = paint.style.gridLines.majorX && !minor;
   ForEachLogTick(limits, [&](double value, double fraction) {
     const double x = paint.map.X(value);
-    if (minor) paint.VerticalLine(x, form.mnuWhite.Checked ? colours::Black : paint.gridColour);
-    if (major && IsDecade(fraction)) paint.VerticalLine(x, paint.gridColour);
+    if (minor) paint.VerticalLine(x, paint.style.minorXColour);
+    if (major && IsDecade(fraction)) paint.VerticalLine(x, paint.style.gridColour);
   });
   // Whole decades come first, so that on a crowded axis they are the ones that stay.
   ForEachLogTick(limits, [&](double value, double fraction) {
@@ -159,46 +155,6 @@ void PaintLogarithmic(FramePaint& paint) {
   });
 }
 
-struct TitleRow {
-  int type, subType;  ///< sub-type 0 stands for any
-  std::string_view title, frequencyTitle;
-};
-
-constexpr std::string_view radius = "Radius (\u00B5m)", diameter = "Diameter (\u00B5m)", sizeX = "Size parameter x",
-                           wavelength = "Wavelength (nm)", perMicrometre = "Frequency (1/\u00B5m)";
-
-constexpr std::array xTitles = {
-    TitleRow{1, 0, "Scattering angle (deg.)", "Frequency (1/deg.)"},
-    TitleRow{10, 0, wavelength, "Frequency (1/nm)"},
-    TitleRow{15, 0, wavelength, "Frequency (1/nm)"},
-    TitleRow{11, 1, radius, perMicrometre},
-    TitleRow{11, 2, sizeX, sizeX},
-    TitleRow{11, 3, diameter, perMicrometre},
-    TitleRow{12, 0, "Refractive index", "Refractive index"},
-    TitleRow{13, 0, "Convergence", "Convergence"},
-    TitleRow{14, 1, radius, radius},
-    TitleRow{14, 2, radius, radius},
-    TitleRow{14, 7, radius, radius},
-    TitleRow{14, 10, radius, radius},
-    TitleRow{14, 3, sizeX, sizeX},
-    TitleRow{14, 4, sizeX, sizeX},
-    TitleRow{14, 9, sizeX, sizeX},
-    TitleRow{14, 12, sizeX, sizeX},
-    TitleRow{14, 5, diameter, diameter},
-    TitleRow{14, 6, diameter, diameter},
-    TitleRow{14, 8, diameter, diameter},
-    TitleRow{14, 11, diameter, diameter},
-    TitleRow{16, 1, radius, radius},
-    TitleRow{16, 2, sizeX, sizeX},
-    TitleRow{16, 3, wavelength, wavelength},
-    TitleRow{17, 1, radius, radius},
-    TitleRow{17, 2, sizeX, sizeX},
-    TitleRow{17, 3, wavelength, wavelength},
-    TitleRow{18, 1, radius, radius},
-    TitleRow{18, 2, diameter, diameter},
-    TitleRow{18, 3, wavelength, wavelength},
-};
-
 }  // namespace
 
 void PaintXAxis(FramePaint& paint) {
@@ -206,14 +162,6 @@ void PaintXAxis(FramePaint& paint) {
     PaintLogarithmic(paint);
   else
     PaintLinear(paint);
-}
-
-std::string_view XAxisTitle(const GraphKind& kind) {
-  if (kind.IsTwoAngle()) return kind.xTitle;
-  for (const auto& row : xTitles)
-    if (row.type == kind.graphType && (row.subType == 0 || row.subType == kind.graphSubType))
-      return kind.fourier ? row.frequencyTitle : row.title;
-  return {};
 }
 
 }  // namespace lumivex

@@ -38,10 +38,10 @@ void PaintSecondScale(FramePaint& paint) {
   static constexpr std::array phases = {90.0, 180.0, 270.0};
   static constexpr std::array degrees = {-0.8, -0.4, 0.0, 0.4, 0.8};
   const std::span<const double> values =
-      paint.kind.ampPhase ? std::span<const double>(phases) : std::span<const double>(degrees);
+      paint.kind.second == SecondPanel::Phases ? std::span<const double>(phases) : std::span<const double>(degrees);
   for (const double value : values) {
     const double y = paint.map.Y(value);
-    paint.Rule(paint.Box().left + 20, y, paint.Box().right, y, paint.gridColour);
+    paint.Rule(paint.Box().left + 20, y, paint.Box().right, y, paint.style.gridColour);
     paint.TickLeft(y, minorTick);
     paint.LabelLeft(AxisNumber(Str(std::abs(value) < 0.001 ? 0 : value), value), y);
   }
@@ -56,19 +56,19 @@ std::string LinearText(double value, double first, double ymax) {
 void PaintLinear(FramePaint& paint) {
   const auto& limits = paint.map.limits;
   PaintEnds(paint);
-  if (paint.second) {
+  if (paint.panel.second) {
     PaintSecondScale(paint);
     return;
   }
   const double step = YTickStep(limits.ymin, limits.ymax);
   const double first = step * (std::floor(limits.ymin / step) + 1);
   const double last = limits.ymax - 0.1 * step;
-  const bool gridLines = paint.session.form1.mnuMajorGridY.Checked;
+  const bool gridLines = paint.style.gridLines.majorY;
   for (int i = 0; i < mostTicks && first + i * step <= last; ++i) {
     const double value = first + i * step;
     if (!(value > limits.ymin)) continue;
     const double y = paint.map.Y(value);
-    if (gridLines) paint.Rule(paint.Box().left + 20, y, paint.Box().right, y, paint.gridColour);
+    if (gridLines) paint.Rule(paint.Box().left + 20, y, paint.Box().right, y, paint.style.gridColour);
     paint.TickLeft(y, minorTick);
   }
   // Labels count from 0: a negative side has ticks without numbers. Far from 0 they start below the axis.
@@ -92,7 +92,7 @@ struct PowerLook {
 };
 
 PowerLook LookOfPowers(const FramePaint& paint) {
-  if (paint.special) return {paint.Box().left - 300 - paint.surface.TextWidth("10"), 11, 300, true};
+  if (paint.style.special) return {paint.Box().left - 300 - paint.surface.TextWidth("10"), 11, 300, true};
   return {550, 7, 200, false};
 }
 
@@ -157,7 +157,7 @@ LabelWindow WindowBetweenDecades(GraphSize size) {
 int DecadeStep(const FramePaint& paint, DecadeRange decades) {
   const int span = decades.last - 1 - decades.first;
   int step = 1;
-  if (paint.size == GraphSize::Small || paint.size == GraphSize::Medium)
+  if (paint.style.size == GraphSize::Small || paint.style.size == GraphSize::Medium)
     step = span > 15 ? 3 : span > 8 ? 2 : 1;
   else
     step = span >= 20 ? 3 : span > 12 ? 2 : 1;
@@ -175,7 +175,7 @@ bool IsInside(double value, const AxisLimits& limits) {
 
 void PaintBetweenDecades(FramePaint& paint, bool lines) {
   const auto& limits = paint.map.limits;
-  const LabelWindow window = WindowBetweenDecades(paint.size);
+  const LabelWindow window = WindowBetweenDecades(paint.style.size);
   const double ratio = limits.ymax / limits.ymin;
   const bool numbers = ratio > window.above && ratio < window.below;
   double inc = std::pow(10.0, std::floor(Log10Guarded(limits.ymin)));
@@ -185,7 +185,7 @@ void PaintBetweenDecades(FramePaint& paint, bool lines) {
     if ((value + 0.99 * inc) / inc > 10) inc *= 10;
     const double y = paint.map.Y(value);
     if (lines) {
-      paint.HorizontalLine(y, paint.gridColour);
+      paint.HorizontalLine(y, paint.style.gridColour);
       continue;
     }
     const double f = Log10Guarded(value) - std::floor(Log10Guarded(value));
@@ -197,11 +197,10 @@ void PaintBetweenDecades(FramePaint& paint, bool lines) {
 }
 
 void PaintLogarithmic(FramePaint& paint) {
-  const auto& form = paint.session.form1;
   const auto& limits = paint.map.limits;
   const DecadeRange decades = DecadesBetween(limits.ymin, limits.ymax);
   const int decadeStep = DecadeStep(paint, decades);
-  const bool minor = form.mnuMinorGridY.Checked;
+  const bool minor = paint.style.gridLines.minorY;
   if (minor && decadeStep == 1) PaintBetweenDecades(paint, true);
   int printed = 0;
   const auto forEachDecade = [&](auto&& visit) {
@@ -209,8 +208,8 @@ void PaintLogarithmic(FramePaint& paint) {
       if (IsInside(std::pow(10.0, e), limits)) visit(e, paint.map.Y(std::pow(10.0, e)));
   };
   forEachDecade([&](int, double y) {
-    if (minor || form.mnuMajorGridY.Checked) paint.HorizontalLine(y, paint.gridColour);
-    paint.TickLeft(y, form.mnuMajorGridY.Checked ? majorTick : minorTick);
+    if (minor || paint.style.gridLines.majorY) paint.HorizontalLine(y, paint.style.gridColour);
+    paint.TickLeft(y, paint.style.gridLines.majorY ? majorTick : minorTick);
   });
   // The outermost decades come first, so that on a crowded axis they are the ones that stay.
   for (const int e : {decades.first, decades.last}) {
@@ -234,7 +233,7 @@ void PaintLogarithmic(FramePaint& paint) {
 }  // namespace
 
 void PaintYAxis(FramePaint& paint) {
-  if (paint.map.logY && !paint.second)
+  if (paint.map.logY && !paint.panel.second)
     PaintLogarithmic(paint);
   else
     PaintLinear(paint);

@@ -25,9 +25,9 @@ struct Place {
 };
 
 /// What of the plane is shown, and where.
-class Window {
+class View {
  public:
-  Window(const DrawingSurface& surface, const std::vector<HuygensWave>& waves) {
+  View(const DrawingSurface& surface, const std::vector<HuygensWave>& waves) {
     double xMin = -1.3, xMax = 1.3, yMin = -1.05, yMax = 1.05;
     for (const auto& wave : waves) {
       for (std::size_t k = 0; k < wave.waveX.size(); ++k) {
@@ -51,7 +51,7 @@ class Window {
 };
 
 /// A ray from the left, through the sphere and on beyond its wavefront.
-std::vector<SurfacePoint> Path(const Window& window, const HuygensWave& wave, std::size_t k) {
+std::vector<SurfacePoint> Path(const View& window, const HuygensWave& wave, std::size_t k) {
   const double i = std::asin(std::min(1.0, wave.impact[k]));
   const double turn = wave.p > 0 ? (wave.deviation[k] - 2 * i + pi) / wave.p : 0;
   std::vector<SurfacePoint> points = {window.At({-1.3, wave.impact[k]})};
@@ -66,8 +66,7 @@ std::vector<SurfacePoint> Path(const Window& window, const HuygensWave& wave, st
   return points;
 }
 
-void DrawWave(Session& session, const Window& window, const HuygensWave& wave, Colour colour) {
-  auto& surface = *session.surface;
+void DrawWave(DrawingSurface& surface, const View& window, const HuygensWave& wave, Colour colour) {
   const std::size_t count = wave.waveX.size();
   if (count == 0) return;
   surface.ForeColour = rays;
@@ -90,15 +89,13 @@ void DrawWave(Session& session, const Window& window, const HuygensWave& wave, C
 
 }  // namespace
 
-void DrawHuygens(Session& session) {
-  const auto& waves = session.state.HuygensWaves;
+void PaintHuygens(DrawingSurface& surface, const std::vector<HuygensWave>& waves) {
   if (waves.empty()) return;
-  auto& surface = *session.surface;
   const Colour before = surface.ForeColour;
-  const Window window(surface, waves);
+  const View window(surface, waves);
   surface.FillStyle = 1;
   std::size_t colour = 0;
-  for (const auto& wave : waves) DrawWave(session, window, wave, fronts[colour++ % fronts.size()]);
+  for (const auto& wave : waves) DrawWave(surface, window, wave, fronts[colour++ % fronts.size()]);
   const SurfacePoint centre = window.At({0, 0});
   surface.Circle(centre.x, centre.y, window.Length(1), colours::Black);
   surface.ForeColour = before;

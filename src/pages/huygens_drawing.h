@@ -1,12 +1,14 @@
 #pragma once
 
-#include "record/session.h"
+#include <vector>
+
+#include "record/drawing_surface.h"
+#include "solvers/rays/huygens_wave.h"
 
 namespace lumivex {
 
-/// Draws the wavefronts of the last Huygens run (HuygensWaves) in the strip of readings over the graph, where that
-/// method has none: the sphere, light from the left, some of the rays, and for each p the front that leaves. Draws
-/// nothing where there are none.
-void DrawHuygens(Session& session);
+/// Paints wavefronts in the strip of readings over the graph, where their method has none: the sphere, light from the
+/// left, some of the rays, and for each p the front that leaves. Nothing where there are none.
+void PaintHuygens(DrawingSurface& surface, const std::vector<HuygensWave>& waves);
 
 }  // namespace lumivex

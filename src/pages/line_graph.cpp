@@ -1,96 +1,62 @@
 #include "pages/line_graph.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 
-#include "axes/curve_smoothing.h"
 #include "axes/polar_coordinates.h"
 #include "pages/colours.h"
-#include "pages/curve_legend.h"
 #include "pages/curve_path.h"
 #include "pages/frame.h"
 #include "pages/scale.h"
-#include "record/number_text.h"
+#include "pages/two_angle_chart.h"
+#include "record/catalogue/graph_texts.h"
 
 namespace lumivex {
 
 namespace {
 
 constexpr double notComputed = std::numeric_limits<double>::quiet_NaN();
-constexpr int stopRequested = 4;
-constexpr int heiligenschein = 16;
+constexpr std::size_t upperPanel = 0, lowerPanel = 1;
+constexpr int perpendicularKind = 1, parallelKind = 2, unpolarisedKind = 3;
 
-bool IsAutomatic(const SelectionList& list) {
-  return SameName(Trim(list.Text), "Automatic");
+/// Degrees, or units of the axis, from row to row.
+double StepOf(const RunRequest& asked) {
+  if (const AngleRows* rows = RowsOf(asked.run)) return rows->step;
+  if (const auto* axis = std::get_if<AxisRun>(&asked.run)) return axis->step;
+  return 1;
 }
 
-/// Graphs against angle have the rows of the solver, the others a point for each step of the axis.
-bool HasSolverRows(const Session& session) {
-  return session.state.GraphType < 10 && session.form1.mnuPlaneWave.Checked;
+/// The wavelength whose colour is the true one: along an axis of wavelengths the last.
+double TrueWavelength(const Results& results) {
+  return results.asked.graph.WavelengthAxis() ? results.last.lambda : results.asked.light.lambda;
 }
 
-bool HasLogSteps(const Session& session) {
-  const int type = session.state.GraphType;
-  return session.form1.mnuXStepLog.Checked && (type == 10 || type == 11 || (type >= 14 && type <= 18));
+LinePair PenColours(const RunToDraw& run) {
+  return LineColour(run.look.pen, TrueWavelength(run.results));
 }
 
-RowSpan RowsOfRun(const Session& session, std::size_t size) {
-  const auto& s = session.state;
-  const std::size_t last = size > 0 ? size - 1 : 0;
-  const auto row = [last](double r) { return static_cast<std::size_t>(std::clamp(r, 0.0, static_cast<double>(last))); };
-  if (HasSolverRows(session)) {
-    const auto lastRow = std::min(s.AngleHigh, 2 * s.NANG - 1);
-    return {std::max<std::size_t>(1, row(s.AngleLow)), row(lastRow)};
-  }
-  if (s.GraphType >= 30) return {1, row(s.PlotXmax - s.PlotXmin + 1.0001)};
-  // A zoom changes the limits, not the points that are stored.
-  if (s.GraphType >= 10 && s.XValues.size() == size) return {1, last};
-  if (HasLogSteps(session)) return {1, row(s.Xstep + 1)};
-  return {1, row(s.Xstep > 0 ? (s.PlotXmax - s.PlotXmin) / s.Xstep + 1.0001 : 0)};
-}
-
-/// x of a row where the run left no XValues.
-double RuledPosition(const Session& session, std::size_t row) {
-  const auto& s = session.state;
-  const double i = static_cast<double>(row) - 1;
-  if (HasSolverRows(session)) return s.NANG > 1 ? i * 180 / (2 * (s.NANG - 1)) : 0;
-  if (s.GraphType >= 30) return s.PlotXmin + i;
-  if (HasLogSteps(session)) return std::min(s.PlotXmin * std::pow(s.LogStepRatio, i), s.PlotXmax);
-  return s.PlotXmin + i * s.Xstep;
-}
-
-bool AreStored(const std::vector<double>& x, RowSpan rows) {
-  if (rows.Empty() || rows.last >= x.size()) return false;
-  return x[rows.last] > x[rows.first] || (rows.first == rows.last && x[rows.first] != 0);
-}
-
-void ChooseXLimits(Session& session, double& xmin, double& xmax) {
-  auto& form = session.form1;
-  const auto& s = session.state;
-  const bool impulse = s.GraphType == 15 && s.GraphSubType == 13;
-  if (impulse) form.OptXLinear.Select();
-  xmin = Val(impulse ? form.txtF9_min.Text : form.txtXmin.Text);
-  xmax = Val(impulse ? form.txtF9_max.Text : form.txtXmax.Text);
-}
-
-/// The second array says nothing about the scale of these graphs.
-bool FirstArrayCounts(const RunState& s) {
-  const int sub = s.GraphSubType;
-  return s.GraphType == 17 || (s.GraphType == 14 && sub >= 7 && sub <= 9) ||
-         (s.GraphType == 15 && (sub == 9 || sub == 12));
+/// Graphs of which one curve tells all.
+bool HasOneCurve(const Results& results) {
+  const Graph& graph = results.asked.graph;
+  return graph.quantity == Quantity::Albedo || (results.last.relativeIm == 0 && graph.OfEfficiencies());
 }
 
 /// Amplitudes of the complex plane: the phase is the polar angle, the modulus the radius.
-void TakeComplexAmplitude(const MainFormState& s, KeptCurve& curve) {
+void TakeComplexAmplitude(const AngleFound& found, PageCurve& curve) {
   curve.angle = curve.x;
-  const int rows = std::min(s.S1.Rows(), s.S2.Rows());
+  const int rows = std::min(found.S1.Rows(), found.S2.Rows());
   for (std::size_t i = 1; i < curve.y.size(); ++i) {
     const int row = static_cast<int>(i);
+    const bool computed = std::isfinite(curve.y[i]) && std::isfinite(curve.x[i]);
     curve.y[i] = notComputed;
-    if (row > rows || !std::isfinite(curve.x[i])) continue;
-    ComplexD S = s.CurveKind == 2 ? s.S2.Value(row) : s.S1.Value(row);
-    if (s.CurveKind == 3) S = {(s.S1.Re(row) + s.S2.Re(row)) / 2, (s.S1.Im(row) + s.S2.Im(row)) / 2};
+    if (row > rows || !computed) continue;
+    const ComplexD a = found.S1.Value(row), b = found.S2.Value(row);
+    const ComplexD S = curve.kind == unpolarisedKind ? ComplexD{(a.re + b.re) / 2, (a.im + b.im) / 2}
+                       : curve.kind == parallelKind  ? b
+                                                     : a;
     double modulus = 0, phase = 0;
     RectangularPolar(S.re, S.im, modulus, phase);
     curve.y[i] = modulus;
@@ -98,162 +64,202 @@ void TakeComplexAmplitude(const MainFormState& s, KeptCurve& curve) {
   }
 }
 
-/// Colour of a curve: of the wavelength where there are several, otherwise that of the menu.
-void TakeLineColour(Session& session) {
-  const auto& s = session.state;
-  LineColour(session);
-  const auto index = static_cast<std::size_t>(std::max(s.WavelengthIndex, 0));
-  if (s.NumberWavelengths > 1 && !session.form1.mnuIntPol.Checked && index < s.WavelengthColours.size())
-    session.surface->ForeColour = s.WavelengthColours[index];
+void DrawCurves(Page& page, const RunToDraw& run, const Curves& curves) {
+  const LinePair colours = PenColours(run);
+  const bool shaded = run.look.WantsSeveral();
+  // Black cannot be seen on black.
+  const Colour third = page.style.ground == colours::Black ? colours::White : colours::Black;
+  const auto add = [&](int kind, const std::vector<double>& y, Colour colour) {
+    page.curves.push_back(Plot(page, run, curves.x, y, {upperPanel, kind}, colour));
+  };
+  if (HasOneCurve(run.results)) {
+    if (run.look.polarisations != Polarisations::None) add(perpendicularKind, curves.perpendicular, colours.first);
+    return;
+  }
+  for (const int kind : KindsWanted(run.look)) {
+    if (kind == parallelKind) add(kind, curves.parallel, shaded ? colours.second : colours.first);
+    if (kind == unpolarisedKind) add(kind, curves.unpolarised, shaded ? third : colours.first);
+    if (kind == perpendicularKind) add(kind, curves.perpendicular, colours.first);
+  }
 }
 
-void DrawCurves(Session& session, const CurveSet& curves) {
-  auto& s = session.state;
-  auto& surface = *session.surface;
-  const std::string_view pol = session.form1.cboPol.Text;
-  const bool all = pol == "All 3", both = pol == "Both";
-  const bool ratio = s.YAxisMode == 2;
-  const bool oneCurve = s.GraphType == 17 || (s.RefRelImag == 0 && s.GraphType >= 14 && s.GraphType <= 16);
-  const bool shaded = (all || both) && (s.NumberWavelengths == 1 || session.form1.mnuIntPol.Checked);
-  if (!oneCurve && (all || both || ratio || pol.starts_with("Parallel"))) {
-    s.CurveKind = 2;
-    TakeLineColour(session);
-    if (shaded) surface.ForeColour = s.SecondLineColour;
-    Plot(session, curves.parallel);
+// Second panels.
+
+void DrawPhases(Page& page, const RunToDraw& run, const Curves& curves) {
+  const LinePair colours = PenColours(run);
+  for (const int kind : KindsWanted(run.look)) {
+    if (kind == unpolarisedKind) continue;
+    const bool parallel = kind == parallelKind;
+    const Colour colour = parallel && run.look.WantsSeveral() ? colours.second : colours.first;
+    page.curves.push_back(
+        Plot(page, run, curves.x, parallel ? curves.extra3 : curves.extra2, {lowerPanel, kind}, colour));
   }
-  if (!oneCurve && (all || ratio || pol == "Unpolarised")) {
-    s.CurveKind = 3;
-    TakeLineColour(session);
-    // Black cannot be seen on black.
-    if (shaded) surface.ForeColour = s.PlotBackColourMono == colours::Black ? colours::White : colours::Black;
-    Plot(session, curves.unpolarised);
+}
+
+bool LookAlike(Colour a, Colour b) {
+  constexpr int apart = 200;
+  return std::abs(a.Red() - b.Red()) + std::abs(a.Green() - b.Green()) + std::abs(a.Blue() - b.Blue()) < apart;
+}
+
+/// Three colours that can be told apart on every background: the line colour, and two that differ from it.
+std::array<Colour, 3> RatioColours(Colour line) {
+  static constexpr std::array others = {Colour{0xE06020}, Colour{0x009000}, Colour{0x0000E0}};
+  std::array<Colour, 3> chosen;
+  chosen.fill(line);
+  std::size_t next = 1;
+  for (const Colour other : others)
+    if (next < chosen.size() && !LookAlike(other, line)) chosen[next++] = other;
+  return chosen;
+}
+
+void DrawRatios(Page& page, const RunToDraw& run, const Curves& curves) {
+  const std::array<Colour, 3> colours = RatioColours(PenColours(run).first);
+  const std::array ratios = {&curves.extra1, &curves.extra2, &curves.extra3};
+  for (const int kind : {3, 2, 1}) {
+    const auto i = static_cast<std::size_t>(kind - 1);
+    page.curves.push_back(Plot(page, run, curves.x, *ratios[i], {lowerPanel, kind}, colours[i]));
   }
-  if (all || both || pol.starts_with("Perpendicular") || (oneCurve && !pol.empty())) {
-    s.CurveKind = 1;
-    TakeLineColour(session);
-    Plot(session, curves.perpendicular);
+}
+
+void DrawLowerPanel(Page& page, const RunToDraw& run, const Curves& curves) {
+  const SecondPanel second = page.kind.second;
+  if (page.panels.size() <= lowerPanel) {
+    const AxisLimits upper = page.panels[upperPanel].limits;
+    const bool phases = second == SecondPanel::Phases;
+    Grid(page, PanelPlace::Lower, {upper.xmin, upper.xmax, phases ? 0.0 : -1.0, phases ? 360.0 : 1.0}, true);
   }
+  if (second == SecondPanel::Ratios) return DrawRatios(page, run, curves);
+  if (second == SecondPanel::Phases) return DrawPhases(page, run, curves);
+  page.curves.push_back(
+      Plot(page, run, curves.x, curves.extra1, {lowerPanel, perpendicularKind}, PenColours(run).first));
 }
 
 }  // namespace
 
-bool DrawsOver(const Session& session) {
-  const auto& s = session.state;
-  const bool asked = s.PlotMode == 2 || s.OverplotFromFile == 1;
-  return asked && !s.Drawn.panels.empty() && s.Drawn.kind.SharesAxesWith(KindNow(session));
-}
-
-void Display(Session& session, std::span<const double> y1, std::span<const double> y2, std::span<const double> y3) {
-  DisplayInBox(session, WholeBox(session.state), {y1, y2, y3});
-}
-
-void DisplayInBox(Session& session, const GraphBox& box, const CurveSet& curves) {
-  if (session.state.PlotMode == stopRequested) return;
-  FrameInBox(session, box, curves);
-  DrawCurves(session, curves);
-}
-
-void FrameInBox(Session& session, const GraphBox& box, const CurveSet& curves) {
-  auto& s = session.state;
-  if (s.GraphType == 13) s.YAxisMode = 1;
-  if (DrawsOver(session)) return;
-  double xmin = 0, xmax = 0;
-  ChooseXLimits(session, xmin, xmax);
-  if (s.PlotMode == 0 && s.SecondPanel == 0) {
-    s.Ymin = IsAutomatic(session.form1.cboYmin) ? s.YAutoMin : Val(session.form1.cboYmin.Text);
-    s.Ymax = IsAutomatic(session.form1.cboYmax) ? s.YAutoMax : Val(session.form1.cboYmax.Text);
-  } else {
-    s.PlotMode = 1;
-    ChooseYLimits(session, curves, {xmin, xmax});
+PageKind KindOf(const RunToDraw& run) {
+  const RunRequest& asked = run.results.asked;
+  const Look& look = run.look;
+  PageKind kind;
+  kind.graph = asked.graph;
+  kind.wavelengths = asked.Wavelengths();
+  kind.logX = look.scale.logX;
+  kind.logY = look.scale.logY;
+  kind.polar = look.scale.polar && asked.graph.drawing == Drawing::Curves;
+  if (asked.graph.AgainstAngle()) kind.second = look.second;
+  // Neither has the degree of polarisation a polar form nor has a sum over wavelengths phases.
+  if (kind.polar && kind.second == SecondPanel::Polarisation) kind.second = SecondPanel::None;
+  if (kind.wavelengths > 1 && kind.second == SecondPanel::Phases) kind.second = SecondPanel::None;
+  if (kind.IsMatrix()) kind.second = SecondPanel::Ratios;
+  kind.amplitude = look.amplitude;
+  kind.invWavelength = look.invWavelength;
+  kind.fourier = look.fourier;
+  if (const auto* axis = std::get_if<AxisRun>(&asked.run)) kind.perVolume = axis->constantVolume;
+  if (const auto* angles = std::get_if<TwoAngleRun>(&asked.run)) {
+    kind.xTitle = TwoAngleXTitle(*angles);
+    kind.yTitle = TwoAngleYTitle(*angles);
   }
-  Grid(session, box.left, box.right, box.top, box.bottom, xmin, xmax, s.Ymin, s.Ymax);
-  s.PlotMode = 2;
+  return kind;
 }
 
-void Plot(Session& session, std::span<const double> y, std::size_t panel) {
-  session.platform.Yield();
-  if (session.state.PlotMode == stopRequested || panel >= session.state.Drawn.panels.size()) return;
-  PlotCurve(session, CapturedCurve(session, y, panel));
+void Display(Page& page, const RunToDraw& run, const Curves& curves) {
+  const bool twoPanels = page.kind.second != SecondPanel::None && !page.kind.polar;
+  if (page.panels.empty())
+    DrawFrame(page, run, twoPanels ? PanelPlace::Upper : PanelPlace::Whole, curves.x, curves.perpendicular,
+              curves.parallel);
+  if (page.kind.IsMatrix())
+    page.curves.push_back(Plot(page, run, curves.x, curves.perpendicular, {}, PenColours(run).first));
+  else
+    DrawCurves(page, run, curves);
+  if (twoPanels) DrawLowerPanel(page, run, curves);
 }
 
-KeptCurve CapturedCurve(Session& session, std::span<const double> y, std::size_t panel) {
-  const auto& s = session.state;
-  const auto& form = session.form1;
-  KeptCurve curve;
-  curve.panel = panel;
-  curve.kind = s.CurveKind;
-  const bool second = s.Drawn.panels[panel].second;
-  curve.name = CurveName(s.Drawn.kind, s.CurveKind, second);
+PageCurve Plot(const Page& page, const RunToDraw& run, std::span<const double> x, std::span<const double> y,
+               CurvePlace place, Colour colour) {
+  const Look& look = run.look;
+  const bool second = page.panels[place.panel].second;
+  const bool phases = second && page.kind.second == SecondPanel::Phases;
+  PageCurve curve;
+  curve.panel = place.panel;
+  curve.run = page.runs.empty() ? 0 : page.runs.size() - 1;
+  curve.kind = place.kind;
+  curve.name = CurveName(page.kind, place.kind, second);
+  curve.x.assign(x.begin(), x.end());
   curve.y.assign(y.begin(), y.end());
-  curve.x = RowPositions(session, y.size());
-  for (std::size_t i = 1; i < curve.y.size(); ++i)
+  for (std::size_t i = 1; i < curve.y.size() && i < curve.x.size(); ++i)
     if (!std::isfinite(curve.x[i])) curve.y[i] = notComputed;
-  const bool phases = second && s.Drawn.kind.ampPhase;
-  if (form.optSun.Checked && s.GraphType < 10 && !phases && s.SunDiscWeight.size() > 1) {
-    const DiscWeights disc{s.SunDiscWeight, s.SunDiscRows, s.SunDiscTotal};
-    const bool mirrored = s.CalcMethod != heiligenschein && HasSolverRows(session);
-    curve.y = FoldedWithDisc(curve.y, disc, mirrored ? static_cast<std::size_t>(2 * s.NANG - 1) : 0);
-  }
-  if (s.Drawn.kind.polar && s.Drawn.kind.ampPhase) TakeComplexAmplitude(s, curve);
-  if (form.mnuAverage.Checked && s.Xstep > 0)
-    curve.averageRows = Val(session.forms.dlogAverage.txtAverage.Text) / s.Xstep;
+  if (!phases) curve.y = SeenUnderSun(run, curve.y);
+  if (const auto* found = run.results.Find<AngleFound>(); found != nullptr && page.kind.IsComplexPolar())
+    TakeComplexAmplitude(*found, curve);
+  const double step = StepOf(run.results.asked);
+  if (look.averageWidth && step > 0) curve.averageRows = *look.averageWidth / step;
   curve.wraps = phases;
-  curve.interpolate = form.mnuInterpolate.Checked;
-  curve.markers = form.mnuDrawWidth0.Checked;
-  curve.colour = session.surface->ForeColour;
-  curve.drawStyle = form.mnuDash.Checked ? 1 : form.mnuDot.Checked ? 2 : 0;
-  curve.drawWidth = form.mnuDrawWidth2.Checked ? 2 : 1;
+  curve.interpolate = look.interpolate;
+  curve.markers = look.pen.markers;
+  curve.colour = colour;
+  curve.drawStyle = look.pen.style;
+  curve.drawWidth = look.pen.width;
   return curve;
 }
 
-void PlotCurve(Session& session, KeptCurve curve) {
-  auto& graph = session.state.Drawn;
-  if (curve.panel >= graph.panels.size()) return;
-  const KeptPanel& panel = graph.panels[curve.panel];
-  const Colour before = session.surface->ForeColour;
-  DrawCurve(session, panel, curve);
-  if (!graph.kind.polar) PaintBoxSides(*session.surface, graph.kind, panel.box);
-  session.surface->ForeColour = before;
-  graph.curves.push_back(std::move(curve));
-}
-
-std::vector<double> RowPositions(Session& session, std::size_t size) {
-  auto& s = session.state;
-  const RowSpan rows = RowsOfRun(session, size);
-  if (HasLogSteps(session) && s.Xstep > 0 && s.PlotXmin > 0)
-    s.LogStepRatio = std::pow(s.PlotXmax / s.PlotXmin, 1 / s.Xstep);
-  const bool stored = AreStored(s.XValues, rows);
-  std::vector<double> x(size, notComputed);
-  for (std::size_t i = rows.first; i <= rows.last && i < size; ++i)
-    x[i] = stored ? s.XValues[i] : RuledPosition(session, i);
-  return x;
-}
-
-void ChooseYLimits(Session& session, const CurveSet& curves, XRange range) {
-  auto& s = session.state;
-  const bool automaticTop = IsAutomatic(session.form1.cboYmax);
-  const bool automaticBottom = IsAutomatic(session.form1.cboYmin);
-  const std::size_t size = std::min(curves.perpendicular.size(), curves.parallel.size());
-  const RowSpan rows = RowsWithin(RowPositions(session, size), range);
+void DrawFrame(Page& page, const RunToDraw& run, PanelPlace place, std::span<const double> x,
+               std::span<const double> first, std::span<const double> second) {
+  ScaleLook scale = run.look.scale;
+  scale.polar = page.kind.polar;
+  const RowSpan rows = RowsWithin(x, scale.x);
   constexpr double noBottom = 1e30;
-  double max1 = 0, max2 = 0, min1 = noBottom, min2 = 10 * noBottom;
+  double top = 0, bottom1 = noBottom, bottom2 = 10 * noBottom;
   for (std::size_t i = rows.first; i <= rows.last; ++i) {
-    const double a = curves.perpendicular[i], b = curves.parallel[i];
-    if (automaticTop && std::isfinite(a)) max1 = AMAX(max1, a);
-    if (automaticTop && std::isfinite(b)) max2 = AMAX(max2, b);
-    if (automaticBottom && std::isfinite(a)) min1 = AMIN(min1, a);
-    if (automaticBottom && std::isfinite(b)) min2 = AMIN(min2, b);
+    const double a = first[i], b = second[i];
+    if (!scale.ymax && std::isfinite(a)) top = AMAX(top, a);
+    if (!scale.ymax && std::isfinite(b)) top = AMAX(top, b);
+    if (!scale.ymin && std::isfinite(a)) bottom1 = AMIN(bottom1, a);
+    if (!scale.ymin && std::isfinite(b)) bottom2 = AMIN(bottom2, b);
   }
-  if (FirstArrayCounts(s)) {
-    max2 = max1;
-    min2 = min1;
-  }
-  s.YAutoMax = AMAX(max1, max2);
-  GridYmax(session, s.YAutoMax, s.Ymax);
-  s.YAutoMin = AMIN(min1, min2);
+  AxisLimits limits{scale.x.xmin, scale.x.xmax, 0, 1};
+  page.autoTop = top;
+  limits.ymax = GridYmax(scale, page.autoTop, page.scale);
+  page.autoBottom = AMIN(bottom1, bottom2);
   // Where nothing was computed the last scale serves.
-  if (s.YAutoMin >= noBottom) s.YAutoMin = std::min(s.StoredBottom, s.Ymax / 10);
-  GridYmin(session, s.YAutoMin, s.Ymin);
+  if (page.autoBottom >= noBottom) page.autoBottom = std::min(page.scale.StoredBottom, limits.ymax / 10);
+  limits.ymin = GridYmin(scale, page.autoBottom, limits.ymax, page.scale);
+  if (page.kind.logY && page.autoBottom == 0) page.autoBottom = 0.0001;
+  Grid(page, place, limits);
+}
+
+std::vector<int> KindsWanted(const Look& look) {
+  std::vector<int> kinds;
+  if (look.Wants(Polarisations::Parallel)) kinds.push_back(parallelKind);
+  if (look.Wants(Polarisations::Unpolarised)) kinds.push_back(unpolarisedKind);
+  if (look.Wants(Polarisations::Perpendicular)) kinds.push_back(perpendicularKind);
+  return kinds;
+}
+
+std::string CurveName(const PageKind& kind, int curveKind, bool secondPanel) {
+  const auto which = static_cast<CurveKind>(curveKind);
+  const std::string name(CurveNameOf(kind.graph, which));
+  if (!secondPanel) return name;
+  switch (kind.second) {
+    case SecondPanel::Ratios:
+      return std::string(RatioNameOf(which));
+    case SecondPanel::Polarisation:
+      return std::string(SecondTitleOf(false));
+    default:
+      return std::string(SecondTitleOf(true)) + ": " + name;
+  }
+}
+
+DiscWeights SunCorrection(const RunToDraw& run) {
+  return SunDiscWeights(StepOf(run.results.asked), run.look.sun.rectangular);
+}
+
+std::vector<double> SeenUnderSun(const RunToDraw& run, std::span<const double> y) {
+  const RunRequest& asked = run.results.asked;
+  const AngleRows* rows = RowsOf(asked.run);
+  if (!run.look.sun.disc || rows == nullptr) return {y.begin(), y.end()};
+  // Of a beam, and of drops on a surface, angles of both signs differ.
+  const bool mirrored =
+      asked.method.method != Method::Heiligenschein && asked.method.beam.profile == RayBeam::Profile::PlaneWave;
+  return FoldedWithDisc(y, SunCorrection(run), mirrored ? static_cast<std::size_t>(2 * rows->NANG - 1) : 0);
 }
 
 }  // namespace lumivex

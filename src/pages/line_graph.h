@@ -2,52 +2,57 @@
 
 #include <span>
 
-#include "axes/panel_map.h"
-#include "record/session.h"
+#include "axes/curve_smoothing.h"
+#include "pages/look.h"
+#include "runs/curves.h"
 
 namespace lumivex {
 
-/// The curves of one graph: perpendicular, parallel, unpolarised; first index 1. A value that is not a number was not
-/// computed: it does not count for the limits and lifts the pen.
-struct CurveSet {
-  std::span<const double> perpendicular, parallel, unpolarised;
+/// A run on its way onto a page.
+struct RunToDraw {
+  const Results& results;
+  const Look& look;
+
+  CurveLook Curves() const { return {look.amplitude, look.invWavelength}; }
 };
 
-/// Draws a graph against angle, size, wavelength or index. With PlotMode 1 the limits are read or chosen, a fresh frame
-/// is drawn and PlotMode becomes 2; with PlotMode 2, or with a curve read from a file, the curves are drawn over the
-/// frame on the screen and on its limits (a frame of another graph is replaced). With PlotMode 0 "Automatic" means
-/// YAutoMin and YAutoMax as they stand; with PlotMode 4 nothing is drawn.
+/// What a page of those results shows.
+PageKind KindOf(const RunToDraw& run);
+
+/// Puts a graph against angle, size, wavelength or index on a page. A page without panels gets a frame first, with the
+/// limits of the look or such as suit the curves; otherwise the curves join those on it, on its limits.
 ///
-/// The curves that cboPol asks for are drawn in the order parallel, unpolarised, perpendicular.
-void Display(Session& session, std::span<const double> y1, std::span<const double> y2, std::span<const double> y3);
+/// The curves that are wanted come in the order parallel, unpolarised, perpendicular. A second panel stands below: the
+/// phases of both amplitudes from 0 to 360 degrees, or the degree of linear polarisation from -1 to 1. Of the
+/// scattering matrix, S11 stands above and S12, S33 and S34 over S11 below, each in a colour of its own. A polar plot
+/// has one panel.
+void Display(Page& page, const RunToDraw& run, const Curves& curves);
 
-/// The same in a part of the page.
-void DisplayInBox(Session& session, const GraphBox& box, const CurveSet& curves);
+/// Which curve of a run.
+struct CurvePlace {
+  std::size_t panel = 0;
+  int kind = 1;  ///< 1 perpendicular, 2 parallel, 3 unpolarised
+};
 
-/// Draws the frame for those curves, unless they go over the one on the screen.
-void FrameInBox(Session& session, const GraphBox& box, const CurveSet& curves);
+/// A curve for the page: values folded with the disc of the sun where it shines, with the pen of the look.
+/// @param x, y  first index 1.
+PageCurve Plot(const Page& page, const RunToDraw& run, std::span<const double> x, std::span<const double> y,
+               CurvePlace place, Colour colour);
 
-/// Whether the next Display draws over the graph on the screen.
-bool DrawsOver(const Session& session);
+/// The frame of a fresh page, with limits for the two curves that its scale is chosen for.
+void DrawFrame(Page& page, const RunToDraw& run, PanelPlace place, std::span<const double> x,
+               std::span<const double> first, std::span<const double> second);
 
-/// Draws one result array in the colour of the surface and keeps it with the graph. CurveKind names the curve; the rows
-/// of the last run give x. Yields first; a stop requested then leaves the curve out.
-/// @param y      first index 1.
-/// @param panel  index of the panel of the graph on the screen.
-void Plot(Session& session, std::span<const double> y, std::size_t panel = 0);
+/// The curves that the look wants, in the order in which they are drawn.
+std::vector<int> KindsWanted(const Look& look);
 
-/// What Plot draws of a result array: values folded with the disc of the sun where it shines, x by the rows of the last
-/// run, the pen of the menus, the colour of the surface.
-KeptCurve CapturedCurve(Session& session, std::span<const double> y, std::size_t panel);
+/// Name of a curve as the legend, the read-out and the tables have it.
+std::string CurveName(const PageKind& kind, int curveKind, bool secondPanel);
 
-/// Draws a curve whose x, y and look are given, and keeps it.
-void PlotCurve(Session& session, KeptCurve curve);
+/// The disc of the sun for the angular steps of a run.
+DiscWeights SunCorrection(const RunToDraw& run);
 
-/// x of each row of the stored arrays (first index 1), in the unit of the axis; not a number for rows outside the last
-/// run.
-std::vector<double> RowPositions(Session& session, std::size_t size);
-
-/// Chooses Ymin and Ymax for curves in the rows from xmin to xmax, with YAutoMin and YAutoMax.
-void ChooseYLimits(Session& session, const CurveSet& curves, XRange range);
+/// A curve as a source of the sun's width shows it; as it is for a point.
+std::vector<double> SeenUnderSun(const RunToDraw& run, std::span<const double> y);
 
 }  // namespace lumivex

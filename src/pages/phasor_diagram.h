@@ -1,41 +1,34 @@
 #pragma once
 
-#include "record/groups/graph_state.h"
-#include "record/session.h"
-#include "solvers/angles/amplitude_table.h"
+#include <optional>
+
+#include "pages/line_graph.h"
+#include "pages/read_out.h"
+#include "record/drawing_surface.h"
 
 namespace lumivex {
 
-/// Which terms of the diagram have their number beside the dot.
-struct DotLabels {
-  enum class Rule {
-    All,       ///< every term
-    UpToTerm,  ///< terms up to the number
-    AboveSize  ///< terms of at least 10^-number times the top of the scale
-  };
-  Rule rule = Rule::All;
-  int number = 0;
-};
+/// The phasor diagram of a Debye analysis: what is left of a Mie amplitude after each term as dots in the complex
+/// plane, phase clockwise from the top, modulus outward on the limits of the look or on decades around all terms.
+/// Nothing for other results.
+std::optional<PagePhasors> PlotDots(const RunToDraw& run, const PageGeometry& geometry);
 
-/// Which polarisation a set of terms belongs to: cboPol chooses which are drawn.
-enum class DotSeries { Perpendicular, Parallel };
+/// Where circle and table stand on a surface: where it is too narrow the table gives way first, then the circle.
+PhasorPlace PlacePhasors(const PageGeometry& geometry);
 
-/// The phasor diagram: the terms of a series at one point as dots in the complex plane, phase clockwise from the top,
-/// modulus outward on the scale from ymin to ymax. On a plain run (PlotMode 1) the circle with its decades is drawn
-/// first. Term 1 is labelled " Mie", term j with j - 1.
-///
-/// Where the surface is too narrow for the circle at its place, it is smaller and stands further left.
-///
-/// @param a            terms, rows 1 to `count`.
-/// @param ymin, ymax   values at the centre and at the rim.
-void PlotDots(Session& session, const AmplitudeTable& a, int count, double ymin, double ymax,
-              const DotLabels& labels = {}, DotSeries series = DotSeries::Perpendicular);
+/// Phase of a complex number from 0 to 2 pi.
+double PhasorPhase(double re, double im);
 
-/// Draws the Debye analysis that stands in the record (DebyeDots1, DebyeDots2) with the present scale, labels and
-/// polarisations: circle, dots, and the terms as a table in the box beside it. A new surface, as a frame is.
-void DrawDebyeAnalysis(Session& session);
+/// Where the dot of a term lies; nothing below the scale. Term 1 is the Mie amplitude, term j what is left after j - 1.
+std::optional<SurfacePoint> DotPlace(const PagePhasors& dots, const AmplitudeTable& terms, int j);
 
-/// Whether the graph on the screen is that.
-bool ShowsDebyeAnalysis(const GraphState& graph);
+/// The words of a term: "Mie", "- p = 0", "- p = 0 to 3".
+std::string TermWords(int j);
+
+/// Paints circle, rings, dots with their numbers and the table of the terms.
+void PaintPhasors(DrawingSurface& surface, const PagePhasors& dots, Colour ground);
+
+/// Modulus and phase at a place in the circle, and the nearest dot.
+std::optional<GraphReading> ReadPhasors(const PagePhasors& dots, double surfaceX, double surfaceY);
 
 }  // namespace lumivex

@@ -26,21 +26,19 @@ constexpr double ringRounding = 1e-9;
 
 constexpr std::array rimAngles = {0, 180, 330, 210, 300, 240, 270, 30, 150, 60, 120, 90};
 
-void Refuse(Session& session, std::string_view text) {
-  session.platform.Message("Option not available", text);
-}
-
 void PaintRings(FramePaint& paint, const PolarMap& map) {
   auto& surface = paint.surface;
-  const auto ring = [&](double part) { surface.Circle(map.centreX, map.centreY, part * map.radius, paint.gridColour); };
-  surface.FillColour = paint.session.state.PlotBackColourMono;
+  const auto ring = [&](double part) {
+    surface.Circle(map.centreX, map.centreY, part * map.radius, paint.style.gridColour);
+  };
+  surface.FillColour = paint.style.ground;
   surface.FillStyle = 0;
   ring(1);
   if (!map.logarithmic) {
     for (const double part : {0.8, 0.6, 0.4, 0.2}) ring(part);
   } else {
     const AxisLimits& limits = paint.map.limits;
-    const double perDecade = paint.kind.amplitude || paint.kind.ampPhase ? 0.5 : 1;
+    const double perDecade = paint.kind.amplitude || paint.kind.IsComplexPolar() ? 0.5 : 1;
     for (int k = 1; k <= mostRings; ++k) {
       const double value = limits.ymax / std::pow(10.0, k * perDecade);
       const double part = std::log(value / limits.ymin) / std::log(limits.ymax / limits.ymin);
@@ -53,7 +51,7 @@ void PaintRings(FramePaint& paint, const PolarMap& map) {
 void PaintSpokes(FramePaint& paint, const PolarMap& map) {
   for (int a = 0; a <= 180; a += 30) {
     const double x = map.radius * std::cos(a * pi / 180), y = map.radius * std::sin(a * pi / 180);
-    paint.Rule(map.centreX + x, map.centreY + y, map.centreX - x, map.centreY - y, paint.gridColour);
+    paint.Rule(map.centreX + x, map.centreY + y, map.centreX - x, map.centreY - y, paint.style.gridColour);
   }
 }
 
@@ -79,7 +77,7 @@ void PaintRimAngles(FramePaint& paint, const PolarMap& map) {
 void PaintScaleText(FramePaint& paint, const PolarMap& map) {
   auto& surface = paint.surface;
   std::vector<std::string> lines;
-  if (paint.kind.ampPhase) lines.emplace_back("Amplitude");
+  if (paint.kind.IsComplexPolar()) lines.emplace_back("Amplitude");
   lines.emplace_back(map.logarithmic ? "Logarithmic scale" : "Linear scale");
   lines.push_back("Value at outer circle = " + Format(map.outer, "Scientific"));
   lines.push_back("Value at centre = " + Format(map.logarithmic ? map.inner : 0, "Scientific"));
@@ -98,58 +96,24 @@ void PaintScaleText(FramePaint& paint, const PolarMap& map) {
   }
 }
 
-bool RangeIsWhole(const Form1& form) {
-  return Val(form.txtXmin.Text) == 0 && Val(form.txtXmax.Text) == 180;
-}
-
 }  // namespace
 
-void mnuPolarPlot_Click(Session& session) {
-  auto& form = session.form1;
-  if (form.mnuPolarPlot.Checked) {
-    form.mnuPolarPlot.Checked = false;
-  } else if (form.mnuIntPol.Checked) {
-    Refuse(session, "Polar plots are not available for graphs of Intensity and Polarisation");
-    return;
-  } else if (!form.mnuAmpPhase.Checked && !form.mnuPlaneWave.Checked && !RangeIsWhole(form)) {
-    Refuse(session, "Polar plots are available only when scattering angles\ncover entire range from 0 to 180 degrees");
-    return;
-  } else if (session.state.NumberWavelengths != 1) {
-    Refuse(session, "Polar plots are available only for single wavelength calculations");
-    return;
-  } else {
-    form.mnuPolarPlot.Checked = true;
-  }
-  session.events.Raise("cmdReplot_Click");
-}
-
-int AngleDelta(const Session& session) {
-  const int rows = 2 * session.state.NANG - 1;
-  if (rows < 2) return 1;
-  const double row = Val(session.form1.txtAngle.Text) * (rows - 1) / 180 + 1;
-  return ToWhole(std::clamp(row, 1.0, static_cast<double>(rows)));
-}
-
 void PaintPolarFrame(FramePaint& paint) {
-  const PolarMap map = PolarMapOf(paint.session.state, paint.kind, paint.map.limits);
+  const PolarMap map = PolarMapOf(paint.page);
   PaintRings(paint, map);
   PaintSpokes(paint, map);
   paint.surface.ForeColour = colours::Black;
   PaintRimAngles(paint, map);
   PaintScaleText(paint, map);
-  paint.session.state.Drawn.labelPlaces = paint.labels.Taken();
   paint.surface.FontBold = false;
 }
 
-void PaintPolarTicks(Session& session, const KeptPanel& panel, const KeptCurve& curve) {
-  auto& surface = *session.surface;
-  const auto rows = PlacedRows(session.state, panel, curve);
+void PaintPolarTicks(DrawingSurface& surface, const Page& page, const PageCurve& curve, TickLabels& labels) {
+  const auto rows = PlacedRows(page, page.panels[curve.panel], curve);
   const SurfacePen pen = surface;
   surface.ForeColour = curve.colour;
   surface.FontSize = 7;
   surface.FontBold = false;
-  auto& places = session.state.Drawn.labelPlaces;
-  TickLabels labels(surface, places);
   const auto angleAt = [&](std::size_t row) { return curve.angle.empty() ? curve.x[row] : curve.angle[row]; };
   bool started = false;
   std::size_t count = 0;
@@ -184,7 +148,6 @@ void PaintPolarTicks(Session& session, const KeptPanel& panel, const KeptCurve& 
     }
     ++count;
   }
-  places = labels.Taken();
   static_cast<SurfacePen&>(surface) = pen;
 }
 

@@ -6,6 +6,8 @@
 
 #include "axes/polar_coordinates.h"
 #include "pages/curve_path.h"
+#include "pages/phasor_diagram.h"
+#include "record/catalogue/graph_texts.h"
 #include "record/number_text.h"
 
 namespace lumivex {
@@ -13,7 +15,6 @@ namespace lumivex {
 namespace {
 
 constexpr double degreesPerRadian = 180 / 3.14159265358979;
-constexpr std::string_view squareMicrometres = "sq \u00B5m";
 
 std::string WithUnit(double value, int digits, std::string_view unit) {
   const std::string number(Trim(Significant(value, digits)));
@@ -28,8 +29,8 @@ int DigitsOfX(double x, XRange range) {
 }
 
 /// Cursor values of a polar plot.
-bool ReadPolar(const GraphState& graph, double surfaceX, double surfaceY, GraphReading& reading) {
-  const PolarMap map = PolarMapOf(graph, graph.Drawn.kind, graph.Drawn.panels.front().limits);
+bool ReadPolar(const Page& page, double surfaceX, double surfaceY, GraphReading& reading) {
+  const PolarMap map = PolarMapOf(page);
   double r = 0, theta = 0;
   RectangularPolar(surfaceX - map.centreX, surfaceY - map.centreY, r, theta);
   if (!(r <= map.radius) || !(map.radius > 0)) return false;
@@ -39,11 +40,11 @@ bool ReadPolar(const GraphState& graph, double surfaceX, double surfaceY, GraphR
   return true;
 }
 
-bool ReadPanels(const GraphState& graph, double surfaceX, double surfaceY, GraphReading& reading) {
-  const auto& panels = graph.Drawn.panels;
+bool ReadPanels(const Page& page, double surfaceX, double surfaceY, GraphReading& reading) {
+  const auto& panels = page.panels;
   for (std::size_t i = 0; i < panels.size(); ++i) {
     if (!panels[i].box.Holds(surfaceX, surfaceY)) continue;
-    const PanelMap map{panels[i].box, panels[i].limits, graph.Drawn.kind.logX, panels[i].logY};
+    const PanelMap map{panels[i].box, panels[i].limits, page.kind.logX, panels[i].logY};
     reading.panel = i;
     reading.x = map.XAt(surfaceX);
     reading.y = map.YAt(surfaceY);
@@ -52,14 +53,14 @@ bool ReadPanels(const GraphState& graph, double surfaceX, double surfaceY, Graph
   return false;
 }
 
-void FindNearest(const GraphState& graph, double surfaceX, double surfaceY, GraphReading& reading) {
+void FindNearest(const Page& page, double surfaceX, double surfaceY, GraphReading& reading) {
   double nearest = std::numeric_limits<double>::infinity();
-  const KeptPanel& panel = graph.Drawn.panels[reading.panel];
-  for (std::size_t c = 0; c < graph.Drawn.curves.size(); ++c) {
-    const KeptCurve& curve = graph.Drawn.curves[c];
+  const PagePanel& panel = page.panels[reading.panel];
+  for (std::size_t c = 0; c < page.curves.size(); ++c) {
+    const PageCurve& curve = page.curves[c];
     if (curve.panel != reading.panel) continue;
     const RowSpan shown = RowsWithin(curve.x, {panel.limits.xmin, panel.limits.xmax});
-    for (const auto& [row, p] : PlacedRows(graph, panel, curve)) {
+    for (const auto& [row, p] : PlacedRows(page, panel, curve)) {
       const double distance = std::hypot(p.x - surfaceX, p.y - surfaceY);
       if (!(distance < nearest)) continue;
       nearest = distance;
@@ -73,16 +74,16 @@ void FindNearest(const GraphState& graph, double surfaceX, double surfaceY, Grap
 }
 
 /// All that an axis may show: 0 to 180 degrees, otherwise the frame and its curves.
-XRange Bounds(const GraphState& graph) {
-  if (graph.Drawn.kind.graphType < 10 && !graph.Drawn.kind.fourier) {
+XRange Bounds(const Page& page) {
+  if (page.kind.graph.AgainstAngle() && !page.kind.fourier) {
     // A logarithmic axis has no 0.
-    const double lowest = graph.Drawn.kind.logX ? std::min(graph.Drawn.home.xmin, 0.01) : 0;
+    const double lowest = page.kind.logX ? std::min(page.home.xmin, 0.01) : 0;
     return {lowest, 180};
   }
-  XRange bounds = graph.Drawn.home;
-  for (const auto& curve : graph.Drawn.curves) {
+  XRange bounds = page.home;
+  for (const auto& curve : page.curves) {
     for (std::size_t i = 1; i < curve.x.size(); ++i) {
-      if (!std::isfinite(curve.x[i]) || (graph.Drawn.kind.logX && curve.x[i] <= 0)) continue;
+      if (!std::isfinite(curve.x[i]) || (page.kind.logX && curve.x[i] <= 0)) continue;
       bounds.xmin = std::min(bounds.xmin, curve.x[i]);
       bounds.xmax = std::max(bounds.xmax, curve.x[i]);
     }
@@ -90,80 +91,63 @@ XRange Bounds(const GraphState& graph) {
   return bounds;
 }
 
-bool CanZoom(const GraphState& graph) {
-  return !graph.Drawn.panels.empty() && !graph.Drawn.kind.polar;
+bool CanZoom(const Page& page) {
+  return !page.panels.empty() && !page.kind.polar;
+}
+
+std::string_view XUnit(const PageKind& kind) {
+  return kind.fourier ? "" : XUnitOf(kind.graph);
+}
+
+std::string_view YUnit(const PageKind& kind, bool secondPanel) {
+  if (secondPanel) return kind.second == SecondPanel::Phases ? "deg" : "";
+  return YUnitOf(kind.graph);
 }
 
 }  // namespace
 
-std::string_view XUnit(const GraphKind& kind) {
-  const int type = kind.graphType, sub = kind.graphSubType;
-  if (kind.fourier) return "";
-  if (kind.IsTwoAngle()) return squareMicrometres;
-  if (type < 10) return "deg";
-  if (type == 10 || type == 15) return "nm";
-  if (type == 11) return sub == 2 ? "" : "\u00B5m";
-  if (type == 14) return sub == 3 || sub == 4 || sub == 9 || sub == 12 ? "" : "\u00B5m";
-  if (type == 16 || type == 17) return sub == 1 ? "\u00B5m" : sub == 3 ? "nm" : "";
-  if (type == 18) return sub == 3 ? "nm" : "\u00B5m";
-  return "";
-}
-
-std::string_view YUnit(const GraphKind& kind, bool secondPanel) {
-  if (secondPanel) return kind.ampPhase ? "deg" : "";
-  if (kind.IsTwoAngle()) return squareMicrometres;
-  const int type = kind.graphType, sub = kind.graphSubType;
-  if ((type == 14 && (sub == 2 || sub == 4 || sub == 6)) || (type == 15 && sub == 2)) return "sq m";
-  if (type == 1 && sub == 3) return "W/sq m";
-  return type == 18 ? "W" : "";
-}
-
-std::optional<GraphReading> ReadGraph(const GraphState& graph, double surfaceX, double surfaceY) {
-  const KeptGraph& drawn = graph.Drawn;
+std::optional<GraphReading> ReadAt(const Page& page, double surfaceX, double surfaceY) {
+  if (page.phasors) return ReadPhasors(*page.phasors, surfaceX, surfaceY);
   GraphReading reading;
-  if (drawn.panels.empty()) return std::nullopt;
+  if (page.panels.empty()) return std::nullopt;
   const bool inside =
-      drawn.kind.polar ? ReadPolar(graph, surfaceX, surfaceY, reading) : ReadPanels(graph, surfaceX, surfaceY, reading);
+      page.kind.polar ? ReadPolar(page, surfaceX, surfaceY, reading) : ReadPanels(page, surfaceX, surfaceY, reading);
   if (!inside) return std::nullopt;
-  FindNearest(graph, surfaceX, surfaceY, reading);
+  FindNearest(page, surfaceX, surfaceY, reading);
 
-  const KeptPanel& panel = drawn.panels[reading.panel];
+  const PagePanel& panel = page.panels[reading.panel];
   const XRange range{panel.limits.xmin, panel.limits.xmax};
-  const std::string_view xUnit = XUnit(drawn.kind), yUnit = YUnit(drawn.kind, panel.second);
+  const std::string_view xUnit = XUnit(page.kind), yUnit = YUnit(page.kind, panel.second);
   reading.text = WithUnit(reading.x, DigitsOfX(reading.x, range), xUnit) + "   " + WithUnit(reading.y, 4, yUnit);
-  if (reading.onCurve && drawn.kind.IsTwoAngle()) {
-    reading.text += "      " + drawn.curves[reading.curve].name + ", r = " + WithUnit(reading.curveX, 6, "\u00B5m");
+  if (reading.onCurve && page.kind.IsTwoAngle()) {
+    reading.text += "      " + page.curves[reading.curve].name + ", r = " + WithUnit(reading.curveX, 6, "\u00B5m");
   } else if (reading.onCurve) {
-    reading.text += "      " + drawn.curves[reading.curve].name + ": " +
+    reading.text += "      " + page.curves[reading.curve].name + ": " +
                     WithUnit(reading.curveX, DigitsOfX(reading.curveX, range), xUnit) + "   " +
                     WithUnit(reading.curveY, 6, yUnit);
   }
   return reading;
 }
 
-XRange RangeShown(const GraphState& graph) {
-  if (graph.Drawn.panels.empty()) return {};
-  const AxisLimits& limits = graph.Drawn.panels.front().limits;
+XRange RangeShown(const Page& page) {
+  if (page.panels.empty()) return {};
+  const AxisLimits& limits = page.panels.front().limits;
   return {limits.xmin, limits.xmax};
 }
 
-XRange HomeRange(const GraphState& graph) {
-  return graph.Drawn.home;
+XRange ZoomAt(const Page& page, double surfaceX, double factor) {
+  const XRange shown = RangeShown(page);
+  if (!CanZoom(page)) return shown;
+  const PagePanel& panel = page.panels.front();
+  const PanelMap map{panel.box, panel.limits, page.kind.logX, panel.logY};
+  return ZoomedRange(shown, factor, map.XAt(surfaceX), Bounds(page), page.kind.logX);
 }
 
-XRange ZoomAt(const GraphState& graph, double surfaceX, double factor) {
-  const XRange shown = RangeShown(graph);
-  if (!CanZoom(graph)) return shown;
-  const KeptPanel& panel = graph.Drawn.panels.front();
-  const PanelMap map{panel.box, panel.limits, graph.Drawn.kind.logX, panel.logY};
-  return ZoomedRange(shown, factor, map.XAt(surfaceX), Bounds(graph), graph.Drawn.kind.logX);
-}
-
-XRange PanBy(const GraphState& graph, double surfaceUnits) {
-  const XRange shown = RangeShown(graph);
-  if (!CanZoom(graph)) return shown;
-  const double width = graph.Drawn.panels.front().box.Width();
-  return PannedRange(shown, -surfaceUnits / width, Bounds(graph), graph.Drawn.kind.logX);
+XRange PanBy(const Page& page, double surfaceUnits) {
+  const XRange shown = RangeShown(page);
+  if (!CanZoom(page)) return shown;
+  const double width = page.panels.front().box.Width();
+  return PannedRange(shown, -surfaceUnits / width, Bounds(page), page.kind.logX);
 }
 
 }  // namespace lumivex

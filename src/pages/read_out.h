@@ -4,7 +4,7 @@
 #include <string>
 
 #include "record/drawing_surface.h"
-#include "record/groups/graph_state.h"
+#include "record/page.h"
 
 namespace lumivex {
 
@@ -19,22 +19,17 @@ struct GraphReading {
   std::string text;               ///< all of it in one line for the status bar, with units
 };
 
-/// Reads the graph on the screen at a place of the surface; nothing outside its panels.
-std::optional<GraphReading> ReadGraph(const GraphState& graph, double surfaceX, double surfaceY);
-
-/// Units of the axes: "deg", "nm", "\u00B5m" or empty for numbers; "sq m", "W" or empty.
-std::string_view XUnit(const GraphKind& kind);
-std::string_view YUnit(const GraphKind& kind, bool secondPanel);
+/// Reads a page at a place of its surface; nothing outside its panels and circles.
+std::optional<GraphReading> ReadAt(const Page& page, double surfaceX, double surfaceY);
 
 /// The x range after a zoom at a place of the surface: `factor` below 1 shows less, the value under the place stays
 /// there. Angles keep within 0 to 180 degrees, other axes within the range of the frame and of its curves.
-XRange ZoomAt(const GraphState& graph, double surfaceX, double factor);
+XRange ZoomAt(const Page& page, double surfaceX, double factor);
 
 /// The x range after a drag by so many surface units to the right.
-XRange PanBy(const GraphState& graph, double surfaceUnits);
+XRange PanBy(const Page& page, double surfaceUnits);
 
-/// The x range on the screen, and that before any zoom.
-XRange RangeShown(const GraphState& graph);
-XRange HomeRange(const GraphState& graph);
+/// The x range shown.
+XRange RangeShown(const Page& page);
 
 }  // namespace lumivex

@@ -12,10 +12,6 @@ namespace {
 constexpr double smallestPartOfTop = 1e-20;
 constexpr double decadesShown = 1e-10;
 
-bool IsAutomatic(const SelectionList& list) {
-  return SameName(Trim(list.Text), "Automatic");
-}
-
 double LogTop(double value) {
   return std::pow(10.0, std::floor(RuleLog10(value)) + 1);
 }
@@ -42,51 +38,43 @@ std::string TickText(double value) {
   return Format(value, "#0.##########");
 }
 
-void GridxStep(const GraphState& graph, double xmin, double xmax, double& step, double& range, double& labelStep) {
+void GridxStep(double oddTest, double xmin, double xmax, double& step, double& range, double& labelStep) {
   range = xmax - xmin;
   step = LadderStep(range);
   labelStep = 2 * step;
-  if (range == 10 && IsOdd(graph.GridOddTest)) {
+  if (range == 10 && IsOdd(oddTest)) {
     step = 1;
     labelStep = 5;
   }
 }
 
-void GridYmax(Session& session, double value, double& result) {
-  auto& state = session.state;
-  if (state.SecondPanel == 1) return;
-  if (!IsAutomatic(session.form1.cboYmax)) {
-    result = Val(session.form1.cboYmax.Text);
-  } else if (state.PlotMode == 2 || !(value > 0) || !std::isfinite(value)) {
-    result = state.StoredTop;
-  } else if (session.form1.OptLog.Checked) {
-    result = session.form1.mnuPolarPlot.Checked ? value : LogTop(value);
-  } else {
-    // A value of 10^p takes the unit of the call before, so that it is kept from call to call.
-    result = RoundedTop(value, state.GridUnit);
+double GridYmax(const ScaleLook& look, double value, ScaleMemory& memory) {
+  double result = memory.StoredTop;
+  if (look.ymax) {
+    result = *look.ymax;
+  } else if (value > 0 && std::isfinite(value)) {
+    if (look.logY)
+      result = look.polar ? value : LogTop(value);
+    else
+      // A value of 10^p takes the unit of the call before, so that it is kept from call to call.
+      result = RoundedTop(value, memory.GridUnit);
   }
-  state.StoredTop = result;
+  memory.StoredTop = result;
+  return result;
 }
 
-void GridYmin(Session& session, double value, double& result) {
-  auto& state = session.state;
-  const auto& form = session.form1;
-  if (!IsAutomatic(form.cboYmin)) {
-    result = Val(form.cboYmin.Text);
-  } else if (state.PlotMode == 2) {
-    result = state.StoredBottom;
-  } else if (!form.OptLog.Checked) {
-    result = 0;
-  } else {
+double GridYmin(const ScaleLook& look, double value, double ymax, ScaleMemory& memory) {
+  double result = 0;
+  if (look.ymin) {
+    result = *look.ymin;
+  } else if (look.logY) {
     double bottom = value;
-    if (!(bottom > 0) || bottom / state.Ymax < smallestPartOfTop) bottom = state.Ymax * decadesShown;
-    if (form.mnuPolarPlot.Checked) {
-      result = state.Ymax / std::pow(10.0, std::floor(Log10Guarded(state.Ymax / bottom)) + 1);
-    } else {
-      result = std::pow(10.0, std::floor(RuleLog10(bottom)));
-    }
+    if (!(bottom > 0) || bottom / ymax < smallestPartOfTop) bottom = ymax * decadesShown;
+    result = look.polar ? ymax / std::pow(10.0, std::floor(Log10Guarded(ymax / bottom)) + 1)
+                        : std::pow(10.0, std::floor(RuleLog10(bottom)));
   }
-  state.StoredBottom = result;
+  memory.StoredBottom = result;
+  return result;
 }
 
 }  // namespace lumivex

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "axes/scale_rules.h"
-#include "record/session.h"
+#include "pages/look.h"
 
 namespace lumivex {
 
@@ -16,21 +16,19 @@ std::string RoundedText(double x, int decimals);
 std::string TickText(double value);
 
 /// Ticks of a linear x axis.
-/// @param graph      holds the number that the frame before tested for being odd: a range of exactly 10 then has ticks
-///                   at every 1 and labels at every 5.
+/// @param oddTest    number that the frame before tested for being odd: a range of exactly 10 then has ticks at every 1
+///                   and labels at every 5.
 /// @param step       distance of the ticks (out).
 /// @param range      xmax - xmin (out).
 /// @param labelStep  distance of the labels (out).
-void GridxStep(const GraphState& graph, double xmin, double xmax, double& step, double& range, double& labelStep);
+void GridxStep(double oddTest, double xmin, double xmax, double& step, double& range, double& labelStep);
 
-/// Top of the vertical axis for curves that reach up to `value`: the number in cboYmax, or with "Automatic" a round
-/// number above; in an overplot, and for a value that is not positive, the top of the last scaling. While the second
-/// panel is drawn the result stays as it is.
-void GridYmax(Session& session, double value, double& result);
+/// Top of the vertical axis for curves that reach up to `value`: the number asked for, or a round number above; for a
+/// value that is not positive the top of the last scaling, which it becomes.
+double GridYmax(const ScaleLook& look, double value, ScaleMemory& memory);
 
-/// Bottom of the vertical axis for curves that reach down to `value`, which has Ymax above it: the number in cboYmin,
-/// or with "Automatic" 0 on a linear axis and a power of ten on a logarithmic one; in an overplot the bottom of the
-/// last scaling.
-void GridYmin(Session& session, double value, double& result);
+/// Bottom of the vertical axis for curves that reach down to `value`, under the top `ymax`: the number asked for, or 0
+/// on a linear axis and a power of ten on a logarithmic one. It becomes the bottom of the last scaling.
+double GridYmin(const ScaleLook& look, double value, double ymax, ScaleMemory& memory);
 
 }  // namespace lumivex

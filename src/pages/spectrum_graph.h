@@ -1,27 +1,27 @@
 #pragma once
 
-#include <string>
-
-#include "record/session.h"
+#include "pages/line_graph.h"
 
 namespace lumivex {
 
-/// Draws the results of several wavelengths, with a fresh frame where PlotMode is 1.
+/// Puts the results of several wavelengths on a page.
 ///
-/// Up to seven wavelengths are curves of their own, each in the colour of its light; of "RGB" these are the three
-/// components, which chkComponents shows. Otherwise the sum over the spectrum is one curve, coloured along its way as
-/// the light is that is scattered there. mnuIntPol shows the sums with their degree of polarisation below.
-void PlotNColour(Session& session);
+/// Up to seven wavelengths are curves of their own, each in the colour of its light; of red, green and blue alone these
+/// are the three components, which the look may want. Otherwise the sum over the spectrum is one curve, coloured along
+/// its way as the light is that is scattered there. With a second panel the sums stand above their degree of
+/// polarisation.
+void PlotNColour(Page& page, const RunToDraw& run);
 
-/// Draws the curves that cboPol asks for, in the order parallel, unpolarised, perpendicular.
-/// @param wavelength  1 to WavelengthsDone, in its colour; 0 is the sum over the spectrum in true colour: perpendicular
-///                    at full brightness, the others darker.
-void PlotColour(Session& session, int wavelength);
+/// The curves that are wanted, in the order parallel, unpolarised, perpendicular.
+/// @param curves      of the wavelength, or of the sum.
+/// @param wavelength  in its colour, from 1; 0 is the sum over the spectrum in true colour: perpendicular at full
+///                    brightness, the others darker.
+void PlotColour(Page& page, const RunToDraw& run, const Curves& curves, int wavelength);
 
 /// Whether wavelengths are drawn apart.
-bool ShowsWavelengthsApart(const Session& session);
+bool ShowsWavelengthsApart(const RunToDraw& run);
 
-/// A wavelength of the results in words: "650 nm".
-std::string WavelengthWords(const LightState& light, int wavelength);
+/// A wavelength in words: "650 nm".
+std::string WavelengthWords(const SpectrumOfLight& light, int wavelength);
 
 }  // namespace lumivex

@@ -6,10 +6,8 @@
 #include <optional>
 #include <vector>
 
-#include "pages/colours.h"
 #include "pages/curve_path.h"
 #include "pages/frame.h"
-#include "pages/line_graph.h"
 #include "pages/scale.h"
 #include "record/number_text.h"
 
@@ -17,7 +15,6 @@ namespace lumivex {
 
 namespace {
 
-constexpr int stopRequested = 4;
 constexpr std::string_view unit = "(sq \u00B5m)";
 
 /// Half the size of a mark, of many marks, and the distance of a number from its point (surface units).
@@ -60,17 +57,12 @@ XRange RoundEnds(const Extremes& e, bool logarithmic) {
   return {e.low < 0 ? -RoundedTop(-e.low, scratch) : 0, e.high > 0 ? RoundedTop(e.high, scratch) : 0};
 }
 
-AxisLimits LimitsOf(Session& session) {
-  auto& s = session.state;
-  const auto& form = session.form1;
-  const bool logX = form.optXLog.Checked && form.Frame8.Visible, logY = form.OptLog.Checked;
-  const XRange x = RoundEnds(ExtremesOf(s.MapPerp, logX), logX);
-  XRange y = RoundEnds(ExtremesOf(s.MapPar, logY), logY);
-  s.YAutoMin = y.xmin;
-  s.YAutoMax = y.xmax;
-  if (form.cboYmin.Text != "Automatic") y.xmin = Val(form.cboYmin.Text);
-  if (form.cboYmax.Text != "Automatic") y.xmax = Val(form.cboYmax.Text);
-  return {x.xmin, x.xmax, y.xmin, y.xmax};
+AxisLimits LimitsOf(Page& page, const TwoAngleFound& found, const ScaleLook& look) {
+  const XRange x = RoundEnds(ExtremesOf(found.first, look.logX), look.logX);
+  const XRange y = RoundEnds(ExtremesOf(found.second, look.logY), look.logY);
+  page.autoBottom = y.xmin;
+  page.autoTop = y.xmax;
+  return {x.xmin, x.xmax, look.ymin.value_or(y.xmin), look.ymax.value_or(y.xmax)};
 }
 
 /// Colours from red over green to blue, dark enough for a pale ground, part 0 to 1.
@@ -81,55 +73,54 @@ Colour RampColour(double part) {
   return RGB(rise(0), 0.75 * rise(2), rise(4));
 }
 
-KeptCurve CurveOf(Session& session, std::size_t column, int group) {
-  const auto& s = session.state;
-  const auto& form = session.form1;
-  KeptCurve curve;
-  curve.group = group;
-  curve.name = "n = " + Shortest(s.TwoAngleIndex[column]);
-  for (auto* list : {&curve.x, &curve.y, &curve.angle}) list->assign(s.MapPerp.rows + 1, 0.0);
-  for (std::size_t row = 0; row < s.MapPerp.rows; ++row) {
-    curve.x[row + 1] = s.MapPerp.At(row, column);
-    curve.y[row + 1] = s.MapPar.At(row, column);
-    curve.angle[row + 1] = s.TwoAngleRadius[row];
+PageCurve CurveOf(const Page& page, const RunToDraw& run, std::size_t column) {
+  const TwoAngleFound& found = *run.results.Find<TwoAngleFound>();
+  const auto& asked = std::get<TwoAngleRun>(run.results.asked.run);
+  const PenLook& pen = run.look.pen;
+  PageCurve curve;
+  curve.run = page.runs.empty() ? 0 : page.runs.size() - 1;
+  curve.name = "n = " + Shortest(asked.index[column]);
+  for (auto* list : {&curve.x, &curve.y, &curve.angle}) list->assign(found.first.rows + 1, 0.0);
+  for (std::size_t row = 0; row < found.first.rows; ++row) {
+    curve.x[row + 1] = found.first.At(row, column);
+    curve.y[row + 1] = found.second.At(row, column);
+    curve.angle[row + 1] = asked.radius[row];
   }
-  LineColour(session);
   // "True colour" tells the indices apart, any other colour the charts that are drawn over each other.
-  const double part =
-      s.MapPerp.columns > 1 ? static_cast<double>(column) / static_cast<double>(s.MapPerp.columns - 1) : 0;
-  curve.colour = form.mnuTrueColour.Checked ? RampColour(part) : session.surface->ForeColour;
-  curve.drawStyle = form.mnuDash.Checked ? 1 : form.mnuDot.Checked ? 2 : 0;
-  curve.drawWidth = form.mnuDrawWidth2.Checked ? 2 : 1;
+  const std::size_t columns = found.first.columns;
+  const double part = columns > 1 ? static_cast<double>(column) / static_cast<double>(columns - 1) : 0;
+  curve.colour = pen.trueColour ? RampColour(part) : pen.first;
+  curve.drawStyle = pen.style;
+  curve.drawWidth = pen.width;
   return curve;
 }
 
 /// Where each radius of a curve lies, first index 1; nothing outside the box.
-std::vector<std::optional<SurfacePoint>> Places(const GraphState& graph, const KeptPanel& panel,
-                                                const KeptCurve& curve) {
+std::vector<std::optional<SurfacePoint>> Places(const Page& page, const PagePanel& panel, const PageCurve& curve) {
   std::vector<std::optional<SurfacePoint>> places(curve.x.size());
   constexpr double rounding = 1;
   const GraphBox& b = panel.box;
   const GraphBox box{b.left - rounding, b.right + rounding, b.top - rounding, b.bottom + rounding};
-  for (const auto& [row, p] : PlacedRows(graph, panel, curve))
+  for (const auto& [row, p] : PlacedRows(page, panel, curve))
     if (std::isfinite(p.x) && std::isfinite(p.y) && box.Holds(p.x, p.y)) places[row] = p;
   return places;
 }
 
 /// The curves of one run with the places of their points.
 struct RunOnChart {
-  std::vector<const KeptCurve*> curves;
+  std::vector<const PageCurve*> curves;
   std::vector<std::vector<std::optional<SurfacePoint>>> places;
 };
 
-std::vector<RunOnChart> RunsOf(const GraphState& graph) {
+std::vector<RunOnChart> RunsOf(const Page& page) {
   std::vector<RunOnChart> runs;
-  int group = 0;
-  for (const auto& curve : graph.Drawn.curves) {
+  std::size_t drawn = 0;
+  for (const auto& curve : page.curves) {
     if (curve.angle.size() != curve.x.size()) continue;
-    if (runs.empty() || curve.group != group) runs.emplace_back();
-    group = curve.group;
+    if (runs.empty() || curve.run != drawn) runs.emplace_back();
+    drawn = curve.run;
     runs.back().curves.push_back(&curve);
-    runs.back().places.push_back(Places(graph, graph.Drawn.panels.front(), curve));
+    runs.back().places.push_back(Places(page, page.panels.front(), curve));
   }
   return runs;
 }
@@ -210,54 +201,39 @@ void PaintRadii(FramePaint& paint, const RunOnChart& run) {
 
 }  // namespace
 
-std::string TwoAngleXTitle(const TwoAngleState& state) {
-  return "Cross-section, " + RangeWords(state.Angle1Min, state.Angle1Max) + " " + std::string(unit);
+std::string TwoAngleXTitle(const TwoAngleRun& run) {
+  return "Cross-section, " + RangeWords(run.angle1Min, run.angle1Max) + " " + std::string(unit);
 }
 
-std::string TwoAngleYTitle(const TwoAngleState& state) {
-  return RangeWords(state.Angle2Min, state.Angle2Max) + " " + std::string(unit);
+std::string TwoAngleYTitle(const TwoAngleRun& run) {
+  return RangeWords(run.angle2Min, run.angle2Max) + " " + std::string(unit);
 }
 
-void DisplayTwoAngle(Session& session) {
-  auto& s = session.state;
-  if (s.PlotMode == stopRequested) return;
-  if (!DrawsOver(session)) {
-    AxisLimits limits = LimitsOf(session);
-    s.Ymin = limits.ymin;
-    s.Ymax = limits.ymax;
-    const GraphBox box = WholeBox(s);
-    Grid(session, box.left, box.right, box.top, box.bottom, limits.xmin, limits.xmax, limits.ymin, limits.ymax);
-    s.PlotMode = 2;
-  }
-  const int group = s.Drawn.curves.empty() ? 1 : s.Drawn.curves.back().group + 1;
-  for (std::size_t column = 0; column < s.MapPerp.columns; ++column) {
-    session.platform.Yield();
-    if (s.PlotMode == stopRequested) return;
-    PlotCurve(session, CurveOf(session, column, group));
-  }
-  PaintTwoAngleNotes(session);
+void DisplayTwoAngle(Page& page, const RunToDraw& run) {
+  const auto* found = run.results.Find<TwoAngleFound>();
+  if (found == nullptr) return;
+  if (page.panels.empty()) Grid(page, PanelPlace::Whole, LimitsOf(page, *found, run.look.scale));
+  for (std::size_t column = 0; column < found->first.columns; ++column)
+    page.curves.push_back(CurveOf(page, run, column));
 }
 
-void PaintTwoAngleNotes(Session& session) {
-  const KeptGraph& graph = session.state.Drawn;
-  if (!graph.kind.IsTwoAngle() || graph.panels.empty()) return;
-  const SurfacePen pen = *session.surface;
-  FramePaint paint(session, graph.kind, graph.panels.front());
-  paint.surface.FontName = "MS Sans Serif";
-  paint.surface.FontSize = 8;
-  paint.surface.FontBold = false;
-  const Label& logo = session.form1.lblLogo;
-  if (logo.Visible) {
-    paint.surface.FontSize = logo.FontSize;
-    paint.labels.Take(logo.Left, logo.Top, paint.surface.TextWidth(logo.Caption),
-                      paint.surface.TextHeight(logo.Caption));
-    paint.surface.FontSize = 8;
+void PaintTwoAngleNotes(DrawingSurface& surface, const Page& page) {
+  if (!page.kind.IsTwoAngle() || page.panels.empty()) return;
+  const SurfacePen pen = surface;
+  FramePaint paint(page, page.panels.front(), surface);
+  surface.FontName = "MS Sans Serif";
+  surface.FontBold = false;
+  const LogoPlacement logo = LogoOf(page, page.panels.front());
+  if (logo.visible) {
+    surface.FontSize = logo.fontSize;
+    paint.labels.Take(logo.left, logo.top, surface.TextWidth(page.style.logo), surface.TextHeight(page.style.logo));
   }
-  const auto runs = RunsOf(session.state);
+  surface.FontSize = 8;
+  const auto runs = RunsOf(page);
   for (const auto& run : runs) PaintMarks(paint, run);
   for (const auto& run : runs) PaintIndices(paint, run);
   for (const auto& run : runs) PaintRadii(paint, run);
-  static_cast<SurfacePen&>(paint.surface) = pen;
+  static_cast<SurfacePen&>(surface) = pen;
 }
 
 }  // namespace lumivex

@@ -2,21 +2,22 @@
 
 #include <string>
 
-#include "record/session.h"
+#include "pages/line_graph.h"
+#include "record/drawing_surface.h"
 
 namespace lumivex {
 
-/// Draws the chart of the last two-angle run: the cross-section into the first range of angles to the right, that into
-/// the second upward, one line of segments an index through the points of its radii. On logarithmic axes a sphere whose
-/// cross-section is not positive has no place. Follows PlotMode as Display does.
-void DisplayTwoAngle(Session& session);
+/// Puts a two-angle run on a page: the cross-section into the first range of angles to the right, that into the second
+/// upward, one line of segments an index through the points of its radii. On logarithmic axes a sphere whose
+/// cross-section is not positive has no place.
+void DisplayTwoAngle(Page& page, const RunToDraw& run);
 
-/// Prints what the lines stand for, on a chart that has been drawn: a mark at every radius, the index at the end of its
-/// line, radii beside their points with a dotted line that joins equal ones. Numbers that would touch are left out.
-void PaintTwoAngleNotes(Session& session);
+/// Paints what the lines stand for: a mark at every radius, the index at the end of its line, radii beside their points
+/// with a dotted line that joins equal ones. Numbers that would touch are left out.
+void PaintTwoAngleNotes(DrawingSurface& surface, const Page& page);
 
 /// Titles of the axes, which name the ranges of angle.
-std::string TwoAngleXTitle(const TwoAngleState& state);
-std::string TwoAngleYTitle(const TwoAngleState& state);
+std::string TwoAngleXTitle(const TwoAngleRun& run);
+std::string TwoAngleYTitle(const TwoAngleRun& run);
 
 }  // namespace lumivex

@@ -14,11 +14,11 @@ namespace {
 /// A zoom is resolved to a thousandth of what is shown.
 constexpr int digitsOfRange = 4;
 
-/// Automatic limits for the part of the curves in view.
-void ChooseLimitsInView(Session& session, KeptPanel& panel, std::size_t index) {
-  auto& s = session.state;
+/// Limits for the part of the curves in view.
+void ChooseLimitsInView(Page& page, std::size_t index, const Look& look) {
+  PagePanel& panel = page.panels[index];
   double top = 0, bottom = 1e30;
-  for (const auto& curve : s.Drawn.curves) {
+  for (const auto& curve : page.curves) {
     if (curve.panel != index) continue;
     const RowSpan rows = RowsWithin(curve.x, {panel.limits.xmin, panel.limits.xmax});
     for (std::size_t i = rows.first; i <= rows.last; ++i) {
@@ -28,24 +28,21 @@ void ChooseLimitsInView(Session& session, KeptPanel& panel, std::size_t index) {
     }
   }
   if (!(top > 0)) return;
-  const int mode = s.PlotMode;
-  s.PlotMode = 1;
-  s.YAutoMax = top;
-  s.YAutoMin = bottom;
-  GridYmax(session, top, s.Ymax);
-  GridYmin(session, bottom, s.Ymin);
-  s.PlotMode = mode;
-  AxisLimits limits = panel.limits;
-  limits.ymin = s.Ymin;
-  limits.ymax = s.Ymax;
-  panel.limits = RepairedLimits(limits, s.Drawn.kind.logX, panel.logY);
+  ScaleLook scale = look.scale;
+  scale.logY = page.kind.logY;
+  scale.polar = page.kind.polar;
+  page.autoTop = top;
+  page.autoBottom = bottom;
+  panel.limits.ymax = GridYmax(scale, top, page.scale);
+  panel.limits.ymin = GridYmin(scale, bottom, panel.limits.ymax, page.scale);
+  panel.limits = RepairedLimits(panel.limits, page.kind.logX, panel.logY);
 }
 
 /// Where the computed rows of a curve begin and end, and the distance of the last two.
 struct Extent {
   double first, last, spacing;
 };
-std::optional<Extent> ExtentOf(const KeptCurve& curve) {
+std::optional<Extent> ExtentOf(const PageCurve& curve) {
   Extent extent{std::nan(""), std::nan(""), 0};
   for (std::size_t i = 1; i < std::min(curve.x.size(), curve.y.size()); ++i) {
     if (!std::isfinite(curve.x[i]) || !std::isfinite(curve.y[i])) continue;
@@ -59,22 +56,10 @@ std::optional<Extent> ExtentOf(const KeptCurve& curve) {
   return extent;
 }
 
-bool HasData(const KeptGraph& graph, XRange range) {
-  for (const auto& curve : graph.curves) {
-    const auto extent = ExtentOf(curve);
-    if (!extent) continue;
-    // The last step of an axis may end short of it.
-    const double slack = std::max(1e-3 * (range.xmax - range.xmin), extent->spacing);
-    if (extent->first <= range.xmin + slack && extent->last >= range.xmax - slack) return true;
-  }
-  return false;
-}
-
 }  // namespace
 
-bool HasXAxis(const Session& session) {
-  const KeptGraph& graph = session.state.Drawn;
-  return !graph.panels.empty() && !graph.kind.polar;
+bool HasXAxis(const Page& page) {
+  return !page.panels.empty() && !page.kind.polar;
 }
 
 XRange RoundedRange(XRange range) {
@@ -86,19 +71,27 @@ XRange RoundedRange(XRange range) {
   return {rounded.xmin == 0 ? range.xmin : rounded.xmin, rounded.xmax};
 }
 
-bool SetXRange(Session& session, XRange range) {
-  auto& s = session.state;
-  if (!HasXAxis(session)) return true;
-  s.Xmin = range.xmin;
-  s.Xmax = range.xmax;
-  for (std::size_t i = 0; i < s.Drawn.panels.size(); ++i) {
-    KeptPanel& panel = s.Drawn.panels[i];
+Page SetXRange(Page page, XRange range, const Look& look) {
+  if (!HasXAxis(page)) return page;
+  for (std::size_t i = 0; i < page.panels.size(); ++i) {
+    PagePanel& panel = page.panels[i];
     panel.limits.xmin = range.xmin;
     panel.limits.xmax = range.xmax;
-    panel.limits = RepairedLimits(panel.limits, s.Drawn.kind.logX, panel.logY);
-    if (!panel.second) ChooseLimitsInView(session, panel, i);
+    panel.limits = RepairedLimits(panel.limits, page.kind.logX, panel.logY);
+    if (!panel.second) ChooseLimitsInView(page, i, look);
   }
-  return HasData(s.Drawn, range);
+  return page;
+}
+
+bool HasDataOver(const Page& page, XRange range) {
+  for (const auto& curve : page.curves) {
+    const auto extent = ExtentOf(curve);
+    if (!extent) continue;
+    // The last step of an axis may end short of it.
+    const double slack = std::max(1e-3 * (range.xmax - range.xmin), extent->spacing);
+    if (extent->first <= range.xmin + slack && extent->last >= range.xmax - slack) return true;
+  }
+  return false;
 }
 
 }  // namespace lumivex

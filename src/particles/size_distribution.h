@@ -31,6 +31,9 @@ struct FileSizes {
   float lowest = 0, highest = 0;
   bool loaded = false;
   bool actual = false;  ///< results stand for the numbers in the table, not for one particle
+  std::vector<double> upper =
+      {};                 ///< upper ends of the classes whose middles are the radii (um); empty without classes
+  std::string name = {};  ///< of the file
 };
 
 /// The sizes of a cloud: one radius, or a distribution.

@@ -14,7 +14,6 @@
 #include "record/groups/series_state.h"
 #include "record/groups/size_state.h"
 #include "record/groups/spectrum_results.h"
-#include "record/groups/two_angle_state.h"
 
 namespace lumivex {
 
@@ -31,8 +30,7 @@ struct MainFormState : RunState,
                        SizeState,
                        ColourState,
                        GraphState,
-                       RayState,
-                       TwoAngleState {};
+                       RayState {};
 
 /// Visits every field of the record as visit(name, field), group by group in the order above. State is MainFormState,
 /// const or not.
@@ -55,7 +53,6 @@ void ForEachStateField(State& state, Visitor&& visit) {
   group(as(std::type_identity<ColourState>{}));
   group(as(std::type_identity<GraphState>{}));
   group(as(std::type_identity<RayState>{}));
-  group(as(std::type_identity<TwoAngleState>{}));
 }
 
 }  // namespace lumivex

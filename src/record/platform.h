@@ -34,6 +34,8 @@ class Platform {
   virtual std::optional<std::string> SaveFileName(const FileDialog& dialog) = 0;
   /// Shows a dialog and waits; true is OK. The dialog's events run while it is open.
   virtual bool ShowModal(Form& form) = 0;
+  /// Shows a window and goes on; what the user does in it raises its events.
+  virtual void Show(Form& form) = 0;
   /// Lets the event loop paint, and serve Stop and Esc; everything else waits until the run has ended.
   virtual void Yield() = 0;
   /// Seconds since some moment, never running backward.

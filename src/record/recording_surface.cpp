@@ -1,6 +1,7 @@
 #include "record/recording_surface.h"
 
 #include <cmath>
+#include <cstdint>
 
 #include "record/number_text.h"
 
@@ -16,6 +17,13 @@ double CharacterCount(std::string_view text) {
   for (const char c : text)
     if ((static_cast<unsigned char>(c) & 0xC0U) != 0x80U) ++count;
   return count;
+}
+
+/// FNV-1a over the cells: tells two images of a size apart.
+std::uint32_t Checksum(const std::vector<Colour>& cells) {
+  std::uint32_t sum = 2166136261U;
+  for (const Colour cell : cells) sum = (sum ^ static_cast<std::uint32_t>(cell.value)) * 16777619U;
+  return sum;
 }
 
 std::string Hex(Colour colour) {
@@ -40,6 +48,8 @@ std::string DrawnOperation::Describe() const {
   if (drawStyle != 0) line += " style=" + std::to_string(drawStyle);
   if (drawWidth != 1) line += " width=" + std::to_string(drawWidth);
   if (kind == Kind::Text) line += " size=" + Shortest(fontSize) + (fontBold ? " bold" : "") + " \"" + text + "\"";
+  if (kind == Kind::Image)
+    line += " " + std::to_string(columns) + "x" + std::to_string(rows) + " sum=" + std::to_string(Checksum(cells));
   return line;
 }
 
@@ -88,9 +98,12 @@ void RecordingSurface::Polyline(std::span<const SurfacePoint> points) {
   Add(DrawnOperation::Kind::Polyline).points.assign(points.begin(), points.end());
 }
 
-void RecordingSurface::Image(const CellBlock& block, std::span<const Colour>) {
+void RecordingSurface::Image(const CellBlock& block, std::span<const Colour> cells) {
   auto& operation = Add(DrawnOperation::Kind::Image);
   operation.points = {{block.left, block.top}, {block.right, block.bottom}};
+  operation.columns = block.columns;
+  operation.rows = block.rows;
+  operation.cells.assign(cells.begin(), cells.end());
 }
 
 double RecordingSurface::TextWidth(std::string_view text) const {

@@ -21,8 +21,11 @@ struct DrawnOperation {
   double fontSize = 0;
   bool fontBold = false;
   double width = 0, height = 0;  ///< of a text
+  int columns = 0, rows = 0;     ///< of an image
+  std::vector<Colour> cells;     ///< of an image, row by row from the top left
 
-  /// One line of text: the operation's name, its numbers, its colour, its text.
+  /// One line of text: the operation's name, its numbers, its colour, its text; of an image the size and a checksum of
+  /// its cells.
   std::string Describe() const;
 };
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <deque>
+
 #include "record/drawing_surface.h"
 #include "record/events.h"
 #include "record/forms/dialogs.h"
@@ -9,11 +11,18 @@
 
 namespace lumivex {
 
-/// What every routine acts on: the record, the forms, the outside world, the surface of the graph and the events.
+/// A window with a drawing: its form, what is drawn, and what it is drawn on.
+struct Window {
+  Form* form = nullptr;
+  DrawingSurface* surface = nullptr;
+  Page page = {};
+};
+
+/// What every routine acts on: the record, the forms, the outside world, the windows and the events.
 /// Plain data; OpenSession (session/session_start) ties one together and starts it.
 struct Session {
   Session(Platform& outsideWorld, DrawingSurface& graphSurface, Events& eventTable)
-      : platform(outsideWorld), surface(&graphSurface), events(eventTable) {}
+      : platform(outsideWorld), windows{Window{&forms.form1, &graphSurface}}, events(eventTable) {}
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
 
@@ -21,7 +30,9 @@ struct Session {
   Forms forms;
   Form1& form1 = forms.form1;
   Platform& platform;
-  DrawingSurface* surface;  ///< never null; exchanged while a picture is drawn anew on another surface
+  std::deque<Window> windows;                          ///< the main one first
+  DrawingSurface*& surface = windows.front().surface;  ///< of the main window; never null
+  Page& page = windows.front().page;                   ///< of the main window
   Events& events;
   UndoHistory undo;
 };

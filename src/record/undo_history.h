@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "catalogue/graph.h"
+#include "catalogue/method.h"
 #include "record/colour.h"
 #include "record/form.h"
 
@@ -20,7 +22,8 @@ struct DialogSettings {
 /// What the user had set on every form, and the codes, names and settings that follow from it.
 struct InputState {
   std::vector<FormSnapshot> forms;
-  int graphType = 1, graphSubType = 1, calcMethod = 1;
+  GraphCode graph;
+  Method method = Method::Mie;
   std::string sphereName, mediumName;
   std::vector<std::string> captions;  ///< of the main window's labels and frames, in their order
   DialogSettings settings;

@@ -83,7 +83,8 @@ AxisFound Sized(int points) {
 Refusal SolveLanes(const RunRequest& request, const AxisRun& axis, const std::vector<Setting>& settings, TaskPool& pool,
                    AxisFound& found) {
   for (const Setting& setting : settings)
-    if (CheckMieLimits(setting.x, setting.mRe, setting.mIm) != MieRefusal::None) return BeyondMie();
+    if (Refusal beyond = BeyondLimits(request.method, setting.x, setting.mRe, setting.mIm); !beyond.text.empty())
+      return beyond;
   const std::size_t points = settings.size();
   std::vector<double> x(points), mRe(points), mIm(points), S1Re, S1Im, S2Re, S2Im;
   for (std::size_t i = 0; i < points; ++i) {

@@ -21,6 +21,9 @@ RunEnd Run(const RunRequest& request, RunWatch& watch, unsigned threads = 0);
 /// Most points of an x axis.
 inline constexpr int mostPoints = 18001;
 
+/// Most intensities of one polarisation that a spectrum may leave, wavelengths times rows: 160 MB.
+inline constexpr double mostSpectrumValues = 20e6;
+
 /// Rows from 0 to 90 degrees of a two-angle run: steps of 0.1 degrees.
 inline constexpr int twoAngleRowsTo90 = 901;
 

@@ -19,10 +19,26 @@ bool OneAngle(const AngleGrid& grid) {
   return grid.NANG == 1;
 }
 
+/// Passes reports on and remembers whether a Stop was asked for.
+class Watched final : public RunMonitor {
+ public:
+  explicit Watched(RunMonitor& outer) : outer_(outer) {}
+  bool Report(std::size_t index, std::size_t count) override {
+    goesOn = outer_.Report(index, count) && goesOn;
+    return goesOn;
+  }
+  bool goesOn = true;
+
+ private:
+  RunMonitor& outer_;
+};
+
 SphereSolution MieAtAngle(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor) {
+  Watched watched(monitor);
   MiePoint point = SolveMiePoint(
-      {asked.x, asked.mRe, asked.mIm, asked.grid.first, options.divideBySize, options.classicStart}, monitor);
+      {asked.x, asked.mRe, asked.mIm, asked.grid.first, options.divideBySize, options.classicStart}, watched);
   SphereSolution solution;
+  solution.finished = watched.goesOn;
   if (point.refusal != MieRefusal::None) {
     solution.refusal = BeyondMie();
     return solution;
@@ -81,21 +97,16 @@ void TakeDifference(const MethodOptions& options, const SphereAsked& asked, Sphe
   series.S2b = std::move(other.S2);
 }
 
-/// Passes reports on and remembers whether a Stop was asked for.
-class Watched final : public RunMonitor {
- public:
-  explicit Watched(RunMonitor& outer) : outer_(outer) {}
-  bool Report(std::size_t index, std::size_t count) override {
-    goesOn = outer_.Report(index, count) && goesOn;
-    return goesOn;
-  }
-  bool goesOn = true;
-
- private:
-  RunMonitor& outer_;
-};
-
 }  // namespace
+
+Refusal BeyondLimits(const MethodOptions& options, double x, double mRe, double mIm) {
+  const bool series = options.method == Method::Mie || options.difference == Difference::MieLessDebye;
+  if (series && CheckMieLimits(x, mRe, mIm) != MieRefusal::None) return BeyondMie();
+  const bool opaqueSphere = options.OnlyReflected() && x * mIm > opaque;
+  if (options.method == Method::Debye && !opaqueSphere && CheckDebyeLimits(x, mRe, mIm) != MieRefusal::None)
+    return {"Error", "Reduce radius or increase wavelength"};
+  return {};
+}
 
 SphereSolution BHMIE(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor) {
   if (OneAngle(asked.grid)) return MieAtAngle(options, asked, monitor);

@@ -58,6 +58,13 @@ class SamplesCache {
   double radius_ = 0;
 };
 
+double LargestOf(const CloudSamples& samples) {
+  double largest = 0;
+  for (std::size_t i = 1; i < samples.radius.size(); ++i)
+    if (samples.weight[i] > 0) largest = std::max(largest, samples.radius[i]);
+  return largest;
+}
+
 bool IsActual(const SizeDistribution& sizes) {
   const auto* file = std::get_if<FileSizes>(&sizes);
   return file != nullptr && file->actual;
@@ -103,6 +110,9 @@ SettingResult SettingAt(const RunRequest& request, double lambda) {
 
 SettingsEnd RunSettings(const SettingsPlan& plan, TaskPool& pool) {
   if (plan.request.Cloud()) return DispCalc(plan, pool);
+  for (const Setting& setting : plan.settings)
+    if (Refusal beyond = BeyondLimits(plan.request.method, setting.x, setting.mRe, setting.mIm); !beyond.text.empty())
+      return {0, std::move(beyond)};
   const auto cosines = CosinesOf(plan);
   std::vector<SphereSolution> slots(pool.Slots());
   FirstRefusal refusals;
@@ -141,6 +151,15 @@ SettingsEnd DispCalc(const SettingsPlan& plan, TaskPool& pool) {
   if (first.failure != SizeFailure::None) {
     end.refusal = RefusalOf(first.failure);
     return end;
+  }
+  for (const Setting& setting : plan.settings) {
+    // The largest sphere of a cloud decides; of models and files it is the same everywhere.
+    const double largest = setting.radius == plan.settings.front().radius
+                               ? LargestOf(first)
+                               : LargestOf(SamplesOf(plan.request.sizes, setting.radius));
+    const double x = SizeParameterOf(largest, setting.indices.MediumInUse(), setting.lambda);
+    if (Refusal beyond = BeyondLimits(plan.request.method, x, setting.mRe, setting.mIm); !beyond.text.empty())
+      return {0, std::move(beyond)};
   }
   const auto perCloud = static_cast<std::size_t>(first.Count());
   const bool actual = IsActual(plan.request.sizes);

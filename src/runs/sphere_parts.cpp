@@ -28,10 +28,12 @@ RowsDone Joined(const RowsDone& a, const RowsDone& b) {
 }
 
 /// A single task, so that its arithmetic is watched and a Stop is seen.
-SphereSolution SolveWhole(const MethodOptions& options, const SphereAsked& asked, TaskPool& pool) {
+SphereSolution SolveWhole(const MethodOptions& options, const SphereAsked& asked, TaskPool& pool,
+                          double shareOfRun = 1) {
   SphereSolution solution;
   TaskList one;
   one.count = 1;
+  one.shareOfRun = shareOfRun;
   one.work = [&](std::size_t, std::size_t, RunMonitor& monitor) {
     solution = SolveSphere(options, asked, monitor);
     return true;
@@ -111,7 +113,8 @@ SphereSolution SolveInParts(const MethodOptions& options, const SphereAsked& ask
   if (series) {
     SphereAsked noRows = asked;
     noRows.window = {};
-    SphereSolution solution = SolveWhole(options, noRows, pool);
+    // Coefficients are little beside the sums over the angles.
+    SphereSolution solution = SolveWhole(options, noRows, pool, 0);
     if (!solution.Refused() && solution.finished) SumInParts(options, asked, solution, pool);
     return solution;
   }

@@ -42,6 +42,10 @@ struct SphereSolution {
 /// Efficiencies of methods that have none are 0. A refusal, or a method without a solver, leaves the tables empty.
 SphereSolution SolveSphere(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor);
 
+/// Why a sphere lies beyond the limits of the method; an empty text where it does not. A run of many asks for all of
+/// them first, so that nobody waits for a refusal.
+Refusal BeyondLimits(const MethodOptions& options, double x, double mRe, double mIm);
+
 // The methods.
 
 /// The Mie series of a homogeneous sphere in a plane wave. With divideBySize the amplitudes are divided by x before

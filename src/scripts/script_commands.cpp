@@ -3,12 +3,13 @@
 #include <algorithm>
 #include <type_traits>
 
-#include "pages/curve_text.h"
+#include "pages/build_page.h"
+#include "pages/page_table.h"
 #include "record/number_text.h"
 #include "record/recording_surface.h"
+#include "runs/results.h"
 #include "session/inputs/graph_types.h"
 #include "session/inputs/methods.h"
-#include "session/page.h"
 
 namespace lumivex {
 
@@ -41,7 +42,7 @@ std::string ShownValue(const Control& control) {
   }
 }
 
-std::optional<std::string> Look(const Control& control, std::string_view look) {
+std::optional<std::string> LookOf(const Control& control, std::string_view look) {
   if (SameName(look, "Visible")) return YesNo(control.Visible);
   if (SameName(look, "Enabled")) return YesNo(control.Enabled);
   if (SameName(look, "BackColour")) return std::to_string(control.BackColour.value);
@@ -65,6 +66,8 @@ struct ScalarReader {
     if (!SameName(name, wanted)) return;
     if constexpr (std::is_same_v<Field, int>) {
       found = std::to_string(field);
+    } else if constexpr (std::is_enum_v<Field>) {
+      found = std::to_string(static_cast<int>(field));
     } else if constexpr (std::is_arithmetic_v<Field>) {
       found = Exact(field);
     } else if constexpr (std::is_same_v<Field, std::string>) {
@@ -121,9 +124,9 @@ struct RowRange {
 
 /// Rows of the curve arrays that the graph shows.
 RowRange DisplayedRows(const MainFormState& s) {
-  if (s.PrevGraphType == 0) return {};
+  if (!HasResults(s)) return {};
   const int stored = static_cast<int>(s.XValues.size()) - 1;
-  if (s.PrevGraphType >= 10) return {1, std::min(ToWhole(s.LastPoint), stored)};
+  if (!ResultGraph(s).OfAngles()) return {1, std::min(ToWhole(s.LastPoint), stored)};
   const int first = ToWhole(s.PlotXmin / s.Xstep) + 1, last = ToWhole(s.PlotXmax / s.Xstep) + 1;
   return {std::max(first, s.AngleLow), std::min({last, s.AngleHigh, stored})};
 }
@@ -141,7 +144,7 @@ std::optional<std::string> ReadValue(Session& session, std::string_view name) {
   if (const Control* control = FindControl(session, name)) return ShownValue(*control);
   if (const auto point = name.rfind('.'); point != std::string_view::npos) {
     const Control* control = FindControl(session, name.substr(0, point));
-    return control == nullptr ? std::nullopt : Look(*control, name.substr(point + 1));
+    return control == nullptr ? std::nullopt : LookOf(*control, name.substr(point + 1));
   }
   ScalarReader reader{name, std::nullopt};
   ForEachStateField(session.state, reader);
@@ -151,7 +154,7 @@ std::optional<std::string> ReadValue(Session& session, std::string_view name) {
 std::string CurveTable(const Session& session) {
   const auto& s = session.state;
   // A chart of two signals has as many curves as indices.
-  if (s.PrevGraphType == 1 && s.PrevGraphSubType == 5) return CurvesAsCsv(session, {});
+  if (s.LastResults && s.LastResults->asked.graph.drawing == Drawing::TwoAngleChart) return TableAsCsv(session.page);
   std::string text = "x,perpendicular,parallel,unpolarised,extra1,extra2,extra3\n";
   const RowRange rows = DisplayedRows(s);
   for (int row = rows.first; row <= rows.last; ++row) {
@@ -163,7 +166,7 @@ std::string CurveTable(const Session& session) {
 
 std::string AmplitudeRows(const Session& session) {
   const auto& s = session.state;
-  const bool byPoint = s.PrevGraphType >= 10;
+  const bool byPoint = !ResultGraph(s).OfAngles();
   const AmplitudeTable& S1 = byPoint ? s.S1ofPoint : s.S1;
   const AmplitudeTable& S2 = byPoint ? s.S2ofPoint : s.S2;
   std::string text = byPoint ? "x,S1re,S1im,S2re,S2im\n" : "angle,S1re,S1im,S2re,S2im\n";
@@ -179,13 +182,15 @@ std::optional<std::string> ArrayRows(Session& session, std::string_view name) {
   return reader.found;
 }
 
-std::string DrawingLines(Session& session) {
-  RecordingSurface recording(session.surface->ScaleWidth(), session.surface->ScaleHeight());
-  DrawingSurface* shown = session.surface;
-  recording.BackColour = shown->BackColour;
-  session.surface = &recording;
-  DrawPage(session);
-  session.surface = shown;
+Window* FindWindow(Session& session, std::string_view form) {
+  const auto found =
+      std::ranges::find_if(session.windows, [form](const Window& w) { return SameName(w.form->Name(), form); });
+  return found == session.windows.end() ? nullptr : &*found;
+}
+
+std::string DrawingLines(const Window& window) {
+  RecordingSurface recording(window.surface->ScaleWidth(), window.surface->ScaleHeight());
+  Paint(window.page, recording);
   std::string text;
   for (const auto& operation : recording.Operations()) text += operation.Describe() + "\n";
   return text;

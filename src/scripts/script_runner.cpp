@@ -161,21 +161,30 @@ struct ScriptCommands {
   }
 
   static void Drawing(ScriptRunner& run, std::string_view rest) {
-    run.Write(std::string(rest), DrawingLines(run.Current()));
+    run.Write(std::string(rest), DrawingLines(*run.chosen_));
   }
+
+  static void ChooseWindow(ScriptRunner& run, std::string_view rest) {
+    Window* window = FindWindow(run.Current(), rest);
+    if (window == nullptr) throw Failure{"there is no window " + std::string(rest)};
+    run.chosen_ = window;
+  }
+
+  /// Events of the drawing are the main window's.
+  static bool IsMain(const ScriptRunner& run) { return run.chosen_ == &run.open_->Get().windows.front(); }
 
   static void Mouse(ScriptRunner& run, std::string_view rest) {
     const std::string x = TakeWord(rest);
     if (!IsNumber(x) || !IsNumber(rest)) throw Failure{"mouse takes X and Y in surface units"};
-    Form_MouseDown(run.Current(), Val(x), Val(rest));
+    if (IsMain(run)) Form_MouseDown(run.Current(), Val(x), Val(rest));
   }
 
   static void Size(ScriptRunner& run, std::string_view rest) {
     const auto size = ReadSize(rest);
     if (!size) throw Failure{"a size reads WIDTHxHEIGHT"};
     if (run.window_.resize) {
-      run.window_.resize(size->width, size->height);
-    } else {
+      run.window_.resize(*run.chosen_->form, size->width, size->height);
+    } else if (IsMain(run)) {
       run.recording_.Resize(size->width * unitsPerPixel, size->height * unitsPerPixel);
       Form_Resize(run.Current());
     }
@@ -204,13 +213,15 @@ struct ScriptCommands {
         rest = Trim(rest.substr(0, space));
       }
     }
-    if (const std::string failure = run.window_.picture(rest, size.width, size.height); !failure.empty())
+    if (const std::string failure = run.window_.picture(*run.chosen_->form, rest, size.width, size.height);
+        !failure.empty())
       throw Failure{failure};
   }
 
   static void Screenshot(ScriptRunner& run, std::string_view rest) {
     if (!run.window_.screenshot) throw Failure{"screenshots need a window: lumivex --script"};
-    if (const std::string failure = run.window_.screenshot(rest); !failure.empty()) throw Failure{failure};
+    if (const std::string failure = run.window_.screenshot(*run.chosen_->form, rest); !failure.empty())
+      throw Failure{failure};
   }
 };
 
@@ -222,25 +233,16 @@ struct CommandRow {
 };
 
 constexpr CommandRow commandRows[] = {
-    {"set", ScriptCommands::Set},
-    {"choose", ScriptCommands::Choose},
-    {"click", ScriptCommands::Click},
-    {"dialog", ScriptCommands::Dialog},
-    {"answer", ScriptCommands::Answer},
-    {"open", ScriptCommands::OpenPath},
-    {"save", ScriptCommands::SavePath},
-    {"get", ScriptCommands::Get},
-    {"table", ScriptCommands::Table},
-    {"amplitudes", ScriptCommands::Amplitudes},
-    {"array", ScriptCommands::Array},
-    {"drawing", ScriptCommands::Drawing},
-    {"mouse", ScriptCommands::Mouse},
-    {"size", ScriptCommands::Size},
-    {"stop-at", ScriptCommands::StopAt},
-    {"reset", ScriptCommands::Reset},
-    {"messages", ScriptCommands::Messages},
-    {"picture", ScriptCommands::Picture},
-    {"screenshot", ScriptCommands::Screenshot},
+    {"set", ScriptCommands::Set},         {"choose", ScriptCommands::Choose},
+    {"click", ScriptCommands::Click},     {"dialog", ScriptCommands::Dialog},
+    {"answer", ScriptCommands::Answer},   {"open", ScriptCommands::OpenPath},
+    {"save", ScriptCommands::SavePath},   {"get", ScriptCommands::Get},
+    {"table", ScriptCommands::Table},     {"amplitudes", ScriptCommands::Amplitudes},
+    {"array", ScriptCommands::Array},     {"window", ScriptCommands::ChooseWindow},
+    {"drawing", ScriptCommands::Drawing}, {"mouse", ScriptCommands::Mouse},
+    {"size", ScriptCommands::Size},       {"stop-at", ScriptCommands::StopAt},
+    {"reset", ScriptCommands::Reset},     {"messages", ScriptCommands::Messages},
+    {"picture", ScriptCommands::Picture}, {"screenshot", ScriptCommands::Screenshot},
 };
 
 }  // namespace
@@ -263,7 +265,7 @@ ScriptRunner::ScriptRunner(std::ostream& output, std::ostream& errors)
 void ScriptRunner::UseWindow(DrawingSurface& surface, ScriptWindow window) {
   surface_ = &surface;
   window_ = std::move(window);
-  platform_.savePicture = [this](std::string_view path) { return window_.picture(path, 0, 0); };
+  platform_.savePicture = [this](std::string_view path) { return window_.picture(Current().form1, path, 0, 0); };
   Open();
 }
 
@@ -274,6 +276,7 @@ void ScriptRunner::Open() {
   platform_.openPaths.clear();
   platform_.savePaths.clear();
   open_ = std::make_unique<OpenSession>(platform_, *surface_);
+  chosen_ = &open_->Get().windows.front();
   if (window_.reset) window_.reset(open_->Get());
 }
 

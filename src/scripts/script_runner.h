@@ -15,18 +15,18 @@ namespace lumivex {
 /// What only a window can do; empty functions where there is none.
 struct ScriptWindow {
   /// Draws the page as a picture file; 0 x 0 is the window's size. Returns empty, or what went wrong.
-  std::function<std::string(std::string_view path, int widthPx, int heightPx)> picture;
+  std::function<std::string(Form& form, std::string_view path, int widthPx, int heightPx)> picture;
   /// Saves an image of the whole window.
-  std::function<std::string(std::string_view path)> screenshot;
-  std::function<void(int widthPx, int heightPx)> resize;
+  std::function<std::string(Form& form, std::string_view path)> screenshot;
+  std::function<void(Form& form, int widthPx, int heightPx)> resize;
   /// The session was exchanged for a fresh one, which has not been loaded.
   std::function<void(Session&)> reset;
 };
 
 /// Runs a script, one command a line, on a session of its own or on a window's.
 ///
-/// Commands: set, choose, click, dialog, answer, open, save, get, table, amplitudes, array, drawing, mouse, size,
-/// stop-at, reset, messages, picture, screenshot (see the README). '#' begins a comment at the start of a word.
+/// Commands: set, choose, click, dialog, answer, open, save, get, table, amplitudes, array, window, drawing, mouse,
+/// size, stop-at, reset, messages, picture, screenshot (see the README). '#' begins a comment at the start of a word.
 class ScriptRunner {
  public:
   /// Exit codes.
@@ -66,7 +66,8 @@ class ScriptRunner {
   DrawingSurface* surface_;
   ScriptWindow window_;
   std::unique_ptr<OpenSession> open_;
-  double stopAt_ = -1;  ///< per cent; negative: no stop is waiting
+  Window* chosen_ = nullptr;  ///< the one that drawing, picture, screenshot, mouse and size mean
+  double stopAt_ = -1;        ///< per cent; negative: no stop is waiting
 };
 
 }  // namespace lumivex

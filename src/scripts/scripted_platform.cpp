@@ -65,6 +65,11 @@ bool ScriptedPlatform::ShowModal(Form& form) {
   return false;
 }
 
+void ScriptedPlatform::Show(Form& form) {
+  form.Visible = true;
+  shownForms.emplace_back(form.Name());
+}
+
 void ScriptedPlatform::Yield() {
   if (onYield) onYield();
 }

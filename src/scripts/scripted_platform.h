@@ -43,6 +43,7 @@ class ScriptedPlatform final : public Platform {
   // What was seen.
   std::vector<ShownMessage> messages;
   std::vector<std::string> helpPages;
+  std::vector<std::string> shownForms;  ///< modeless windows, by name
   std::string copiedText;
   int beeps = 0;
   bool quit = false;
@@ -59,6 +60,7 @@ class ScriptedPlatform final : public Platform {
   std::optional<std::string> OpenFileName(const FileDialog& dialog) override;
   std::optional<std::string> SaveFileName(const FileDialog& dialog) override;
   bool ShowModal(Form& form) override;
+  void Show(Form& form) override;
   void Yield() override;
   double Timer() override;
   ScreenSize Screen() override { return screen; }

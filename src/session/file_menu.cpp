@@ -1,8 +1,7 @@
 #include "session/file_menu.h"
 
-#include "pages/curve_text.h"
+#include "pages/page_table.h"
 #include "record/text_file.h"
-#include "session/info.h"
 #include "session/window_events.h"
 
 namespace lumivex {
@@ -26,12 +25,12 @@ void mnuCopyPicture_Click(Session& session) {
 }
 
 void mnuCopyData_Click(Session& session) {
-  session.platform.CopyText(CurvesAsText(session));
+  session.platform.CopyText(TableAsText(session.page));
 }
 
 void mnuSaveData_Click(Session& session) {
   const auto path = session.platform.SaveFileName({"Save data", "Comma separated values (*.csv)", "lumivex.csv"});
-  if (path) Tell(session, WriteWholeFile(*path, CurvesAsCsv(session, RunParameters(session))));
+  if (path) Tell(session, WriteWholeFile(*path, TableWithHeader(session.page)));
 }
 
 void mnuExit_Click(Session& session) {

@@ -11,12 +11,6 @@ namespace lumivex {
 /// what a run calculated that is not drawn yet, is not in them.
 std::vector<std::string> RunParameters(const Session& session);
 
-/// Puts a run that has ended into words: RunLabel and RunLines.
-void KeepRunParameters(Session& session);
-
-/// The words of the last run become those of the graph on the screen, with its title.
-void TakeRunParameters(MainFormState& s);
-
 /// Shows the parameters of the run in Frame6, or hides them.
 void cmdInfo_Click(Session& session);
 

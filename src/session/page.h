@@ -4,8 +4,20 @@
 
 namespace lumivex {
 
-/// Draws the whole page anew on the session's surface, at its present size: frame, every curve since the last frame,
-/// title and readings. Calculates nothing.
+/// Paints the page of the main window anew, at the present size of its surface. Calculates nothing and changes no field
+/// of the record and no control.
 void DrawPage(Session& session);
+
+/// Shows a page in the main window. Limits, extremes and what the scales remember go to the record (Ymin, Ymax,
+/// YAutoMin, YAutoMax, StoredTop ...), place and colour of the logo to its label.
+void ShowPage(Session& session, Page page);
+
+/// Shows the page in the colours, with the grid lines and the readings that the menus ask for now; its curves and
+/// limits stay.
+void RenewLook(Session& session);
+
+/// Makes a range of x the one on the screen.
+/// @return whether some curve has data over all of it; where none has, a calculation would show the rest.
+bool ShowRange(Session& session, XRange range);
 
 }  // namespace lumivex

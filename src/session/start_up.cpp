@@ -7,8 +7,6 @@
 #include <system_error>
 #include <vector>
 
-#include "pages/frame.h"
-#include "pages/spectrum_sums.h"
 #include "particles/gamma_function.h"
 #include "record/features.h"
 #include "record/number_text.h"
@@ -204,7 +202,7 @@ void Form_Load(Session& session) {
   f.cmdStop.Visible = f.cmdStop.Enabled = false;
   f.txtRmax.Visible = false;
 
-  s.GraphType = s.GraphSubType = 1;
+  SetGraph(s, {1, 1});
   ShowFamilyInputs(session);
   s.Xmax = Val(f.txtXmax.Text);
   for (SelectionList* list : {&f.cboYmax, &f.cboYmin, &f.cboStep, &f.cboPol}) list->BackColour = colours::White;
@@ -221,9 +219,7 @@ void Form_Load(Session& session) {
   f.lblDebyeRays.Caption = "Mie (plane wave)";
 
   session.events.Raise("txtLambda_change");
-  double xmin = s.Xmin, xmax = s.Xmax;
   f.mnuVLarge.Checked = s.ScreenWidthPx > 1024;
-  Grid(session, s.GraphLeft, s.GraphRight, s.GraphTop, s.GraphBottom, xmin, xmax, s.YAutoMin, s.YAutoMax);
   cmdNewPlot_Click(session);
 
   f.cboQmax.Items = f.cboQmin.Items = {"1", "2", "3", "4", "5", "10", "15", "20", "25"};

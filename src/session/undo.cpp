@@ -20,7 +20,7 @@ void ForEachCaption(Form1& form, Visitor&& visit) {
 
 InputState Present(Session& session) {
   const auto& s = session.state;
-  InputState state{{}, s.GraphType, s.GraphSubType, s.CalcMethod, s.SphereName, s.MediumName, {}, {}};
+  InputState state{{}, {s.GraphType, s.GraphSubType}, s.CalcMethod, s.SphereName, s.MediumName, {}, {}};
   state.settings = {s.SpectrumMin,      s.SpectrumMax,    s.BlackBodyTemp,    s.IncidentDensity,
                     s.Distance,         s.RIUserEdited,   s.SphereIndexTyped, s.SphereIndexVaries,
                     s.MediumIndexTyped, s.CatalogueIndex, s.PickedLineColour};
@@ -48,9 +48,8 @@ void Restore(Session& session, const InputState& state) {
   s.LoadingFlag = 1;
   const auto forms = session.forms.All();
   for (std::size_t i = 0; i < forms.size() && i < state.forms.size(); ++i) forms[i]->Restore(state.forms[i]);
-  s.GraphType = state.graphType;
-  s.GraphSubType = state.graphSubType;
-  s.CalcMethod = state.calcMethod;
+  SetGraph(s, state.graph);
+  s.CalcMethod = state.method;
   s.SphereName = state.sphereName;
   s.MediumName = state.mediumName;
   RestoreSettings(s, state.settings);

@@ -32,7 +32,7 @@ void Form_MouseDown(Session& session, double x, double y) {
   const bool onStrip = x >= 12000 && x < 15600 && y >= 0 && y < 2700;
   if (onStrip && form.optDisp.Checked && form.cboDistrib.Text != "Special")
     session.events.Raise("dlogDistDisplay.Show");
-  if (s.GraphType == 10 && s.GraphSubType == 10) session.events.Raise("dlogDebyeSeq.Show");
+  if (ChosenGraph(s).family == Family::DebyeAnalysis) session.events.Raise("dlogDebyeSeq.Show");
 }
 
 void Form_Unload(Session& session) {

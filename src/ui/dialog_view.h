@@ -9,7 +9,8 @@
 
 namespace lumivex {
 
-/// A modal dialog over any form that the layout describes: its lines, then OK and Cancel.
+/// A dialog over any form that the layout describes: its lines, then OK and Cancel. Modal with exec, modeless with
+/// show.
 ///
 /// The events of its inputs run while it is open. OK raises the form's own OK event and keeps the dialog open as long
 /// as an input is marked as bad; Cancel raises the Cancel event and puts back what stood there before.
@@ -21,6 +22,7 @@ class DialogView final : public QDialog {
   };
   DialogView(Form& form, Hooks hooks, QWidget* parent);
 
+  const Form& Of() const { return form_; }
   void Sync();
   void accept() override;
   void reject() override;

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "pages/read_out.h"
 #include "pages/zoom.h"
 #include "record/number_text.h"
 #include "session/page.h"
@@ -34,11 +35,11 @@ GraphPointer::GraphPointer(Canvas& canvas, std::function<void(const CommandGate:
     Read({x, y});
   };
   canvas_.mouse.doubleClick = [this](double x, double y) {
-    if (InGraph({x, y})) Show(session_->state.Drawn.home);
+    if (InGraph({x, y})) Show(session_->page.home);
   };
   canvas_.mouse.wheel = [this](double x, double y, double steps) {
     if (!InGraph({x, y})) return false;
-    Show(RoundedRange(ZoomAt(session_->state, x, std::pow(zoomOfStep, steps))));
+    Show(RoundedRange(ZoomAt(session_->page, x, std::pow(zoomOfStep, steps))));
     Read({x, y});
     return true;
   };
@@ -53,11 +54,11 @@ void GraphPointer::Attach(Session& session) {
 }
 
 bool GraphPointer::Ready() const {
-  return session_ && session_->state.Busy == 0 && HasXAxis(*session_);
+  return session_ && session_->state.Busy == 0 && HasXAxis(session_->page);
 }
 
 bool GraphPointer::InGraph(SurfacePoint place) const {
-  return Ready() && ReadGraph(session_->state, place.x, place.y);
+  return Ready() && ReadAt(session_->page, place.x, place.y);
 }
 
 void GraphPointer::Press(SurfacePoint place) {
@@ -69,13 +70,13 @@ void GraphPointer::Drag(double x) {
   const double moved = x - *dragFrom_;
   if (std::abs(moved) < leastDrag) return;
   dragFrom_ = x;
-  Show(RoundedRange(PanBy(session_->state, moved)));
+  Show(RoundedRange(PanBy(session_->page, moved)));
 }
 
 void GraphPointer::Read(SurfacePoint place) {
   if (!session_) return;
   place_ = place;
-  reading_ = ReadGraph(session_->state, place.x, place.y);
+  reading_ = ReadAt(session_->page, place.x, place.y);
   canvas_.SetMark(reading_ && reading_->onCurve ? std::optional(reading_->place) : std::nullopt);
   if (readingChanged) readingChanged();
 }
@@ -89,7 +90,7 @@ void GraphPointer::Forget() {
 
 void GraphPointer::Renew() {
   if (place_ && session_) {
-    reading_ = ReadGraph(session_->state, place_->x, place_->y);
+    reading_ = ReadAt(session_->page, place_->x, place_->y);
     canvas_.SetMark(reading_ && reading_->onCurve ? std::optional(reading_->place) : std::nullopt);
   }
 }
@@ -105,8 +106,7 @@ void GraphPointer::Show(XRange range) {
         !UserTypes(*session_, form.txtXmax, Shortest(range.xmax)))
       return;
     // Not a replot of the last run alone: curves drawn over it stay.
-    missing_ = !SetXRange(*session_, range);
-    DrawPage(*session_);
+    missing_ = !ShowRange(*session_, range);
   });
   if (missing_ && !dragFrom_) rest_.start();
 }
@@ -115,21 +115,21 @@ void GraphPointer::CalculateMissing() {
   rest_.stop();
   if (!std::exchange(missing_, false) || !Ready()) return;
   act_([this] {
-    const XRange home = session_->state.Drawn.home;
+    const XRange home = session_->page.home;
     session_->events.Raise("cmdNewPlot_Click");
     // The way back leads to where the user started from.
-    session_->state.Drawn.home = home;
+    session_->page.home = home;
   });
 }
 
 void GraphPointer::Step(int direction) {
-  if (!session_ || session_->state.Drawn.panels.empty()) return;
+  if (!session_ || session_->page.panels.empty()) return;
   if (!reading_ || !reading_->onCurve) {
-    const GraphBox& box = session_->state.Drawn.panels.front().box;
+    const GraphBox& box = session_->page.panels.front().box;
     Read({0.5 * (box.left + box.right), 0.5 * (box.top + box.bottom)});
     return;
   }
-  reading_ = StepAlongCurve(session_->state, *reading_, direction);
+  reading_ = StepAlongCurve(session_->page, *reading_, direction);
   place_ = reading_->place;
   canvas_.SetMark(reading_->place);
   if (readingChanged) readingChanged();
@@ -137,7 +137,7 @@ void GraphPointer::Step(int direction) {
 
 void GraphPointer::NextCurve(int direction) {
   if (!session_ || !reading_ || !reading_->onCurve) return Step(1);
-  const auto next = NeighbourCurve(session_->state, *reading_, direction);
+  const auto next = NeighbourCurve(session_->page, *reading_, direction);
   if (!next) return;
   reading_ = next;
   place_ = next->place;
@@ -164,15 +164,15 @@ bool GraphPointer::Key(const QKeyEvent& event) {
   if (!left && !right && !zoomIn && !zoomOut && !home) return false;
   if (!Ready()) return true;
   if (home) {
-    Show(session_->state.Drawn.home);
+    Show(session_->page.home);
   } else if (left || right) {
-    const double width = session_->state.Drawn.panels.front().box.Width();
-    Show(RoundedRange(PanBy(session_->state, (right ? -panOfStep : panOfStep) * width)));
+    const double width = session_->page.panels.front().box.Width();
+    Show(RoundedRange(PanBy(session_->page, (right ? -panOfStep : panOfStep) * width)));
   } else {
     // At the reading, where there is one; else at the middle.
-    const GraphBox& box = session_->state.Drawn.panels.front().box;
+    const GraphBox& box = session_->page.panels.front().box;
     const double x = reading_ && reading_->onCurve ? reading_->place.x : 0.5 * (box.left + box.right);
-    Show(RoundedRange(ZoomAt(session_->state, x, zoomIn ? zoomOfStep : 1 / zoomOfStep)));
+    Show(RoundedRange(ZoomAt(session_->page, x, zoomIn ? zoomOfStep : 1 / zoomOfStep)));
   }
   Renew();
   if (readingChanged) readingChanged();

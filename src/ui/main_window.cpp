@@ -143,6 +143,7 @@ void MainWindow::Attach(Session& session) {
   menuBar()->clear();
   menu_ = std::make_unique<MenuView>(*menuBar(), session.form1,
                                      [this](Control& entry) { Act([this, &entry] { UserClicks(*session_, entry); }); });
+  for (const auto& window : std::exchange(windows_, {})) delete window;
   delete info_;
   info_ = new InfoOverlay(session.form1.Frame6, canvas_);
   delete std::exchange(panel_, nullptr);
@@ -203,7 +204,7 @@ void MainWindow::BuildPanel(double fontShare) {
 
 void MainWindow::ReserveRoom() {
   double width = leastWidth, height = leastHeight;
-  const bool isLoaded = session_->state.PrevGraphType != 0;
+  const bool isLoaded = HasResults(session_->state);
   if (isLoaded && !session_->form1.mnuVLarge.Checked) {
     // A graph of fixed size keeps it in a smaller window, which is then scrolled.
     width = std::max(width, session_->state.GraphRight + marginRight);
@@ -308,6 +309,8 @@ void MainWindow::Refresh() {
   info_->Sync(canvas_->Unit(), scroll_->maximumViewportSize().width());
   ShowStatus();
   for (DialogView* dialog : dialogs_) dialog->Sync();
+  for (const auto& window : windows_)
+    if (window) window->Sync();
   pointer_.Renew();
   ShowReadOut();
   ReserveRoom();
@@ -326,6 +329,25 @@ bool MainWindow::ShowDialog(Form& form) {
   return ok;
 }
 
+void MainWindow::Show(Form& form) {
+  const auto open =
+      std::ranges::find_if(windows_, [&](const QPointer<DialogView>& view) { return view && &view->Of() == &form; });
+  if (open != windows_.end()) {
+    (*open)->show();
+    (*open)->raise();
+    (*open)->activateWindow();
+    return;
+  }
+  std::erase_if(windows_, [](const QPointer<DialogView>& view) { return view.isNull(); });
+  auto* view = new DialogView(
+      form, {Actions(), [this](std::string_view event) { Act([&] { session_->events.Raise(event); }); }}, this);
+  view->setAttribute(Qt::WA_DeleteOnClose);
+  form.Visible = true;
+  connect(view, &QDialog::finished, this, [&form] { form.Visible = false; });
+  windows_.emplace_back(view);
+  view->show();
+}
+
 PageFormat MainWindow::Page() const {
   return {static_cast<double>(canvas_->width()), static_cast<double>(canvas_->height()), canvas_->Unit()};
 }
@@ -333,7 +355,7 @@ PageFormat MainWindow::Page() const {
 std::string MainWindow::SavePicture(std::string_view path, int widthPx, int heightPx) {
   const PageFormat format = ScaledFormat(Page(), widthPx, heightPx);
   const std::string failure =
-      path.empty() ? CopyPage(*session_, format, devicePixelRatioF()) : SavePage(*session_, format, path);
+      path.empty() ? CopyPage(session_->page, format, devicePixelRatioF()) : SavePage(session_->page, format, path);
   canvas_->ShowChanges();
   return failure;
 }

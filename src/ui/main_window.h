@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QMainWindow>
+#include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScrollArea>
@@ -39,6 +40,8 @@ class MainWindow final : public QMainWindow {
   /// Shows every control, menu entry and label as it is now, and the drawing.
   void Refresh();
 
+  /// Shows a window over a form of the layout and goes on; one that is open comes to the front.
+  void Show(Form& form);
   /// Shows a dialog and waits; true is OK.
   bool ShowDialog(Form& form);
   /// Size and scale of the page on the screen.
@@ -90,6 +93,7 @@ class MainWindow final : public QMainWindow {
   QLabel* average_ = nullptr;
   QProgressBar* progress_ = nullptr;
   std::vector<DialogView*> dialogs_;
+  std::vector<QPointer<DialogView>> windows_;  ///< modeless ones
   UndoKeys undoKeys_;
 };
 

@@ -12,8 +12,7 @@
 #include <QSvgGenerator>
 #include <algorithm>
 
-#include "session/info.h"
-#include "session/page.h"
+#include "pages/build_page.h"
 #include "ui/look.h"
 #include "ui/painter_surface.h"
 
@@ -26,45 +25,28 @@ constexpr double pdfDotsPerInch = 1200;
 constexpr double pointsPerPx = 0.75;
 constexpr double panelWidth = 12000;  // where the readings begin (surface units)
 
-/// Puts the session onto another surface, with the graph box in proportion, and back when it ends.
-class OtherSurface {
- public:
-  OtherSurface(Session& session, PainterSurface& surface)
-      : session_(session), own_(session.surface), state_(session.state) {
-    static_cast<SurfacePen&>(surface) = *own_;
-    right_ = state_.GraphRight;
-    bottom_ = state_.GraphBottom;
-    session_.surface = &surface;
-    if (!session_.form1.mnuVLarge.Checked) return;
-    state_.GraphRight = static_cast<float>(right_ * surface.ScaleWidth() / own_->ScaleWidth());
-    state_.GraphBottom = static_cast<float>(bottom_ * surface.ScaleHeight() / own_->ScaleHeight());
+/// The geometry of a page on another surface: a graph of the size of its window keeps its proportion to it.
+PageGeometry GeometryOn(const Page& page, const DrawingSurface& surface) {
+  PageGeometry geometry = page.geometry;
+  if (page.style.size == GraphSize::VeryLarge) {
+    geometry.box.right *= surface.ScaleWidth() / geometry.surfaceWidth;
+    geometry.box.bottom *= surface.ScaleHeight() / geometry.surfaceHeight;
   }
-  ~OtherSurface() {
-    session_.surface = own_;
-    state_.GraphRight = right_;
-    state_.GraphBottom = bottom_;
-    DrawPage(session_);  // what the record keeps of the drawing is that of the window again
-  }
-  OtherSurface(const OtherSurface&) = delete;
-  OtherSurface& operator=(const OtherSurface&) = delete;
-
- private:
-  Session& session_;
-  DrawingSurface* own_;
-  MainFormState& state_;
-  float right_ = 0, bottom_ = 0;
-};
+  geometry.surfaceWidth = surface.ScaleWidth();
+  geometry.surfaceHeight = surface.ScaleHeight();
+  return geometry;
+}
 
 /// The parameters of the run, in columns over the room of the input panel.
-void PrintParameters(Session& session) {
-  auto& surface = *session.surface;
+void PrintParameters(const Page& page, DrawingSurface& surface) {
+  if (page.runs.empty()) return;
   constexpr double left = 1000, top = 600, lineHeight = 200, gap = 400;
   constexpr std::size_t mostLines = 8;
   const SurfacePen before = surface;
   surface.ForeColour = colours::Black;
   surface.FontSize = 8;
   surface.FontBold = false;
-  const auto lines = RunParameters(session);
+  const auto& lines = page.runs.back().parameters;
   if (lines.empty()) return;
   const std::size_t columns = (lines.size() + mostLines - 1) / mostLines;
   std::size_t linesPerColumn = (lines.size() + columns - 1) / columns;
@@ -85,20 +67,19 @@ void PrintParameters(Session& session) {
   static_cast<SurfacePen&>(surface) = before;
 }
 
-void DrawOn(Session& session, PainterSurface& surface) {
-  const OtherSurface guard(session, surface);
-  DrawPage(session);
-  PrintParameters(session);
+void DrawOn(const Page& page, DrawingSurface& surface) {
+  Paint(PlacePage(page, GeometryOn(page, surface)), surface);
+  PrintParameters(page, surface);
 }
 
-QByteArray PagePng(Session& session, const PageFormat& format) {
+QByteArray PagePng(const Page& page, const PageFormat& format) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
-  return PageImage(session, format, 1).save(&buffer, "PNG") ? bytes : QByteArray();
+  return PageImage(page, format, 1).save(&buffer, "PNG") ? bytes : QByteArray();
 }
 
-QByteArray PagePdf(Session& session, const PageFormat& format) {
+QByteArray PagePdf(const Page& page, const PageFormat& format) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
@@ -111,7 +92,7 @@ QByteArray PagePdf(Session& session, const PageFormat& format) {
   writer.setPageMargins(QMarginsF(0, 0, 0, 0));
   PainterSurface surface;
   surface.Open(writer, {format.unitPx, pdfDotsPerInch / dotsPerInch, false}, format.widthPx, format.heightPx);
-  DrawOn(session, surface);
+  DrawOn(page, surface);
   surface.Close();
   return bytes;
 }
@@ -124,20 +105,20 @@ std::string WriteFile(const QString& path, const QByteArray& bytes) {
 
 }  // namespace
 
-PageFormat ScaledFormat(const PageFormat& page, int widthPx, int heightPx) {
-  if (widthPx <= 0 || heightPx <= 0) return page;
+PageFormat ScaledFormat(const PageFormat& onScreen, int widthPx, int heightPx) {
+  if (widthPx <= 0 || heightPx <= 0) return onScreen;
   const double width = widthPx, height = heightPx;
-  return {width, height, page.unitPx * std::min(width / page.widthPx, height / page.heightPx)};
+  return {width, height, onScreen.unitPx * std::min(width / onScreen.widthPx, height / onScreen.heightPx)};
 }
 
-QImage PageImage(Session& session, const PageFormat& format, double deviceRatio) {
+QImage PageImage(const Page& page, const PageFormat& format, double deviceRatio) {
   ImageSurface surface(static_cast<int>(format.widthPx), static_cast<int>(format.heightPx), format.unitPx, deviceRatio);
-  DrawOn(session, surface);
+  DrawOn(page, surface);
   surface.Close();
   return surface.Picture();
 }
 
-QByteArray PageSvg(Session& session, const PageFormat& format) {
+QByteArray PageSvg(const Page& page, const PageFormat& format) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
@@ -149,7 +130,7 @@ QByteArray PageSvg(Session& session, const PageFormat& format) {
   generator.setTitle("Lumivex");
   PainterSurface surface;
   surface.Open(generator, {format.unitPx, 1, false}, format.widthPx, format.heightPx);
-  DrawOn(session, surface);
+  DrawOn(page, surface);
   surface.Close();
   // The family's own name means something on this machine alone.
   const QByteArray family = QGuiApplication::font().family().toUtf8();
@@ -157,16 +138,16 @@ QByteArray PageSvg(Session& session, const PageFormat& format) {
   return bytes.replace("font-family=\"" + family + "\"", "font-family=\"" + resolved + ", sans-serif\"");
 }
 
-std::string SavePage(Session& session, const PageFormat& format, std::string_view path) {
+std::string SavePage(const Page& page, const PageFormat& format, std::string_view path) {
   const QString file = ToQString(path);
   const QString kind = QFileInfo(file).suffix().toLower();
   QByteArray bytes;
   if (kind == "png") {
-    bytes = PagePng(session, format);
+    bytes = PagePng(page, format);
   } else if (kind == "svg") {
-    bytes = PageSvg(session, format);
+    bytes = PageSvg(page, format);
   } else if (kind == "pdf") {
-    bytes = PagePdf(session, format);
+    bytes = PagePdf(page, format);
   } else {
     return "The name of a picture file ends in .png, .svg or .pdf.";
   }
@@ -174,10 +155,10 @@ std::string SavePage(Session& session, const PageFormat& format, std::string_vie
   return WriteFile(file, bytes);
 }
 
-std::string CopyPage(Session& session, const PageFormat& format, double deviceRatio) {
+std::string CopyPage(const Page& page, const PageFormat& format, double deviceRatio) {
   auto* data = new QMimeData;
-  data->setImageData(PageImage(session, format, deviceRatio));
-  data->setData("image/svg+xml", PageSvg(session, format));
+  data->setImageData(PageImage(page, format, deviceRatio));
+  data->setData("image/svg+xml", PageSvg(page, format));
   QGuiApplication::clipboard()->setMimeData(data);
   return {};
 }

@@ -5,11 +5,11 @@
 #include <string>
 #include <string_view>
 
-#include "record/session.h"
+#include "record/page.h"
 
 namespace lumivex {
 
-/// The page of the session as a picture: the same drawing, made anew for a file or the clipboard and as sharp there.
+/// A page as a picture: the same drawing, made anew for a file or the clipboard and as sharp there.
 ///
 /// In place of the input panel, which a picture does not show, stand the parameters of the run in words.
 struct PageFormat {
@@ -18,19 +18,19 @@ struct PageFormat {
 };
 
 /// The format of a picture of other size than the page on the screen: text and lines grow with the picture.
-PageFormat ScaledFormat(const PageFormat& page, int widthPx, int heightPx);
+PageFormat ScaledFormat(const PageFormat& onScreen, int widthPx, int heightPx);
 
-/// Draws the page as an image with `deviceRatio` dots to a pixel. The session is left as it was.
-QImage PageImage(Session& session, const PageFormat& format, double deviceRatio);
+/// Draws the page as an image with `deviceRatio` dots to a pixel.
+QImage PageImage(const Page& page, const PageFormat& format, double deviceRatio);
 
 /// The page as SVG; text in it is text.
-QByteArray PageSvg(Session& session, const PageFormat& format);
+QByteArray PageSvg(const Page& page, const PageFormat& format);
 
 /// Writes the page as .png, .svg or .pdf, beside the file first, so that a failure leaves an older one whole.
 /// @return an empty text, or a sentence on what went wrong.
-std::string SavePage(Session& session, const PageFormat& format, std::string_view path);
+std::string SavePage(const Page& page, const PageFormat& format, std::string_view path);
 
 /// Copies the page to the clipboard, as an image and as SVG.
-std::string CopyPage(Session& session, const PageFormat& format, double deviceRatio);
+std::string CopyPage(const Page& page, const PageFormat& format, double deviceRatio);
 
 }  // namespace lumivex

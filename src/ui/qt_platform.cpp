@@ -55,6 +55,10 @@ bool QtPlatform::ShowModal(Form& form) {
   return showModal && showModal(form);
 }
 
+void QtPlatform::Show(Form& form) {
+  if (show) show(form);
+}
+
 void QtPlatform::Yield() {
   gate_.Yield();
 }

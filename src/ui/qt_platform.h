@@ -23,6 +23,7 @@ class QtPlatform final : public Platform {
   std::optional<std::string> OpenFileName(const FileDialog& dialog) override;
   std::optional<std::string> SaveFileName(const FileDialog& dialog) override;
   bool ShowModal(Form& form) override;
+  void Show(Form& form) override;
   void Yield() override;
   double Timer() override;
   ScreenSize Screen() override;
@@ -36,6 +37,7 @@ class QtPlatform final : public Platform {
 
   // What the main window does for it once it is there.
   QPointer<QWidget> window;                                  ///< parent of every dialog
+  std::function<void(Form&)> show;                           ///< modeless
   std::function<bool(Form&)> showModal;                      ///< true is OK
   std::function<std::string(std::string_view)> savePicture;  ///< returns a sentence on what went wrong
 

@@ -13,11 +13,11 @@ namespace {
 
 ScriptWindow FunctionsOf(MainWindow& window) {
   ScriptWindow functions;
-  functions.picture = [&window](std::string_view file, int widthPx, int heightPx) {
+  functions.picture = [&window](Form&, std::string_view file, int widthPx, int heightPx) {
     return window.SavePicture(file, widthPx, heightPx);
   };
-  functions.screenshot = [&window](std::string_view file) { return window.SaveScreenshot(file); };
-  functions.resize = [&window](int widthPx, int heightPx) {
+  functions.screenshot = [&window](Form&, std::string_view file) { return window.SaveScreenshot(file); };
+  functions.resize = [&window](Form&, int widthPx, int heightPx) {
     window.resize(widthPx, heightPx);
     window.Settle();
   };

@@ -6,6 +6,7 @@ namespace lumivex {
 
 WindowedSession::WindowedSession() : platform_(gate_), window_(gate_), open_(platform_, window_.Surface()) {
   platform_.window = &window_;
+  platform_.show = [this](Form& form) { window_.Show(form); };
   platform_.showModal = [this](Form& form) { return window_.ShowDialog(form); };
   platform_.savePicture = [this](std::string_view path) { return window_.SavePicture(path); };
   window_.Attach(open_.Get());

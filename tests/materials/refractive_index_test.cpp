@@ -177,7 +177,7 @@ TEST_F(RefractiveIndex, LayeredMethodsAndNoWavelengthChangeNothing) {
   Do("click mnuRI_Au\nset txtLambda 0.6");
   const double n = State().RefractReal;
   EXPECT_NEAR(RefRel(Now(), 0).value(), Number("txtRefractReal"), 1e-12);
-  State().CalcMethod = 13;
+  State().CalcMethod = Method::CoatedSphere;
   EXPECT_FALSE(RefRel(Now(), 0.5));
   EXPECT_EQ(State().RefractReal, n);
   EXPECT_TRUE(Shown().empty());

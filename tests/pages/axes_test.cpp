@@ -24,10 +24,10 @@ struct Axes : testing::Test, GraphSession {
   Axes() { StoreAngles(0.1, Drop, OtherDrop); }
 
   DrawingReader Read() const { return DrawingReader(surface); }
-  GraphBox Box() const { return WholeBox(session.state); }
+  GraphBox Box() const { return GeometryOf(session).box; }
   double XOf(double value) const {
-    const auto& panel = session.state.Drawn.panels.front();
-    return PanelMap{panel.box, panel.limits, session.state.Drawn.kind.logX, panel.logY}.X(value);
+    const auto& panel = page.panels.front();
+    return PanelMap{panel.box, panel.limits, page.kind.logX, panel.logY}.X(value);
   }
   std::vector<std::string> XLabels() const {
     const GraphBox box = Box();
@@ -75,11 +75,9 @@ TEST_F(Axes, TheLadderFollowsTheRange) {
   }
   // The number that the frame before tested is what the ladder looks at; labels go by the frame's own.
   double step = 0, range = 0, labelStep = 0;
-  state.GridOddTest = 3;
-  GridxStep(state, 10, 20, step, range, labelStep);
+  GridxStep(3, 10, 20, step, range, labelStep);
   EXPECT_EQ(labelStep, 5);
-  state.GridOddTest = 4;
-  GridxStep(state, 11, 21, step, range, labelStep);
+  GridxStep(4, 11, 21, step, range, labelStep);
   EXPECT_EQ(labelStep, 2);
 }
 
@@ -141,21 +139,18 @@ TEST_F(Axes, NothingOverlapsInTheStandardGraphs) {
     ShowRange("0", "180");
     for (const char* panels : {"mnuAmpPhase_Click", "mnuIntPol_Click"}) {
       Click(panels);
-      state.PlotMode = 1;
-      DisplayTwoPanels(session);
+      Draw();
       check(std::string(size) + " " + panels);
       Click(panels);
     }
     Click("mnuPolarPlot_Click");
     Draw();
-    PolarLabel(session);
     check(std::string(size) + " polar");
     Click("mnuPolarPlot_Click");
-    state.GraphSubType = 6;
-    state.PlotMode = 1;
-    DisplayTwoPanels(session);
+    TakeGraph({1, 6});
+    Draw();
     check(std::string(size) + " scattering matrix");
-    state.GraphSubType = 1;
+    TakeGraph({1, 1});
     form.optXLog.Select();
     for (const char* grid : {"mnuMinorGridX_Click", "mnuMinorGridY_Click"}) Click(grid);
     Range("1", "180");
@@ -191,24 +186,21 @@ TEST_F(Axes, AbsurdLimitsNeitherHangNorDrawOutside) {
 }
 
 TEST_F(Axes, ARoundTopStandsAboveTheCurveAndSharesItsUnit) {
-  form.optLinear.Select();
+  ScaleLook linear;
+  linear.logY = false;
+  ScaleMemory memory;
+  const auto top = [&](double value) { return GridYmax(linear, value, memory); };
   struct Row {
     double value, top;
   };
-  for (const auto& [value, top] :
-       {Row{8.3, 9}, Row{42, 45}, Row{2.5, 2.6}, Row{1.23, 1.3}, Row{0.75, 0.8}, Row{0.11, 0.12}}) {
-    double result = 0;
-    GridYmax(session, value, result);
-    EXPECT_NEAR(result, top, 1e-9) << value;
-  }
+  for (const auto& row : {Row{8.3, 9}, Row{42, 45}, Row{2.5, 2.6}, Row{1.23, 1.3}, Row{0.75, 0.8}, Row{0.11, 0.12}})
+    EXPECT_NEAR(top(row.value), row.top, 1e-9) << row.value;
   // An exact power of ten takes the unit that the call before left.
-  double result = 0;
-  GridYmax(session, 8.3, result);
-  GridYmax(session, 10, result);
-  EXPECT_EQ(result, 11) << "the unit of 8.3 is 1";
-  GridYmax(session, 42, result);
-  GridYmax(session, 10, result);
-  EXPECT_EQ(result, 15) << "the unit of 42 is 5";
+  top(8.3);
+  EXPECT_EQ(top(10), 11) << "the unit of 8.3 is 1";
+  top(42);
+  EXPECT_EQ(top(10), 15) << "the unit of 42 is 5";
+  EXPECT_EQ(top(0), 15) << "nothing to scale by: the last top serves";
 }
 
 TEST(RoundedText, DoublesTheSignBelowMinusOne) {

@@ -4,6 +4,7 @@
 
 #include "pages/drawing_reader.h"
 #include "pages/graph_fixture.h"
+#include "session/inputs/look/colour_test.h"
 
 namespace lumivex {
 namespace {
@@ -22,7 +23,7 @@ TEST(WavelengthColour, FollowsItsPieces) {
   ExpectColour(colRGB2(0.645), 255, 0, 0, "645 nm");
   ExpectColour(colRGB2(1.2), 255, 0, 0, "no fade beyond red");
   EXPECT_NEAR(colRGB2(0.38).r, 318.7, 0.1) << "not clipped before it becomes a colour";
-  EXPECT_EQ(ToColour(colRGB2(0.38)), RGB(255, 0, 255));
+  EXPECT_EQ(ColourSet(colRGB2(0.38)), RGB(255, 0, 255));
   ExpectColour(colrgb3(0.46), 255 * (1 - 80.0 / 90), 255 * 0.2, 255, "the other rule at 460 nm");
   ExpectColour(colrgb3(0.71), 0, 0, 0, "the other rule ends at 700 nm");
 }
@@ -46,11 +47,8 @@ TEST(Gamma, JoinsItsBranchesAndKeepsRatiosInGroups) {
 }
 
 struct FalseColours : testing::Test, GraphSession {
-  Colour At(double value) {
-    state.ColourValue = value;
-    ColourScale(session);
-    return surface.ForeColour;
-  }
+  Colour At(double value) { return FalseColourOf(session, value); }
+  LinePair Line() { return LineColour(ReadLook(session).pen, 0.65); }
 };
 
 TEST_F(FalseColours, RunDownTheRainbow) {
@@ -89,9 +87,8 @@ TEST_F(FalseColours, TheKeyRunsAwayFromTheThirdPanel) {
 
 TEST_F(FalseColours, LineColoursComeWithTheirShade) {
   Click("mnuCyanLine_Click");
-  LineColour(session);
-  EXPECT_EQ(surface.ForeColour, RGB(0, 255, 255));
-  EXPECT_EQ(state.SecondLineColour, RGB(0, 128, 128));
+  EXPECT_EQ(Line().first, RGB(0, 255, 255));
+  EXPECT_EQ(Line().second, RGB(0, 128, 128));
   auto& dialog = session.forms.dlogPlotColour;
   platform.dialogAnswer = false;
   Click("mnuMoreColours_Click");
@@ -101,8 +98,7 @@ TEST_F(FalseColours, LineColoursComeWithTheirShade) {
   dialog.txtGreen.Text = "100";
   dialog.txtBlue.Text = "999";
   Click("mnuMoreColours_Click");
-  LineColour(session);
-  EXPECT_EQ(surface.ForeColour, RGB(200, 100, 255));
+  EXPECT_EQ(Line().first, RGB(200, 100, 255));
   EXPECT_FALSE(form.mnuCyanLine.Checked);
 }
 

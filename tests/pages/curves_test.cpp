@@ -3,10 +3,10 @@
 
 #include <limits>
 
-#include "pages/curve_text.h"
+#include "axes/curve_smoothing.h"
 #include "pages/drawing_reader.h"
 #include "pages/graph_fixture.h"
-#include "pages/sun_disc.h"
+#include "pages/page_table.h"
 
 namespace lumivex {
 namespace {
@@ -22,8 +22,8 @@ struct Curves : testing::Test, GraphSession {
   }
   std::vector<DrawnOperation> Drawn() const { return DrawingReader(surface).Curves(); }
   PanelMap Map() const {
-    const auto& panel = session.state.Drawn.panels.front();
-    return {panel.box, panel.limits, session.state.Drawn.kind.logX, panel.logY};
+    const auto& panel = page.panels.front();
+    return {panel.box, panel.limits, page.kind.logX, panel.logY};
   }
   double XAt(const DrawnOperation& curve, std::size_t i) const { return Map().XAt(curve.points[i].x); }
   double YAt(const DrawnOperation& curve, std::size_t i) const { return Map().YAt(curve.points[i].y); }
@@ -92,12 +92,13 @@ TEST_F(Curves, AreCutAtTheEdgeOfTheBox) {
 
 TEST_F(Curves, AValueThatWasNotComputedLiftsThePenAndDoesNotCount) {
   form.cboPol.Text = "Perpendicular polarisation";
-  for (std::size_t i = 50; i < 100; ++i) state.Iperp[i] = state.Ipar[i] = notComputed;
+  Found().rows.forward.high = 49;
+  Found().rows.mirrored.low = 100;
   Draw();
   ASSERT_EQ(Drawn().size(), 2U);
   EXPECT_NEAR(XAt(Drawn()[0], Drawn()[0].points.size() - 1), 48, 1e-6);
   EXPECT_NEAR(XAt(Drawn()[1], 0), 99, 1e-6);
-  EXPECT_EQ(state.YAutoMax, 300);
+  EXPECT_NEAR(state.YAutoMax, 300, 1e-9);
   StoreAngles(1, [](double) { return notComputed; });
   Draw();
   EXPECT_TRUE(Drawn().empty());
@@ -109,30 +110,29 @@ TEST_F(Curves, AnOverplotKeepsTheFrameAndItsLimits) {
   const double top = state.Ymax, bottom = state.Ymin;
   Click("mnuBlueLine_Click");
   StoreAngles(1, [](double) { return 5e8; });
-  const std::size_t before = surface.Operations().size();
   DrawOver();
   EXPECT_EQ(state.Ymax, top);
   EXPECT_EQ(state.Ymin, bottom);
   EXPECT_EQ(Drawn().size(), 4U);
-  EXPECT_GT(surface.Operations().size(), before) << "the frame was not cleared";
-  EXPECT_EQ(state.Drawn.curves.size(), 4U);
+  EXPECT_EQ(page.curves.size(), 4U);
 
   // The whole picture comes back on any surface.
   RecordingSurface other(12000, 12000);
-  session.surface = &other;
-  RedrawGraph(session);
-  session.surface = &surface;
+  Paint(page, other);
   const auto again = DrawingReader(other).Curves();
   ASSERT_EQ(again.size(), 4U);
   EXPECT_EQ(again[0].colour, darkRed);
   EXPECT_EQ(again[3].colour, RGB(0, 0, 255));
 
-  // A frame of another graph is not drawn over.
-  state.GraphType = 11;
-  state.XValues.clear();
+  // Over a frame of another graph, or of other units, nothing is drawn.
+  form.mnuAmplitude.Checked = true;
   DrawOver();
-  EXPECT_EQ(state.Drawn.kind.graphType, 11);
-  EXPECT_LE(state.Drawn.curves.size(), 2U);
+  EXPECT_EQ(page.curves.size(), 2U);
+  form.mnuAmplitude.Checked = false;
+  TakeGraph({1, 4});
+  DrawOver();
+  EXPECT_EQ(page.kind.graph.quantity, Quantity::DifferentialCrossSection);
+  EXPECT_EQ(page.curves.size(), 2U);
 }
 
 TEST_F(Curves, AreAveragedOverTheWidthAsked) {
@@ -156,27 +156,22 @@ TEST_F(Curves, AreAveragedOverTheWidthAsked) {
 TEST_F(Curves, AreFoldedWithTheDiscOfTheSun) {
   form.cboPol.Text = "Perpendicular polarisation";
   form.optLinear.Select();
-  form.cboStep.Text = "0.1";
   StoreAngles(0.1, [](double a) { return std::abs(a - 90) < 0.05 ? 100.0 : 0.0; });
   form.optSun.Select();
-  SunCorrection(session);
-  EXPECT_EQ(state.SunDiscRows, 2);
-  const double edge = 0.6, middle = std::sqrt(1 - 0.16);
-  EXPECT_NEAR(state.SunDiscTotal, 1 + 2 * (middle + edge), 1e-12);
+  const double edge = 0.6, middle = std::sqrt(1 - 0.16), total = 1 + 2 * (middle + edge);
   Draw();
-  const auto& y = state.Drawn.curves[0].y;
-  EXPECT_NEAR(y[901], 100 / state.SunDiscTotal, 1e-9);
-  EXPECT_NEAR(y[902], 100 * middle / state.SunDiscTotal, 1e-9);
-  EXPECT_NEAR(y[899], 100 * edge / state.SunDiscTotal, 1e-9);
+  const auto& y = page.curves[0].y;
+  EXPECT_NEAR(y[901], 100 / total, 1e-9);
+  EXPECT_NEAR(y[902], 100 * middle / total, 1e-9);
+  EXPECT_NEAR(y[899], 100 * edge / total, 1e-9);
   EXPECT_EQ(y[904], 0);
   // At 0 and 180 degrees the pattern is its own mirror image.
   StoreAngles(0.1, [](double) { return 7.0; });
   Draw();
-  EXPECT_NEAR(state.Drawn.curves[0].y[1], 7, 1e-12);
-  EXPECT_NEAR(state.Drawn.curves[0].y[1801], 7, 1e-12);
+  EXPECT_NEAR(page.curves[0].y[1], 7, 1e-12);
+  EXPECT_NEAR(page.curves[0].y[1801], 7, 1e-12);
   Click("mnuSun_Click");
-  SunCorrection(session);
-  EXPECT_NEAR(state.SunDiscTotal, 5, 1e-12);
+  EXPECT_EQ(SunDiscWeights(0.1, ReadLook(session).sun.rectangular).total, 5);
 }
 
 TEST_F(Curves, InterpolationPassesThroughThePointsAndBetween) {
@@ -208,10 +203,9 @@ TEST_F(Curves, MarkersAreCirclesAndCrosses) {
 
 TEST_F(Curves, TwoPanelsShareTheXAxis) {
   Click("mnuIntPol_Click");
-  state.PlotMode = 1;
-  DisplayTwoPanels(session);
-  ASSERT_EQ(state.Drawn.panels.size(), 2U);
-  const auto &upper = state.Drawn.panels[0], &lower = state.Drawn.panels[1];
+  Draw();
+  ASSERT_EQ(page.panels.size(), 2U);
+  const auto &upper = page.panels[0], &lower = page.panels[1];
   EXPECT_LT(upper.box.bottom, lower.box.top);
   EXPECT_EQ(upper.limits.xmax, lower.limits.xmax);
   EXPECT_EQ(lower.limits.ymin, -1);
@@ -226,27 +220,20 @@ TEST_F(Curves, TwoPanelsShareTheXAxis) {
 
   Click("mnuAmpPhase_Click");
   EXPECT_FALSE(form.mnuIntPol.Checked);
-  state.PlotMode = 1;
-  DisplayTwoPanels(session);
+  Draw();
   EXPECT_EQ(Drawn().size(), 4U);
   EXPECT_NE(DrawingReader(surface).Text("180"), nullptr);
   EXPECT_NE(DrawingReader(surface).Text("Phase angle"), nullptr);
 }
 
 TEST_F(Curves, TheScatteringMatrixHasItsRatiosBelow) {
-  state.GraphSubType = 6;
-  for (std::size_t i = 1; i < state.Extra1.size(); ++i) {
-    state.Extra1[i] = -0.5;
-    state.Extra2[i] = 0.25;
-    state.Extra3[i] = 0.75;
-  }
+  TakeGraph({1, 6});
   Click("mnuPolarPlot_Click");
-  state.PlotMode = 1;
-  DisplayTwoPanels(session);
-  ASSERT_EQ(state.Drawn.panels.size(), 2U) << "ratios have no polar form";
+  Draw();
+  ASSERT_EQ(page.panels.size(), 2U) << "ratios have no polar form";
   std::vector<std::string> names;
   std::vector<int> colours;
-  for (const auto& curve : state.Drawn.curves) {
+  for (const auto& curve : page.curves) {
     names.push_back(curve.name);
     colours.push_back(curve.panel == 1 ? curve.colour.Red() * 65536 + curve.colour.Green() * 256 + curve.colour.Blue()
                                        : -1);
@@ -258,14 +245,7 @@ TEST_F(Curves, TheScatteringMatrixHasItsRatiosBelow) {
   std::ranges::sort(colours);
   EXPECT_EQ(std::ranges::unique(colours).size(), 0U) << "three colours";
   EXPECT_NE(DrawingReader(surface).Text("S33/S11   "), nullptr);
-  EXPECT_THAT(CurvesAsText(session),
-              testing::StartsWith("Scattering angle (deg.)\tS11\tS34/S11\tS33/S11\tS12/S11\n0\t"));
-}
-
-TEST_F(Curves, AStopLeavesTheRestOut) {
-  platform.stopAtYield = true;
-  Draw();
-  EXPECT_TRUE(Drawn().empty());
+  EXPECT_THAT(TableAsText(page), testing::StartsWith("Scattering angle (deg.)\tS11\tS34/S11\tS33/S11\tS12/S11\n0\t"));
 }
 
 }  // namespace

@@ -5,14 +5,12 @@
 #include <string>
 #include <vector>
 
-#include "pages/curve_legend.h"
-#include "pages/frame.h"
-#include "pages/line_graph.h"
-#include "pages/redraw.h"
-#include "pages/two_panels.h"
+#include "pages/build_page.h"
 #include "record/recording_surface.h"
 #include "record/session.h"
 #include "session/inputs/look/look_menus.h"
+#include "session/inputs/look/read_look.h"
+#include "session/page.h"
 
 namespace lumivex {
 
@@ -29,9 +27,8 @@ class GraphPlatform final : public Platform {
     ++dialogsShown;
     return dialogAnswer;
   }
-  void Yield() override {
-    if (state != nullptr && stopAtYield) state->PlotMode = 4;
-  }
+  void Show(Form&) override {}
+  void Yield() override {}
   double Timer() override { return 0; }
   ScreenSize Screen() override { return {}; }
   char DecimalSymbol() override { return '.'; }
@@ -45,8 +42,6 @@ class GraphPlatform final : public Platform {
   std::vector<std::string> messages;
   int dialogsShown = 0;
   bool dialogAnswer = true;
-  RunState* state = nullptr;
-  bool stopAtYield = false;
 };
 
 class RaisedEvents final : public Events {
@@ -61,7 +56,6 @@ class RaisedEvents final : public Events {
 /// A session that has started but calculated nothing, on a surface of 19200 by 15360 units, in the "Large" size.
 struct GraphSession {
   GraphSession() {
-    platform.state = &session.state;
     form.mnuMajorGridX.Checked = form.mnuMajorGridY.Checked = true;
     form.mnuDrawWidth1.Checked = true;
     form.mnuLogoPositionBL.Checked = true;
@@ -75,44 +69,46 @@ struct GraphSession {
       if (row.name == event) row.handler(session);
   }
 
-  /// Stores curves against angle from 0 to 180 degrees as a run leaves them; f and g give the two polarisations.
+  /// Results against angle from 0 to 180 degrees as a run gives them; f and g are the two intensities, at a phase of
+  /// both amplitudes (degrees).
   template <class F, class G>
-  void StoreAngles(double step, F&& f, G&& g) {
-    auto& s = session.state;
-    s.Xstep = step;
-    s.NANG = static_cast<int>(std::lround(90 / step)) + 1;
-    s.AngleLow = 1;
-    s.AngleHigh = 2 * s.NANG - 1;
-    const auto size = static_cast<std::size_t>(s.AngleHigh) + 1;
-    for (auto* y : {&s.XValues, &s.Iperp, &s.Ipar, &s.Iunpol, &s.Extra1, &s.Extra2, &s.Extra3}) y->assign(size, 0);
-    for (std::size_t i = 1; i < size; ++i) {
-      const double angle = static_cast<double>(i - 1) * step;
-      s.XValues[i] = angle;
-      s.Iperp[i] = f(angle);
-      s.Ipar[i] = g(angle);
-      s.Iunpol[i] = (s.Iperp[i] + s.Ipar[i]) / 2;
-      s.Extra1[i] = (s.Iperp[i] - s.Ipar[i]) / (s.Iperp[i] + s.Ipar[i]);
+  void StoreAngles(double step, F&& f, G&& g, double phase = 0) {
+    AngleRows rows;
+    rows.step = step;
+    rows.NANG = static_cast<int>(std::lround(90 / step)) + 1;
+    const int last = 2 * rows.NANG - 1;
+    rows.window = {1, last};
+    AngleFound found;
+    found.S1.Resize(last);
+    found.S2.Resize(last);
+    found.rows = {{1, rows.NANG}, {rows.NANG + 1, last}};
+    const double c = std::cos(phase * 3.14159265358979 / 180), s = std::sin(phase * 3.14159265358979 / 180);
+    for (int row = 1; row <= last; ++row) {
+      const double angle = (row - 1) * step;
+      const double a = std::sqrt(f(angle)), b = std::sqrt(g(angle));
+      found.S1.Set(row, a * c, a * s);
+      found.S2.Set(row, b * c, b * s);
     }
+    results = {};
+    results.asked.run = AngleRun{rows};
+    results.found = std::move(found);
+    results.last.lambda = 0.65;
   }
   template <class F>
   void StoreAngles(double step, F&& f) {
     StoreAngles(step, f, f);
   }
+  void TakeGraph(GraphCode code) { results.asked.graph = GraphOf(code); }
+  AngleFound& Found() { return std::get<AngleFound>(results.found); }
 
   void ShowRange(std::string_view xmin, std::string_view xmax) {
     session.form1.txtXmin.Text = xmin;
     session.form1.txtXmax.Text = xmax;
   }
 
-  /// A plain run draws its curves.
-  void Draw() {
-    session.state.PlotMode = 1;
-    Display(session, session.state.Iperp, session.state.Ipar, session.state.Iunpol);
-  }
-  void DrawOver() {
-    session.state.PlotMode = 2;
-    Display(session, session.state.Iperp, session.state.Ipar, session.state.Iunpol);
-  }
+  /// A plain run shows its curves, an overplot adds them.
+  void Draw() { ShowPage(session, BuildPage(results, ReadLook(session), GeometryOf(session), session.state)); }
+  void DrawOver() { ShowPage(session, lumivex::DrawOver(session.page, results, ReadLook(session))); }
 
   GraphPlatform platform;
   RecordingSurface surface{19200, 15360};
@@ -120,6 +116,8 @@ struct GraphSession {
   Session session{platform, surface, events};
   MainFormState& state = session.state;
   Form1& form = session.form1;
+  Page& page = session.page;
+  Results results;
 };
 
 }  // namespace lumivex

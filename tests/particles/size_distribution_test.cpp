@@ -8,7 +8,6 @@
 #include "particles/gamma_function.h"
 #include "particles/normal_samples.h"
 #include "particles/size_models.h"
-#include "session/driver/solver_chain.h"
 #include "session/inputs/sizes/read_size_dist.h"
 #include "session/inputs/sizes/size_distribution_display.h"
 #include "session/inputs/sizes/size_menus.h"
@@ -257,41 +256,30 @@ TEST_F(SizeDistribution, ReadingsAndDistributionStandSideBySide) {
 TEST_F(SizeDistribution, OneAngleMeetsTheSameRowOfAllAngles) {
   Disperse("Gamma", "10", "3");
   Do("click cmdNewPlot");
-  const int row = 601;
-  const double perpendicular = State().S1.Intensity(row), parallel = State().S2.Intensity(row);
-  const double g = State().Gsca, crossRe = State().CloudCrossRe[row];
-  const auto solve = [&]() -> std::optional<SpherePoint> {
-    CallSolver(Now(), row, row);
-    const auto& s = State();
-    return SpherePoint{s.S1.Value(row), s.S2.Value(row), s.Qext, s.Qsca, s.Qback, s.Gsca};
-  };
-  const auto point = DispCalcPoint(Now(), solve, [](Session&) {});
-  ASSERT_TRUE(point);
-  EXPECT_NEAR(point->perpendicular / perpendicular, 1, 1e-12);
-  EXPECT_NEAR(point->parallel / parallel, 1, 1e-12);
-  EXPECT_NEAR(point->cross.re / crossRe, 1, 1e-9);
-  EXPECT_NEAR(point->g, g, 1e-12);
+  const std::size_t row = 601;  // 60 degrees
+  const double perpendicular = State().Iperp[row], parallel = State().Ipar[row], g = State().Gsca;
+  Do("choose cboGraph Intensity v. wavelength\nset txtAngle 60\nset txtXmin 500\nset txtXmax 800\nset cboStep 50");
+  Disperse("Gamma", "10", "3");
+  Do("click cmdNewPlot");
+  ASSERT_TRUE(Shown().empty()) << LastText();
+  ASSERT_EQ(State().XValues[4], 650);
+  EXPECT_NEAR(State().Iperp[4] / perpendicular, 1, 1e-10);
+  EXPECT_NEAR(State().Ipar[4] / parallel, 1, 1e-10);
+  Do("choose cboGraph Asymmetry g v. wavelength\nset txtRadius 10\nclick mnuXStepLog\nset txtXmin 500\nset txtXmax "
+     "800\nset cboStep 50");
+  Disperse("Gamma", "10", "3");
+  Do("click cmdNewPlot");
+  EXPECT_NEAR(State().Iperp[4], g, 1e-12) << LastText();
 }
 
 TEST_F(SizeDistribution, AStopLeavesTheMeanOfTheSamplesDone) {
   Disperse("Log-normal", "20", "5");
-  State().Radius = 10;
-  State().NANG = 91;
-  static int solved;
-  solved = 0;
-  const auto solve = [](Session& session, int low, int high) {
-    CallSolver(session, low, high);
-    if (++solved < 5) return;
-    session.state.PlotMode = 4;
-    session.state.StopAnswer = 1;
-  };
-  DispCalc(Now(), 1, 181, {solve, [](Session&) {}});
-  EXPECT_EQ(solved, 5);
+  Do("set txtRadius 500\nset cboStep 0.05\nstop-at 25\nclick cmdNewPlot");
+  EXPECT_EQ(LastTitle(), "Calculation in progress!");
   EXPECT_GT(State().S1.Intensity(1), 0);
   EXPECT_GT(State().Qext, 1.5);
   EXPECT_LT(State().Qext, 2.5);
-  EXPECT_EQ(State().Radius, 10);
-  State().PlotMode = 1;
+  EXPECT_LT(State().LastResults->last.samples, 20);
 }
 
 TEST_F(SizeDistribution, ActualNumbersAreNotDividedOut) {

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "runs/run.h"
+#include "runs/settings.h"
 #include "solvers/series/mie_coefficients.h"
 
 namespace lumivex {

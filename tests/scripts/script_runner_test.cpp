@@ -38,6 +38,23 @@ TEST_F(Script, ErrorsTellTheLine) {
   EXPECT_NE(Fail("table /nowhere/at/all.csv").find("could not be written"), std::string::npos);
 }
 
+TEST_F(Script, AWindowIsChosenByItsForm) {
+  EXPECT_NE(Fail("window Form9").find("there is no window Form9"), std::string::npos);
+  EXPECT_NE(Fail("window dlogTemp").find("dlogTemp"), std::string::npos) << "a dialog has no page";
+  Do("window form1\ndrawing");
+  EXPECT_EQ(output.str().substr(0, 4), "cls ");
+  output.str("");
+  // A further window is drawn by itself and leaves the main one alone.
+  RecordingSurface surface(6000, 4000);
+  Form& form = runner.Current().forms.dlogTemp;
+  runner.Current().windows.push_back({&form, &surface});
+  Do("window dlogTemp\ndrawing\nsize 100x100\nmouse 1 1");
+  EXPECT_EQ(output.str(), "cls #f0f0f0\n");
+  EXPECT_EQ(runner.Current().surface->ScaleWidth(), 1280 * 15);
+  runner.Current().platform.Show(form);
+  EXPECT_EQ(runner.World().shownForms, std::vector<std::string>{"dlogTemp"});
+}
+
 TEST_F(Script, NamesAndValues) {
   EXPECT_EQ(Get("TXTRADIUS"), "10");
   EXPECT_EQ(Get("optLog"), "true");

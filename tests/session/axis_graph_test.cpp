@@ -202,8 +202,9 @@ TEST_F(AxisGraphs, AStopLeavesThePointsThatWereDone) {
   Choose("Intensity v. radius");
   Do("set txtXmin 10\nset txtXmax 100\nset cboStep 0.1\nstop-at 50\nclick cmdNewPlot");
   EXPECT_EQ(LastTitle(), "Calculation in progress!");
-  EXPECT_GT(State().PointsDone, 400);
-  EXPECT_LT(State().PointsDone, 500);
+  const int done = State().LastResults->Find<AxisFound>()->done;
+  EXPECT_GT(done, 400);
+  EXPECT_LT(done, 600);
   EXPECT_TRUE(std::isfinite(State().Iperp[400]));
   EXPECT_TRUE(std::isnan(State().Iperp[600]));
   Do("click cmdReplot");
@@ -214,10 +215,11 @@ TEST_F(AxisGraphs, DebyeAnalysisTakesTheTermsAwayOneByOne) {
      "cmdNewPlot");
   ASSERT_TRUE(Shown().empty()) << LastText();
   const auto& s = State();
-  ASSERT_EQ(s.DebyeDotCount, 14);
+  const auto& found = *s.LastResults->Find<DebyeAnalysisFound>();
+  ASSERT_EQ(found.done, 14);
   EXPECT_EQ(Get("cboRays"), "2");
   // The last remainder is Mie less the sum of all terms, as the difference of the two series gives it.
-  const ComplexD left = s.DebyeDots1.Value(14), all = s.DebyeDots1.Value(1);
+  const ComplexD left = found.dots1.Value(14), all = found.dots1.Value(1);
   Do("choose cboGraph Intensity v. radius\nset cboRays -12\nset txtXmin 10\nset txtXmax 12\nset cboStep 0.5\nclick "
      "cmdNewPlot");
   EXPECT_NEAR(s.S1ofPoint.Re(1), all.re - left.re, 1e-9 * std::abs(all.re));

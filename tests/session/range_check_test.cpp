@@ -27,20 +27,20 @@ void Graph(Session& session, int type, int subType) {
 const RuleCase ruleCases[] = {
     {"coated graph",
      [](Session& s) {
-       s.state.CalcMethod = 13;
+       s.state.CalcMethod = Method::CoatedSphere;
        Graph(s, 11, 1);
        s.form1.cboGraph.Text = "Intensity v. radius";
      },
      "", "Error", "Coated sphere calculations are not available for graph type Intensity v. radius"},
     {"core beyond the whole",
      [](Session& s) {
-       s.state.CalcMethod = 13;
+       s.state.CalcMethod = Method::CoatedSphere;
        s.forms.dlogCoatedSphere.txtCoreRadius.Text = "10";
      },
      "", "Input error", "The radius of the core must be less than the radius of the overall particle"},
     {"beam with Descartes",
      [](Session& s) {
-       s.state.CalcMethod = 6;
+       s.state.CalcMethod = Method::Descartes;
        s.form1.mnuGaussian.Checked = true;
      },
      "", "Error: Gaussian beam",
@@ -50,7 +50,8 @@ const RuleCase ruleCases[] = {
      "Top hat beam calculations are available only for Descartes, Young and Young mod calculation methods"},
     {"negative k", [](Session& s) { s.form1.txtRefractImag.Text = "-1"; }, "", "Input error",
      "Imaginary value of RI must NOT be negative", false},
-    {"no method", [](Session& s) { s.state.CalcMethod = 0; }, "cboType", "Input error", "Unknown calculation method"},
+    {"no method", [](Session& s) { s.state.CalcMethod = Method::None; }, "cboType", "Input error",
+     "Unknown calculation method"},
     {"one log step",
      [](Session& s) {
        Graph(s, 11, 1);
@@ -112,13 +113,13 @@ const RuleCase ruleCases[] = {
     {"albedo of rays",
      [](Session& s) {
        Graph(s, 17, 1);
-       s.state.CalcMethod = 7;
+       s.state.CalcMethod = Method::Young;
      },
      "cboGraph", "Input error", "Selected graph type is available only for Mie and Debye calculations"},
     {"convergence of rays",
      [](Session& s) {
        Graph(s, 13, 1);
-       s.state.CalcMethod = 7;
+       s.state.CalcMethod = Method::Young;
      },
      "cboGraph", "Input error", "Selected graph type is available only for Mie calculations"},
     {"gold in the infrared",
@@ -219,19 +220,19 @@ const RuleCase ruleCases[] = {
      "cboDistrib", "Input error", "Log-normal distribution must be used for Lee diagrams"},
     {"Rayleigh with absorption",
      [](Session& s) {
-       s.state.CalcMethod = 3;
+       s.state.CalcMethod = Method::Rayleigh;
        s.form1.txtRadius.Text = "0.01";
      },
      "", "Input error", "Complex values of refractive index are not valid for this calculation method", false},
     {"Debye without p",
      [](Session& s) {
-       s.state.CalcMethod = 2;
+       s.state.CalcMethod = Method::Debye;
        s.form1.cboRays.Text = "";
      },
      "cboRays", "Input error", "Specify a value for p"},
     {"dark Debye",
      [](Session& s) {
-       s.state.CalcMethod = 2;
+       s.state.CalcMethod = Method::Debye;
        s.form1.txtRefractImag.Text = "1.1";
      },
      "txtRefractImag", "Debye series",
@@ -239,20 +240,20 @@ const RuleCase ruleCases[] = {
      "refractive index"},
     {"Airy p",
      [](Session& s) {
-       s.state.CalcMethod = 5;
+       s.state.CalcMethod = Method::Airy;
        s.form1.txtRefractImag.Text = "0";
        s.form1.cboRays.Text = "1";
      },
      "cboRays", "Input error", "Airy theory is valid only for p > 1"},
     {"diffraction index",
      [](Session& s) {
-       s.state.CalcMethod = 4;
+       s.state.CalcMethod = Method::Diffraction;
        s.form1.txtRefractReal.Text = "0.9";
      },
      "txtRefractReal", "Input error", "Refractive index must be greater than 1 for this calculation method"},
     {"surface wave",
      [](Session& s) {
-       s.state.CalcMethod = 11;
+       s.state.CalcMethod = Method::SurfaceWave;
        s.form1.cboQmin.Text = "5";
        s.form1.cboQmax.Text = "4";
      },
@@ -313,7 +314,7 @@ const RuleCase ruleCases[] = {
      "", "Input error", "Value must be > 0"},
     {"large Rayleigh sphere",
      [](Session& s) {
-       s.state.CalcMethod = 3;
+       s.state.CalcMethod = Method::Rayleigh;
        s.form1.txtRefractImag.Text = "0";
        s.form1.txtRadius.Text = "0.065";
      },

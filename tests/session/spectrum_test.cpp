@@ -3,17 +3,15 @@
 #include <set>
 
 #include "materials/material_fixture.h"
-#include "pages/curve_text.h"
+#include "pages/page_table.h"
 #include "pages/read_out.h"
-#include "pages/spectrum_sums.h"
-#include "pages/zoom.h"
 #include "record/layout/menu_tree.h"
 #include "session/driver/duration.h"
 #include "session/driver/progress.h"
-#include "session/driver/spectrum_family.h"
 #include "session/info.h"
 #include "session/inputs/graph_types.h"
 #include "session/inputs/sizes/size_menus.h"
+#include "session/page.h"
 
 namespace lumivex {
 namespace {
@@ -35,7 +33,8 @@ class Spectrum : public MaterialSession {
   }
   std::vector<double> List() { return {State().WavelengthList.begin(), State().WavelengthList.end()}; }
   std::vector<double> Weights() { return {State().SpectrumWeightInUse.begin(), State().SpectrumWeightInUse.end()}; }
-  std::size_t CurveCount() { return State().Drawn.curves.size(); }
+  const Page& Drawn() { return Now().page; }
+  std::size_t CurveCount() { return Drawn().curves.size(); }
 };
 
 TEST_F(Spectrum, TheTotalIsTheWeighedSumOfSingleRuns) {
@@ -98,7 +97,7 @@ TEST_F(Spectrum, AStopLeavesTheWavelengthsThatWereWhole) {
   const auto stopped = State().Iperp;
   Do("click cmdReplot");
   EXPECT_EQ(State().Iperp, stopped);
-  EXPECT_EQ(State().Drawn.kind.numberWavelengths, 20);
+  EXPECT_EQ(Drawn().kind.wavelengths, 20);
   double sum = 0;
   const auto list = List(), weights = Weights();
   for (int i = 1; i <= done; ++i) {
@@ -138,7 +137,7 @@ TEST_F(Spectrum, ReplotFollowsTheScaleThePolarisationAndTheWaveNumber) {
   Do("click mnuInvWavelength\nclick mnuAmplitude");
   EXPECT_NEAR(State().Iperp[91] * State().Iperp[91] / total, 1, 1e-12);
   Do("click mnuAmplitude\nclick mnuIntPol");
-  EXPECT_EQ(State().Drawn.panels.size(), 2U);
+  EXPECT_EQ(Drawn().panels.size(), 2U);
   EXPECT_EQ(State().Iperp[91], total);
   EXPECT_TRUE(Shown().empty()) << LastText();
   Do("click mnuIntPol\nclick mnuAmpPhase");
@@ -151,7 +150,7 @@ TEST_F(Spectrum, FewWavelengthsAreCurvesInTheirColours) {
   EXPECT_EQ(Get("chkComponents"), "true");
   EXPECT_EQ(Get("chkComponents.Visible"), "true");
   ASSERT_EQ(CurveCount(), 6U);
-  const auto& curves = State().Drawn.curves;
+  const auto& curves = Drawn().curves;
   EXPECT_EQ(curves[0].name, "650 nm: Parallel polarisation");
   EXPECT_EQ(curves[0].colour, RGB(255, 0, 0));
   EXPECT_EQ(curves[3].name, "510 nm: Perpendicular polarisation");
@@ -164,11 +163,11 @@ TEST_F(Spectrum, FewWavelengthsAreCurvesInTheirColours) {
     EXPECT_NEAR(curves[3].y[j] / State().ColourPerp.At(j, 2), 1, nearlyPure);
     EXPECT_NEAR(curves[5].y[j] / State().ColourPerp.At(j, 3), 1, nearlyPure);
   }
-  EXPECT_NE(CurvesAsText(Now()).find("440 nm: Perpendicular polarisation"), std::string::npos);
+  EXPECT_NE(TableAsText(Drawn()).find("440 nm: Perpendicular polarisation"), std::string::npos);
   Do("click chkComponents");
   ASSERT_EQ(CurveCount(), 2U);
-  EXPECT_EQ(State().Drawn.curves[1].colours.size(), State().Drawn.curves[1].y.size());
-  EXPECT_EQ(State().Drawn.curves[1].y[91], State().Iperp[91]);
+  EXPECT_EQ(Drawn().curves[1].colours.size(), Drawn().curves[1].y.size());
+  EXPECT_EQ(Drawn().curves[1].y[91], State().Iperp[91]);
 }
 
 TEST_F(Spectrum, TheSumOfManyShowsTheColourOfItsLight) {
@@ -177,7 +176,7 @@ TEST_F(Spectrum, TheSumOfManyShowsTheColourOfItsLight) {
      "Perpendicular\n"
      "click optSun\nclick cmdNewPlot");
   ASSERT_EQ(CurveCount(), 1U);
-  const KeptCurve& curve = State().Drawn.curves[0];
+  const PageCurve& curve = Drawn().curves[0];
   int reddest = 0, bluest = 0;
   double red = 0, blue = 0;
   for (int row = 1371; row <= 1411; ++row) {
@@ -191,13 +190,13 @@ TEST_F(Spectrum, TheSumOfManyShowsTheColourOfItsLight) {
   for (const Colour c : curve.colours) drawn.insert(c.value);
   EXPECT_GT(drawn.size(), 10U);
   // Read-out and zoom work on it as on any other.
-  const auto& panel = State().Drawn.panels[0];
+  const auto& panel = Drawn().panels[0];
   const PanelMap map{panel.box, panel.limits, false, panel.logY};
-  const auto reading = ReadGraph(State(), map.X(140), map.Y(State().Drawn.curves[0].y[1401]));
+  const auto reading = ReadAt(Drawn(), map.X(140), map.Y(Drawn().curves[0].y[1401]));
   ASSERT_TRUE(reading && reading->onCurve);
-  EXPECT_EQ(reading->curveY, State().Drawn.curves[0].y[1401]);
-  EXPECT_TRUE(SetXRange(Now(), {138, 142}));
-  EXPECT_LE(State().Drawn.panels[0].limits.ymin, reading->curveY);
+  EXPECT_EQ(reading->curveY, Drawn().curves[0].y[1401]);
+  EXPECT_TRUE(ShowRange(Now(), {138, 142}));
+  EXPECT_LE(Drawn().panels[0].limits.ymin, reading->curveY);
   output.str("");
   Do("drawing");
   EXPECT_GT(output.str().size(), 1000U);
@@ -251,7 +250,7 @@ TEST_F(Spectrum, OnlyOneWavelengthIsDrawnOver) {
   Do("set txtLambda 0.5\nclick cmdNewPlot");
   EXPECT_EQ(Get("cmdOverPlot.Enabled"), "true");
   EXPECT_EQ(Get("ResultWavelengths"), "1");
-  EXPECT_EQ(State().WavelengthPerp.capacity(), 0U) << "memory of the colours is kept";
+  EXPECT_EQ(State().LastResults->Find<SpectrumFound>(), nullptr) << "memory of the colours is kept";
 }
 
 TEST_F(Spectrum, InputsFollowTheNumberOfWavelengths) {
@@ -292,7 +291,7 @@ TEST_F(Spectrum, StepsBelowAHundredthOfADegreeBecomeOne) {
   Do("set cboWave 2\nset cboStep 0.005\nset txtXmin 10\nset txtXmax 20\nclick cmdNewPlot");
   EXPECT_EQ(Get("cboStep"), "0.01");
   EXPECT_EQ(Get("NANG"), "9001");
-  EXPECT_EQ(State().SpectrumRowHigh - State().SpectrumRowLow, 1050);
+  EXPECT_EQ(State().AngleHigh - State().AngleLow, 1050);
 }
 
 TEST_F(Spectrum, ProgressNeverFallsAndTellsTheTimeLeft) {

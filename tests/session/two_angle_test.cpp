@@ -15,6 +15,7 @@ constexpr double pi = 3.14159265358979324;
 class TwoAngles : public ScriptedSession {
  protected:
   const MainFormState& State() { return runner.Current().state; }
+  const Page& Drawn() { return runner.Current().page; }
   void Choose(const std::string& fields = "") {
     Do("dialog dlogIncident ok\ndialog dlogTwoAngle ok " + fields + "\nclick mnuTwoAngle");
   }
@@ -85,7 +86,7 @@ TEST_F(TwoAngles, ChartShowsLinesIndicesAndRadiiAndIsDrawnAnew) {
   EXPECT_EQ(Get("txtXmin.Visible"), "false");
   Do("click cmdNewPlot");
   ASSERT_TRUE(Shown().empty()) << LastText();
-  EXPECT_EQ(State().Drawn.curves.size(), 5U);
+  EXPECT_EQ(Drawn().curves.size(), 5U);
   const std::string drawing = Drawing();
   for (const char* text : {"n = 1.3", "1.375", "r = ", "Cross-section, 0.5 to 5.5 deg. (sq \u00B5m)",
                            "5.5 to 10.5 deg.", "Mie scattering into two ranges of angle"})
@@ -94,10 +95,10 @@ TEST_F(TwoAngles, ChartShowsLinesIndicesAndRadiiAndIsDrawnAnew) {
   EXPECT_EQ(Drawing(), drawing);
   // Over it only a chart of the same ranges, then both are there.
   Do("set txtLambda 0.5\nclick cmdOverPlot");
-  EXPECT_EQ(State().Drawn.curves.size(), 10U);
-  EXPECT_EQ(State().Drawn.curves.back().group, 2);
+  EXPECT_EQ(Drawn().curves.size(), 10U);
+  EXPECT_EQ(Drawn().curves.back().run, 1U);
   Do("dialog dlogTwoAngle ok txtAngle2max=12\nclick mnuTwoAngle\nclick cmdOverPlot");
-  EXPECT_EQ(State().Drawn.curves.size(), 5U);
+  EXPECT_EQ(Drawn().curves.size(), 5U);
   Do("click mnuCopyData");
   const std::string& copied = runner.World().copiedText;
   EXPECT_TRUE(copied.starts_with("Radius (\u00B5m)\tn = 1.3: Cross-section, 0.5 to 5.5 deg.")) << copied.substr(0, 80);
@@ -167,7 +168,7 @@ TEST_F(TwoAngles, AStopKeepsTheSpheresThatWereDone) {
   EXPECT_TRUE(std::isfinite(State().MapPerp.At(0, 0)));
   EXPECT_FALSE(std::isfinite(State().MapPerp.At(400, 4)));
   Do("click cmdReplot");
-  EXPECT_EQ(State().Drawn.curves.size(), 5U);
+  EXPECT_EQ(Drawn().curves.size(), 5U);
 }
 
 }  // namespace

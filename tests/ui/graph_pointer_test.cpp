@@ -13,7 +13,7 @@ namespace {
 class GraphPointerTest : public WindowTest {
  protected:
   Canvas& Drawing() { return program.Window().Drawing(); }
-  const KeptPanel& Panel() { return Now().state.Drawn.panels.front(); }
+  const PagePanel& Panel() { return Now().page.panels.front(); }
   /// The pixel where an angle stands, half way up the graph.
   QPoint At(double angle) {
     const GraphBox& box = Panel().box;
@@ -87,9 +87,9 @@ TEST_F(GraphPointerTest, ADragPansAndAClickDoesNot) {
 TEST_F(GraphPointerTest, OverplotsStayThroughAZoom) {
   Type(Form().txtRadius, "5");
   Click(Form().cmdOverPlot);
-  ASSERT_EQ(Now().state.Drawn.curves.size(), 4U);
+  ASSERT_EQ(Now().page.curves.size(), 4U);
   Wheel(60, 2);
-  EXPECT_EQ(Now().state.Drawn.curves.size(), 4U);
+  EXPECT_EQ(Now().page.curves.size(), 4U);
 }
 
 TEST_F(GraphPointerTest, TheKeyboardDoesAllOfIt) {

@@ -6,6 +6,7 @@
 #include <QStatusBar>
 #include <QTemporaryDir>
 
+#include "ui/dialog_view.h"
 #include "ui/guide_window.h"
 #include "window_fixture.h"
 
@@ -34,6 +35,21 @@ TEST_F(MainWindowTest, MenuTicksFollowTheEntries) {
   EXPECT_FALSE(radius->isChecked()) << "the tick of a group moves";
   diameter->trigger();
   EXPECT_TRUE(diameter->isChecked()) << "an entry that stays on keeps its tick when it is chosen again";
+}
+
+TEST_F(MainWindowTest, AModelessWindowStaysOpenBesideTheMainOne) {
+  auto& form = Now().forms.dlogAverage;
+  Now().platform.Show(form);
+  Now().platform.Show(form);
+  const auto views = program.Window().findChildren<DialogView*>();
+  ASSERT_EQ(views.size(), 1) << "one that is open comes to the front";
+  EXPECT_FALSE(views[0]->isModal());
+  EXPECT_TRUE(form.Visible);
+  Form().cmdReplot.Enabled = true;
+  Click(Form().cmdReplot);
+  EXPECT_TRUE(views[0]->isVisible()) << "the main window goes on beside it";
+  views[0]->close();
+  EXPECT_FALSE(form.Visible);
 }
 
 TEST_F(MainWindowTest, ADialogFromDataSetsItsValuesOnOk) {

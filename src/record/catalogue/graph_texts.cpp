@@ -191,6 +191,35 @@ std::string_view XTitleOf(const Graph& graph, bool fourier) {
   return fourier && spectrum ? text.frequencyTitle : text.title;
 }
 
+std::string_view YTitleOf(const Graph& graph, bool amplitude) {
+  switch (graph.quantity) {
+    case Quantity::Intensity:
+      if (graph.family != Family::Angle && graph.family != Family::Axis) return "";
+      return amplitude ? " Amplitude" : " Intensity";
+    case Quantity::CrossSections:
+      // A diameter stands alone on its graph.
+      return graph.axis == AxisVariable::Diameter ? "" : "Area (sq m)";
+    case Quantity::Qback:
+      return "Qback";
+    case Quantity::Qradar:
+      return "Qradar";
+    case Quantity::Asymmetry:
+      return "Asymmetry";
+    case Quantity::Albedo:
+      return "Albedo";
+    case Quantity::Power:
+      return "Power (W)";
+    case Quantity::ScatteringMatrix:
+      return " S11";
+    default:
+      return "";
+  }
+}
+
+std::string_view SecondTitleOf(bool phases) {
+  return phases ? "Phase angle" : "Degree of linear polarisation";
+}
+
 std::string_view XUnitOf(const Graph& graph) {
   return TextOf(graph.axis).unit;
 }
@@ -201,6 +230,11 @@ std::string_view YUnitOf(const Graph& graph) {
 
 std::string_view CurveNameOf(const Graph& graph, CurveKind kind) {
   return TextOf(graph.quantity).curves[static_cast<std::size_t>(kind) - 1];
+}
+
+std::string_view RatioNameOf(CurveKind kind) {
+  static constexpr std::array<std::string_view, 3> names = {"S12/S11", "S33/S11", "S34/S11"};
+  return names[static_cast<std::size_t>(kind) - 1];
 }
 
 }  // namespace lumivex

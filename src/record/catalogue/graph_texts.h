@@ -46,6 +46,13 @@ AxisCaptions CaptionsOf(const Graph& graph);
 /// Empty for a graph whose title names its ranges.
 std::string_view XTitleOf(const Graph& graph, bool fourier);
 
+/// Title of the vertical axis: " Intensity", "Albedo"; empty for a graph that has none, or one that is not plain text.
+/// @param amplitude  moduli are shown.
+std::string_view YTitleOf(const Graph& graph, bool amplitude);
+
+/// Title of a second panel, of phases or of the degree of polarisation.
+std::string_view SecondTitleOf(bool phases);
+
 /// Units of the axes as the read-out prints them: "deg", "nm", "\u00B5m" or empty for numbers; "sq m", "W" or empty.
 std::string_view XUnitOf(const Graph& graph);
 std::string_view YUnitOf(const Graph& graph);
@@ -55,5 +62,8 @@ enum class CurveKind { Perpendicular = 1, Parallel = 2, Unpolarised = 3 };
 
 /// Name of a curve: its polarisation, or the efficiency or cross-section that it is.
 std::string_view CurveNameOf(const Graph& graph, CurveKind kind);
+
+/// Name of a ratio of the scattering matrix to S11: S12, S33 and S34 in the order of the kinds.
+std::string_view RatioNameOf(CurveKind kind);
 
 }  // namespace lumivex

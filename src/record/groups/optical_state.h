@@ -2,7 +2,6 @@
 
 #include <string>
 #include <type_traits>
-#include <vector>
 
 namespace lumivex {
 
@@ -27,16 +26,12 @@ struct OpticalState {
   double Gsca = 0;              ///< asymmetry parameter, mean cosine of the scattering angle
   std::string KeptSphereLabel;  ///< label and name of the sphere before a graph varied its index
   std::string KeptSphereName;
-  double IncidentDensity = 100;       ///< of the light (W/m2)
-  double Distance = 1;                ///< of the observer (m)
-  double ScatteredPower = 0;          ///< of a graph in Watts: into all directions (W)
-  double BackscatteredPower = 0;      ///< into 90 to 180 degrees (W)
-  std::string RunTitle;               ///< title line of the last run
-  std::string RunLabel;               ///< its method's label
-  std::vector<std::string> RunLines;  ///< its parameters
-  std::string DrawnTitle;             ///< title, method's label and parameters of the graph on the screen
-  std::string DrawnLabel;
-  std::vector<std::string> DrawnLines;
+  double IncidentDensity = 100;   ///< of the light (W/m2)
+  double Distance = 1;            ///< of the observer (m)
+  double ScatteredPower = 0;      ///< of a graph in Watts: into all directions (W)
+  double BackscatteredPower = 0;  ///< into 90 to 180 degrees (W)
+  std::string RunTitle;           ///< title line of the last run
+  std::string RunLabel;           ///< its method's label
 };
 
 template <class Group, class Visitor>
@@ -67,8 +62,6 @@ void ForEachField(Group& g, Visitor&& visit) {
   visit("BackscatteredPower", g.BackscatteredPower);
   visit("RunTitle", g.RunTitle);
   visit("RunLabel", g.RunLabel);
-  visit("DrawnTitle", g.DrawnTitle);
-  visit("DrawnLabel", g.DrawnLabel);
 }
 
 }  // namespace lumivex

@@ -30,15 +30,10 @@ struct RayState {
   double BeamTilt = 0;          ///< its tilt (radians)
   float QminValue = 1;          ///< the two amplitudes of the glory of a ring
   float QmaxValue = 1;
-  std::vector<double> ApertureCentre;     ///< strips of the aperture, by strip from 0: centres across a width of 1
-  std::vector<double> ApertureWeight;     ///< and weights
-  std::vector<double> BesselOrders;       ///< J_0 to J_4 at the last angle of the glory of a ring
-  std::vector<double> BesselDiffTable;    ///< numbers read from "BesselDiff.txt", from 0
-  AmplitudeTable DebyeDots1;              ///< Debye analysis, perpendicular: row 1 the Mie amplitude of a point, row j
-                                          ///< what is left of it after the first j - 1 terms
-  AmplitudeTable DebyeDots2;              ///< the same, parallel
-  int DebyeDotCount = 0;                  ///< rows of both
-  std::vector<HuygensWave> HuygensWaves;  ///< wavefronts of the last Huygens run, one a selected p
+  std::vector<double> ApertureCentre;   ///< strips of the aperture, by strip from 0: centres across a width of 1
+  std::vector<double> ApertureWeight;   ///< and weights
+  std::vector<double> BesselOrders;     ///< J_0 to J_4 at the last angle of the glory of a ring
+  std::vector<double> BesselDiffTable;  ///< numbers read from "BesselDiff.txt", from 0
 };
 
 template <class Group, class Visitor>
@@ -67,10 +62,6 @@ void ForEachField(Group& g, Visitor&& visit) {
   visit("ApertureWeight", g.ApertureWeight);
   visit("BesselOrders", g.BesselOrders);
   visit("BesselDiffTable", g.BesselDiffTable);
-  visit("DebyeDots1", g.DebyeDots1);
-  visit("DebyeDots2", g.DebyeDots2);
-  visit("DebyeDotCount", g.DebyeDotCount);
-  visit("HuygensWaves", g.HuygensWaves);
 }
 
 }  // namespace lumivex

@@ -1,12 +1,16 @@
 #pragma once
 
+#include <memory>
 #include <type_traits>
 #include <vector>
 
 #include "axes/table2d.h"
+#include "runs/results.h"
 #include "solvers/angles/amplitude_table.h"
 
 namespace lumivex {
+
+struct Results;
 
 /// What a run leaves, and what Replot, Save and the pictures draw from. First index 1; element 0 is unused.
 struct ResultArrays {
@@ -24,12 +28,11 @@ struct ResultArrays {
   std::vector<double> Extra2;   ///< phase of S1 (degrees)
   std::vector<double> Extra3;   ///< phase of S2 (degrees)
   std::vector<double> Extra4;
-  std::vector<double> WaveNumbers;  ///< by point of the x axis (1/m)
-  int PointsDone = 0;               ///< points of the x axis that were calculated, from the first
-  Table2D MapPerp;                  ///< map, perpendicular polarisation
-  Table2D MapPar;                   ///< map, parallel polarisation
+  Table2D MapPerp;  ///< map, perpendicular polarisation
+  Table2D MapPar;   ///< map, parallel polarisation
   Table2D MapPerpSum;
   Table2D MapParSum;
+  std::shared_ptr<const Results> LastResults;  ///< of the last run that was kept; null before the first
 };
 
 template <class Group, class Visitor>
@@ -49,8 +52,6 @@ void ForEachField(Group& g, Visitor&& visit) {
   visit("Extra2", g.Extra2);
   visit("Extra3", g.Extra3);
   visit("Extra4", g.Extra4);
-  visit("WaveNumbers", g.WaveNumbers);
-  visit("PointsDone", g.PointsDone);
   visit("MapPerp", g.MapPerp);
   visit("MapPar", g.MapPar);
   visit("MapPerpSum", g.MapPerpSum);

@@ -4,20 +4,21 @@
 #include <type_traits>
 
 #include "catalogue/graph.h"
+#include "catalogue/method.h"
 
 namespace lumivex {
 
 /// What is being run, and how far it is.
 struct RunState {
-  int PlotMode = 1;          ///< 1 plain, 2 drawing over the present graph, 4 stop requested
-  int CommandAborted = 0;    ///< 1: the present command must end without calculating
-  int Busy = 0;              ///< 1 during start-up and New plot; resize and mouse handlers then do nothing
-  int GraphType = 1;         ///< graph code: below 10 against angle, 10 to 18 against another variable
-  int GraphSubType = 1;      ///< sub-code of the graph
-  int PrevGraphType = 0;     ///< graph of the run before; 0 before the first run
-  int PrevGraphSubType = 0;  ///< its sub-code
-  int ResultMethod = 0;      ///< method of the results; 0 before the first run
-  int CalcMethod = 1;        ///< method code 1 to 17; 0 unknown
+  int PlotMode = 1;                    ///< 1 plain, 2 drawing over the present graph, 4 stop requested
+  int CommandAborted = 0;              ///< 1: the present command must end without calculating
+  int Busy = 0;                        ///< 1 during start-up and New plot; resize and mouse handlers then do nothing
+  int GraphType = 1;                   ///< graph code: below 10 against angle, 10 to 18 against another variable
+  int GraphSubType = 1;                ///< sub-code of the graph
+  int PrevGraphType = 0;               ///< graph of the run before; 0 before the first run
+  int PrevGraphSubType = 0;            ///< its sub-code
+  Method ResultMethod = Method::None;  ///< method of the results; none before the first run
+  Method CalcMethod = Method::Mie;     ///< method in use; none for an unknown text
   int DiffractionVariant = 0;
   int NumberWavelengths = 1;
   int WavelengthIndex = 1;  ///< running wavelength, from 1
@@ -50,6 +51,26 @@ inline const Graph& ChosenGraph(const RunState& s) {
 inline const Graph* ChosenAxisGraph(const RunState& s) {
   const Graph& graph = ChosenGraph(s);
   return graph.family == Family::Axis || graph.family == Family::Convergence ? &graph : nullptr;
+}
+
+/// Chooses a graph. A sub-code of 0 leaves GraphSubType as it was.
+inline void SetGraph(RunState& s, GraphCode code) {
+  s.GraphType = code.type;
+  if (code.subType != 0) s.GraphSubType = code.subType;
+}
+
+/// Whether there are results, and the graph that they are of.
+inline bool HasResults(const RunState& s) {
+  return s.PrevGraphType != 0;
+}
+inline const Graph& ResultGraph(const RunState& s) {
+  return GraphOf({s.PrevGraphType, s.PrevGraphSubType});
+}
+
+/// Whether the graph chosen is the two-angle contour, which has inputs of its own in place of the angle scale and the
+/// radius.
+inline bool IsTwoAngleContour(const RunState& s) {
+  return ChosenGraph(s).family == Family::TwoAngle;
 }
 
 template <class Group, class Visitor>

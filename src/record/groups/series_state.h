@@ -24,13 +24,11 @@ struct SeriesState {
   double PointIndex = 0;  ///< running point of an x-axis run, from 1
   double FirstPoint = 1;  ///< first and last row or point of the run
   double LastPoint = 1;
-  int AngleLow = 1;                             ///< first row wanted of a solver
-  int AngleHigh = 1;                            ///< last row wanted
-  int SelectedAngleIndex = 1;                   ///< row of txtAngle
-  int MaxSeriesTerms = 200000;                  ///< most terms of a series
-  RowsDone SummedRows;                          ///< rows that the last solver call summed to the end
-  PartialWaves Waves;                           ///< a_n, b_n of the last series, n = 1 to NSTOP
-  std::shared_ptr<const AngleCosines> Cosines;  ///< of the rows last asked for; nothing before the first series
+  int AngleLow = 1;             ///< first row wanted of a solver
+  int AngleHigh = 1;            ///< last row wanted
+  int SelectedAngleIndex = 1;   ///< row of txtAngle
+  int MaxSeriesTerms = 200000;  ///< most terms of a series
+  PartialWaves Waves;           ///< a_n, b_n of the last series, n = 1 to NSTOP
 };
 
 template <class Group, class Visitor>

@@ -30,10 +30,6 @@ struct SizeState {
   double SizeFilePeak = 0;   ///< the largest of them
   std::string SizeFileName;  ///< its path
 
-  // Means of S1 conj(S2) over the samples, by row, which the scattering matrix of a cloud needs; S1 and S2 hold moduli.
-  std::vector<double> CloudCrossRe;
-  std::vector<double> CloudCrossIm;
-
   double GammaThird = 0;  ///< gamma function of 1/3, 0.5, -0.5, -1.5 and 5
   double GammaHalf = 0;
   double GammaMinusHalf = 0;
@@ -64,8 +60,6 @@ void ForEachField(Group& g, Visitor&& visit) {
   visit("SizeFileTotal", g.SizeFileTotal);
   visit("SizeFilePeak", g.SizeFilePeak);
   visit("SizeFileName", g.SizeFileName);
-  visit("CloudCrossRe", g.CloudCrossRe);
-  visit("CloudCrossIm", g.CloudCrossIm);
   visit("GammaThird", g.GammaThird);
   visit("GammaHalf", g.GammaHalf);
   visit("GammaMinusHalf", g.GammaMinusHalf);

@@ -5,12 +5,11 @@
 #include <cmath>
 #include <initializer_list>
 
-#include "pages/spectrum_sums.h"
 #include "record/number_text.h"
+#include "runs/run.h"
 #include "session/checks/check.h"
 #include "session/checks/number_input.h"
 #include "session/driver/array_size.h"
-#include "session/driver/spectrum_family.h"
 #include "session/inputs/methods/rays_check.h"
 
 namespace lumivex {
@@ -41,10 +40,6 @@ Verdict CheckAxis(Check& check, const AxisWords& words) {
   return Verdict::GoOn;
 }
 
-bool AgainstAngle(const RunState& s) {
-  return s.GraphType < 10 && !IsTwoAngleContour(s);
-}
-
 }  // namespace
 
 Verdict LogarithmicSteps(Check& check) {
@@ -55,22 +50,24 @@ Verdict LogarithmicSteps(Check& check) {
 
 Verdict FurtherAxisRange(Check& check) {
   auto& form = check.form;
-  const int type = check.state.GraphType;
-  if (type != 19 && (type < 26 || type > 28)) return Verdict::GoOn;
+  const Graph& graph = ChosenGraph(check.state);
+  const bool impulse = graph.family == Family::Impulse;
+  if (!impulse && graph.family != Family::EfficiencyMap) return Verdict::GoOn;
   const double low = Val(form.txtF9_min.Text), high = Val(form.txtF9_max.Text);
   if (low >= high)
     return Refuse(check, {&form.txtF9_min, &form.txtF9_max}, "Minimum value must be less than maximum value");
-  if (low < 0 && type != 19) return Refuse(check, {&form.txtF9_min}, "Value must be positive or zero");
+  if (low < 0 && !impulse) return Refuse(check, {&form.txtF9_min}, "Value must be positive or zero");
   if (high <= 0) return Refuse(check, {&form.txtF9_max}, "Value must be positive");
   if (Val(form.txtF9_fixed.Text) < 0) return Refuse(check, {&form.txtF9_fixed}, "Value must be positive or zero");
-  if (type == 26 && check.state.GraphSubType != 3 && Val(form.txtF9_step.Text) <= 1)
+  if (graph.MapsIndexAndSize() && Val(form.txtF9_step.Text) <= 1)
     return Refuse(check, {&form.txtF9_step}, "Number of steps must be greater than 1");
   return Verdict::GoOn;
 }
 
 Verdict MapRange(Check& check) {
   auto& form = check.form;
-  if (check.state.GraphType < 22 || check.state.GraphType > 28) return Verdict::GoOn;
+  const Family family = ChosenGraph(check.state).family;
+  if (family != Family::AngleMap && family != Family::EfficiencyMap) return Verdict::GoOn;
   const double low = Val(form.txtXmin.Text), high = Val(form.txtXmax.Text);
   if (low >= high)
     return Refuse(check, {&form.txtXmin, &form.txtXmax}, "Minimum value must be less than maximum value");
@@ -84,10 +81,9 @@ namespace {
 bool MethodNumbers(Check& check) {
   auto& form = check.form;
   auto& session = check.session;
-  const int method = check.state.CalcMethod;
-  const bool byRays = method == 2 || (method >= 5 && method <= 9) || method == 14;
+  const MethodTraits& method = TraitsOf(check.state.CalcMethod);
   // An empty field has a message of its own.
-  if (byRays && form.cboRays.Text != "Multiple" && !Trim(form.cboRays.Text).empty()) {
+  if (method.needsP && form.cboRays.Text != "Multiple" && !Trim(form.cboRays.Text).empty()) {
     if (!getval(session, form.cboRays, HighestRay, NumberSign::Any)) return false;
     const double p = Val(form.cboRays.Text);
     if (p != Int(p) || p < -HighestRay) {
@@ -95,7 +91,7 @@ bool MethodNumbers(Check& check) {
       return false;
     }
   }
-  const bool counts = (method == 9 || method == 10) && check.state.GraphType == 1;
+  const bool counts = method.counts != Counted::Nothing && ChosenGraph(check.state).OfAngles();
   constexpr double mostRaysOrStrips = 100000;
   if (counts && !getval(session, form.txtAngle, mostRaysOrStrips, NumberSign::Positive)) return false;
   const std::string& sizes = form.cboDistrib.Text;
@@ -167,22 +163,23 @@ Verdict ColourCount(Check& check) {
 }
 
 Verdict SizeAxis(Check& check) {
-  const Graph* graph = ChosenAxisGraph(check.state);
-  if (graph == nullptr || graph->code.type != 11) return Verdict::GoOn;
-  if (graph->axis == AxisVariable::SizeParameter)
+  const Graph& graph = ChosenGraph(check.state);
+  if (!graph.IntensityBySize()) return Verdict::GoOn;
+  if (graph.axis == AxisVariable::SizeParameter)
     return CheckAxis(
         check, {"Minimum value of size parameter x must be less than maximum value", "Size parameter x must be > 0"});
   return CheckAxis(check, {"Minimum value of radius must be less than maximum value", "Radius must be > 0"});
 }
 
 Verdict WavelengthAxis(Check& check) {
-  if (check.state.GraphType != 10 || check.state.GraphSubType == 10) return Verdict::GoOn;
+  const Graph& graph = ChosenGraph(check.state);
+  if (!graph.WavelengthAxis() || !graph.AtOneAngle()) return Verdict::GoOn;
   return CheckAxis(check, {"Minimum value of wavelength must be less than maximum value", "Wavelength must be > 0"});
 }
 
 Verdict LeeSteps(Check& check) {
   auto& form = check.form;
-  if (check.state.GraphType != 20) return Verdict::GoOn;
+  if (ChosenGraph(check.state).family != Family::Lee) return Verdict::GoOn;
   const double columns = Val(form.txtRstep.Text);
   if (columns > 400) return Refuse(check, {&form.txtRstep}, "Maximum number of steps = 400");
   if (columns <= 0) return Refuse(check, {&form.txtRstep}, "Number of steps must be 1 or more");
@@ -191,15 +188,15 @@ Verdict LeeSteps(Check& check) {
 
 Verdict AxisStepCount(Check& check) {
   auto& form = check.form;
-  const auto& s = check.state;
-  if (!IsAxisGraph(s) || s.GraphType == 13 || (s.GraphType == 10 && s.GraphSubType == 10)) return Verdict::GoOn;
+  const Graph& graph = ChosenGraph(check.state);
+  if (graph.family != Family::Axis && graph.family != Family::EfficiencyPulse) return Verdict::GoOn;
   const Verdict axis = CheckAxis(check, {"Minimum value must be less than maximum value", "Value must be positive"});
   if (axis != Verdict::GoOn) return axis;
   const double count =
       form.mnuXStepLog.Checked ? Val(form.cboStep.Text) : (check.Xmax - check.Xmin) / Val(form.cboStep.Text);
   if (count > mostSteps)
     return Refuse(check, {&form.cboStep}, "Increase the step size or reduce the maximum/minimum range");
-  if (s.GraphType != 18) return Verdict::GoOn;
+  if (graph.quantity != Quantity::Power) return Verdict::GoOn;
   const double low = Val(form.txtF9_min.Text), high = Val(form.txtF9_max.Text), step = Val(form.txtF9_step.Text);
   if (low >= high || low < 0 || high > 180)
     return Refuse(check, {&form.txtF9_min, &form.txtF9_max}, "Minimum value must be less than maximum value");
@@ -209,7 +206,7 @@ Verdict AxisStepCount(Check& check) {
 }
 
 Verdict AngularStep(Check& check) {
-  if (!AgainstAngle(check.state)) return Verdict::GoOn;
+  if (!ChosenGraph(check.state).AgainstAngle()) return Verdict::GoOn;
   auto& list = check.form.cboStep;
   const double step = Val(list.Text);
   if (!(step > 0)) return Refuse(check, {&list}, "Step size must be greater than zero");
@@ -225,12 +222,11 @@ Verdict AngularStep(Check& check) {
 }
 
 Verdict AngleScale(Check& check) {
-  if (!AgainstAngle(check.state)) return Verdict::GoOn;
+  if (!ChosenGraph(check.state).AgainstAngle()) return Verdict::GoOn;
   auto& form = check.form;
-  constexpr int heiligenschein = 16;
   const auto refuse = [&](std::string_view text) { return Refuse(check, {&form.txtXmin, &form.txtXmax}, text); };
   if (form.mnuPlaneWave.Checked) {
-    const bool beyond = check.state.CalcMethod != heiligenschein;
+    const bool beyond = check.state.CalcMethod != Method::Heiligenschein;
     if (check.Xmin < 0) return refuse("Minimum angle < 0 degrees");
     if (beyond && check.Xmin > 180) return refuse("Minimum angle > 180 degrees");
     if (check.Xmax < 0) return refuse("Maximum angle < 0 degrees");

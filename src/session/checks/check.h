@@ -35,7 +35,7 @@ void RaiseQuietly(Session& session, std::string_view event);
 
 /// Whether the graph has an axis of wavelength.
 bool HasWavelengthAxis(const RunState& s);
-/// Graphs 10 to 18.
+/// Whether it has an axis of points.
 bool IsAxisGraph(const RunState& s);
 
 // The rules, in the order in which they stand in range_check.cpp.

@@ -38,14 +38,15 @@ Verdict DistributionWidth(Check& check) {
 
 Verdict LeeDistribution(Check& check) {
   auto& form = check.form;
-  if (!form.optDisp.Checked || check.state.GraphType != 20 || form.cboDistrib.Text == "Log-normal")
+  if (!form.optDisp.Checked || ChosenGraph(check.state).family != Family::Lee || form.cboDistrib.Text == "Log-normal")
     return Verdict::GoOn;
   return Refuse(check, {&form.cboDistrib}, "Log-normal distribution must be used for Lee diagrams");
 }
 
 Verdict LeeSpecialDistribution(Check& check) {
   auto& form = check.form;
-  if (!form.optDisp.Checked || check.state.GraphType != 20 || form.cboDistrib.Text != "Special") return Verdict::GoOn;
+  if (!form.optDisp.Checked || ChosenGraph(check.state).family != Family::Lee || form.cboDistrib.Text != "Special")
+    return Verdict::GoOn;
   return Refuse(check, {&form.cboDistrib}, "Special distributions are not available for Lee diagrams");
 }
 

@@ -1,8 +1,7 @@
 /// Rules that hold the calculation method against the graph, the beam and the sphere.
 
-#include <algorithm>
-#include <initializer_list>
 #include <string>
+#include <string_view>
 
 #include "record/number_text.h"
 #include "session/checks/check.h"
@@ -14,29 +13,45 @@ namespace lumivex {
 
 namespace {
 
-bool OneOf(int code, std::initializer_list<int> codes) {
-  return std::ranges::find(codes, code) != codes.end();
-}
-
 constexpr std::string_view onlyMieAndDebye = "Selected graph type is available only for Mie and Debye calculations";
 constexpr std::string_view onlyMie = "Selected graph type is available only for Mie calculations";
 
 /// The chart of two angles has sizes of its own; the terms of a point are those of one sphere.
-bool NeedsOneSphere(const RunState& s) {
-  return IsTwoAngleContour(s) || (s.GraphType == 10 && s.GraphSubType == 10);
+bool NeedsOneSphere(const Graph& graph) {
+  return graph.family == Family::TwoAngle || graph.family == Family::DebyeAnalysis;
 }
 
-/// Graphs against angle other than plain intensity, and the impulse response.
-bool NeedsOneWavelength(const RunState& s) {
-  return (s.GraphType == 1 && s.GraphSubType != 1) || s.GraphType == 19 || IsAxisGraph(s);
+/// Whether the graph takes the method.
+bool Takes(const Graph& graph, const MethodTraits& method) {
+  switch (graph.methods) {
+    case MethodsTaken::MieAlone:
+    case MethodsTaken::MieInstead:
+      return method.method == Method::Mie;
+    case MethodsTaken::DebyeAlone:
+      return method.method == Method::Debye;
+    case MethodsTaken::Series:
+      return method.series;
+    case MethodsTaken::SeriesAndClosedForms:
+      return method.efficiencies;
+    case MethodsTaken::Any:
+      break;
+  }
+  return !method.angleOnly || !graph.AgainstAxis();
+}
+
+/// What is told of a method that the graph does not take.
+std::string_view RefusalOf(const Graph& graph, const MethodTraits& method) {
+  const bool ofTerms = graph.family == Family::Convergence && !method.angleOnly;
+  return graph.methods == MethodsTaken::MieAlone || ofTerms ? onlyMie : onlyMieAndDebye;
 }
 
 }  // namespace
 
 Verdict CoatedSphereGraphs(Check& check) {
   const auto& s = check.state;
-  if (s.CalcMethod != 13) return Verdict::GoOn;
-  if (OneOf(s.GraphType, {1, 13, 19})) {
+  if (s.CalcMethod != Method::CoatedSphere) return Verdict::GoOn;
+  const Graph& graph = ChosenGraph(s);
+  if (graph.OfAngles() || graph.family == Family::Convergence || graph.family == Family::Impulse) {
     auto& dialog = check.session.forms.dlogCoatedSphere;
     if (Val(dialog.txtCoreRadius.Text) < Val(dialog.txtMantleRadius.Text)) return Verdict::GoOn;
     Refuse(check, {&dialog.txtMantleRadius},
@@ -49,8 +64,9 @@ Verdict CoatedSphereGraphs(Check& check) {
 }
 
 Verdict BeamMethods(Check& check) {
-  const int method = check.state.CalcMethod;
-  if (check.form.mnuGaussian.Checked && method > 2 && method != 8) {
+  const Method method = check.state.CalcMethod;
+  const bool gaussian = method == Method::Mie || method == Method::Debye || method == Method::YoungMod;
+  if (check.form.mnuGaussian.Checked && method != Method::None && !gaussian) {
     Refuse(check, {},
            "Gaussian beam calculations are available only for Mie, Debye, Descartes, Young and Young mod calculation "
            "methods",
@@ -58,7 +74,7 @@ Verdict BeamMethods(Check& check) {
     check.session.events.Raise("mnuPlaneWave_Click");
     return Verdict::End;
   }
-  if (check.form.mnuTopHat.Checked && method != 8) {
+  if (check.form.mnuTopHat.Checked && method != Method::YoungMod) {
     Refuse(check, {},
            "Top hat beam calculations are available only for Descartes, Young and Young mod calculation methods",
            "Error: Top hat beam");
@@ -78,44 +94,35 @@ Verdict NegativeAbsorption(Check& check) {
 }
 
 Verdict MethodKnown(Check& check) {
-  if (check.state.CalcMethod != 0) return Verdict::GoOn;
+  if (check.state.CalcMethod != Method::None) return Verdict::GoOn;
   return Refuse(check, {&check.form.cboType}, "Unknown calculation method");
 }
 
 Verdict MethodAgainstGraph(Check& check) {
   auto& form = check.form;
   auto& s = check.state;
-  if (s.NumberWavelengths > 1 && (NeedsOneWavelength(s) || !IsAvailable(Feature::SeveralWavelengths)))
+  const Graph& graph = ChosenGraph(s);
+  if (s.NumberWavelengths > 1 && (graph.OneWavelengthOnly() || !IsAvailable(Feature::SeveralWavelengths)))
     return Refuse(check, {&form.cboGraph}, "This graph type is available only for single wavelength calculations");
   if (s.NumberWavelengths > 1 && form.mnuAmpPhase.Checked) {
     // Phases of different wavelengths have no sum.
     form.mnuAmpPhase.Checked = false;
     return Refuse(check, {&form.cboGraph}, "This graph type is available only for single wavelength calculations");
   }
-  if (form.optDisp.Checked && NeedsOneSphere(s))
+  if (form.optDisp.Checked && NeedsOneSphere(graph))
     return Refuse(check, {&form.cboGraph}, "This graph type is available only for monodisperse calculations");
-  if (IsTwoAngleContour(s) && s.CalcMethod != 1) return Refuse(check, {&form.cboGraph}, onlyMie);
-  const bool matrix = (s.GraphType == 1 && s.GraphSubType == 6) || (s.GraphType == 10 && s.GraphSubType == 2);
-  if (matrix && s.CalcMethod != 1) {
+  if (graph.methods == MethodsTaken::MieInstead && s.CalcMethod != Method::Mie) {
     Warn(check, "This graph type is available only for Mie calculations");
     form.cboType.Text = "Mie";
     TypeCalc(check.session);
   }
-  if (s.GraphType == 10 && s.GraphSubType == 10 && s.CalcMethod != 2)
-    return Refuse(check, {&form.cboGraph}, onlyMieAndDebye);
-  const bool onlyAgainstAngle = OneOf(s.CalcMethod, {10, 12, 17}) && IsAxisGraph(s);
-  if (onlyAgainstAngle) return Refuse(check, {&form.cboGraph}, onlyMieAndDebye);
-  if (s.CalcMethod <= 2 || s.CalcMethod == 13) return Verdict::GoOn;
-  // Of the other methods only the closed forms have efficiencies to plot against size.
-  if (s.GraphType == 14 && !OneOf(s.CalcMethod, {3, 4})) return Refuse(check, {&form.cboGraph}, onlyMieAndDebye);
-  if (s.GraphType == 13) return Refuse(check, {&form.cboGraph}, onlyMie);
-  if (OneOf(s.GraphType, {15, 16, 17})) return Refuse(check, {&form.cboGraph}, onlyMieAndDebye);
-  return Verdict::GoOn;
+  const MethodTraits& method = TraitsOf(s.CalcMethod);
+  return Takes(graph, method) ? Verdict::GoOn : Refuse(check, {&form.cboGraph}, RefusalOf(graph, method));
 }
 
 Verdict ComplexIndex(Check& check) {
   auto& form = check.form;
-  if (!OneOf(check.state.CalcMethod, {3, 5}) || Val(form.txtRefractImag.Text) == 0) return Verdict::GoOn;
+  if (!TraitsOf(check.state.CalcMethod).realIndexOnly || Val(form.txtRefractImag.Text) == 0) return Verdict::GoOn;
   form.txtRefractImag.BackColour = colours::BadInput;
   Warn(check, "Complex values of refractive index are not valid for this calculation method");
   form.txtRefractImag.Text = "0";
@@ -130,7 +137,7 @@ Verdict ComplexIndex(Check& check) {
 Verdict DebyeInputs(Check& check) {
   auto& form = check.form;
   auto& s = check.state;
-  if (s.CalcMethod != 2) return Verdict::GoOn;
+  if (s.CalcMethod != Method::Debye) return Verdict::GoOn;
   const double imaginary = Val(form.txtRefractImag.Text);
   if (imaginary < 0)
     return Refuse(check, {&form.txtRefractImag}, "The imaginary part of the refractive index must be positive");
@@ -147,7 +154,7 @@ Verdict DebyeInputs(Check& check) {
 
 Verdict AiryInputs(Check& check) {
   auto& form = check.form;
-  if (check.state.CalcMethod != 5) return Verdict::GoOn;
+  if (check.state.CalcMethod != Method::Airy) return Verdict::GoOn;
   bool below2 = Val(form.cboRays.Text) < 2;
   if (form.cboRays.Text == "Multiple") {
     RaysCheck(check.session);
@@ -163,13 +170,13 @@ Verdict AiryInputs(Check& check) {
 
 Verdict DiffractionIndex(Check& check) {
   auto& field = check.form.txtRefractReal;
-  if (check.state.CalcMethod != 4 || Val(field.Text) > 1) return Verdict::GoOn;
+  if (check.state.CalcMethod != Method::Diffraction || Val(field.Text) > 1) return Verdict::GoOn;
   return Refuse(check, {&field}, "Refractive index must be greater than 1 for this calculation method");
 }
 
 Verdict SurfaceWaveInputs(Check& check) {
   auto& form = check.form;
-  if (check.state.CalcMethod != 11) return Verdict::GoOn;
+  if (check.state.CalcMethod != Method::SurfaceWave) return Verdict::GoOn;
   constexpr double lowest = 1, highest = 25;
   const double low = Val(form.cboQmin.Text), high = Val(form.cboQmax.Text);
   if (low < lowest) return Refuse(check, {&form.cboQmin}, "Jmin must be >=1");
@@ -184,7 +191,7 @@ Verdict SurfaceWaveInputs(Check& check) {
 
 Verdict RayleighSize(Check& check) {
   const auto& form = check.form;
-  if (check.state.CalcMethod != 3 || IsAxisGraph(check.state)) return Verdict::GoOn;
+  if (check.state.CalcMethod != Method::Rayleigh || IsAxisGraph(check.state)) return Verdict::GoOn;
   constexpr double wavelengthsPerRadius = 13;
   if (Val(form.txtLambda.Text) / SphereRadius(check.session) >= wavelengthsPerRadius) return Verdict::GoOn;
   return Warn(check, "Rayleigh approximation is valid only when r << wavelength");

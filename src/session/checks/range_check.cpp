@@ -81,12 +81,11 @@ void RaiseQuietly(Session& session, std::string_view event) {
 }
 
 bool IsAxisGraph(const RunState& s) {
-  return s.GraphType >= 10 && s.GraphType <= 18;
+  return ChosenGraph(s).AgainstAxis();
 }
 
 bool HasWavelengthAxis(const RunState& s) {
-  const bool third = s.GraphType >= 16 && s.GraphType <= 18 && s.GraphSubType == 3;
-  return s.GraphType == 15 || third || (s.GraphType == 10 && s.GraphSubType != 10);
+  return ChosenGraph(s).WavelengthAxis();
 }
 
 void RangeCheck(Session& session, double& Xmin, double& Xmax, double& Ymin, double& Ymax, int& abort) {

@@ -48,7 +48,8 @@ Verdict CubicInterpolation(Check& check) {
 }
 
 Verdict SunOnlyAgainstAngle(Check& check) {
-  if (!check.form.optSun.Checked || check.state.GraphType < 10 || check.state.GraphType == 20) return Verdict::GoOn;
+  const Graph& graph = ChosenGraph(check.state);
+  if (!check.form.optSun.Checked || graph.OfAngles() || graph.family == Family::Lee) return Verdict::GoOn;
   check.form.optPoint.Select();
   return Warn(check, "Point source only for these calculations", "Input parameters");
 }

@@ -1,15 +1,13 @@
 #include "session/driver/commands.h"
 
-#include "pages/spectrum_sums.h"
-#include "pages/sun_disc.h"
 #include "record/number_text.h"
 #include "session/checks/range_check.h"
-#include "session/driver/angle_family.h"
-#include "session/driver/axis_family.h"
 #include "session/driver/display_run.h"
 #include "session/driver/duration.h"
+#include "session/driver/keep_curves.h"
 #include "session/driver/lock.h"
 #include "session/driver/overplot.h"
+#include "session/inputs/look/read_look.h"
 #include "session/inputs/methods.h"
 #include "session/inputs/two_angle_inputs.h"
 #include "session/page.h"
@@ -19,21 +17,21 @@ namespace lumivex {
 namespace {
 
 bool HasRun(const MainFormState& s) {
-  return s.PrevGraphType != 0;
+  return s.LastResults != nullptr;
 }
 
-/// Reads the wavelength list and the method and holds the inputs against the rules.
+/// Reads the wavelength list and the method and holds the inputs against the rules. The limits of the results stay.
 bool InputsHold(Session& session) {
   auto& s = session.state;
   s.CommandAborted = 0;
   NumberWavelengths(session);
   TypeCalc(session);
-  if (s.CalcMethod == 0) {
+  if (s.CalcMethod == Method::None) {
     s.CommandAborted = 1;
     return false;
   }
-  double Ymin = s.Ymin, Ymax = s.Ymax;
-  RangeCheck(session, s.Xmin, s.Xmax, Ymin, Ymax, s.CommandAborted);
+  double Xmin = s.Xmin, Xmax = s.Xmax, Ymin = s.Ymin, Ymax = s.Ymax;
+  RangeCheck(session, Xmin, Xmax, Ymin, Ymax, s.CommandAborted);
   if (session.form1.txtLambda.BackColour == colours::BadInput) s.CommandAborted = 1;
   // The chart of two angles has inputs of its own, which are held against their limits before anybody is asked for
   // time.
@@ -44,16 +42,14 @@ bool InputsHold(Session& session) {
 /// A series can take long; what needs no series never does.
 bool LeaveGiven(Session& session) {
   auto& s = session.state;
-  constexpr int firstWithoutSeries = 3;
-  if (s.CalcMethod < firstWithoutSeries) Duration(session);
+  if (TraitsOf(s.CalcMethod).series) Duration(session);
   return s.CommandAborted == 0;
 }
 
 /// Whether the stored curves are those of the graph and step that the inputs name.
 bool ResultsFitInputs(const Session& session) {
   const auto& s = session.state;
-  return HasRun(s) && s.PrevGraphType == s.GraphType && s.PrevGraphSubType == s.GraphSubType &&
-         Val(session.form1.cboStep.Text) == s.Xstep;
+  return s.LastResults && s.LastResults->asked.graph == ChosenGraph(s) && Val(session.form1.cboStep.Text) == s.Xstep;
 }
 
 void OfferCommands(Session& session) {
@@ -62,14 +58,18 @@ void OfferCommands(Session& session) {
   // A curve of one wavelength over the colours of several would have no scale in common with them.
   const bool single = s.NumberWavelengths == 1 && s.ResultWavelengths == 1;
   // Only intensity against angle is a matter of several wavelengths.
-  form.cboWave.Enabled = (s.GraphType == 1 && s.GraphSubType == 1) || s.GraphType >= 20 || s.NumberWavelengths > 1;
+  const Graph& graph = ChosenGraph(s);
+  form.cboWave.Enabled = (graph.AgainstAngle() && graph.quantity == Quantity::Intensity) || graph.InColour() ||
+                         graph.family == Family::Volume || s.NumberWavelengths > 1;
   form.cmdReplot.Visible = HasRun(s);
   form.cmdReplot.Enabled = HasRun(s);
   form.cmdOverPlot.Visible = HasRun(s);
   form.cmdOverPlot.Enabled = HasRun(s) && single;
 }
 
+/// What was calculated counts, whatever the list says by now.
 void EndCommand(Session& session) {
+  if (HasRun(session.state)) session.state.NumberWavelengths = session.state.ResultWavelengths;
   LockOFF(session);
   OfferCommands(session);
   session.platform.Beep();
@@ -85,10 +85,7 @@ void cmdNewPlot_Click(Session& session) {
   s.StopAnswer = 0;
   s.PlotMode = 1;
   if (InputsHold(session) && LeaveGiven(session)) {
-    s.PlotXmin = s.Xmin;
-    s.PlotXmax = s.Xmax;
     LockON(session);
-    s.WavelengthIndex = 1;
     Overplot(session);
   }
   s.PlotMode = 1;
@@ -117,30 +114,22 @@ void cmdOverPlot_Click(Session& session) {
 void cmdReplot_Click(Session& session) {
   auto& s = session.state;
   if (!ResultsFitInputs(session)) {
-    DrawPage(session);
+    RenewLook(session);
     return;
   }
   s.CommandAborted = 0;
   s.StopAnswer = 0;
   // What was calculated counts, whatever the list says by now.
   s.NumberWavelengths = s.ResultWavelengths;
-  double Ymin = s.Ymin, Ymax = s.Ymax;
-  RangeCheck(session, s.Xmin, s.Xmax, Ymin, Ymax, s.CommandAborted);
+  double Xmin = s.Xmin, Xmax = s.Xmax, Ymin = s.Ymin, Ymax = s.Ymax;
+  RangeCheck(session, Xmin, Xmax, Ymin, Ymax, s.CommandAborted);
   if (s.CommandAborted != 0) return;
-  s.PlotXmin = s.Xmin;
-  s.PlotXmax = s.Xmax;
+  s.Xmin = s.PlotXmin = Xmin;
+  s.Xmax = s.PlotXmax = Xmax;
+  const Look look = ReadLook(session);
+  FillCurveArrays(s, *s.LastResults, CurvesOf(*s.LastResults, {look.amplitude, look.invWavelength}),
+                  look.sun.rectangular);
   s.PlotMode = 1;
-  SunCorrection(session);
-  if (s.ResultWavelengths > 1) {
-    FoldSpectrum(session);
-  } else if (s.GraphType == 1 && !IsTwoAngleContour(s)) {
-    SetIntensityNorm(session);
-    FillAngleCurves(session);
-  } else if (s.GraphType == 10 && s.GraphSubType == 10) {
-    // The terms stand; only their picture is new.
-  } else if (s.GraphType == 10 || s.GraphType == 11 || s.GraphType == 12) {
-    FillAxisCurves(session);
-  }
   DisplayRun(session);
   s.PlotMode = 1;
 }

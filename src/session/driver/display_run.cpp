@@ -1,38 +1,25 @@
 #include "session/driver/display_run.h"
 
-#include "pages/huygens_drawing.h"
-#include "pages/line_graph.h"
-#include "pages/phasor_diagram.h"
-#include "pages/polar_plot.h"
-#include "pages/spectrum_graph.h"
-#include "pages/two_angle_chart.h"
-#include "pages/two_panels.h"
-#include "pages/visible_data.h"
-#include "session/info.h"
+#include "pages/build_page.h"
+#include "pages/colours.h"
+#include "session/inputs/look/read_look.h"
+#include "session/page.h"
 
 namespace lumivex {
 
 void DisplayRun(Session& session) {
-  const auto& s = session.state;
-  const auto& form = session.form1;
-  const bool matrix = (s.GraphType == 1 && s.GraphSubType == 6) || (s.GraphType == 10 && s.GraphSubType == 2);
-  const bool panels = matrix || (s.GraphType == 1 && (form.mnuAmpPhase.Checked || form.mnuIntPol.Checked));
-  if (s.GraphType == 10 && s.GraphSubType == 10) {
-    DrawDebyeAnalysis(session);
-  } else if (IsTwoAngleContour(s)) {
-    DisplayTwoAngle(session);
-  } else if (s.ResultWavelengths > 1) {
-    PlotNColour(session);
-  } else if (panels) {
-    DisplayTwoPanels(session);
-  } else {
-    Display(session, s.Iperp, s.Ipar, s.Iunpol);
-  }
-  if (form.mnuPolarPlot.Checked && !IsTwoAngleContour(s)) PolarLabel(session);
-  TakeRunParameters(session.state);
-  PrintTitle(session);
-  VisibleData(session);
-  DrawHuygens(session);
+  constexpr int over = 2, stopRequested = 4;
+  auto& s = session.state;
+  session.platform.Yield();
+  if (!s.LastResults || s.PlotMode == stopRequested) return;
+  const Look look = ReadLook(session);
+  const PageGeometry geometry = GeometryOf(session);
+  s.SecondLineColour = LineColour(look.pen, s.LastResults->asked.light.lambda).second;
+  if (s.PlotMode == over || s.OverplotFromFile == 1)
+    ShowPage(session, DrawOver(PlacePage(session.page, geometry), *s.LastResults, look));
+  else
+    ShowPage(session, BuildPage(*s.LastResults, look, geometry, s));
+  s.PlotMode = over;
 }
 
 }  // namespace lumivex

@@ -16,7 +16,7 @@ namespace lumivex {
 
 namespace {
 
-constexpr int debyeMethod = 2;
+constexpr Method debyeMethod = Method::Debye;
 
 /// Below this many terms times angle pairs no machine in use needs the time that is asked about, so none is measured.
 constexpr double pairTermsNeverSlow = 2e8;

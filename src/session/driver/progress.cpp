@@ -12,30 +12,28 @@ namespace {
 // The strip beside the inputs where the bar runs (surface units).
 constexpr double barLeft = 12000, barTop = 1900, barBottom = 2000, barUnitsPerPercent = 30;
 
-constexpr const char* progressTip = "Progress of the calculation";
+constexpr int stopRequested = 4;
 
-/// Share of the run done, 0 to 1, folded over the wavelengths where there are several.
-double ShareDone(const Session& session) {
-  const auto& s = session.state;
-  const auto& form = session.form1;
-  double share = 0;
-  if (s.CalcMethod == 1 && form.mnuGaussian.Checked) {
-    share = s.NSTOP > 0 ? static_cast<double>(s.SeriesLoopIndex) / s.NSTOP : 0;
-  } else {
-    share = s.NN > 0 ? static_cast<double>(s.AngleLoopIndex) / s.NN : 0;
-  }
-  // The running sample counts as far as its angles are done.
-  if (form.optDisp.Checked && s.NumberSamples > 0)
-    share = (std::max(s.DispSample - 1, 0.0) + std::min(share, 1.0)) / s.NumberSamples;
-  if (s.NumberWavelengths > 1) share = (share + s.WavelengthIndex - 1) / s.NumberWavelengths;
-  return std::clamp(share, 0.0, 1.0);
-}
+constexpr const char* progressTip = "Progress of the calculation";
 
 void DrawBar(Session& session, Colour colour, double percent) {
   auto& surface = *session.surface;
   const Colour before = surface.ForeColour;
   surface.ForeColour = colour;
   surface.Line(barLeft, barTop, barLeft + barUnitsPerPercent * percent, barBottom, LineKind::FilledBox);
+  surface.ForeColour = before;
+}
+
+/// A line of the side strip, over the readings of the run before.
+void PrintStripLine(DrawingSurface& surface, double top, const std::string& text) {
+  constexpr double left = 12000, right = 15600, height = 300;
+  const Colour before = surface.ForeColour;
+  surface.ForeColour = surface.BackColour;
+  surface.Line(left, top, right, top + height, LineKind::FilledBox);
+  surface.ForeColour = colours::Black;
+  surface.CurrentX = left;
+  surface.CurrentY = top;
+  surface.Print(text);
   surface.ForeColour = before;
 }
 
@@ -64,11 +62,9 @@ std::string TimeLeftWords(double seconds) {
   return Shortest(std::ceil(seconds / hour)) + " h left";
 }
 
-void Progress(Session& session) {
+void Progress(Session& session, double share) {
   auto& s = session.state;
-  const bool byPoints = s.GraphType >= 10 && s.GraphType <= 19;
-  const double share = byPoints ? static_cast<double>(s.ProgressFraction) : ShareDone(session);
-  const double percent = std::trunc(100 * share);
+  const double percent = std::trunc(100 * std::clamp(share, 0.0, 1.0));
   EstimateTimeLeft(session, share);
   if (percent >= s.ProgressPercent + 1) {
     s.ProgressPercent = percent;
@@ -82,15 +78,12 @@ void BeginProgress(Session& session) {
   auto& s = session.state;
   s.ProgressPercent = 0;
   s.ProgressFraction = 0;
-  s.AngleLoopIndex = s.SeriesLoopIndex = 0;
-  s.DispSample = 0;
   s.SecondsLeft = -1;
   s.EstimatedSeconds = s.EstimateTime = 0;
   s.StartTime = session.platform.Timer();
   session.form1.txtProgress.Tip = progressTip;
   session.form1.txtProgress.Text = "% complete 0";
-  constexpr int rayleigh = 3, diffraction = 4;
-  session.form1.txtProgress.Visible = s.CalcMethod != rayleigh && s.CalcMethod != diffraction;
+  session.form1.txtProgress.Visible = s.CalcMethod != Method::Rayleigh && s.CalcMethod != Method::Diffraction;
 }
 
 void EndProgress(Session& session) {
@@ -101,14 +94,60 @@ void EndProgress(Session& session) {
   DrawBar(session, session.surface->BackColour, 100);
 }
 
-bool SessionMonitor::Report(std::size_t index, std::size_t count) {
+SessionWatch::SessionWatch(Session& session)
+    : session_(session),
+      before_(session.state),
+      wavelengthBefore_(session.state.WavelengthIndex),
+      sampleBefore_(session.state.SampleIndex),
+      dispSampleBefore_(session.state.DispSample),
+      percentBefore_(session.state.ProgressPercent),
+      fractionBefore_(session.state.ProgressFraction) {
+  auto& s = session.state;
+  s.AngleLoopIndex = s.SeriesLoopIndex = 0;
+  s.DispSample = 0;
+}
+
+bool SessionWatch::Look(const RunProgress& progress) {
   auto& s = session_.state;
-  const double share = count > 0 ? static_cast<double>(index) / static_cast<double>(count) : 1;
-  if (share_ == Share::Points) s.ProgressFraction = static_cast<float>(share);
-  s.AngleLoopIndex = static_cast<int>(share * s.NN);
-  s.SeriesLoopIndex = static_cast<int>(share * s.NSTOP);
-  Progress(session_);
-  return s.PlotMode != 4;
+  s.WavelengthIndex = progress.wavelength;
+  s.SampleIndex = std::max(progress.sample, 1);
+  s.DispSample = progress.sample;
+  s.PointIndex = progress.point;
+  s.ColumnIndex = progress.column;
+  s.RowIndex = progress.row;
+  s.ProgressFraction = static_cast<float>(progress.share);
+  s.AngleLoopIndex = static_cast<int>(progress.share * s.NN);
+  s.SeriesLoopIndex = static_cast<int>(progress.share * s.NSTOP);
+  PrintStrip(progress);
+  Progress(session_, progress.share);
+  return s.PlotMode != stopRequested;
+}
+
+void SessionWatch::PrintStrip(const RunProgress& progress) {
+  const auto& s = session_.state;
+  const bool several = s.NumberWavelengths > 1;
+  if (!several && progress.sample == 0) return;
+  // Small spheres come by faster than they can be read, and printing would take longer than solving.
+  constexpr double readable = 0.05;  // seconds
+  const double now = session_.platform.Timer();
+  if (now - printed_ < readable) return;
+  printed_ = now;
+  constexpr double wavelengthTop = 2100, radiusTop = 2400;
+  auto& surface = *session_.surface;
+  if (several)
+    PrintStripLine(surface, wavelengthTop,
+                   "Wavelength #" + std::to_string(progress.wavelength) + " = " + Significant(progress.lambda, 5));
+  PrintStripLine(surface, radiusTop, "Radius = " + Format(progress.radius, "#0.##"));
+}
+
+void SessionWatch::Forget() {
+  auto& s = session_.state;
+  static_cast<SeriesState&>(s) = before_;
+  s.WavelengthIndex = wavelengthBefore_;
+  s.SampleIndex = sampleBefore_;
+  s.DispSample = dispSampleBefore_;
+  s.ProgressFraction = fractionBefore_;
+  s.ProgressPercent = percentBefore_;
 }
 
 }  // namespace lumivex

@@ -3,17 +3,16 @@
 #include <string>
 
 #include "record/session.h"
-#include "solvers/run_monitor.h"
+#include "runs/run_watch.h"
 
 namespace lumivex {
 
 /// Shows how far the run is, as a percentage in txtProgress and a bar on the surface, and yields to the event loop.
-/// Reads the loop variables of the record, so that whoever loops need pass nothing. The percentage counts the angles
-/// of a sphere within the samples of its cloud within the wavelengths, and never falls.
 ///
 /// Once a run has lasted secondsUntilEstimate, SecondsLeft tells how long it will go on if it goes on as it did: the
 /// total is smoothed, looked at once a second. The tip of txtProgress and the status line show it.
-void Progress(Session& session);
+/// @param share  of the run that is done, 0 to 1.
+void Progress(Session& session, double share);
 
 inline constexpr double secondsUntilEstimate = 2;
 
@@ -24,17 +23,25 @@ std::string TimeLeftWords(double seconds);
 void BeginProgress(Session& session);
 void EndProgress(Session& session);
 
-/// What a kernel of the present run reports to: moves the loop variables, shows progress, sees a Stop.
-class SessionMonitor final : public RunMonitor {
+/// The session's eye on a run: writes the loop variables of the record, prints the running wavelength and radius in the
+/// side strip, shows progress, and stops the run once PlotMode is 4. Nothing else writes them.
+class SessionWatch final : public RunWatch {
  public:
-  /// What the kernel's share of work is a share of: the angles of one sphere, or the points of an x axis.
-  enum class Share { Angles, Points };
-  explicit SessionMonitor(Session& session, Share share = Share::Angles) : session_(session), share_(share) {}
-  bool Report(std::size_t index, std::size_t count) override;
+  explicit SessionWatch(Session& session);
+  bool Look(const RunProgress& progress) override;
+
+  /// Puts the loop variables back to what they were before a run of which nothing is kept.
+  void Forget();
 
  private:
+  void PrintStrip(const RunProgress& progress);
+
   Session& session_;
-  Share share_;
+  SeriesState before_;  ///< but for the series
+  int wavelengthBefore_, sampleBefore_;
+  double dispSampleBefore_, percentBefore_;
+  float fractionBefore_;
+  double printed_ = 0;  ///< seconds, when the strip was printed last
 };
 
 }  // namespace lumivex

@@ -4,7 +4,6 @@
 #include <cmath>
 #include <numbers>
 
-#include "pages/spectrum_sums.h"
 #include "record/catalogue/method_texts.h"
 #include "record/number_text.h"
 #include "session/inputs/light/wavelength_list.h"
@@ -138,14 +137,6 @@ RunWords ReadWords(const Session& session, const RunRequest& request) {
   return words;
 }
 
-/// "Multiple" without a p leaves rays nothing to sum but their diffraction.
-bool RaysAreThere(Session& session, const MethodOptions& options) {
-  const bool none = std::ranges::all_of(options.rays, [](int selected) { return selected == 0; });
-  if (!TraitsOf(options.method).needsP || !none || options.addDiffraction) return true;
-  session.platform.Message("Error", "No rays selected");
-  return false;
-}
-
 }  // namespace
 
 std::optional<RunRequest> ReadRun(Session& session) {
@@ -158,7 +149,7 @@ std::optional<RunRequest> ReadRun(Session& session) {
   request.particle = ReadParticle(session, request.light.lambda);
   request.sizes = ChosenSizes(session);
   auto run = ReadFamily(session, request);
-  if (!run || !RaysAreThere(session, request.method)) return std::nullopt;
+  if (!run) return std::nullopt;
   request.run = std::move(*run);
   request.words = ReadWords(session, request);
   return request;

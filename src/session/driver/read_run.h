@@ -14,7 +14,7 @@ namespace lumivex {
 /// Three inputs are put right on the way, as a user would: steps of a spectrum finer than 0.01 degrees become 0.01,
 /// "RGB" ticks chkComponents, a Lee diagram of a size distribution is told of and chooses "Mono".
 ///
-/// @return nothing after a refusal that was told: inputs of the two-angle chart, "Multiple" without a p.
+/// @return nothing after a refusal that was told: an input of the two-angle chart.
 std::optional<RunRequest> ReadRun(Session& session);
 
 }  // namespace lumivex

@@ -54,28 +54,27 @@ void AxisCaptionsOf(Form1& form, const Graph& graph) {
   form.Label5.Caption = form.mnuXStepLog.Checked ? "No. of steps" : WithUnit("Step", captions.unit);
 }
 
-bool IsDebyeAnalysis(const RunState& s) {
-  return s.GraphType == 10 && s.GraphSubType == 10;
-}
-
 /// The further axis is for Lee diagrams, maps, impulse and power graphs, and for the angle of x-axis graphs.
 void ShowFurtherAxis(Session& session, const Graph* graph) {
   auto& form = session.form1;
-  const int type = session.state.GraphType;
+  const Graph& chosen = ChosenGraph(session.state);
   const bool power = graph != nullptr && graph->quantity == Quantity::Power;
-  const int method = session.state.CalcMethod;
-  const bool strips = (type == 1 || type == 19) && (method == 9 || method == 10);
-  const bool onePoint = IsDebyeAnalysis(session.state);
+  const Counted counted = TraitsOf(session.state.CalcMethod).counts;
+  const bool impulse = chosen.family == Family::Impulse;
+  const bool strips = (chosen.OfAngles() || impulse) && counted != Counted::Nothing;
+  const bool onePoint = chosen.family == Family::DebyeAnalysis;
   const bool angle = (graph != nullptr && !graph->OfEfficiencies() && !power) || strips || onePoint;
-  const bool axis = power || (type >= 19 && type < 30 && type != 20);
+  const bool axis = power || impulse || chosen.family == Family::AngleMap || chosen.family == Family::EfficiencyMap;
   form.Frame9.Visible = angle || axis;
   form.Label19.Visible = form.txtAngle.Visible = angle;
   for (Control* control : std::initializer_list<Control*>{&form.Label32, &form.txtF9_min, &form.txtF9_max,
                                                           &form.Label35, &form.txtF9_step})
     control->Visible = axis;
   form.Label30.Visible = form.txtF9_fixed.Visible = axis && !power;
-  form.Label19.Caption = !strips ? "Scattering angle" : method == 9 ? "Number of rays" : "Number of strips";
-  if (strips) form.Frame9.Caption = method == 9 ? "Wavefront" : "Aperture";
+  form.Label19.Caption = !strips                    ? "Scattering angle"
+                         : counted == Counted::Rays ? "Number of rays"
+                                                    : "Number of strips";
+  if (strips) form.Frame9.Caption = counted == Counted::Rays ? "Wavefront" : "Aperture";
   if (onePoint) form.Frame9.Caption = "Angle";
   if (graph == nullptr) return;
   form.Frame9.Caption = power ? "Scattering angle" : "Angle";
@@ -97,7 +96,8 @@ void AngleStartValues(Session& session) {
 
 void AxisStartValues(Session& session, const Graph& graph, const AxisStart& start) {
   auto& form = session.form1;
-  const bool efficiencies = graph.code.type >= 14;
+  const bool power = graph.quantity == Quantity::Power;
+  const bool efficiencies = graph.OfEfficiencies() || power;
   form.cboYmin.Text = form.cboYmax.Text = "Automatic";
   form.cboWave.Text = "1";
   form.cboPol.Text = efficiencies ? "All 3" : "Both";
@@ -105,12 +105,14 @@ void AxisStartValues(Session& session, const Graph& graph, const AxisStart& star
   form.txtXmax.Text = start.xmax;
   form.cboStep.Text = start.step;
   if (graph.axis != AxisVariable::Wavelength && efficiencies) form.txtLambda.Text = "0.65";
-  if (graph.code.type == 16 || graph.code.type == 17) {
+  if (graph.quantity == Quantity::Asymmetry || graph.quantity == Quantity::Albedo) {
     form.txtRadius.Text = graph.axis == AxisVariable::Wavelength ? "1" : "10";
     form.txtAngle.Text = "0";
   }
-  if (graph.code.type >= 12 && graph.code.type != 15) form.cboDistrib.Text = "Log-normal";
-  if (graph.quantity == Quantity::Power) {
+  const bool ofTerms = graph.family == Family::Convergence;
+  if (graph.VariesIndex() || ofTerms || (efficiencies && !graph.SpectrumOfEfficiencies()))
+    form.cboDistrib.Text = "Log-normal";
+  if (power) {
     form.txtF9_min.Text = "0";
     form.txtF9_max.Text = "180";
     form.txtF9_step.Text = "0.1";
@@ -119,20 +121,22 @@ void AxisStartValues(Session& session, const Graph& graph, const AxisStart& star
 
 /// Start values of a new family, unless the user keeps the parameters; the sphere of a family that varied its index is
 /// water again.
-void ChangeFamily(Session& session, int oldType, bool fromPoint) {
+void ChangeFamily(Session& session, const Graph& before) {
   auto& s = session.state;
   auto& form = session.form1;
   // The graph of one point has no axis, and so no range to keep.
-  if (oldType == s.GraphType && !fromPoint) return;
+  const Graph& chosen = ChosenGraph(s);
+  const bool fromPoint = before.family == Family::DebyeAnalysis && chosen.family != Family::DebyeAnalysis;
+  if (chosen.SharesRangesWith(before) && !fromPoint) return;
   const Graph* graph = ChosenAxisGraph(s);
   const AxisStart* start = graph != nullptr ? FindAxisStart(*graph) : nullptr;
-  if (oldType == 12) NameKeptSphere(session);
-  if (graph != nullptr && graph->axis == AxisVariable::RefractiveIndex) NameVariableSphere(session);
+  if (before.VariesIndex()) NameKeptSphere(session);
+  if (chosen.VariesIndex()) NameVariableSphere(session);
   form.mnuXStepLog.Checked = start != nullptr && start->logSteps && !form.mnuKeepParameters.Checked;
   if (form.mnuKeepParameters.Checked) return;
   if (start != nullptr) {
     AxisStartValues(session, *graph, *start);
-  } else if (s.GraphType == 1) {
+  } else if (chosen.OfAngles()) {
     AngleStartValues(session);
   }
   session.events.Raise("txtLambda_change");
@@ -166,8 +170,7 @@ void ShowTwoAngleInputs(Session& session) {
 /// Graphs in absolute units of light ask how far the observer is and how strong the light.
 void AskForDistance(Session& session) {
   const auto& s = session.state;
-  const bool absolute = s.GraphType == 1 && s.GraphSubType >= 3 && s.GraphSubType <= 5;
-  if (absolute || s.GraphType == 18) {
+  if (ChosenGraph(s).InUnitsOfLight()) {
     session.events.Raise("dlogIncident.Show");
     if (IsTwoAngleContour(s)) session.events.Raise("dlogTwoAngle.Show");
   } else {
@@ -179,23 +182,21 @@ void AskForDistance(Session& session) {
 
 void ShowFamilyInputs(Session& session) {
   auto& form = session.form1;
-  const int type = session.state.GraphType;
+  const Graph& chosen = ChosenGraph(session.state);
   const Graph* graph = ChosenAxisGraph(session.state);
   if (graph != nullptr) {
     AxisCaptionsOf(form, *graph);
   } else {
     AngleCaptions(form);
   }
-  form.Frame2.Visible = !IsDebyeAnalysis(session.state);
-  form.Frame8.Caption = type == 18 ? "Calculation of Watts/sq m" : "Intensity scale";
+  form.Frame2.Visible = chosen.family != Family::DebyeAnalysis;
+  form.Frame8.Caption = chosen.quantity == Quantity::Power ? "Calculation of Watts/sq m" : "Intensity scale";
   form.Label18.Caption = "Brightness";
   form.Label26.Caption = "Lee diagram";
   ShowWavelengthInputs(session);
-  form.Label26.Visible = form.cboLee.Visible = type >= 20 && type < 30;
-  form.Label24.Visible = form.txtRmax.Visible = form.txtRstep.Visible = type == 20;
-  const bool sizeOnAxis =
-      graph != nullptr && (graph->axis == AxisVariable::Radius || graph->axis == AxisVariable::Diameter ||
-                           graph->axis == AxisVariable::SizeParameter);
+  form.Label26.Visible = form.cboLee.Visible = chosen.InColour();
+  form.Label24.Visible = form.txtRmax.Visible = form.txtRstep.Visible = chosen.family == Family::Lee;
+  const bool sizeOnAxis = graph != nullptr && graph->SizeAxis();
   form.cboWave.Enabled = true;
   ShowSizeInputs(session);
   ShowTwoAngleInputs(session);
@@ -230,16 +231,14 @@ void cboGraph_Click(Session& session) {
   form.mnuAmpPhase.Enabled = form.mnuIntPol.Enabled = false;
   form.OptXLinear.Select();
 
-  const int oldType = s.GraphType;
-  const bool fromPoint = IsDebyeAnalysis(s);
-  const bool wasTwoAngle = IsTwoAngleContour(s);
-  s.GraphType = row->code.type;
-  if (row->code.subType != 0) s.GraphSubType = row->code.subType;
-  ChangeFamily(session, oldType, fromPoint && !IsDebyeAnalysis(s));
-  EnterOrLeaveTwoAngle(session, wasTwoAngle);
-  if (s.GraphType == 1) {
+  const Graph& before = ChosenGraph(s);
+  SetGraph(s, row->code);
+  const Graph& chosen = ChosenGraph(s);
+  ChangeFamily(session, before);
+  EnterOrLeaveTwoAngle(session, before.family == Family::TwoAngle);
+  if (chosen.OfAngles()) {
     form.mnuInvWavelength.Checked = Trim(form.cboWave.Text) != "1";
-    form.mnuAmpPhase.Enabled = form.mnuIntPol.Enabled = s.GraphSubType == 1;
+    form.mnuAmpPhase.Enabled = form.mnuIntPol.Enabled = chosen.AgainstAngle() && chosen.quantity == Quantity::Intensity;
     form.mnuRadiusX.Enabled = Trim(form.cboWave.Text) == "1";
   }
   if (form.mnuRadiusX.Checked && !form.mnuRadiusX.Enabled) session.events.Raise("mnuRadius_Click");

@@ -1,8 +1,8 @@
 #include "session/inputs/input_events.h"
+#include "session/page.h"
 
 #include <string>
 
-#include "pages/visible_data.h"
 #include "record/number_text.h"
 #include "session/inputs/graph_types.h"
 #include "session/inputs/materials/refractive_index.h"
@@ -60,7 +60,7 @@ void Limit_Click(Session& session) {
 void mnuDataVisible_Click(Session& session) {
   auto& entry = session.form1.mnuDataVisible;
   entry.Checked = !entry.Checked;
-  VisibleData(session);
+  RenewLook(session);
 }
 
 void mnuKeepParameters_Click(Session& session) {

@@ -1,7 +1,5 @@
 #include "session/inputs/methods.h"
 
-#include <algorithm>
-
 #include "record/number_text.h"
 #include "session/inputs/dialog_use.h"
 #include "session/inputs/graph_types.h"
@@ -15,15 +13,13 @@ namespace lumivex {
 
 namespace {
 
-bool OneOf(int code, std::initializer_list<int> codes) {
-  return std::ranges::find(codes, code) != codes.end();
-}
-
 /// Wavefronts and strips are counted by the angle's input; small spheres around the rainbow show them best.
 void StripStartValues(Session& session) {
   auto& form = session.form1;
   const auto& s = session.state;
-  if (!OneOf(s.CalcMethod, {9, 10}) || !OneOf(s.GraphType, {1, 19}) || s.RestoringSettings != 0) return;
+  const Graph& graph = ChosenGraph(s);
+  const bool counts = TraitsOf(s.CalcMethod).counts != Counted::Nothing;
+  if (!counts || !(graph.OfAngles() || graph.family == Family::Impulse) || s.RestoringSettings != 0) return;
   form.txtRadius.Text = "100";
   form.cboRays.Text = "2";
   form.txtXmin.Text = "120";
@@ -34,14 +30,13 @@ void StripStartValues(Session& session) {
 /// Which illumination a method can have.
 void IlluminationOf(Session& session) {
   auto& form = session.form1;
-  const int method = session.state.CalcMethod;
-  const bool beams = OneOf(method, {1, 2, 8, 11, 14});
-  form.mnuIllumination.Enabled = beams;
-  if (!beams) {
+  const MethodTraits& method = TraitsOf(session.state.CalcMethod);
+  form.mnuIllumination.Enabled = method.beams;
+  if (!method.beams) {
     form.mnuPlaneWave.Checked = true;
     form.mnuGaussian.Checked = form.mnuTopHat.Checked = form.mnuCentralBeam.Checked = false;
   }
-  const bool rays = OneOf(method, {8, 14});
+  const bool rays = method.beams && method.takesDiffraction;
   form.mnuTopHat.Visible = rays;
   if (!rays) return;
   form.mnuTopHat.Caption = "Top hat beam";
@@ -55,12 +50,12 @@ void TypeCalc(Session& session) {
   auto& list = session.form1.cboType;
   auto& s = session.state;
   list.BackColour = colours::White;
-  s.CalcMethod = 0;
+  s.CalcMethod = Method::None;
   if (const MethodRow* row = FindMethod(list.Text)) {
-    s.CalcMethod = static_cast<int>(row->method);
+    s.CalcMethod = row->method;
     if (row->method == Method::Diffraction) s.DiffractionVariant = row->diffractionVariant;
   }
-  if (s.CalcMethod != 0) return;
+  if (s.CalcMethod != Method::None) return;
   list.BackColour = colours::BadInput;
   session.platform.Message("Error", "Unknown calculation method");
 }
@@ -70,17 +65,17 @@ void cboType_click(Session& session) {
   const auto& s = session.state;
   form.lblDebyeRays.Caption.clear();
   TypeCalc(session);
-  const bool byRays = OneOf(s.CalcMethod, {2, 5, 6, 7, 8, 9, 10, 11, 14});
-  form.cboRays.Visible = form.Label9.Visible = byRays;
-  if (s.CalcMethod == 5 && (form.cboRays.Text == "0" || form.cboRays.Text == "1")) form.cboRays.Text = "2";
-  if (byRays) cborays_Click(session);
-  form.chkDiffraction.Visible = OneOf(s.CalcMethod, {6, 7, 8, 14});
-  form.mnuHidden.Visible = OneOf(s.CalcMethod, {3, 8, 14});
+  const MethodTraits& method = TraitsOf(s.CalcMethod);
+  form.cboRays.Visible = form.Label9.Visible = method.showsP;
+  if (s.CalcMethod == Method::Airy && (form.cboRays.Text == "0" || form.cboRays.Text == "1")) form.cboRays.Text = "2";
+  if (method.showsP) cborays_Click(session);
+  form.chkDiffraction.Visible = method.takesDiffraction;
+  form.mnuHidden.Visible = method.hasHidden;
   for (MenuEntry* entry : {&form.mnuBessel, &form.mnuAiry, &form.mnuReadDiff})
     entry->Visible = form.mnuHidden.Visible && form.mnuHidden.Checked;
   StripStartValues(session);
   IlluminationOf(session);
-  const bool surfaceWave = s.CalcMethod == 11;
+  const bool surfaceWave = s.CalcMethod == Method::SurfaceWave;
   form.cboQmin.Visible = form.cboQmax.Visible = form.lblQminQmax.Visible = form.txtSWAmp.Visible = surfaceWave;
   form.mnuSurfaceWave.Visible = surfaceWave;
   if (surfaceWave) form.txtSWAmp.Text = "1";
@@ -131,7 +126,7 @@ void ShowIndexInputs(Form1& form) {
 
 void ShowWavelengthInputs(Session& session) {
   auto& form = session.form1;
-  const int type = session.state.GraphType;
+  const Graph& graph = ChosenGraph(session.state);
   const bool one = Trim(form.cboWave.Text) == "1";
   form.Label6.Visible = form.txtLambda.Visible = one;
   ShowIndexInputs(form);
@@ -139,10 +134,11 @@ void ShowWavelengthInputs(Session& session) {
   // Red, green and blue stand where they stand, whatever the band.
   form.lblSpectrumBand.Visible = !one && form.cboWave.Text != "RGB";
   form.mnuAverage.Visible = one;
-  form.Label18.Visible = form.cboBright.Visible = IsAvailable(Feature::ColourBars) && (!one || type >= 20);
+  form.Label18.Visible = form.cboBright.Visible =
+      IsAvailable(Feature::ColourBars) && (!one || graph.InColour() || graph.family == Family::Volume);
   form.chkComponents.Visible = form.cboWave.Text == "RGB";
   // A size parameter belongs to one wavelength.
-  form.mnuRadiusX.Enabled = one && type == 1;
+  form.mnuRadiusX.Enabled = one && graph.OfAngles();
   if (form.mnuRadiusX.Checked && !form.mnuRadiusX.Enabled) session.events.Raise("mnuRadius_Click");
 }
 

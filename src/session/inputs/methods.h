@@ -11,7 +11,7 @@
 namespace lumivex {
 
 /// Translates the text of cboType into CalcMethod and DiffractionVariant. A text that is no method, or whose solver is
-/// not there, marks the list and reports "Unknown calculation method"; CalcMethod is then 0.
+/// not there, marks the list and reports "Unknown calculation method"; CalcMethod is then Method::None.
 void TypeCalc(Session& session);
 
 /// cboType_click: what shows and what is allowed with the chosen method.

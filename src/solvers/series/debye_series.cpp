@@ -31,24 +31,29 @@ DebyeConvergence Convergence(const DebyeSurfaces& surfaces, const std::vector<in
   return c;
 }
 
+/// int(max(|m x|, estimate)) + 15, which the limit counts.
+int TermsCounted(double x, double mRe, double mIm) {
+  return static_cast<int>(std::max<double>(std::hypot(x * mRe, x * mIm), NStopEstimate(x, DebyeSeriesMargin))) +
+         RecurrenceMargin;
+}
+
 }  // namespace
+
+MieRefusal CheckDebyeLimits(double x, double mRe, double mIm) {
+  if (!(std::hypot(x * mRe, x * mIm) <= MaxSeriesTerms)) return MieRefusal::SizeTooLarge;
+  return TermsCounted(x, mRe, mIm) > MaxSeriesTerms ? MieRefusal::SeriesTooLong : MieRefusal::None;
+}
 
 DebyeResult SolveDebye(const DebyeRequest& request, RunMonitor& monitor) {
   const AngleGrid grid = request.angle ? AngleGrid::At(*request.angle) : AngleGrid(request.NANG);
   DebyeResult result;
   result.S1.Resize(grid.RowCount());
   result.S2.Resize(grid.RowCount());
-  const double modulus = std::hypot(request.x * request.mRe, request.x * request.mIm);
-  if (!(modulus <= MaxSeriesTerms)) {
-    result.refusal = MieRefusal::SizeTooLarge;
-    return result;
-  }
+  result.refusal = CheckDebyeLimits(request.x, request.mRe, request.mIm);
+  if (result.refusal == MieRefusal::SizeTooLarge) return result;
   const int estimate = NStopEstimate(request.x, DebyeSeriesMargin);
-  result.NMX = static_cast<int>(std::max<double>(modulus, estimate)) + RecurrenceMargin;
-  if (result.NMX > MaxSeriesTerms) {
-    result.refusal = MieRefusal::SeriesTooLong;
-    return result;
-  }
+  result.NMX = TermsCounted(request.x, request.mRe, request.mIm);
+  if (result.refusal != MieRefusal::None) return result;
   result.NSTOP = request.convergence ? static_cast<int>(std::nearbyint(ConvergenceStretch * estimate)) : estimate;
   result.PartialWaveLast = result.NSTOP;
   if (request.partial) {

@@ -49,6 +49,9 @@ struct DebyeResult {
   RowsDone rows;  ///< Rows of the window that hold the whole sum.
 };
 
+/// Whether a sphere lies within the limits of the series; to be asked before a long run.
+MieRefusal CheckDebyeLimits(double x, double mRe, double mIm);
+
 /// The Debye series (Debye 1908; van der Pol and Bremmer 1937; Hovenac and Lock 1992): the amplitudes of reflection and
 /// diffraction (p = 0), direct transmission (p = 1) and p - 1 internal reflections (p >= 2), in the convention of the
 /// Mie series, so that the sum over all p is the Mie series. See DebyeSurfaces and SumAngularSeries for the algorithm.

@@ -49,7 +49,9 @@ BandOfLight BandOf(const Session& session) {
           static_cast<float>(Val(band.txtSpectrumMax.Text) / 1000)};
 }
 
-void Store(MainFormState& s, const SpectrumOfLight& light) {
+}  // namespace
+
+void StoreSpectrum(MainFormState& s, const SpectrumOfLight& light) {
   const auto rows = light.wavelength.size();
   s.WavelengthList = light.wavelength;
   s.SpectrumWeight = s.SpectrumWeightInUse = light.weight;
@@ -63,8 +65,6 @@ void Store(MainFormState& s, const SpectrumOfLight& light) {
     s.WavelengthColours[i] = RGB(colour.r, colour.g, colour.b);
   }
 }
-
-}  // namespace
 
 int WavelengthCount(std::string_view text, double radius) {
   constexpr int most = 32767;
@@ -93,7 +93,7 @@ SpectrumOfLight ChosenSpectrum(const Session& session, int count) {
   SpectrumOfLight light = EmptyRow();
   const BandOfLight band = BandOf(session);
   const bool rgb = session.form1.cboWave.Text == "RGB";
-  light.components = rgb && session.form1.chkComponents.Checked;
+  light.components = rgb;
   const double step = (double{band.high} - double{band.low}) / count;
   for (int i = 0; i < count; ++i) {
     const double centre = i * step + step / 2 + double{band.low};
@@ -110,12 +110,12 @@ void lambdaN(Session& session) {
   if (s.NumberWavelengths == 1) {
     SpectrumOfLight one = EmptyRow();
     Add(one, static_cast<float>(s.Lambda), 1);
-    return Store(s, one);
+    return StoreSpectrum(s, one);
   }
   const BandOfLight band = BandOf(session);
   s.SpectrumMin = band.low;
   s.SpectrumMax = band.high;
-  Store(s, ChosenSpectrum(session, s.NumberWavelengths));
+  StoreSpectrum(s, ChosenSpectrum(session, s.NumberWavelengths));
 }
 
 }  // namespace lumivex

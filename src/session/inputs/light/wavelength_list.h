@@ -18,6 +18,10 @@ int WavelengthCount(std::string_view text, double radius);
 /// 0.44 um, whatever the band; all others are the centres of equal slices of the band.
 SpectrumOfLight ChosenSpectrum(const Session& session, int count);
 
+/// Puts a spectrum into the record: WavelengthList, SpectrumWeight, SpectrumWeightInUse, WavelengthRed, -Green, -Blue
+/// and WavelengthColours.
+void StoreSpectrum(MainFormState& s, const SpectrumOfLight& light);
+
 /// Fills the wavelengths of a run, their weights and their colours (WavelengthList, SpectrumWeight,
 /// SpectrumWeightInUse, WavelengthRed, -Green, -Blue, WavelengthColours) and the band from ChosenSpectrum.
 /// NumberWavelengths must be settled before; more than 2001 become 2001.

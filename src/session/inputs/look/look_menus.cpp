@@ -1,11 +1,11 @@
 #include "session/inputs/look/look_menus.h"
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
-#include "pages/colours.h"
-#include "pages/polar_plot.h"
 #include "record/number_text.h"
+#include "session/inputs/look/colour_test.h"
 
 namespace lumivex {
 
@@ -179,7 +179,41 @@ void ToggleSecondPanel(Session& session, Entry wanted, Entry other) {
   Replot(session);
 }
 
+void Refuse(Session& session, std::string_view text) {
+  session.platform.Message("Option not available", text);
+}
+
+bool RangeIsWhole(const Form1& form) {
+  return Val(form.txtXmin.Text) == 0 && Val(form.txtXmax.Text) == 180;
+}
+
 }  // namespace
+
+void mnuPolarPlot_Click(Session& session) {
+  auto& form = session.form1;
+  if (form.mnuPolarPlot.Checked) {
+    form.mnuPolarPlot.Checked = false;
+  } else if (form.mnuIntPol.Checked) {
+    Refuse(session, "Polar plots are not available for graphs of Intensity and Polarisation");
+    return;
+  } else if (!form.mnuAmpPhase.Checked && !form.mnuPlaneWave.Checked && !RangeIsWhole(form)) {
+    Refuse(session, "Polar plots are available only when scattering angles\ncover entire range from 0 to 180 degrees");
+    return;
+  } else if (session.state.NumberWavelengths != 1) {
+    Refuse(session, "Polar plots are available only for single wavelength calculations");
+    return;
+  } else {
+    form.mnuPolarPlot.Checked = true;
+  }
+  session.events.Raise("cmdReplot_Click");
+}
+
+int AngleDelta(const Session& session) {
+  const int rows = 2 * session.state.NANG - 1;
+  if (rows < 2) return 1;
+  const double row = Val(session.form1.txtAngle.Text) * (rows - 1) / 180 + 1;
+  return ToWhole(std::clamp(row, 1.0, static_cast<double>(rows)));
+}
 
 void BackgroundColour(Session& session) {
   Untick(session, backgrounds);

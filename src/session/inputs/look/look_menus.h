@@ -46,6 +46,14 @@ void mnuMoreColours_Click(Session& session);
 void PlotLineStyle(Session& session);
 void PlotDrawWidth(Session& session);
 
+/// Turns the polar plot on or off and replots. Turning it on is refused with a message titled "Option not available"
+/// for graphs of intensity and polarisation, for an angle range other than 0 to 180 degrees without a plane wave, and
+/// for more than one wavelength.
+void mnuPolarPlot_Click(Session& session);
+
+/// The row of the angle tables nearest to txtAngle (degrees), from 1 to 2 NANG - 1.
+int AngleDelta(const Session& session);
+
 /// Second panels exclude each other; both replot.
 void mnuAmpPhase_Click(Session& session);
 void mnuIntPol_Click(Session& session);

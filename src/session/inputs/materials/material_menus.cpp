@@ -26,9 +26,8 @@ std::vector<MenuEntry*> MediumEntries(Form1& f) {
 
 /// A graph that works at one refractive index; the others vary the wavelength or the index itself.
 bool WorksAtOneIndex(const RunState& s) {
-  const bool byWavelength = s.GraphType == 10 || s.GraphType == 15 || s.GraphType == 25;
-  const bool powerByWavelength = s.GraphType >= 16 && s.GraphType <= 18 && s.GraphSubType == 3;
-  return s.GraphType != 1 && !byWavelength && !powerByWavelength;
+  const Graph& graph = ChosenGraph(s);
+  return !graph.OfAngles() && graph.axis != AxisVariable::Wavelength && graph.family != Family::DebyeAnalysis;
 }
 
 /// Evaluates the model at the wavelength that stands in txtLambda, as its change event does.
@@ -174,7 +173,7 @@ void mnuRI_Fixed1_Click(Session& session) {
   form.mnuRI_Fixed1.Checked = true;
   s.SphereName = "Sphere of fixed RI";
   s.SphereIndexTyped = s.SphereIndexVaries = 0;
-  if (!TraitsOf(static_cast<Method>(s.CalcMethod)).layered) {
+  if (!TraitsOf(s.CalcMethod).layered) {
     form.lblSphere.Caption = "Sphere: Fixed refractive index";
     form.lblSphere.ForeColour = colours::BadInput;
   }

@@ -136,7 +136,7 @@ std::optional<double> RefRel(Session& session, double wavelength, LookupVoice vo
   auto& s = session.state;
   auto& form = session.form1;
   if (!(wavelength > 0)) return TypedRatio(form);
-  if (TraitsOf(static_cast<Method>(s.CalcMethod)).layered) return std::nullopt;
+  if (TraitsOf(s.CalcMethod).layered) return std::nullopt;
 
   const Lookup lookup{session, wavelength, voice};
   const Material sphere = SphereMaterial(session), medium = MediumMaterial(session);

@@ -131,7 +131,7 @@ std::string DebyeLabelText(const DebyeLabelDetails& d) {
 std::string MethodLabel(const Session& session) {
   const auto& form = session.form1;
   Details details;
-  details.method = static_cast<Method>(session.state.CalcMethod);
+  details.method = session.state.CalcMethod;
   const RayInputs rays = RayInputsOf(session);
   details.p = rays.text;
   if (details.p == "Multiple") {

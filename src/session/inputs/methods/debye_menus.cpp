@@ -14,7 +14,7 @@ namespace {
 
 void Changed(Session& session) {
   session.events.Raise("Inputs_Changed");
-  if (session.state.CalcMethod == 2) DebyeLabel(session);
+  if (session.state.CalcMethod == Method::Debye) DebyeLabel(session);
 }
 
 void PickDifference(Session& session, MenuEntry& chosen) {

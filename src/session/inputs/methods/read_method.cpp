@@ -38,7 +38,7 @@ MethodOptions ChosenMethod(const Session& session) {
   constexpr int mostRays = 100000, mostStrips = 10000;
   const auto& form = session.form1;
   MethodOptions options;
-  options.method = static_cast<Method>(session.state.CalcMethod);
+  options.method = session.state.CalcMethod;
   const MethodTraits& traits = TraitsOf(options.method);
   if (traits.showsP) options.rays = SelectedRays(RayInputsOf(session));
   options.addDiffraction = traits.takesDiffraction && WithDiffraction(session);
@@ -47,7 +47,9 @@ MethodOptions ChosenMethod(const Session& session) {
     options.partialWaves = PartialWavesOf(session.forms.dlogPartial);
   }
   options.byRatio = form.mnuDebyeRecursion.Checked;
-  options.divideBySize = form.mnuSize.Checked;
+  // Only the series that knows the division takes part in it: a difference of divided and undivided fields means
+  // nothing.
+  options.divideBySize = form.mnuSize.Checked && options.method == Method::Mie;
   options.classicStart = form.mnuClassicStart.Checked;
   if (session.state.DiffractionVariant == 1) options.diffraction = DiffractionForm::PartialWaves;
   options.forwardEfficiency = form.mnuHidden.Checked;

@@ -5,6 +5,7 @@
 
 #include "particles/normal_samples.h"
 #include "record/number_text.h"
+#include "session/inputs/dialog_use.h"
 #include "session/inputs/sizes/size_distribution.h"
 
 namespace lumivex {
@@ -30,6 +31,8 @@ FileSizes File(const Session& session) {
   const auto& radius = s.SizeTableMode == 1 ? s.SizeTableNonUniform : s.SizeTableUniform;
   file.radius.assign(radius.begin(), radius.begin() + rows);
   file.number.assign(s.SizeTableNumber.begin(), s.SizeTableNumber.begin() + rows);
+  if (s.SizeTableMode == 1) file.upper.assign(s.SizeTableUpper.begin(), s.SizeTableUpper.begin() + rows);
+  file.name = FileNameOf(s.SizeFileName);
   file.lowest = s.SizeFileMin;
   file.highest = s.SizeFileMax;
   return file;

@@ -15,7 +15,9 @@ namespace lumivex {
 
 namespace {
 
-constexpr int leeDiagram = 20, againstSize = 11;
+bool IsLeeDiagram(const RunState& s) {
+  return ChosenGraph(s).family == Family::Lee;
+}
 
 /// Which inputs a distribution has.
 struct DistributionInputs {
@@ -68,7 +70,7 @@ void ShowSizeInputs(Session& session) {
   auto& form = session.form1;
   const bool disperse = form.optDisp.Checked;
   const DistributionInputs& inputs = InputsOf(form.cboDistrib.Text);
-  const bool radius = (!disperse || inputs.radius) && session.state.GraphType != againstSize;
+  const bool radius = (!disperse || inputs.radius) && !ChosenGraph(session.state).IntensityBySize();
   form.cboDistrib.Visible = disperse;
   form.Label7.Visible = form.txtRadius.Visible = radius;
   form.Label11.Visible = form.cboSD.Visible = disperse && inputs.deviation;
@@ -81,7 +83,7 @@ void optMono_Click(Session& session) {
   form.optMono.Select();
   ShowSizeInputs(session);
   RaiseInputsChanged(session);
-  if (session.state.GraphType == leeDiagram) form.cmdReplot.Enabled = false;
+  if (IsLeeDiagram(session.state)) form.cmdReplot.Enabled = false;
 }
 
 void optDisp_Click(Session& session) {
@@ -92,7 +94,7 @@ void optDisp_Click(Session& session) {
   ShowSizeInputs(session);
   RaiseInputsChanged(session);
   form.cmdNewPlot.Enabled = true;
-  if (s.PrevGraphType != 0) form.cmdReplot.Visible = form.cmdReplot.Enabled = true;
+  if (HasResults(s)) form.cmdReplot.Visible = form.cmdReplot.Enabled = true;
   DistDisplay(session);
 }
 
@@ -101,7 +103,7 @@ void cboDistrib_Change(Session& session) {
   auto& s = session.state;
   const std::string name = form.cboDistrib.Text;
   form.cboDistrib.BackColour = colours::White;
-  if (name == "Special" && s.GraphType == leeDiagram) {
+  if (name == "Special" && IsLeeDiagram(s)) {
     session.platform.Message("Input error", "Special distributions are not available for Lee diagrams");
     GoBack(session);
     return;
@@ -122,7 +124,7 @@ void cboDistrib_Change(Session& session) {
 
 void RefuseDisperseLeeDiagram(Session& session) {
   auto& form = session.form1;
-  const bool lee = session.state.GraphType == 20 || form.cboGraph.Text.starts_with("Lee diagram");
+  const bool lee = IsLeeDiagram(session.state) || form.cboGraph.Text.starts_with("Lee diagram");
   if (!lee || !form.optDisp.Checked) return;
   session.platform.Message("Disperse calculations",
                            "Lee diagrams are calculated for monodisperse droplets\nAfter this calculation, select "

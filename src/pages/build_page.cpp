@@ -1,0 +1,110 @@
+#include "pages/build_page.h"
+
+#include "pages/curve_legend.h"
+#include "pages/curve_path.h"
+#include "pages/frame.h"
+#include "pages/phasor_diagram.h"
+#include "pages/readings.h"
+#include "pages/run_words.h"
+#include "pages/size_histogram.h"
+#include "pages/spectrum_graph.h"
+#include "pages/two_angle_chart.h"
+
+namespace lumivex {
+
+namespace {
+
+bool HasLogo(const Graph& graph) {
+  return !graph.InColour() && graph.family != Family::Impulse && graph.family != Family::Volume;
+}
+
+PageStyle StyleOf(const PageKind& kind, const Look& look) {
+  const BackgroundLook& background = look.background;
+  const bool mono = kind.wavelengths == 1;
+  PageStyle style;
+  style.paper = background.paper;
+  style.ground = mono ? background.ground : background.spectrumGround;
+  style.gridColour = background.grid.value_or(mono ? RGB(128, 255, 255) : RGB(64, 64, 64));
+  style.minorXColour = background.white ? colours::Black : style.gridColour;
+  style.gridLines = look.gridLines;
+  style.size = look.size;
+  style.special = look.special;
+  style.logo = HasLogo(kind.graph) ? look.logo : "";
+  style.logoPlace = look.logoPlace;
+  style.logoColour = mono && background.pale ? RGB(200, 200, 200) : RGB(100, 100, 100);
+  style.readingsVisible = look.readingsVisible;
+  return style;
+}
+
+/// The name of a distribution: what comes first in its words.
+std::string NameOfSizes(const RunWords& words) {
+  return words.sizes.substr(0, words.sizes.find(','));
+}
+
+void AddRun(Page& page, const RunToDraw& run) {
+  const Results& results = run.results;
+  page.runs.push_back({RunTitleOf(results), MethodLabelOf(results), ParameterLinesOf(results)});
+  switch (results.asked.graph.drawing) {
+    case Drawing::PhasorDiagram:
+      page.phasors = PlotDots(run, page.geometry);
+      break;
+    case Drawing::TwoAngleChart:
+      DisplayTwoAngle(page, run);
+      break;
+    default:
+      if (results.Find<SpectrumFound>() != nullptr)
+        PlotNColour(page, run);
+      else
+        Display(page, run, CurvesOf(results, run.Curves()));
+  }
+  if (page.kind.polar || run.look.scale.polar) PolarLabel(page, results);
+  page.readings = VisibleData(results);
+  page.histogram = DistDisplay(results.asked.sizes, results.asked.particle.radius, NameOfSizes(results.asked.words),
+                               run.look.histogramLog, results.asked.graph);
+  const auto* angles = results.Find<AngleFound>();
+  page.wavefronts = angles != nullptr ? angles->wavefronts : std::vector<HuygensWave>();
+}
+
+/// Whether curves of one kind may be drawn on the axes of the other.
+bool SharesAxes(const PageKind& page, const PageKind& run) {
+  return page.graph == run.graph && page.graph.drawing != Drawing::PhasorDiagram && page.wavelengths == 1 &&
+         run.wavelengths == 1 && page.second == run.second && page.polar == run.polar &&
+         page.amplitude == run.amplitude && page.invWavelength == run.invWavelength &&
+         page.perVolume == run.perVolume && page.fourier == run.fourier && page.xTitle == run.xTitle &&
+         page.yTitle == run.yTitle;
+}
+
+}  // namespace
+
+Page BuildPage(const Results& results, const Look& look, const PageGeometry& geometry, const ScaleMemory& memory) {
+  const RunToDraw run{results, look};
+  Page page;
+  page.kind = KindOf(run);
+  page.style = StyleOf(page.kind, look);
+  page.geometry = geometry;
+  page.scale = memory;
+  AddRun(page, run);
+  return page;
+}
+
+Page DrawOver(const Page& page, const Results& results, const Look& look) {
+  const RunToDraw run{results, look};
+  if (page.Empty() || !SharesAxes(page.kind, KindOf(run))) return BuildPage(results, look, page.geometry, page.scale);
+  Page both = WithLook(page, look);
+  AddRun(both, run);
+  return both;
+}
+
+Page PlacePage(Page page, const PageGeometry& geometry) {
+  page.geometry = geometry;
+  for (PagePanel& panel : page.panels) panel.box = BoxOf(geometry, panel.place);
+  if (page.phasors) page.phasors->place = PlacePhasors(geometry);
+  return page;
+}
+
+Page WithLook(Page page, const Look& look) {
+  page.style = StyleOf(page.kind, look);
+  return page;
+}
+
+}  // namespace lumivex

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "record/page.h"
+
+namespace lumivex {
+
+/// What is drawn around the plot and behind it.
+struct BackgroundLook {
+  Colour paper = colours::ButtonFace;
+  Colour ground = colours::White;          ///< of a plot of one wavelength
+  Colour spectrumGround = colours::Black;  ///< of several
+  /// Of grid lines; without one they are light on the pale ground of one wavelength and dark on that of several.
+  std::optional<Colour> grid;
+  bool pale = true;    ///< on which a logo is light
+  bool white = false;  ///< on which minor grid lines are black
+};
+
+/// The pen of the next curves.
+struct PenLook {
+  bool trueColour = true;  ///< that of the light; otherwise these two
+  Colour first, second;    ///< of the first curve, and the shade of the second
+  int style = 0;           ///< 0 solid, 1 dash, 2 dot
+  int width = 1;
+  bool markers = false;
+};
+
+/// The curves that are wanted.
+enum class Polarisations { None, Perpendicular, Parallel, Both, Unpolarised, All };
+
+struct ScaleLook {
+  bool logX = false, logY = true, polar = false;
+  XRange x{0, 180};
+  std::optional<double> ymin, ymax;  ///< nothing: chosen for the curves
+};
+
+struct SunLook {
+  bool disc = false;  ///< a source 0.5 degrees wide
+  bool rectangular = false;
+};
+
+/// How a page is wanted: plain values, read once from the menus and inputs.
+struct Look {
+  BackgroundLook background;
+  PenLook pen;
+  GridLines gridLines;
+  GraphSize size = GraphSize::Large;
+  bool special = false;                ///< large bold text for slides
+  std::optional<double> averageWidth;  ///< of the running mean, in the unit of the axis
+  bool interpolate = false;
+  Polarisations polarisations = Polarisations::Both;
+  ScaleLook scale;
+  SecondPanel second = SecondPanel::None;
+  bool amplitude = false, invWavelength = false, fourier = false;
+  SunLook sun;
+  bool components = false;  ///< red, green and blue apart
+  std::string logo;         ///< empty where it is hidden
+  LogoPlace logoPlace = LogoPlace::BottomLeft;
+  bool readingsVisible = true;
+  DotLabels dotLabels;
+  bool histogramLog = true;  ///< the radius of a size distribution on a logarithmic axis
+
+  bool Wants(Polarisations one) const {
+    return polarisations == Polarisations::All || polarisations == one ||
+           (polarisations == Polarisations::Both && one != Polarisations::Unpolarised);
+  }
+  /// Several curves, which differ in their shade.
+  bool WantsSeveral() const { return polarisations == Polarisations::All || polarisations == Polarisations::Both; }
+};
+
+}  // namespace lumivex

@@ -1,0 +1,156 @@
+#include "pages/page_table.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <utility>
+
+#include "pages/curve_path.h"
+#include "pages/phasor_diagram.h"
+#include "record/catalogue/graph_texts.h"
+#include "record/number_text.h"
+
+namespace lumivex {
+
+namespace {
+
+using Column = TableColumn;
+
+std::string Cell(double value) {
+  return std::isfinite(value) ? Shortest(value) : "";
+}
+
+/// x of a curve as the table shows it: the scattering angle, also where the curve is drawn by its phase.
+const std::vector<double>& TableX(const PageCurve& curve) {
+  return curve.angle.empty() ? curve.x : curve.angle;
+}
+
+/// Two curves stand under one x where their points do; rows that were not computed count as the same.
+bool SharesX(const PageCurve& a, const PageCurve& b) {
+  const auto& xa = TableX(a);
+  const auto& xb = TableX(b);
+  return xa.size() == xb.size() && std::equal(xa.begin() + 1, xa.end(), xb.begin() + 1, [](double p, double q) {
+           return p == q || (std::isnan(p) && std::isnan(q));
+         });
+}
+
+/// A name that no column has yet.
+std::string Unused(const std::vector<Column>& columns, const std::string& name) {
+  const auto taken = [&](const std::string& candidate) {
+    return std::ranges::any_of(columns, [&](const Column& column) { return column.name == candidate; });
+  };
+  std::string unused = name;
+  for (int i = 2; taken(unused); ++i) unused = name + " (" + std::to_string(i) + ")";
+  return unused;
+}
+
+/// A two-angle chart as a table: the radii of a run, then both cross-sections of each index.
+std::vector<Column> TwoAngleColumns(const Page& page) {
+  std::vector<Column> columns;
+  std::optional<std::size_t> drawn;
+  for (const auto& curve : page.curves) {
+    const auto add = [&](const std::string& name, const std::vector<double>& values) {
+      Column column{Unused(columns, name), {}};
+      for (std::size_t i = 1; i < values.size(); ++i) column.cells.push_back(Cell(values[i]));
+      columns.push_back(std::move(column));
+    };
+    if (curve.run != drawn) add("Radius (\u00B5m)", curve.angle);
+    drawn = curve.run;
+    add(curve.name + ": " + page.kind.xTitle, curve.x);
+    add(curve.name + ": Cross-section, " + page.kind.yTitle, curve.y);
+  }
+  return columns;
+}
+
+/// What is left of an amplitude after each term.
+std::vector<Column> PhasorColumns(const PagePhasors& dots) {
+  std::vector<Column> columns = {
+      {"Terms taken away", {}}, {"Perpendicular", {}}, {"phase (deg)", {}}, {"Parallel", {}}, {"phase (deg) (2)", {}}};
+  constexpr double degreesPerRadian = 180 / 3.14159265358979;
+  for (int j = 1; j <= dots.count; ++j) {
+    const ComplexD a = dots.first.Value(j), b = dots.second.Value(j);
+    const double row[] = {j - 1.0, std::hypot(a.re, a.im), degreesPerRadian * PhasorPhase(a.re, a.im),
+                          std::hypot(b.re, b.im), degreesPerRadian * PhasorPhase(b.re, b.im)};
+    for (std::size_t c = 0; c < columns.size(); ++c) columns[c].cells.push_back(Cell(row[c]));
+  }
+  return columns;
+}
+
+/// A cell of a table whose cells are parted by `separator`.
+std::string Quoted(const std::string& text, char separator) {
+  return text.find(separator) == std::string::npos ? text : '"' + text + '"';
+}
+
+std::string Table(const std::vector<Column>& columns, char separator) {
+  if (columns.empty()) return {};
+  std::size_t rows = 0;
+  for (const auto& column : columns) rows = std::max(rows, column.cells.size());
+  std::string text;
+  const auto line = [&](auto&& cell) {
+    for (std::size_t c = 0; c < columns.size(); ++c) {
+      if (c > 0) text += separator;
+      text += cell(columns[c]);
+    }
+    text += '\n';
+  };
+  line([&](const Column& column) { return Quoted(column.name, separator); });
+  for (std::size_t row = 0; row < rows; ++row)
+    line([&](const Column& column) { return row < column.cells.size() ? column.cells[row] : std::string(); });
+  return text;
+}
+
+/// The parameters of the runs on a page; of several each under its number.
+std::vector<std::string> HeaderLines(const Page& page) {
+  std::vector<std::string> lines;
+  for (std::size_t i = 0; i < page.runs.size(); ++i) {
+    if (page.runs.size() > 1) lines.push_back("Run " + std::to_string(i + 1));
+    lines.insert(lines.end(), page.runs[i].parameters.begin(), page.runs[i].parameters.end());
+  }
+  return lines;
+}
+
+}  // namespace
+
+std::vector<TableColumn> TableOf(const Page& page) {
+  if (page.phasors) return PhasorColumns(*page.phasors);
+  if (page.kind.IsTwoAngle()) return TwoAngleColumns(page);
+  std::vector<Column> columns;
+  const std::string xName(XTitleOf(page.kind.graph, page.kind.fourier));
+  std::vector<std::pair<const PageCurve*, RowSpan>> groups;
+  for (const auto& first : page.curves) {
+    const auto known = [&](const auto& group) { return SharesX(*group.first, first); };
+    if (first.y.size() < 2 || std::ranges::any_of(groups, known)) continue;
+    const AxisLimits& limits = page.panels[first.panel].limits;
+    const auto& x = TableX(first);
+    const RowSpan rows = page.kind.polar ? RowSpan{1, x.size() - 1} : RowsWithin(x, {limits.xmin, limits.xmax});
+    groups.emplace_back(&first, rows);
+    Column xs{Unused(columns, xName.empty() ? "x" : xName), {}};
+    for (std::size_t i = rows.first; i <= rows.last; ++i)
+      if (std::isfinite(x[i])) xs.cells.push_back(Cell(x[i]));
+    columns.push_back(std::move(xs));
+    for (const auto& curve : page.curves) {
+      if (!SharesX(first, curve)) continue;
+      Column ys{Unused(columns, curve.name), {}};
+      for (std::size_t i = rows.first; i <= rows.last; ++i)
+        if (std::isfinite(x[i])) ys.cells.push_back(Cell(DrawnValue(curve, i, rows)));
+      columns.push_back(std::move(ys));
+    }
+  }
+  return columns;
+}
+
+std::string TableAsText(const Page& page) {
+  return Table(TableOf(page), '\t');
+}
+
+std::string TableAsCsv(const Page& page) {
+  return Table(TableOf(page), ',');
+}
+
+std::string TableWithHeader(const Page& page) {
+  std::string text;
+  for (const auto& line : HeaderLines(page)) text += "# " + line + "\n";
+  return text + TableAsCsv(page);
+}
+
+}  // namespace lumivex

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "record/page.h"
+
+namespace lumivex {
+
+/// The numbers behind a page, as far as it shows them. Values that were not computed are empty; numbers read back as
+/// the same values.
+struct TableColumn {
+  std::string name;
+  std::vector<std::string> cells;
+};
+
+/// x once for curves that share it, then a column a curve. Of a two-angle chart the radii of a run and both
+/// cross-sections of each index; of a phasor diagram the moduli and phases of what is left, by number of terms taken
+/// away.
+std::vector<TableColumn> TableOf(const Page& page);
+
+/// The table with a line of names above, parted by tabs, as a spreadsheet takes it from the clipboard; empty for an
+/// empty page.
+std::string TableAsText(const Page& page);
+
+/// The same parted by commas.
+std::string TableAsCsv(const Page& page);
+
+/// That, after the parameters of the runs as comments, each begun with "# ".
+std::string TableWithHeader(const Page& page);
+
+}  // namespace lumivex

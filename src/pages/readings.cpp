@@ -1,0 +1,120 @@
+#include "pages/readings.h"
+
+#include <initializer_list>
+#include <string>
+#include <utility>
+
+#include "colour/wavelength_colour.h"
+#include "pages/spectrum_graph.h"
+#include "record/number_text.h"
+#include "runs/curves.h"
+#include "solvers/series/angular_sum.h"
+
+namespace lumivex {
+
+namespace {
+
+// The strip of readings (surface units).
+constexpr double left = 12000, firstLine = 600, lineHeight = 200;
+constexpr double pi = 3.14159265358979324;
+constexpr int digitsShown = 6;
+
+using Lines = std::vector<PageLine>;
+
+/// A wavelength's colour as text on the page: light ones are darkened.
+Colour TextColour(Colour c) {
+  constexpr double lightest = 130;
+  const double lightness = 0.3 * c.Red() + 0.59 * c.Green() + 0.11 * c.Blue();
+  const double factor = lightness > lightest ? lightest / lightness : 1;
+  return RGB(factor * c.Red(), factor * c.Green(), factor * c.Blue());
+}
+
+void Add(Lines& lines, std::string text, Colour colour = colours::Black) {
+  lines.push_back({std::move(text), colour});
+}
+
+void AddEfficiencies(const Efficiencies& e, Lines& lines) {
+  const std::initializer_list<std::pair<const char*, double>> readings = {{"Qsca = ", e.Qsca},
+                                                                          {"Qext = ", e.Qext},
+                                                                          {"Qabs = ", e.Qext - e.Qsca},
+                                                                          {"Qback = ", e.Qback},
+                                                                          {"Qradar = ", pi / 4 * e.Qback},
+                                                                          {"g = ", e.g}};
+  for (const auto& [name, value] : readings) Add(lines, name + Significant(value, digitsShown));
+}
+
+/// Wavelengths of a sum over a spectrum: the efficiencies belong to one wavelength and say nothing about it.
+void AddSpectrum(const Results& results, const SpectrumFound& found, Lines& lines) {
+  const RunRequest& asked = results.asked;
+  const SpectrumOfLight& light = *asked.light.spectrum;
+  const int count = light.Count();
+  std::string words = std::to_string(count) + " wavelengths";
+  if (found.done < count) words = std::to_string(found.done) + " of " + words;
+  if (const int sizes = SamplesOf(asked.sizes, asked.particle.radius).Count(); sizes > 1)
+    words += ", " + std::to_string(sizes) + " sizes";
+  Add(lines, words);
+  Add(lines, asked.words.light);
+  constexpr int mostNamed = 7;
+  if (count <= mostNamed) {
+    // The key of the curves, which have these colours.
+    for (int i = 1; i <= found.done; ++i) {
+      const ColourTriple c = colRGB2(double{light.wavelength[static_cast<std::size_t>(i)]});
+      Add(lines, WavelengthWords(light, i), TextColour(RGB(c.r, c.g, c.b)));
+    }
+    return;
+  }
+  const bool falling = light.wavelength[1] > light.wavelength.back();
+  Add(lines, WavelengthWords(light, falling ? count : 1) + " to " + WavelengthWords(light, falling ? 1 : count));
+}
+
+/// Intensities straight forward and straight back, of the sphere even where the graph leaves those rows out.
+void AddEndIntensities(const Results& results, const AngleFound& found, Lines& lines) {
+  if (found.waves.Terms() < 1) return;
+  const double x = results.last.sizeParameter;
+  const bool divided = results.asked.method.method == Method::Mie && results.asked.method.divideBySize;
+  const double scale = divided ? x : 1;
+  const auto intensity = [scale](const ComplexD& S) { return (S.re * S.re + S.im * S.im) / (scale * scale); };
+  Add(lines, "  0 deg: " + Format(intensity(ForwardAmplitude(found.waves)), "scientific"));
+  Add(lines, "  180 deg: " + Format(intensity(BackwardAmplitude(found.waves)), "scientific"));
+  Add(lines, "X = " + Format(x, "#,##0.######"));
+}
+
+bool HasEfficiencies(const MethodOptions& method) {
+  const bool told =
+      method.method == Method::Mie || method.method == Method::Debye || method.method == Method::CoatedSphere;
+  return told && method.beam.profile == RayBeam::Profile::PlaneWave;
+}
+
+}  // namespace
+
+std::vector<PageLine> VisibleData(const Results& results) {
+  const RunRequest& asked = results.asked;
+  Lines lines;
+  if (const auto* spectrum = results.Find<SpectrumFound>(); spectrum != nullptr && asked.light.spectrum) {
+    AddSpectrum(results, *spectrum, lines);
+    return lines;
+  }
+  if (!HasEfficiencies(asked.method)) return lines;
+  AddEfficiencies(results.last.efficiencies, lines);
+  if (asked.graph.quantity == Quantity::Irradiance) {
+    const Curves curves = CurvesOf(results, {});
+    Add(lines, "Scattered power = " + Significant(curves.scatteredPower, digitsShown) + " W");
+    Add(lines, "Backscattered power = " + Significant(curves.backscatteredPower, digitsShown) + " W");
+  }
+  if (const auto* found = results.Find<AngleFound>()) AddEndIntensities(results, *found, lines);
+  return lines;
+}
+
+void PaintReadings(DrawingSurface& surface, const std::vector<PageLine>& readings) {
+  double y = firstLine;
+  for (const PageLine& line : readings) {
+    surface.ForeColour = line.colour;
+    surface.CurrentX = left;
+    surface.CurrentY = y;
+    surface.Print(line.text);
+    y += lineHeight;
+  }
+  surface.ForeColour = colours::Black;
+}
+
+}  // namespace lumivex

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <vector>
+
+#include "pages/look.h"
+#include "record/drawing_surface.h"
+#include "runs/results.h"
+
+namespace lumivex {
+
+/// The readings of results: the efficiencies of a sphere or cloud lit by a plane wave, with the powers of a graph in
+/// Watts and the intensities straight forward and back of a graph against angle; of a spectrum its wavelengths. None
+/// for a method that has no efficiencies.
+std::vector<PageLine> VisibleData(const Results& results);
+
+/// Paints them beside the inputs, at x 12000 of the surface.
+void PaintReadings(DrawingSurface& surface, const std::vector<PageLine>& readings);
+
+}  // namespace lumivex

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "runs/results.h"
+
+namespace lumivex {
+
+/// Title of a run: "Mie scattering:  Water in a vacuum". It names no material where the graph varies it.
+std::string RunTitleOf(const Results& results);
+
+/// Label of the method, with its p: "Debye series (p = 2)".
+std::string MethodLabelOf(const Results& results);
+
+/// The parameters of a run in words, a line each.
+std::vector<std::string> ParameterLinesOf(const Results& results);
+
+/// "12 ms" or "3.2 s".
+std::string TimeWords(double seconds);
+
+}  // namespace lumivex

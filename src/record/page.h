@@ -1,0 +1,194 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "axes/panel_map.h"
+#include "catalogue/graph.h"
+#include "record/colour.h"
+#include "solvers/angles/amplitude_table.h"
+#include "solvers/rays/huygens_wave.h"
+
+namespace lumivex {
+
+/// What the scales remember from frame to frame.
+struct ScaleMemory {
+  double StoredTop = 100000;  ///< top and bottom of the last scaling: what a curve without positive values is drawn on
+  double StoredBottom = 0.1;
+  double GridUnit = 1;     ///< unit of the last top chosen, which the next value of the form 10^p takes over
+  double GridOddTest = 0;  ///< number last tested for being odd: a range of 10 looks at that of the frame before
+  bool operator==(const ScaleMemory&) const = default;
+};
+
+/// Where a graph stands on its surface (surface units).
+struct PageGeometry {
+  GraphBox box{1000, 15000, 3400, 9800};  ///< of the plot
+  double polarX = 5200, polarY = 6600;    ///< centre of the polar plot
+  double polarRadius = 3200;              ///< its radius
+  double surfaceWidth = 19200, surfaceHeight = 15360;
+  bool operator==(const PageGeometry&) const = default;
+};
+
+enum class GraphSize { Small, Medium, Large, VeryLarge };
+enum class LogoPlace { TopRight, TopLeft, BottomRight, BottomLeft };
+
+/// Which grid lines are drawn.
+struct GridLines {
+  bool majorX = true, minorX = false, majorY = true, minorY = false;
+};
+
+/// Colours and sizes that a frame is painted in.
+struct PageStyle {
+  Colour paper = colours::ButtonFace;  ///< around the plot
+  Colour ground = colours::White;      ///< of the plot
+  Colour gridColour;
+  Colour minorXColour;  ///< of the minor grid lines of the horizontal axis
+  GridLines gridLines;
+  GraphSize size = GraphSize::Large;
+  bool special = false;  ///< large bold text for slides
+  std::string logo;      ///< empty where it is hidden
+  LogoPlace logoPlace = LogoPlace::BottomLeft;
+  Colour logoColour;
+  bool readingsVisible = true;
+};
+
+/// A second panel below the first; in a polar plot phases turn the curve itself.
+enum class SecondPanel { None, Phases, Polarisation, Ratios };
+
+/// What the page shows. A later click on an option changes the next page, not the titles and scales of this one.
+struct PageKind {
+  Graph graph;
+  int wavelengths = 1;
+  bool logX = false;   ///< logarithmic horizontal axis
+  bool logY = true;    ///< logarithmic vertical axis of the main panel
+  bool polar = false;  ///< the scattering angle is the polar angle
+  SecondPanel second = SecondPanel::None;
+  bool amplitude = false;      ///< moduli instead of intensities
+  bool invWavelength = false;  ///< intensities freed of the square of the wave number
+  bool perVolume = false;      ///< efficiencies per volume of the spheres
+  bool fourier = false;        ///< frequencies instead of the quantity of the axis
+  std::string xTitle, yTitle;  ///< of a two-angle chart, which name its ranges; empty for other graphs
+
+  /// Scattering matrix: S11 above, the ratios of the other elements to it below.
+  bool IsMatrix() const { return graph.drawing == Drawing::MatrixPanels; }
+  /// Cross-sections into two ranges of angle, one against the other.
+  bool IsTwoAngle() const { return graph.drawing == Drawing::TwoAngleChart; }
+  /// The polar curve of the complex amplitude.
+  bool IsComplexPolar() const { return polar && second == SecondPanel::Phases; }
+};
+
+/// Where a panel stands, so that it finds its place again when the graph changes its size.
+enum class PanelPlace { Whole, Upper, Lower };
+
+/// One frame with its axes.
+struct PagePanel {
+  PanelPlace place = PanelPlace::Whole;
+  GraphBox box;  ///< surface units
+  AxisLimits limits;
+  bool logY = true;
+  bool second = false;  ///< phases, polarisation or ratios, on a scale of their own
+  double oddTest = 0;   ///< GridOddTest as the frame before left it
+};
+
+/// One curve. Arrays have first index 1; element 0 is unused. Values that are not numbers were not computed: they lift
+/// the pen.
+struct PageCurve {
+  std::size_t panel = 0;      ///< index of its panel
+  std::size_t run = 0;        ///< index of the run that it comes from
+  int kind = 1;               ///< 1 perpendicular, 2 parallel, 3 unpolarised; a ratio of the matrix in this order
+  std::string name;           ///< as the legend prints it
+  std::vector<double> x;      ///< in the unit of the x axis; in a polar plot the polar angle (degrees)
+  std::vector<double> y;      ///< after the fold with the solar disc
+  std::vector<double> angle;  ///< what runs along the curve where x does not: the scattering angle (degrees) where x
+                              ///< is a phase, the radius (um) of a two-angle chart; otherwise empty
+  double averageRows = 0;     ///< rows of the running mean; 0 without
+  bool interpolate = false;   ///< cubic interpolation between the points
+  bool wraps = false;         ///< an angle: it goes on at 0 after 360
+  bool markers = false;       ///< marks instead of lines
+  Colour colour;
+  std::vector<Colour> colours;  ///< of each row, where the curve shows the colour of its light; otherwise empty
+  int drawStyle = 0;            ///< 0 solid, 1 dash, 2 dot
+  int drawWidth = 1;            ///< 1 or 2
+};
+
+/// A run that a page shows, in words.
+struct PageRun {
+  std::string title, methodLabel;
+  std::vector<std::string> parameters;
+};
+
+/// Which terms of a phasor diagram have their number beside the dot.
+struct DotLabels {
+  enum class Rule {
+    All,       ///< every term
+    UpToTerm,  ///< terms up to the number
+    AboveSize  ///< terms of at least 10^-number times the top of the scale
+  };
+  Rule rule = Rule::All;
+  int number = 0;
+};
+
+/// The circle of a phasor diagram, and the right and bottom edges of the table beside it (surface units).
+struct PhasorPlace {
+  double x = 0, y = 0, radius = 0;
+  double tableRight = 0, tableBottom = 0;
+};
+
+/// The terms of a series at one point as dots in the complex plane, and as a table.
+struct PagePhasors {
+  AmplitudeTable first, second;  ///< perpendicular and parallel, rows 1 to count
+  int count = 0;
+  bool showsFirst = true, showsSecond = true;
+  double ymin = 0, ymax = 1;  ///< moduli at the centre and at the rim
+  bool logarithmic = true;
+  DotLabels labels;
+  Colour firstColour, secondColour;
+  double sizeParameter = 0;
+  PhasorPlace place;
+};
+
+/// A bar of a size distribution; a line where its ends are one.
+struct HistogramBar {
+  double low = 0, high = 0;  ///< radius (um)
+  double height = 0;         ///< 0 to 1
+};
+
+/// The size distribution in the strip over the graph.
+struct PageHistogram {
+  std::vector<HistogramBar> bars;
+  double low = 0, high = 1;  ///< ends of the axis (um)
+  bool logarithmic = true;
+  bool overIndex = false;  ///< of a Lee diagram of the refractive index, which its axis names
+  std::string caption;
+};
+
+/// A line of readings.
+struct PageLine {
+  std::string text;
+  Colour colour;
+};
+
+/// A page: everything that is on a drawing, as plain data. Overplots stand beside what was there, so that a resize, a
+/// zoom, the read-out and an export show them all.
+struct Page {
+  PageKind kind;
+  PageStyle style;
+  PageGeometry geometry;
+  ScaleMemory scale;  ///< as this page left it
+  std::vector<PagePanel> panels;
+  std::vector<PageCurve> curves;
+  XRange home;                         ///< x range of the frame before any zoom
+  double autoBottom = 0, autoTop = 0;  ///< smallest and largest value of the curves that the frame was chosen for
+  bool legend = false;                 ///< whether the names of the curves stand below
+  std::string legendNote;              ///< what the legend prints in place of the curves' names, or empty
+  std::optional<PagePhasors> phasors;
+  std::vector<HuygensWave> wavefronts;  ///< in the strip over the graph
+  std::vector<PageLine> readings;       ///< of the last run
+  std::optional<PageHistogram> histogram;
+  std::vector<PageRun> runs;  ///< in the order drawn
+
+  bool Empty() const { return panels.empty() && !phasors; }
+};
+
+}  // namespace lumivex

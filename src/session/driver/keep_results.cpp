@@ -1,0 +1,194 @@
+#include "session/driver/keep_results.h"
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+#include <utility>
+
+#include "pages/run_words.h"
+#include "record/number_text.h"
+#include "session/driver/keep_curves.h"
+#include "session/inputs/light/wavelength_list.h"
+#include "session/inputs/look/read_look.h"
+#include "session/inputs/materials/refractive_index.h"
+
+namespace lumivex {
+
+namespace {
+
+constexpr int spareRows = 100;  // averaging and interpolation look past the last row
+
+void KeepSphere(MainFormState& s, const Results& results) {
+  const LastSphere& last = results.last;
+  s.Lambda = last.lambda;
+  s.Radius = last.radius;
+  s.SizeParameter = last.sizeParameter;
+  s.WaveNumber = last.waveNumber;
+  s.RefRelReal = last.relativeRe;
+  s.RefRelImag = last.relativeIm;
+  s.SphereRIReal = last.indices.sphereN;
+  s.SphereRIImag = last.indices.sphereK;
+  s.MediumRIReal = last.indices.MediumInUse();
+  s.MediumRIImag = 0;
+  s.Qext = last.efficiencies.Qext;
+  s.Qsca = last.efficiencies.Qsca;
+  s.Qback = last.efficiencies.Qback;
+  s.Gsca = last.efficiencies.g;
+}
+
+void KeepSeries(MainFormState& s, const LastSphere& last) {
+  s.NSTOP = last.NSTOP;
+  s.NMX = last.NMX;
+  const AngleGrid grid(last.NANG);
+  s.NANG = grid.NANG;
+  s.NN = grid.RowCount();
+  s.DANG = grid.DANG;
+  s.SelectedAngleIndex = last.selectedRow;
+  s.PartialWaveFirst = last.partialWaveFirst;
+  s.PartialWaveLast = last.partialWaveLast;
+}
+
+void KeepRays(RayState& rays, const Results& results) {
+  const LastSphere& last = results.last;
+  rays.PlaneWaveFlag = results.asked.method.beam.profile == RayBeam::Profile::PlaneWave ? 0 : 1;
+  if (!results.asked.method.rays.empty()) rays.RayIndex = static_cast<int>(results.asked.method.rays.size()) - 1;
+  rays.RainbowImpact = last.rainbowImpact;
+  rays.RainbowAngle = last.rainbowAngle;
+  rays.RayAngleDegrees = last.rayAngle;
+  rays.QminValue = results.asked.method.Qmin;
+  rays.QmaxValue = results.asked.method.Qmax;
+  rays.ApertureCentre = last.apertureCentre;
+  rays.ApertureWeight = last.apertureWeight;
+  rays.BesselOrders = last.besselOrders;
+}
+
+void KeepSizes(SizeState& sizes, RunState& run, const Results& results) {
+  run.NumberSamples = 1;
+  if (!results.asked.Cloud()) return;
+  if (const auto* normal = std::get_if<NormalSizes>(&results.asked.sizes)) {
+    sizes.DistSample = normal->z;
+    sizes.RelativeSD = normal->relativeSD;
+  }
+  CloudSamples samples = SamplesOf(results.asked.sizes, results.last.radius);
+  run.NumberSamples = samples.Count();
+  sizes.DistRadius = std::move(samples.radius);
+  sizes.DistWeight = std::move(samples.weight);
+  sizes.DistMin = samples.lowest;
+  sizes.DistMax = samples.highest;
+  sizes.DistRatio = samples.ratio;
+}
+
+void KeepLight(MainFormState& s, const Results& results) {
+  const int count = results.asked.Wavelengths();
+  s.NumberWavelengths = s.ResultWavelengths = count;
+  s.WavelengthsDone = 0;
+  if (!results.asked.light.spectrum) return;
+  const SpectrumOfLight& light = *results.asked.light.spectrum;
+  s.WavelengthsDone = results.Find<SpectrumFound>()->done;
+  StoreSpectrum(s, light);
+}
+
+/// Rows of a graph against angle.
+void KeepRows(MainFormState& s, const AngleRows& rows) {
+  s.Xmin = rows.xmin;
+  s.Xmax = rows.xmax;
+  s.Xstep = rows.step;
+  s.FirstPoint = rows.firstPoint;
+  s.LastPoint = rows.lastPoint;
+  s.ArrayRows = 2 * rows.NANG - 1 + spareRows;
+  s.AngleRows = 180 / rows.step + 1;
+  s.AngleLow = rows.window.low;
+  s.AngleHigh = rows.window.high;
+  s.MirrorCount = 2 * rows.NANG - 1 - s.AngleLow;
+}
+
+/// An axis of `points` points.
+void KeepPoints(MainFormState& s, double xmin, double xmax, double step, int points) {
+  s.Xmin = xmin;
+  s.Xmax = xmax;
+  s.Xstep = step;
+  s.FirstPoint = 1;
+  s.LastPoint = points;
+}
+
+/// What each family leaves under names of its own.
+struct KeepFound {
+  Session& session;
+  const Results& results;
+
+  void operator()(const AngleFound& found) const {
+    auto& s = session.state;
+    KeepRows(s, *RowsOf(results.asked.run));
+    s.S1 = found.S1;
+    s.S2 = found.S2;
+    s.S1b = found.S1b;
+    s.S2b = found.S2b;
+    s.Waves = found.waves;
+  }
+  void operator()(const SpectrumFound& found) const {
+    auto& s = session.state;
+    KeepRows(s, *RowsOf(results.asked.run));
+    s.S1 = found.S1;
+    s.S2 = found.S2;
+  }
+  void operator()(const AxisFound& found) const {
+    auto& s = session.state;
+    const auto& axis = std::get<AxisRun>(results.asked.run);
+    KeepPoints(s, axis.xmin, axis.xmax, axis.step, axis.points);
+    if (axis.logSteps) s.LogStepRatio = std::pow(axis.xmax / axis.xmin, 1 / axis.step);
+    s.S1ofPoint = found.S1;
+    s.S2ofPoint = found.S2;
+  }
+  void operator()(const ConvergenceFound& found) const {
+    auto& s = session.state;
+    auto& form = session.form1;
+    const int terms = results.last.NSTOP;
+    KeepPoints(s, 1, terms, 1, terms);
+    form.txtXmin.Text = form.cboStep.Text = "1";
+    form.txtXmax.Text = std::to_string(terms);
+    s.S1 = found.S1;
+    s.S2 = found.S2;
+    s.Waves = found.waves;
+  }
+  void operator()(const DebyeAnalysisFound& found) const {
+    auto& s = session.state;
+    const int limit = std::get<DebyeAnalysisRun>(results.asked.run).limit;
+    KeepPoints(s, 0, limit + 1, 1, limit + 2);
+    s.S1b = found.S1b;
+    s.S2b = found.S2b;
+  }
+  void operator()(const TwoAngleFound& found) const {
+    session.state.MapPerp = found.first;
+    session.state.MapPar = found.second;
+  }
+};
+
+}  // namespace
+
+void KeepResults(Session& session, Results&& kept) {
+  auto& s = session.state;
+  s.LastResults = std::make_shared<const Results>(std::move(kept));
+  const Results& results = *s.LastResults;
+  s.PrevGraphType = s.GraphType;
+  s.PrevGraphSubType = s.GraphSubType;
+  s.ResultMethod = s.CalcMethod;
+  s.LastRunSeconds = results.seconds;
+  s.YAxisMode = 0;
+  KeepSphere(s, results);
+  KeepSeries(s, results.last);
+  KeepRays(s, results);
+  KeepSizes(s, s, results);
+  KeepLight(s, results);
+  std::visit(KeepFound{session, results}, results.found);
+  s.PlotXmin = s.Xmin;
+  s.PlotXmax = s.Xmax;
+  const Look look = ReadLook(session);
+  FillCurveArrays(s, results, CurvesOf(results, {look.amplitude, look.invWavelength}), look.sun.rectangular);
+  s.RunTitle = RunTitleOf(results);
+  s.RunLabel = session.form1.lblDebyeRays.Caption = MethodLabelOf(results);
+  // The inputs of the index show the last wavelength that was looked up.
+  if (results.asked.graph.WavelengthAxis() || results.asked.light.spectrum)
+    RefRel(session, results.last.lambda, LookupVoice::Quiet);
+}
+
+}  // namespace lumivex

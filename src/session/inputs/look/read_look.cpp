@@ -1,0 +1,154 @@
+#include "session/inputs/look/read_look.h"
+
+#include <algorithm>
+#include <array>
+
+#include "pages/colours.h"
+#include "record/number_text.h"
+
+namespace lumivex {
+
+namespace {
+
+constexpr int narrowScreenPx = 800;  // on which readings have no room
+
+/// A line colour of the menu with the shade of its second curve.
+struct LineColourRow {
+  const MenuEntry Form1Menus::*entry;
+  Colour first, second;
+};
+
+constexpr std::array lineColours = {
+    LineColourRow{&Form1Menus::mnuBlackLine, {0x000000}, {0x646464}},
+    LineColourRow{&Form1Menus::mnuRedLine, {0x0000FF}, {0x000080}},
+    LineColourRow{&Form1Menus::mnuGreenLine, {0x00FF00}, {0x008000}},
+    LineColourRow{&Form1Menus::mnuBlueLine, {0xFF0000}, {0x800000}},
+    LineColourRow{&Form1Menus::mnuGreyLine, {0x808080}, {0x282828}},
+    LineColourRow{&Form1Menus::mnuCyanLine, {0xFFFF00}, {0x808000}},
+    LineColourRow{&Form1Menus::mnuMagentaLine, {0xFF00FF}, {0x800080}},
+    LineColourRow{&Form1Menus::mnuYellowLine, {0x00FFFF}, {0x008080}},
+};
+
+BackgroundLook ReadBackground(const Session& session) {
+  const Form1& form = session.form1;
+  BackgroundLook background;
+  background.white = form.mnuWhite.Checked;
+  background.pale = form.mnuDefault.Checked || background.white;
+  background.paper = background.white ? colours::White : colours::ButtonFace;
+  background.ground = session.state.PlotBackColourMono;
+  background.spectrumGround = session.state.PlotBackColourSpectrum;
+  if (background.white)
+    background.grid = RGB(192, 192, 192);
+  else if (form.mnuBlack.Checked)
+    background.grid = RGB(64, 128, 128);
+  else if (form.mnuGrey.Checked)
+    background.grid = RGB(64, 64, 64);
+  return background;
+}
+
+PenLook ReadPen(const Session& session) {
+  const Form1& form = session.form1;
+  PenLook pen;
+  const auto row = std::ranges::find_if(lineColours, [&](const LineColourRow& r) { return (form.*r.entry).Checked; });
+  if (row != lineColours.end()) {
+    pen.first = row->first;
+    pen.second = row->second;
+    pen.trueColour = false;
+  } else if (form.mnuMoreColours.Checked) {
+    pen.first = session.state.PickedLineColour;
+    pen.second = HalfOf(pen.first);
+    pen.trueColour = false;
+  }
+  pen.style = form.mnuDash.Checked ? 1 : form.mnuDot.Checked ? 2 : 0;
+  pen.width = form.mnuDrawWidth2.Checked ? 2 : 1;
+  pen.markers = form.mnuDrawWidth0.Checked;
+  return pen;
+}
+
+std::optional<double> LimitOf(const SelectionList& list) {
+  if (SameName(Trim(list.Text), "Automatic")) return std::nullopt;
+  return Val(list.Text);
+}
+
+ScaleLook ReadScale(const Form1& form) {
+  ScaleLook scale;
+  scale.logX = form.optXLog.Checked && form.Frame8.Visible;
+  scale.logY = form.OptLog.Checked;
+  scale.polar = form.mnuPolarPlot.Checked;
+  scale.x = {Val(form.txtXmin.Text), Val(form.txtXmax.Text)};
+  scale.ymin = LimitOf(form.cboYmin);
+  scale.ymax = LimitOf(form.cboYmax);
+  return scale;
+}
+
+/// The size ticked in the menu; "Large" where none is.
+GraphSize SizeTicked(const Form1& form) {
+  if (form.mnuSmall.Checked) return GraphSize::Small;
+  if (form.mnuMedium.Checked) return GraphSize::Medium;
+  return form.mnuVLarge.Checked ? GraphSize::VeryLarge : GraphSize::Large;
+}
+
+Polarisations PolarisationsChosen(std::string_view text) {
+  if (text == "All 3") return Polarisations::All;
+  if (text == "Both") return Polarisations::Both;
+  if (text == "Unpolarised") return Polarisations::Unpolarised;
+  if (text.starts_with("Parallel")) return Polarisations::Parallel;
+  return text.starts_with("Perpendicular") ? Polarisations::Perpendicular : Polarisations::None;
+}
+
+LogoPlace LogoPlaceTicked(const Form1& form) {
+  if (form.mnuLogoPositionTR.Checked) return LogoPlace::TopRight;
+  if (form.mnuLogoPositionTL.Checked) return LogoPlace::TopLeft;
+  return form.mnuLogoPositionBR.Checked ? LogoPlace::BottomRight : LogoPlace::BottomLeft;
+}
+
+DotLabels LabelsAsked(const DlogDebyeSeq& dialog) {
+  if (!dialog.chkLabels.Checked) return {};
+  const int number = ToWhole(std::clamp(Val(dialog.txtTerms.Text), 0.0, 1e6));
+  return {dialog.optTerms.Checked ? DotLabels::Rule::UpToTerm : DotLabels::Rule::AboveSize, number};
+}
+
+}  // namespace
+
+Look ReadLook(const Session& session) {
+  const Form1& form = session.form1;
+  const Forms& forms = session.forms;
+  Look look;
+  look.background = ReadBackground(session);
+  look.pen = ReadPen(session);
+  look.gridLines = {form.mnuMajorGridX.Checked, form.mnuMinorGridX.Checked, form.mnuMajorGridY.Checked,
+                    form.mnuMinorGridY.Checked};
+  look.size = SizeTicked(form);
+  look.special = form.mnuSizeSpecial.Checked;
+  if (form.mnuAverage.Checked) look.averageWidth = Val(forms.dlogAverage.txtAverage.Text);
+  look.interpolate = form.mnuInterpolate.Checked;
+  look.polarisations = PolarisationsChosen(form.cboPol.Text);
+  look.scale = ReadScale(form);
+  if (form.mnuAmpPhase.Checked) look.second = SecondPanel::Phases;
+  if (form.mnuIntPol.Checked) look.second = SecondPanel::Polarisation;
+  look.amplitude = form.mnuAmplitude.Checked;
+  look.invWavelength = form.mnuInvWavelength.Checked;
+  look.fourier = form.mnuFFT.Checked;
+  look.sun = {form.optSun.Checked, form.mnuSun.Checked};
+  look.components = form.chkComponents.Checked;
+  look.logo = form.mnuHideLogo.Checked ? "" : form.lblLogo.Caption;
+  look.logoPlace = LogoPlaceTicked(form);
+  look.readingsVisible = form.mnuDataVisible.Checked && session.state.ScreenWidthPx > narrowScreenPx;
+  look.dotLabels = LabelsAsked(forms.dlogDebyeSeq);
+  look.histogramLog = forms.dlogDistDisplay.optLogX.Checked;
+  return look;
+}
+
+PageGeometry GeometryOf(const Session& session) {
+  const auto& s = session.state;
+  PageGeometry geometry;
+  geometry.box = {s.GraphLeft, s.GraphRight, s.GraphTop, s.GraphBottom};
+  geometry.polarX = s.PolarCentreX;
+  geometry.polarY = s.PolarCentreY;
+  geometry.polarRadius = s.PolarRadius;
+  geometry.surfaceWidth = session.surface->ScaleWidth();
+  geometry.surfaceHeight = session.surface->ScaleHeight();
+  return geometry;
+}
+
+}  // namespace lumivex
