@@ -143,10 +143,9 @@ struct Graph {
     return AgainstAngle() && (quantity == Quantity::PhaseFunction || quantity == Quantity::Irradiance ||
                               quantity == Quantity::CumulativeProbability);
   }
+  bool IsMap() const { return family == Family::AngleMap || family == Family::EfficiencyMap; }
   /// Colours of cells: Lee diagrams and maps.
-  bool InColour() const {
-    return family == Family::Lee || family == Family::AngleMap || family == Family::EfficiencyMap;
-  }
+  bool InColour() const { return family == Family::Lee || IsMap(); }
   bool operator==(const Graph&) const = default;
 };
 

@@ -69,7 +69,7 @@ void FillPoint(Curves& curves, std::size_t i, const AmplitudePair& pair, bool am
 /// S11 in the curves, the ratios to it in the extras. The amplitudes of a cloud are moduli: its S33 and S34 come from
 /// the means of S1 conj(S2), which is S33 - i S34.
 template <class Found>
-void FillMatrixPoint(Curves& curves, std::size_t i, const AmplitudePair& pair, const Found& found) {
+void Mueller(Curves& curves, std::size_t i, const AmplitudePair& pair, const Found& found) {
   ScatteringMatrix m = MatrixOf(pair.S1, pair.S2);
   if (i < found.crossRe.size()) {
     m.S33 = found.crossRe[i];
@@ -159,7 +159,7 @@ Curves CurvesOfFound(const Results& results, const CurveLook& look, const AngleF
     if (!found.rows.Contains(row)) continue;
     const AmplitudePair pair{found.S1.Value(row), found.S2.Value(row)};
     if (quantity == Quantity::ScatteringMatrix)
-      FillMatrixPoint(curves, At(row), pair, found);
+      Mueller(curves, At(row), pair, found);
     else
       FillPoint(curves, At(row), pair, amplitude, curves.intensityNorm);
   }
@@ -268,7 +268,7 @@ Curves CurvesOfFound(const Results& results, const CurveLook& look, const AxisFo
     const AmplitudePair pair{found.S1.Value(point), found.S2.Value(point)};
     curves.intensityNorm = NormOf(look, found.waveNumber[i]);
     if (graph.quantity == Quantity::ScatteringMatrix)
-      FillMatrixPoint(curves, i, pair, found);
+      Mueller(curves, i, pair, found);
     else
       FillPoint(curves, i, pair, look.amplitude, curves.intensityNorm);
   }

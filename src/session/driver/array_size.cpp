@@ -36,13 +36,14 @@ void SizeForAngles(Session& session) {
 
 void Array_Size(Session& session) {
   auto& s = session.state;
-  if (s.GraphType < 19) {
+  const Graph& graph = ChosenGraph(s);
+  if (graph.OfAngles() || graph.AgainstAxis()) {
     const auto& form = session.form1;
     s.Xmin = Val(form.txtXmin.Text);
     s.Xmax = Val(form.txtXmax.Text);
     s.Xstep = Val(form.cboStep.Text);
-    if (s.GraphType < 10) SizeForAngles(session);
-  } else if (s.GraphType == 19) {
+    if (graph.OfAngles()) SizeForAngles(session);
+  } else if (graph.family == Family::Impulse) {
     SizeCurves(s, impulseRows);
     s.S1.Resize(impulseRows);
     s.S2.Resize(impulseRows);

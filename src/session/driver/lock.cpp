@@ -25,8 +25,9 @@ void LockOFF(Session& session) {
   auto& form = session.form1;
   const auto& s = session.state;
   EnableInputs(form, true);
-  const bool coloured = s.NumberWavelengths > 1 || s.GraphType >= 20;
-  form.cboLee.Enabled = s.GraphType >= 20 && s.GraphType < 30;
+  const Graph& graph = ChosenGraph(s);
+  const bool coloured = s.NumberWavelengths > 1 || graph.InColour() || graph.family == Family::Volume;
+  form.cboLee.Enabled = graph.InColour();
   form.cboBright.Enabled = coloured;
 }
 

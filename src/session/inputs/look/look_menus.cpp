@@ -248,7 +248,7 @@ void mnuBlack_Click(Session& session) {
 void PlotLineColour(Session& session) {
   Untick(session, lineColours);
   EnableReplot(session);
-  if (session.state.GraphType > 20) session.form1.cboLee.Enabled = true;
+  if (ChosenGraph(session.state).IsMap()) session.form1.cboLee.Enabled = true;
 }
 
 void PlotLineStyle(Session& session) {

@@ -33,10 +33,6 @@ void EndSizeChange(Session& session, Entry ticked) {
   session.events.Raise(session.state.Busy == 1 ? "cmdNewPlot_Click" : "cmdReplot_Click");
 }
 
-bool IsColourGraph(const RunState& run, int first) {
-  return run.GraphType >= first && run.GraphType <= 29;
-}
-
 void SetSize(Session& session, const SizeRow& row) {
   auto& s = session.state;
   s.GraphLeft = 1000;
@@ -46,7 +42,7 @@ void SetSize(Session& session, const SizeRow& row) {
   s.PolarCentreX = row.polarX;
   s.PolarCentreY = row.polarY;
   s.PolarRadius = row.polarRadius;
-  if (IsColourGraph(s, 20)) s.LeePanelWidth = row.leePanelWidth;
+  if (ChosenGraph(s).InColour()) s.LeePanelWidth = row.leePanelWidth;
 }
 
 void SetVeryLarge(Session& session) {
@@ -59,7 +55,8 @@ void SetVeryLarge(Session& session) {
   s.PolarCentreX = 0.3 * height + 1000;
   s.PolarCentreY = 0.3 * height + double{s.GraphTop};
   s.PolarRadius = static_cast<int>(std::floor(0.3 * height));
-  if (IsColourGraph(s, 19)) s.LeePanelWidth = static_cast<float>(width / 3.1);
+  const Graph& graph = ChosenGraph(s);
+  if (graph.InColour() || graph.family == Family::Impulse) s.LeePanelWidth = static_cast<float>(width / 3.1);
   session.form1.Frame6.Left = s.ScreenWidthPx < narrowScreenPx ? 11760 : 16000;
 }
 
