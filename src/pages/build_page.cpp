@@ -1,14 +1,14 @@
 #include "pages/build_page.h"
 
-#include "pages/curve_legend.h"
-#include "pages/curve_path.h"
-#include "pages/frame.h"
-#include "pages/phasor_diagram.h"
-#include "pages/readings.h"
+#include "pages/curves/curve_legend.h"
+#include "pages/curves/curve_path.h"
+#include "pages/curves/spectrum_graph.h"
+#include "pages/frame/frame.h"
+#include "pages/items/phasor_diagram.h"
+#include "pages/items/readings.h"
+#include "pages/items/size_histogram.h"
+#include "pages/items/two_angle_chart.h"
 #include "pages/run_words.h"
-#include "pages/size_histogram.h"
-#include "pages/spectrum_graph.h"
-#include "pages/two_angle_chart.h"
 
 namespace lumivex {
 

@@ -1,13 +1,13 @@
 #include "pages/build_page.h"
-#include "pages/curve_legend.h"
-#include "pages/curve_path.h"
-#include "pages/frame.h"
-#include "pages/huygens_drawing.h"
-#include "pages/phasor_diagram.h"
-#include "pages/polar_plot.h"
-#include "pages/readings.h"
-#include "pages/size_histogram.h"
-#include "pages/two_angle_chart.h"
+#include "pages/curves/curve_legend.h"
+#include "pages/curves/curve_path.h"
+#include "pages/frame/frame.h"
+#include "pages/frame/polar_plot.h"
+#include "pages/items/huygens_drawing.h"
+#include "pages/items/phasor_diagram.h"
+#include "pages/items/readings.h"
+#include "pages/items/size_histogram.h"
+#include "pages/items/two_angle_chart.h"
 
 namespace lumivex {
 

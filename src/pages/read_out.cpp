@@ -5,8 +5,8 @@
 #include <limits>
 
 #include "axes/polar_coordinates.h"
-#include "pages/curve_path.h"
-#include "pages/phasor_diagram.h"
+#include "pages/curves/curve_path.h"
+#include "pages/items/phasor_diagram.h"
 #include "record/catalogue/graph_texts.h"
 #include "record/number_text.h"
 

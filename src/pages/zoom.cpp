@@ -4,8 +4,8 @@
 #include <cmath>
 #include <optional>
 
-#include "pages/curve_path.h"
-#include "pages/scale.h"
+#include "pages/curves/curve_path.h"
+#include "pages/frame/scale.h"
 
 namespace lumivex {
 

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "pages/build_page.h"
-#include "pages/frame.h"
+#include "pages/frame/frame.h"
 #include "pages/zoom.h"
 #include "session/inputs/look/read_look.h"
 

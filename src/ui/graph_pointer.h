@@ -6,7 +6,7 @@
 #include <functional>
 #include <optional>
 
-#include "pages/curve_steps.h"
+#include "pages/curves/curve_steps.h"
 #include "record/session.h"
 #include "ui/canvas.h"
 #include "ui/command_gate.h"

@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "pages/drawing_reader.h"
+#include "pages/frame/scale.h"
 #include "pages/graph_fixture.h"
-#include "pages/scale.h"
 #include "record/number_text.h"
 
 namespace lumivex {

@@ -1,4 +1,4 @@
-#include "pages/colours.h"
+#include "pages/frame/colours.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "pages/phasor_diagram.h"
+#include "pages/items/phasor_diagram.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -3,10 +3,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "pages/curve_path.h"
-#include "pages/curve_steps.h"
+#include "pages/curves/curve_path.h"
+#include "pages/curves/curve_steps.h"
+#include "pages/frame/polar_plot.h"
 #include "pages/graph_fixture.h"
-#include "pages/polar_plot.h"
 
 namespace lumivex {
 namespace {

@@ -1,7 +1,7 @@
 #include "session/driver/display_run.h"
 
 #include "pages/build_page.h"
-#include "pages/colours.h"
+#include "pages/frame/colours.h"
 #include "session/inputs/look/read_look.h"
 #include "session/page.h"
 

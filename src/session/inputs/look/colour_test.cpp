@@ -1,6 +1,6 @@
 #include "session/inputs/look/colour_test.h"
 
-#include "pages/colours.h"
+#include "pages/frame/colours.h"
 #include "record/number_text.h"
 
 namespace lumivex {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "pages/colours.h"
+#include "pages/frame/colours.h"
 #include "record/number_text.h"
 
 namespace lumivex {

@@ -1,6 +1,6 @@
 #include "session/inputs/sizes/size_distribution_display.h"
 
-#include "pages/size_histogram.h"
+#include "pages/items/size_histogram.h"
 #include "session/inputs/dialog_use.h"
 #include "session/inputs/methods/sphere_size.h"
 #include "session/inputs/sizes/read_sizes.h"

@@ -1,9 +1,9 @@
-#include "pages/frame.h"
+#include "pages/frame/frame.h"
 
 #include <algorithm>
 
-#include "pages/curve_path.h"
-#include "pages/polar_plot.h"
+#include "pages/curves/curve_path.h"
+#include "pages/frame/polar_plot.h"
 
 namespace lumivex {
 

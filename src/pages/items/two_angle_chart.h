@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "pages/line_graph.h"
+#include "pages/curves/line_graph.h"
 #include "record/drawing_surface.h"
 
 namespace lumivex {

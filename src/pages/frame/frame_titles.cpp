@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "pages/frame_paint.h"
+#include "pages/frame/frame_paint.h"
 #include "record/catalogue/graph_texts.h"
 
 namespace lumivex {

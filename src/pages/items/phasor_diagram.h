@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "pages/line_graph.h"
+#include "pages/curves/line_graph.h"
 #include "pages/read_out.h"
 #include "record/drawing_surface.h"
 

@@ -1,4 +1,4 @@
-#include "pages/size_histogram.h"
+#include "pages/items/size_histogram.h"
 
 #include <algorithm>
 #include <cmath>

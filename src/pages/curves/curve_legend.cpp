@@ -1,4 +1,4 @@
-#include "pages/curve_legend.h"
+#include "pages/curves/curve_legend.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "pages/frame_paint.h"
+#include "pages/frame/frame_paint.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "pages/curve_path.h"
+#include "pages/curves/curve_path.h"
 
 #include <algorithm>
 #include <array>

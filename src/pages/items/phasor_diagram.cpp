@@ -1,4 +1,4 @@
-#include "pages/phasor_diagram.h"
+#include "pages/items/phasor_diagram.h"
 
 #include <algorithm>
 #include <array>
@@ -7,7 +7,7 @@
 #include <limits>
 #include <string>
 
-#include "pages/colours.h"
+#include "pages/frame/colours.h"
 #include "record/catalogue/graph_texts.h"
 #include "record/number_text.h"
 

@@ -3,8 +3,8 @@
 #include <cmath>
 #include <span>
 
-#include "pages/frame_paint.h"
-#include "pages/scale.h"
+#include "pages/frame/frame_paint.h"
+#include "pages/frame/scale.h"
 #include "record/number_text.h"
 
 namespace lumivex {

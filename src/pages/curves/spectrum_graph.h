@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pages/line_graph.h"
+#include "pages/curves/line_graph.h"
 
 namespace lumivex {
 

@@ -1,4 +1,4 @@
-#include "pages/spectrum_graph.h"
+#include "pages/curves/spectrum_graph.h"
 
 #include <algorithm>
 #include <array>
@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "axes/scale_rules.h"
-#include "pages/colours.h"
+#include "pages/frame/colours.h"
 #include "record/number_text.h"
 
 namespace lumivex {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pages/frame_paint.h"
+#include "pages/frame/frame_paint.h"
 #include "runs/results.h"
 
 namespace lumivex {

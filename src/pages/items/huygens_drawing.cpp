@@ -1,4 +1,4 @@
-#include "pages/huygens_drawing.h"
+#include "pages/items/huygens_drawing.h"
 
 #include <algorithm>
 #include <array>

@@ -1,11 +1,11 @@
-#include "pages/readings.h"
+#include "pages/items/readings.h"
 
 #include <initializer_list>
 #include <string>
 #include <utility>
 
 #include "colour/wavelength_colour.h"
-#include "pages/spectrum_graph.h"
+#include "pages/curves/spectrum_graph.h"
 #include "record/number_text.h"
 #include "runs/curves.h"
 #include "solvers/series/angular_sum.h"

@@ -1,4 +1,4 @@
-#include "pages/polar_plot.h"
+#include "pages/frame/polar_plot.h"
 
 #include <algorithm>
 #include <array>
@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "pages/curve_path.h"
-#include "pages/scale.h"
+#include "pages/curves/curve_path.h"
+#include "pages/frame/scale.h"
 #include "record/number_text.h"
 
 namespace lumivex {

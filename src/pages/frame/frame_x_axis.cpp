@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "pages/frame_paint.h"
-#include "pages/scale.h"
+#include "pages/frame/frame_paint.h"
+#include "pages/frame/scale.h"
 #include "record/number_text.h"
 
 namespace lumivex {

@@ -1,4 +1,4 @@
-#include "pages/scale.h"
+#include "pages/frame/scale.h"
 
 #include <cmath>
 

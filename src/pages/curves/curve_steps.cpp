@@ -1,10 +1,10 @@
-#include "pages/curve_steps.h"
+#include "pages/curves/curve_steps.h"
 
 #include <algorithm>
 #include <cmath>
 #include <vector>
 
-#include "pages/curve_path.h"
+#include "pages/curves/curve_path.h"
 
 namespace lumivex {
 

@@ -1,4 +1,4 @@
-#include "pages/line_graph.h"
+#include "pages/curves/line_graph.h"
 
 #include <algorithm>
 #include <array>
@@ -7,11 +7,11 @@
 #include <limits>
 
 #include "axes/polar_coordinates.h"
-#include "pages/colours.h"
-#include "pages/curve_path.h"
-#include "pages/frame.h"
-#include "pages/scale.h"
-#include "pages/two_angle_chart.h"
+#include "pages/curves/curve_path.h"
+#include "pages/frame/colours.h"
+#include "pages/frame/frame.h"
+#include "pages/frame/scale.h"
+#include "pages/items/two_angle_chart.h"
 #include "record/catalogue/graph_texts.h"
 
 namespace lumivex {

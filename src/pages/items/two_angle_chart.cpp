@@ -1,4 +1,4 @@
-#include "pages/two_angle_chart.h"
+#include "pages/items/two_angle_chart.h"
 
 #include <algorithm>
 #include <cmath>
@@ -6,9 +6,9 @@
 #include <optional>
 #include <vector>
 
-#include "pages/curve_path.h"
-#include "pages/frame.h"
-#include "pages/scale.h"
+#include "pages/curves/curve_path.h"
+#include "pages/frame/frame.h"
+#include "pages/frame/scale.h"
 #include "record/number_text.h"
 
 namespace lumivex {
