@@ -107,7 +107,8 @@ void CompareRadii(int runs) {
   const std::size_t points = 1001;
   std::vector<double> x(points), mRe(points, 1.3326), mIm(points, 0.0), Qext(points), Qsca(points), Qback(points),
       g(points);
-  for (std::size_t i = 0; i < points; ++i) x[i] = SizeParameterOf(AxisPosition(axis, static_cast<int>(i) + 1), 1, 0.65);
+  for (std::size_t i = 0; i < points; ++i)
+    x[i] = SizeParameterOf(AxisPosition(axis, StepRatio(axis), static_cast<int>(i) + 1), 1, 0.65);
   const double kernels = BestTime(runs, [&] {
     SilentMonitor silent;
     sink += static_cast<double>(SolveEfficiencies({x, mRe, mIm}, {Qext, Qsca, Qback, g}, {}, silent));

@@ -19,6 +19,16 @@ void Lengthen(AmplitudeTable& table, int rows) {
   table = std::move(longer);
 }
 
+/// |S|^2 of the rows of a window.
+void AppendIntensities(const AmplitudeTable& S, RowWindow window, std::vector<double>& to) {
+  const auto low = static_cast<std::size_t>(window.low);
+  const std::size_t count = static_cast<std::size_t>(window.high - window.low + 1), first = to.size();
+  const auto re = S.RealParts().subspan(low, count), im = S.ImaginaryParts().subspan(low, count);
+  to.resize(first + count);
+  double* cell = to.data() + first;
+  for (std::size_t i = 0; i < count; ++i) cell[i] = re[i] * re[i] + im[i] * im[i];
+}
+
 FamilyEnd RunOneSphere(const RunRequest& request, const AngleRows& rows, const Setting& setting, TaskPool& pool,
                        Results& results) {
   SphereSolution sphere = SolveInParts(
@@ -88,10 +98,8 @@ FamilyEnd RunSpectrum(const RunRequest& request, const SpectrumRun& run, TaskPoo
   found.parallel.reserve(count * rows);
   found.waveNumber.assign(count + 1, 0.0);
   plan.keep = [&](std::size_t i, SettingFound&& sphere) {
-    for (int row = window.low; row <= window.high; ++row) {
-      found.perpendicular.push_back(sphere.sphere.S1.Intensity(row));
-      found.parallel.push_back(sphere.sphere.S2.Intensity(row));
-    }
+    AppendIntensities(sphere.sphere.S1, window, found.perpendicular);
+    AppendIntensities(sphere.sphere.S2, window, found.parallel);
     found.waveNumber[static_cast<std::size_t>(++found.done)] = plan.settings[i].WaveNumber();
     TellSphere(sphere.sphere, results.last);
     results.last.samples = sphere.samples;

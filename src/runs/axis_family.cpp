@@ -55,9 +55,11 @@ Refusal PlacePoints(const RunRequest& request, const AxisRun& axis, std::vector<
     if (!at.Good()) return at.refusal;
     base = at.setting;
   }
+  const double ratio = StepRatio(axis);
+  settings.reserve(static_cast<std::size_t>(axis.points));
   for (int point = 1; point <= axis.points; ++point) {
     const auto i = static_cast<std::size_t>(point);
-    found.x[i] = AxisPosition(axis, point);
+    found.x[i] = AxisPosition(axis, ratio, point);
     const SettingResult at = SettingAtPoint(request, request.graph.axis, found.x[i], base);
     if (!at.Good()) return at.refusal;
     settings.push_back(at.setting);
@@ -194,10 +196,12 @@ Refusal SolvePoints(const RunRequest& request, const AxisRun& axis, std::vector<
 
 }  // namespace
 
-double AxisPosition(const AxisRun& axis, int point) {
-  const double position = axis.logSteps
-                              ? axis.xmin * std::pow(std::pow(axis.xmax / axis.xmin, 1 / axis.step), point - 1)
-                              : axis.xmin + (point - 1) * axis.step;
+double StepRatio(const AxisRun& axis) {
+  return axis.logSteps ? std::pow(axis.xmax / axis.xmin, 1 / axis.step) : 1;
+}
+
+double AxisPosition(const AxisRun& axis, double ratio, int point) {
+  const double position = axis.logSteps ? axis.xmin * std::pow(ratio, point - 1) : axis.xmin + (point - 1) * axis.step;
   return std::min(position, axis.xmax);
 }
 

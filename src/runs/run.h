@@ -27,7 +27,11 @@ inline constexpr double mostSpectrumValues = 20e6;
 /// Rows from 0 to 90 degrees of a two-angle run: steps of 0.1 degrees.
 inline constexpr int twoAngleRowsTo90 = 901;
 
+/// Ratio of neighbouring points of an axis with logarithmic steps; 1 for equal ones.
+double StepRatio(const AxisRun& axis);
+
 /// Position of a point of an axis, from 1, in the unit of the axis.
-double AxisPosition(const AxisRun& axis, int point);
+/// @param ratio  StepRatio of the axis.
+double AxisPosition(const AxisRun& axis, double ratio, int point);
 
 }  // namespace lumivex

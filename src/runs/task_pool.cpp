@@ -190,8 +190,8 @@ class OwnerMonitor final : public RunMonitor {
 
 TaskPool::TaskPool(RunWatch& watch, unsigned threads)
     : watch_(watch), threads_(threads != 0 ? threads : std::max(1U, std::thread::hardware_concurrency())) {
-  // Room enough that a thread need not wait for a slower neighbour.
-  slots_ = 4 * static_cast<std::size_t>(threads_);
+  // Room enough that a thread need not wait for a slower neighbour; alone it uses the same memory again and again.
+  slots_ = threads_ == 1 ? 1 : 4 * static_cast<std::size_t>(threads_);
 }
 
 std::size_t TaskPool::Do(const TaskList& tasks) {

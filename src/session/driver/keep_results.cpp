@@ -1,12 +1,11 @@
 #include "session/driver/keep_results.h"
 
 #include <algorithm>
-#include <cmath>
 #include <memory>
 #include <utility>
 
 #include "pages/run_words.h"
-#include "record/number_text.h"
+#include "runs/run.h"
 #include "session/driver/keep_curves.h"
 #include "session/inputs/light/wavelength_list.h"
 #include "session/inputs/look/read_look.h"
@@ -135,7 +134,7 @@ struct KeepFound {
     auto& s = session.state;
     const auto& axis = std::get<AxisRun>(results.asked.run);
     KeepPoints(s, axis.xmin, axis.xmax, axis.step, axis.points);
-    if (axis.logSteps) s.LogStepRatio = std::pow(axis.xmax / axis.xmin, 1 / axis.step);
+    if (axis.logSteps) s.LogStepRatio = StepRatio(axis);
     s.S1ofPoint = found.S1;
     s.S2ofPoint = found.S2;
   }
