@@ -86,7 +86,7 @@ void cmdNewPlot_Click(Session& session) {
   s.PlotMode = 1;
   if (InputsHold(session) && LeaveGiven(session)) {
     LockON(session);
-    Overplot(session);
+    Overplot(session, Onto::FreshPage);
   }
   s.PlotMode = 1;
   EndCommand(session);
@@ -104,7 +104,7 @@ void cmdOverPlot_Click(Session& session) {
   s.PlotMode = 2;
   if (InputsHold(session) && LeaveGiven(session)) {
     LockON(session);
-    Overplot(session);
+    Overplot(session, Onto::PageOnScreen);
   }
   s.PlotMode = 1;
   EndCommand(session);
@@ -130,7 +130,7 @@ void cmdReplot_Click(Session& session) {
   FillCurveArrays(s, *s.LastResults, CurvesOf(*s.LastResults, {look.amplitude, look.invWavelength}),
                   look.sun.rectangular);
   s.PlotMode = 1;
-  DisplayRun(session);
+  DisplayRun(session, Onto::FreshPage);
   s.PlotMode = 1;
 }
 

@@ -7,7 +7,7 @@
 
 namespace lumivex {
 
-void DisplayRun(Session& session) {
+void DisplayRun(Session& session, Onto onto) {
   constexpr int over = 2, stopRequested = 4;
   auto& s = session.state;
   session.platform.Yield();
@@ -15,7 +15,7 @@ void DisplayRun(Session& session) {
   const Look look = ReadLook(session);
   const PageGeometry geometry = GeometryOf(session);
   s.SecondLineColour = LineColour(look.pen, s.LastResults->asked.light.lambda).second;
-  if (s.PlotMode == over || s.OverplotFromFile == 1)
+  if (onto == Onto::PageOnScreen || s.OverplotFromFile == 1)
     ShowPage(session, DrawOver(PlacePage(session.page, geometry), *s.LastResults, look));
   else
     ShowPage(session, BuildPage(*s.LastResults, look, geometry, s));

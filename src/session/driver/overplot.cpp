@@ -4,7 +4,6 @@
 
 #include "record/number_text.h"
 #include "runs/run.h"
-#include "session/driver/display_run.h"
 #include "session/driver/keep_results.h"
 #include "session/driver/progress.h"
 #include "session/driver/read_run.h"
@@ -48,23 +47,22 @@ void Tell(Session& session, const Refusal& refusal) {
 
 }  // namespace
 
-void Overplot(Session& session) {
+void Overplot(Session& session, Onto onto) {
   auto& s = session.state;
   auto request = ReadRun(session);
   if (!request) return;
-  const bool over = s.PlotMode == 2;
   SessionWatch watch(session);
   ShowRunning(session);
   RunEnd end = Run(*request, watch);
-  s.PlotMode = over ? 2 : 1;
+  s.PlotMode = onto == Onto::PageOnScreen ? 2 : 1;
   EndProgress(session);
   if (end.hasResults)
     KeepResults(session, std::move(end.results));
   else
     watch.Forget();
   if (end.hasResults && end.outcome == Outcome::Done) {
-    if (!over) ReadLimits(session);
-    DisplayRun(session);
+    if (onto == Onto::FreshPage) ReadLimits(session);
+    DisplayRun(session, onto);
   } else {
     // The bar and the lines of the run went over the page.
     DrawPage(session);

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "record/session.h"
+#include "session/driver/display_run.h"
 
 namespace lumivex {
 
-/// The run itself, New plot's and Overplot's: reads the inputs into the record, loops over what the graph asks for,
-/// calls the solvers, stores the curves and draws them. PlotMode 1 on entry draws a new frame, 2 keeps it and its
-/// limits; PlotMode is 1 at the end. A run that is refused leaves the old results and drawing; a stopped one stores
-/// what was done, for Replot to draw.
-void Overplot(Session& session);
+/// The run itself, New plot's and Overplot's: reads the inputs into a request, runs it, and keeps and shows what comes
+/// of it. A fresh page takes its limits from the inputs, the page on the screen keeps its own. A run that is refused
+/// leaves the old results and drawing; a stopped one stores what was done, for Replot to draw. PlotMode is 1 at the
+/// end.
+void Overplot(Session& session, Onto onto);
 
 }  // namespace lumivex

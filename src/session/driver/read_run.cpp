@@ -6,6 +6,7 @@
 
 #include "record/catalogue/method_texts.h"
 #include "record/number_text.h"
+#include "runs/run.h"
 #include "session/inputs/light/wavelength_list.h"
 #include "session/inputs/materials/read_material.h"
 #include "session/inputs/methods/debye_label.h"
@@ -22,7 +23,6 @@ namespace {
 
 constexpr double degree = 0.017453292519943295;
 constexpr double finestSpectrumStep = 0.01;  // degrees: mostSpectrumRows rows
-constexpr int mostAxisPoints = 18001;
 
 int WavelengthsOf(const Session& session, const Graph& graph) {
   if (!graph.AgainstAngle()) return 1;
@@ -85,7 +85,7 @@ AxisRun ReadAxis(const Session& session, const Graph& graph) {
   axis.logSteps = form.mnuXStepLog.Checked;
   const int points =
       axis.logSteps ? ToWhole(axis.step) + 1 : ToWhole(Int((axis.xmax - axis.xmin) / axis.step + 1.0001));
-  axis.points = std::clamp(points, 1, mostAxisPoints);
+  axis.points = std::clamp(points, 1, mostPoints);
   if (graph.AtOneAngle()) axis.angle = Val(form.txtAngle.Text) * std::numbers::pi / 180;
   axis.constantVolume = form.mnuConstantVolume.Checked;
   if (graph.quantity == Quantity::Power)

@@ -73,11 +73,6 @@ bool NoRaysSelected(const Session& session) {
   return session.form1.cboRays.Text == multiple && session.state.RayCount == 0;
 }
 
-void RefuseNoRays(Session& session) {
-  session.platform.Message("Error", "No rays selected");
-  session.state.PlotMode = 4;
-}
-
 bool WithDiffraction(const Session& session) {
   return session.form1.chkDiffraction.Checked || session.forms.dlogP.chkDiffraction.Checked;
 }

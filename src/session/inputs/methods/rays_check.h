@@ -36,9 +36,6 @@ void RaysCheck(Session& session);
 /// Whether cboRays reads "Multiple" without a selection.
 bool NoRaysSelected(const Session& session);
 
-/// Tells of it and stops the run.
-void RefuseNoRays(Session& session);
-
 /// Whether diffraction is to be added to rays: the box of the main window or that of dlogP, which follow each other.
 bool WithDiffraction(const Session& session);
 
