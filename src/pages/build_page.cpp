@@ -57,7 +57,9 @@ void AddRun(Page& page, const RunToDraw& run) {
       else
         Display(page, run, CurvesOf(results, run.Curves()));
   }
-  if (page.kind.polar || run.look.scale.polar) PolarLabel(page, results);
+  // The lines of the chart of two angles carry their names themselves.
+  const bool named = results.asked.graph.drawing == Drawing::TwoAngleChart;
+  if (page.kind.polar || (run.look.scale.polar && !named)) PolarLabel(page, results);
   page.readings = VisibleData(results);
   page.histogram = DistDisplay(results.asked.sizes, results.asked.particle.radius, NameOfSizes(results.asked.words),
                                run.look.histogramLog, results.asked.graph);
@@ -68,10 +70,9 @@ void AddRun(Page& page, const RunToDraw& run) {
 /// Whether curves of one kind may be drawn on the axes of the other.
 bool SharesAxes(const PageKind& page, const PageKind& run) {
   return page.graph == run.graph && page.graph.drawing != Drawing::PhasorDiagram && page.wavelengths == 1 &&
-         run.wavelengths == 1 && page.second == run.second && page.polar == run.polar &&
-         page.amplitude == run.amplitude && page.invWavelength == run.invWavelength &&
-         page.perVolume == run.perVolume && page.fourier == run.fourier && page.xTitle == run.xTitle &&
-         page.yTitle == run.yTitle;
+         run.wavelengths == 1 && page.second == run.second && page.amplitude == run.amplitude &&
+         page.invWavelength == run.invWavelength && page.perVolume == run.perVolume && page.fourier == run.fourier &&
+         page.xTitle == run.xTitle && page.yTitle == run.yTitle;
 }
 
 }  // namespace

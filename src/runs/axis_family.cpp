@@ -70,12 +70,13 @@ Refusal PlacePoints(const RunRequest& request, const AxisRun& axis, std::vector<
   return {};
 }
 
-AxisFound Sized(int points) {
+AxisFound Sized(int points, bool amplitudes) {
   AxisFound found;
   const auto size = static_cast<std::size_t>(points) + 1;
   for (auto* list : {&found.x, &found.waveNumber, &found.radius, &found.size, &found.Qext, &found.Qsca, &found.Qback,
                      &found.g, &found.Cext, &found.Csca, &found.powerPerp, &found.powerPar})
     list->assign(size, 0.0);
+  if (!amplitudes) return found;
   found.S1.Resize(points);
   found.S2.Resize(points);
   return found;
@@ -178,7 +179,7 @@ Refusal SolvePoints(const RunRequest& request, const AxisRun& axis, std::vector<
       const double scale = request.light.incidentDensity * 2 * pi / (k * k) * x2;
       found.powerPerp[i] = scale * rows.Integral(at.sphere.S1);
       found.powerPar[i] = scale * rows.Integral(at.sphere.S2);
-    } else {
+    } else if (request.graph.AtOneAngle()) {
       found.S1.Set(point, at.sphere.S1.Re(1), at.sphere.S1.Im(1));
       found.S2.Set(point, at.sphere.S2.Re(1), at.sphere.S2.Im(1));
       if (request.Cloud() && at.crossRe.size() > 1) {
@@ -206,7 +207,7 @@ double AxisPosition(const AxisRun& axis, double ratio, int point) {
 }
 
 FamilyEnd RunAxis(const RunRequest& request, const AxisRun& run, TaskPool& pool, Results& results) {
-  AxisFound found = Sized(run.points);
+  AxisFound found = Sized(run.points, request.graph.AtOneAngle());
   std::vector<Setting> settings;
   Refusal refusal = PlacePoints(request, run, settings, found);
   if (!refusal.text.empty()) return {false, std::move(refusal)};

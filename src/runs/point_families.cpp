@@ -149,6 +149,8 @@ FamilyEnd RunDebyeAnalysis(const RunRequest& request, const DebyeAnalysisRun& ru
       found.dots2.Set(1, term.S2.Re(1), term.S2.Im(1));
       mie = std::move(term);
     } else {
+      mie.NSTOP = term.NSTOP;
+      mie.NMX = term.NMX;
       found.dots1.Set(row, found.dots1.Re(row - 1) - term.S1.Re(1), found.dots1.Im(row - 1) - term.S1.Im(1));
       found.dots2.Set(row, found.dots2.Re(row - 1) - term.S2.Re(1), found.dots2.Im(row - 1) - term.S2.Im(1));
     }
@@ -209,7 +211,8 @@ FamilyEnd RunTwoAngle(const RunRequest& request, const TwoAngleRun& run, TaskPoo
     return true;
   };
   tasks.take = [&](std::size_t task, std::size_t slotIndex) {
-    const Slot& slot = slots[slotIndex];
+    Slot& slot = slots[slotIndex];
+    found.waves = std::move(slot.sphere.waves);
     found.first.At(task % lines, task / lines) = slot.first;
     found.second.At(task % lines, task / lines) = slot.second;
     ++found.done;

@@ -72,7 +72,7 @@ struct SpectrumFound {
 /// Points of an axis, first index 1; what was not calculated is 0 and lies beyond `done`.
 struct AxisFound {
   std::vector<double> x;  ///< in the unit of the axis
-  AmplitudeTable S1, S2;  ///< a row a point; of a cloud as in AngleFound
+  AmplitudeTable S1, S2;  ///< of graphs at one angle a row a point; of a cloud as in AngleFound
   std::vector<double> crossRe, crossIm;
   std::vector<double> waveNumber;  ///< 1/m
   std::vector<double> radius, size;
@@ -99,7 +99,8 @@ struct DebyeAnalysisFound {
 /// Cross-sections (um2), a row a radius and a column an index, first index 0; not a number where a Stop came before.
 struct TwoAngleFound {
   Table2D first, second;
-  int done = 0;  ///< spheres
+  PartialWaves waves;  ///< of the last sphere
+  int done = 0;        ///< spheres
 };
 
 using FamilyFound =

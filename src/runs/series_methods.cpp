@@ -93,6 +93,11 @@ void TakeDifference(const MethodOptions& options, const SphereAsked& asked, Sphe
   }
   series.rows = {Both(series.rows.forward, other.rows.forward), Both(series.rows.mirrored, other.rows.mirrored)};
   series.finished = series.finished && other.finished;
+  if (fromMie) {
+    // Summed last.
+    series.NSTOP = other.NSTOP;
+    series.NMX = other.NMX;
+  }
   series.S1b = std::move(other.S1);
   series.S2b = std::move(other.S2);
 }

@@ -4,6 +4,8 @@
 
 #include "session/inputs/graph_types.h"
 #include "session/inputs/input_events.h"
+#include "session/inputs/look/look_menus.h"
+#include "session/page.h"
 
 namespace lumivex {
 
@@ -73,6 +75,8 @@ void Step(Session& session, std::vector<InputState>& from, std::vector<InputStat
   const InputState state = std::move(from.back());
   from.pop_back();
   Restore(session, state);
+  TakeTickedLook(session);
+  RenewLook(session);
   session.undo.typedInto.clear();
 }
 

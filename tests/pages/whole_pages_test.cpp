@@ -289,5 +289,43 @@ TEST_F(Pages, CurvesOfAStoppedAxisEndWhereTheRunDid) {
   EXPECT_TRUE(std::isnan(curves.perpendicular[3]));
 }
 
+// What the spheres' volume does not divide shares its frame with a run that divides.
+TEST_F(Pages, ConstantVolumePartsOnlyWhatItDivides) {
+  Do("choose cboGraph Asymmetry g v. radius\nclick cmdNewPlot\nclick mnuConstantVolume\nclick cmdOverPlot");
+  EXPECT_EQ(Drawn().runs.size(), 2U);
+  Do("choose cboGraph Qext/Qsca/Qabs v. radius\nclick cmdNewPlot\nclick mnuConstantVolume\nclick cmdOverPlot");
+  EXPECT_EQ(Drawn().runs.size(), 1U);
+}
+
+TEST_F(Pages, AnOverplotKeepsThePolarFrameOfTheScreen) {
+  Do("click mnuPolarPlot\nclick cmdNewPlot\nclick mnuAperture\nclick cmdOverPlot");
+  EXPECT_FALSE(Now().form1.mnuPolarPlot.Checked);
+  EXPECT_TRUE(Drawn().kind.polar);
+  EXPECT_EQ(Drawn().runs.size(), 2U);
+}
+
+TEST_F(Pages, TheChartOfTwoAnglesTellsItsLastSphere) {
+  Do("click mnuTwoAngle\nclick cmdNewPlot");
+  for (const char* reading : {"  0 deg: ", "  180 deg: ", "X = "})
+    EXPECT_NE(Drawing().find(reading), std::string::npos) << reading;
+  Do("click mnuPolarPlot");
+  EXPECT_FALSE(Drawn().legend) << "its lines are named";
+}
+
+// A piece takes the colour of the row before where its middle is half-way, in a picture of any size.
+TEST_F(Pages, ColoursOfACurveDoNotDependOnTheSizeOfThePicture) {
+  Do("set txtRadius 7\nclick optDisp\nset cboWave 30\nset cboStep 1\nset txtXmin 140\nset txtXmax 160\nclick "
+     "cmdNewPlot");
+  const auto pieces = [this](const std::string& size) {
+    Do("size " + size);
+    const std::string drawing = Drawing();
+    std::size_t count = 0;
+    for (auto at = drawing.find("polyline"); at != std::string::npos; at = drawing.find("polyline", at + 1)) ++count;
+    return count;
+  };
+  const std::size_t first = pieces("1280x1024");
+  for (const char* size : {"1400x900", "1023x801", "777x999"}) EXPECT_EQ(pieces(size), first) << size;
+}
+
 }  // namespace
 }  // namespace lumivex

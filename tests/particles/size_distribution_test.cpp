@@ -346,5 +346,14 @@ TEST_F(SizeDistribution, TheStripShowsTheSamples) {
   EXPECT_NE(texts.find("20-point approximation of Log-normal distribution"), std::string::npos);
 }
 
+TEST_F(SizeDistribution, ANumberOutsideTheTableKeepsTheSamplesBefore) {
+  Do("click optDisp\nset cboN 10\nset cboN 7\nset txtRadius 1\nset cboStep 10\nclick cmdNewPlot");
+  EXPECT_EQ(State().NumberSamples, 10);
+  Do("reset\nclick optDisp\nset cboN abc\nset cboStep 10\nclick cmdNewPlot");
+  EXPECT_EQ(State().NumberSamples, 20);
+  Do("set cboSD 3\nchoose cboDistrib Multimodal\nset cboN 10\nclick cmdNewPlot");
+  EXPECT_EQ(State().RelativeSD, 0.03);
+}
+
 }  // namespace
 }  // namespace lumivex

@@ -93,6 +93,7 @@ TEST(Runs, AStopLeavesOnlyWhatIsWhole) {
         for (int point = 1; point <= axis->done; ++point) {
           const auto i = static_cast<std::size_t>(point);
           ASSERT_EQ(axis->Qext[i], all.Qext[i]) << name << " point " << point;
+          if (point > all.S1.Rows()) continue;
           ASSERT_EQ(axis->S1.Re(point), all.S1.Re(point)) << name << " point " << point;
         }
       } else if (const auto* chart = part.results.Find<TwoAngleFound>()) {

@@ -150,5 +150,44 @@ TEST_F(ResultsStand, EfficienciesOfASmallCloudDoNotDependOnTheRange) {
   EXPECT_NEAR(Number("Qsca") / all, 1, 1e-3);
 }
 
+TEST_F(ResultsStand, ARefusedReplotStillTakesColoursAndSizes) {
+  for (const std::string refused : {"set txtRadius -1", "set txtLambda 0", "set cboYmin 9\nset cboYmax 5"}) {
+    Do("reset\n" + refused + "\nclick mnuBlack\nclick mnuMedium");
+    EXPECT_EQ(runner.Current().page.style.paper, Colour{0xF0F0F0}) << refused;
+    EXPECT_EQ(runner.Current().page.style.ground, colours::Black) << refused;
+    EXPECT_EQ(runner.Current().page.geometry.box.right, 13150) << refused;
+  }
+}
+
+TEST_F(ResultsStand, TheDebyeAnalysisFollowsItsLook) {
+  Do("click mnuDebyeSequence\nclick cmdNewPlot");
+  EXPECT_EQ(Get("lblDebyeRays.Caption"), "Debye series (p = 0 to 20)") << "whatever cboRays reads";
+  ASSERT_TRUE(runner.Current().page.phasors);
+  EXPECT_TRUE(runner.Current().page.phasors->logarithmic);
+  Do("click optLinear\nchoose cboPol Parallel");
+  ASSERT_TRUE(runner.Current().page.phasors);
+  EXPECT_FALSE(runner.Current().page.phasors->logarithmic);
+  EXPECT_EQ(State().Ymin, 0);
+  EXPECT_FALSE(runner.Current().page.phasors->showsFirst);
+}
+
+TEST_F(ResultsStand, TheIndexThatWasUsedStaysOnShow) {
+  Do("choose cboType Airy\nset txtRefractImag 0\nclick mnuRI_Au\nclick cmdNewPlot\nchoose cboType Mie\nclick "
+     "cmdNewPlot");
+  EXPECT_NEAR(Val(Get("txtRefractImag")), State().LastResults->last.indices.sphereK, 1e-7);
+}
+
+TEST_F(ResultsStand, LoopsEndWhereTheRunHas) {
+  for (int i = 0; i < 5; ++i) {
+    Do("reset\nchoose cboType Debye\nset txtRefractImag 0\nset cboRays 2\nchoose cboGraph Intensity v. radius\n"
+       "set txtXmin 1\nset txtXmax 20\nset cboStep 0.1\nclick cmdNewPlot");
+    EXPECT_EQ(State().PointIndex, 191);
+    Do("choose cboGraph Intensity v. scattering angle\nclick optDisp\nset cboWave 7\nset cboStep 5\nclick cmdNewPlot");
+    EXPECT_EQ(State().WavelengthIndex, 7);
+    EXPECT_EQ(State().SampleIndex, 20);
+    EXPECT_EQ(State().PointIndex, 0);
+  }
+}
+
 }  // namespace
 }  // namespace lumivex

@@ -136,5 +136,17 @@ TEST(AnyUser, DoesNoHarm) {
   EXPECT_EQ(fresh.Current().state.NSTOP, 135);
 }
 
+TEST_F(Undo, ALookThatIsTakenBackIsDrawnAtOnce) {
+  const auto left = [this] { return runner.Current().page.geometry.box.right; };
+  const double before = left();
+  Do("click mnuMedium\nclick cmdNewPlot");
+  ASSERT_NE(left(), before);
+  Do("click mnuUndo");
+  EXPECT_EQ(left(), before);
+  const Colour ground = runner.Current().page.style.ground;
+  Do("click mnuBlack\nclick mnuUndo");
+  EXPECT_EQ(runner.Current().page.style.ground, ground);
+}
+
 }  // namespace
 }  // namespace lumivex

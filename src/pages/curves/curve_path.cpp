@@ -166,10 +166,12 @@ void DrawRun(DrawingSurface& surface, std::span<const SurfacePoint> run) {
 void DrawColoured(DrawingSurface& surface, const Page& page, const PagePanel& panel, const PageCurve& curve) {
   auto rows = PlacedRows(page, panel, curve);
   std::erase_if(rows, [](const PlacedRow& placed) { return !std::isfinite(placed.point.x); });
+  // Half-way between two rows the first has it, whatever the rounding of a size of the picture.
+  constexpr double hair = 0.001;
   const auto colourAt = [&](double x) {
     const auto after = std::ranges::lower_bound(rows, x, {}, [](const PlacedRow& placed) { return placed.point.x; });
     const auto nearest =
-        after == rows.end() || (after != rows.begin() && x - std::prev(after)->point.x < after->point.x - x)
+        after == rows.end() || (after != rows.begin() && x - std::prev(after)->point.x < after->point.x - x + hair)
             ? std::prev(after)
             : after;
     return nearest->row < curve.colours.size() ? curve.colours[nearest->row] : curve.colour;

@@ -153,7 +153,9 @@ PageKind KindOf(const RunToDraw& run) {
   kind.amplitude = look.amplitude;
   kind.invWavelength = look.invWavelength;
   kind.fourier = look.fourier;
-  if (const auto* axis = std::get_if<AxisRun>(&asked.run)) kind.perVolume = axis->constantVolume;
+  const bool ofVolume =
+      asked.graph.quantity == Quantity::Efficiencies || asked.graph.quantity == Quantity::CrossSections;
+  if (const auto* axis = std::get_if<AxisRun>(&asked.run)) kind.perVolume = ofVolume && axis->constantVolume;
   if (const auto* angles = std::get_if<TwoAngleRun>(&asked.run)) {
     kind.xTitle = TwoAngleXTitle(*angles);
     kind.yTitle = TwoAngleYTitle(*angles);
@@ -203,8 +205,7 @@ PageCurve Plot(const Page& page, const RunToDraw& run, std::span<const double> x
 
 void DrawFrame(Page& page, const RunToDraw& run, PanelPlace place, std::span<const double> x,
                std::span<const double> first, std::span<const double> second) {
-  ScaleLook scale = run.look.scale;
-  scale.polar = page.kind.polar;
+  const ScaleLook& scale = run.look.scale;
   const RowSpan rows = RowsWithin(x, scale.x);
   constexpr double noBottom = 1e30;
   double top = 0, bottom1 = noBottom, bottom2 = 10 * noBottom;

@@ -68,14 +68,14 @@ void AddSpectrum(const Results& results, const SpectrumFound& found, Lines& line
 }
 
 /// Intensities straight forward and straight back, of the sphere even where the graph leaves those rows out.
-void AddEndIntensities(const Results& results, const AngleFound& found, Lines& lines) {
-  if (found.waves.Terms() < 1) return;
+void AddEndIntensities(const Results& results, const PartialWaves& waves, Lines& lines) {
+  if (waves.Terms() < 1) return;
   const double x = results.last.sizeParameter;
   const bool divided = results.asked.method.method == Method::Mie && results.asked.method.divideBySize;
   const double scale = divided ? x : 1;
   const auto intensity = [scale](const ComplexD& S) { return (S.re * S.re + S.im * S.im) / (scale * scale); };
-  Add(lines, "  0 deg: " + Format(intensity(ForwardAmplitude(found.waves)), "scientific"));
-  Add(lines, "  180 deg: " + Format(intensity(BackwardAmplitude(found.waves)), "scientific"));
+  Add(lines, "  0 deg: " + Format(intensity(ForwardAmplitude(waves)), "scientific"));
+  Add(lines, "  180 deg: " + Format(intensity(BackwardAmplitude(waves)), "scientific"));
   Add(lines, "X = " + Format(x, "#,##0.######"));
 }
 
@@ -101,7 +101,8 @@ std::vector<PageLine> VisibleData(const Results& results) {
     Add(lines, "Scattered power = " + Significant(curves.scatteredPower, digitsShown) + " W");
     Add(lines, "Backscattered power = " + Significant(curves.backscatteredPower, digitsShown) + " W");
   }
-  if (const auto* found = results.Find<AngleFound>()) AddEndIntensities(results, *found, lines);
+  if (const auto* found = results.Find<AngleFound>()) AddEndIntensities(results, found->waves, lines);
+  if (const auto* found = results.Find<TwoAngleFound>()) AddEndIntensities(results, found->waves, lines);
   return lines;
 }
 

@@ -46,10 +46,12 @@ bool LeaveGiven(Session& session) {
   return s.CommandAborted == 0;
 }
 
-/// Whether the stored curves are those of the graph and step that the inputs name.
+/// Whether the stored curves are those of the graph and step that the inputs name. Terms have no step.
 bool ResultsFitInputs(const Session& session) {
   const auto& s = session.state;
-  return s.LastResults && s.LastResults->asked.graph == ChosenGraph(s) && Val(session.form1.cboStep.Text) == s.Xstep;
+  const Graph& graph = ChosenGraph(s);
+  return s.LastResults && s.LastResults->asked.graph == graph &&
+         (graph.family == Family::DebyeAnalysis || Val(session.form1.cboStep.Text) == s.Xstep);
 }
 
 void OfferCommands(Session& session) {
@@ -123,7 +125,11 @@ void cmdReplot_Click(Session& session) {
   s.NumberWavelengths = s.ResultWavelengths;
   double Xmin = s.Xmin, Xmax = s.Xmax, Ymin = s.Ymin, Ymax = s.Ymax;
   RangeCheck(session, Xmin, Xmax, Ymin, Ymax, s.CommandAborted);
-  if (s.CommandAborted != 0) return;
+  if (s.CommandAborted != 0) {
+    // Colours and sizes are no matter of the inputs.
+    RenewLook(session);
+    return;
+  }
   s.Xmin = s.PlotXmin = Xmin;
   s.Xmax = s.PlotXmax = Xmax;
   const Look look = ReadLook(session);

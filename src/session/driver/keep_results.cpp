@@ -36,8 +36,9 @@ void KeepSphere(MainFormState& s, const Results& results) {
 }
 
 void KeepSeries(MainFormState& s, const LastSphere& last) {
-  s.NSTOP = last.NSTOP;
-  s.NMX = last.NMX;
+  // A method without a series leaves those of the last one.
+  if (last.NSTOP > 0) s.NSTOP = last.NSTOP;
+  if (last.NMX > 0) s.NMX = last.NMX;
   const AngleGrid grid(last.NANG);
   s.NANG = grid.NANG;
   s.NN = grid.RowCount();
@@ -85,6 +86,18 @@ void KeepLight(MainFormState& s, const Results& results) {
   const SpectrumOfLight& light = *results.asked.light.spectrum;
   s.WavelengthsDone = results.Find<SpectrumFound>()->done;
   StoreSpectrum(s, light);
+}
+
+/// Where the loops have ended. What the run told on its way depends on the threads.
+void KeepLoops(MainFormState& s, const Results& results) {
+  s.WavelengthIndex = std::max(s.WavelengthsDone, 1);
+  s.DispSample = results.asked.Cloud() ? results.last.samples : 0;
+  s.SampleIndex = results.asked.Cloud() ? std::max(results.last.samples, 1) : 1;
+  s.PointIndex = 0;
+  if (const auto* axis = results.Find<AxisFound>()) s.PointIndex = axis->done;
+  if (const auto* analysis = results.Find<DebyeAnalysisFound>()) s.PointIndex = analysis->done;
+  s.AngleLoopIndex = static_cast<int>(double{s.ProgressFraction} * s.NN);
+  s.SeriesLoopIndex = static_cast<int>(double{s.ProgressFraction} * s.NSTOP);
 }
 
 /// Rows of a graph against angle.
@@ -173,11 +186,14 @@ void KeepResults(Session& session, Results&& kept) {
   s.ResultMethod = s.CalcMethod;
   s.LastRunSeconds = results.seconds;
   s.YAxisMode = 0;
+  // The inputs of the index show what was used: of an axis or a spectrum that of the last wavelength.
+  RefRel(session, results.last.lambda, LookupVoice::Quiet);
   KeepSphere(s, results);
   KeepSeries(s, results.last);
   KeepRays(s, results);
   KeepSizes(s, s, results);
   KeepLight(s, results);
+  KeepLoops(s, results);
   std::visit(KeepFound{session, results}, results.found);
   s.PlotXmin = s.Xmin;
   s.PlotXmax = s.Xmax;
@@ -185,9 +201,6 @@ void KeepResults(Session& session, Results&& kept) {
   FillCurveArrays(s, results, CurvesOf(results, {look.amplitude, look.invWavelength}), look.sun.rectangular);
   s.RunTitle = RunTitleOf(results);
   s.RunLabel = session.form1.lblDebyeRays.Caption = MethodLabelOf(results);
-  // The inputs of the index show the last wavelength that was looked up.
-  if (results.asked.graph.WavelengthAxis() || results.asked.light.spectrum)
-    RefRel(session, results.last.lambda, LookupVoice::Quiet);
 }
 
 }  // namespace lumivex

@@ -119,12 +119,18 @@ std::optional<FamilyRun> ReadFamily(Session& session, const RunRequest& request)
   }
 }
 
+/// All terms of an analysis, whatever ray is chosen for other graphs.
+RayInputs UpToTerm(int limit) {
+  return {std::to_string(-limit), std::nullopt, {}};
+}
+
 RunWords ReadWords(const Session& session, const RunRequest& request) {
   const auto& form = session.form1;
   RunWords words;
   words.method = TextOfMethod(request.method.method, session.state.DiffractionVariant);
   words.graph = form.cboGraph.Text;
-  words.methodLabel = MethodLabel(session);
+  const auto* analysis = std::get_if<DebyeAnalysisRun>(&request.run);
+  words.methodLabel = analysis != nullptr ? MethodLabel(session, UpToTerm(analysis->limit)) : MethodLabel(session);
   words.rays = SelectedRaysText(request.method.rays);
   MaterialWords sphere = SphereWords(session), medium = MediumWords(session);
   words.sphereName = std::move(sphere.name);
@@ -151,6 +157,8 @@ std::optional<RunRequest> ReadRun(Session& session) {
   auto run = ReadFamily(session, request);
   if (!run) return std::nullopt;
   request.run = std::move(*run);
+  if (const auto* analysis = std::get_if<DebyeAnalysisRun>(&request.run))
+    request.method.rays = SelectedRays(UpToTerm(analysis->limit));
   request.words = ReadWords(session, request);
   return request;
 }

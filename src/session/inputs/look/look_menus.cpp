@@ -73,13 +73,16 @@ void SetSidePictures(Session& session, Colour colour) {
   }
 }
 
-void SetBackground(Session& session, const Background& background) {
-  auto& s = session.state;
-  BackgroundColour(session);
-  (session.form1.*background.entry).Checked = true;
+void TakeColours(MainFormState& s, const Background& background) {
   s.PlotBackColourSpectrum = background.spectrum;
   s.PlotBackColourMono = background.mono;
   s.LogoColour = background.logo;
+}
+
+void SetBackground(Session& session, const Background& background) {
+  BackgroundColour(session);
+  (session.form1.*background.entry).Checked = true;
+  TakeColours(session.state, background);
   Replot(session);
 }
 
@@ -218,6 +221,14 @@ int AngleDelta(const Session& session) {
 void BackgroundColour(Session& session) {
   Untick(session, backgrounds);
   EnableReplot(session);
+}
+
+void TakeTickedLook(Session& session) {
+  for (const Background& background : {defaultBackground, whiteBackground, greyBackground, blackBackground})
+    if ((session.form1.*background.entry).Checked) TakeColours(session.state, background);
+  const bool white = session.form1.mnuWhite.Checked;
+  SetSidePictures(session, white ? colours::White : colours::ButtonFace);
+  SetTickedGeometry(session);
 }
 
 void mnuDefault_Click(Session& session) {

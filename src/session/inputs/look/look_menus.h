@@ -27,6 +27,10 @@ void mnuVLarge_Click(Session& session);
 void mnuSizeSpecial_Click(Session& session);
 /// On: very large. Off: large on a screen of up to 1024 pixels, else very large.
 void mnuSizeVariable_Click(Session& session);
+/// Plot box and polar circle of the size that is ticked.
+void SetTickedGeometry(Session& session);
+/// The size and the colours that are ticked, where the ticks were not clicked but taken back.
+void TakeTickedLook(Session& session);
 
 /// Backgrounds: each sets the colours of plot box and logo, ticks itself and replots.
 void mnuDefault_Click(Session& session);

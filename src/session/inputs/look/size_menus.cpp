@@ -73,7 +73,17 @@ void SetTickedSize(Session& session) {
     SetSize(session, largeRow);
 }
 
+void SetSpecialSize(MainFormState& s) {
+  s.GraphRight = specialRight;
+  s.GraphBottom = specialBottom;
+}
+
 }  // namespace
+
+void SetTickedGeometry(Session& session) {
+  SetTickedSize(session);
+  if (session.form1.mnuSizeSpecial.Checked) SetSpecialSize(session.state);
+}
 
 void mnuLarge_Click(Session& session) {
   SetSize(session, largeRow);
@@ -97,12 +107,10 @@ void mnuVLarge_Click(Session& session) {
 
 void mnuSizeSpecial_Click(Session& session) {
   auto& form = session.form1;
-  auto& s = session.state;
   form.mnuSizeSpecial.Checked = !form.mnuSizeSpecial.Checked;
   // The geometry comes before the background, which replots.
   if (form.mnuSizeSpecial.Checked) {
-    s.GraphRight = specialRight;
-    s.GraphBottom = specialBottom;
+    SetSpecialSize(session.state);
   } else {
     SetTickedSize(session);
   }

@@ -128,11 +128,10 @@ std::string DebyeLabelText(const DebyeLabelDetails& d) {
   }
 }
 
-std::string MethodLabel(const Session& session) {
+std::string MethodLabel(const Session& session, const RayInputs& rays) {
   const auto& form = session.form1;
   Details details;
   details.method = session.state.CalcMethod;
-  const RayInputs rays = RayInputsOf(session);
   details.p = rays.text;
   if (details.p == "Multiple") {
     details.range = rays.range;
@@ -144,6 +143,10 @@ std::string MethodLabel(const Session& session) {
   if (form.mnuGODebye.Checked || form.mnuSWsub.Checked) details.difference = Details::Difference::MinusGo;
   if (form.mnuMieDebye.Checked) details.difference = Details::Difference::FromMie;
   return DebyeLabelText(details);
+}
+
+std::string MethodLabel(const Session& session) {
+  return MethodLabel(session, RayInputsOf(session));
 }
 
 void DebyeLabel(Session& session) {

@@ -55,6 +55,8 @@ std::string DebyeLabelText(const DebyeLabelDetails& details);
 
 /// That of the method in use, as the inputs stand.
 std::string MethodLabel(const Session& session);
+/// The same with other rays than those of the inputs.
+std::string MethodLabel(const Session& session, const RayInputs& rays);
 
 /// Writes lblDebyeRays for the method in use.
 void DebyeLabel(Session& session);

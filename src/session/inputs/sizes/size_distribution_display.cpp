@@ -4,6 +4,7 @@
 #include "session/inputs/dialog_use.h"
 #include "session/inputs/methods/sphere_size.h"
 #include "session/inputs/sizes/read_sizes.h"
+#include "session/inputs/sizes/size_distribution.h"
 
 namespace lumivex {
 
@@ -20,6 +21,7 @@ void TellFailure(Session& session, SizeFailure failure) {
 
 void DistDisplay(Session& session, bool aloud) {
   if (!session.form1.optDisp.Checked) return;
+  Disperse(session);
   const SizeDistribution sizes = ChosenSizes(session);
   const double radius = SphereRadius(session);
   if (const SizeFailure failure = SamplesOf(sizes, radius).failure; failure != SizeFailure::None) {
