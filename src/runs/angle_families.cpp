@@ -51,7 +51,7 @@ FamilyEnd RunOneSphere(const RunRequest& request, const AngleRows& rows, const S
 FamilyEnd RunOneCloud(const RunRequest& request, const AngleRows& rows, const Setting& setting, TaskPool& pool,
                       Results& results) {
   AngleFound found;
-  SettingsPlan plan{request, {setting}, AngleGrid(rows.NANG), rows.window, true, {}, {}};
+  SettingsPlan plan{request, {setting}, AngleGrid(rows.NANG), rows.window, true, true, {}, {}};
   plan.keep = [&](std::size_t, SettingFound&& cloud) {
     TellSphere(cloud.sphere, results.last);
     results.last.samples = cloud.samples;
@@ -85,7 +85,7 @@ FamilyEnd RunAngles(const RunRequest& request, const AngleRun& run, TaskPool& po
 FamilyEnd RunSpectrum(const RunRequest& request, const SpectrumRun& run, TaskPool& pool, Results& results) {
   const SpectrumOfLight& light = *request.light.spectrum;
   const RowWindow window = run.rows.window;
-  SettingsPlan plan{request, {}, AngleGrid(run.rows.NANG), window, false, {}, {}};
+  SettingsPlan plan{request, {}, AngleGrid(run.rows.NANG), window, false, false, {}, {}};
   for (int i = 1; i <= light.Count(); ++i) {
     const SettingResult at = SettingAt(request, double{light.wavelength[static_cast<std::size_t>(i)]});
     if (!at.Good()) return {false, at.refusal};

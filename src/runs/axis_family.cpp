@@ -159,6 +159,7 @@ Refusal SolvePoints(const RunRequest& request, const AxisRun& axis, std::vector<
                     power ? rows.grid : AngleGrid::At(axis.angle),
                     power ? rows.window : RowWindow{1, 1},
                     false,
+                    true,
                     {},
                     {}};
   if (request.Cloud())

@@ -6,10 +6,11 @@
 
 namespace lumivex {
 
-void CloudSums::Begin(RowWindow window) {
+void CloudSums::Begin(RowWindow window, bool cross) {
   window_ = window;
   const auto rows = static_cast<std::size_t>(std::max(window.high - window.low + 1, 0));
-  for (auto* sums : {&perpendicular_, &parallel_, &crossRe_, &crossIm_}) sums->assign(rows, 0.0);
+  for (auto* sums : {&perpendicular_, &parallel_}) sums->assign(rows, 0.0);
+  for (auto* sums : {&crossRe_, &crossIm_}) sums->assign(cross ? rows : 0, 0.0);
   Qext_ = Qsca_ = Qback_ = extinguished_ = scattered_ = forward_ = number_ = 0;
   samples_ = 0;
   last_ = {};
@@ -25,6 +26,10 @@ void CloudSums::Add(const SphereSolution& sphere, double radius, double weight) 
     const double a = re1[row], b = im1[row], c = re2[row], d = im2[row];
     perpendicular_[j] += weight * (a * a + b * b);
     parallel_[j] += weight * (c * c + d * d);
+  }
+  for (std::size_t row = low; row < std::min(end, low + crossRe_.size()); ++row) {
+    const std::size_t j = row - low;
+    const double a = re1[row], b = im1[row], c = re2[row], d = im2[row];
     crossRe_[j] += weight * (a * c + b * d);
     crossIm_[j] += weight * (b * c - a * d);
   }
@@ -62,6 +67,7 @@ SettingFound CloudSums::Means(int tableRows, bool actual) const {
     const int row = window_.low + static_cast<int>(j);
     found.sphere.S1.Set(row, std::sqrt(perpendicular_[j] / divisor), 0);
     found.sphere.S2.Set(row, std::sqrt(parallel_[j] / divisor), 0);
+    if (j >= crossRe_.size()) continue;
     found.crossRe[static_cast<std::size_t>(row)] = crossRe_[j] / divisor;
     found.crossIm[static_cast<std::size_t>(row)] = crossIm_[j] / divisor;
   }

@@ -19,7 +19,8 @@ class CloudSums {
  public:
   /// Empties the sums.
   /// @param window  rows that are added.
-  void Begin(RowWindow window);
+  /// @param cross   whether S1 conj(S2) is summed too; without it their means are 0.
+  void Begin(RowWindow window, bool cross = true);
   /// Adds a sphere of that radius (um) with its weight.
   void Add(const SphereSolution& sphere, double radius, double weight);
   int Samples() const { return samples_; }

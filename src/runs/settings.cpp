@@ -173,7 +173,7 @@ SettingsEnd DispCalc(const SettingsPlan& plan, TaskPool& pool) {
   std::vector<Slot> slots(pool.Slots());
   FirstRefusal refusals;
   CloudSums sums;
-  sums.Begin(plan.window);
+  sums.Begin(plan.window, plan.wantsCross);
   const int tableRows = plan.grid.RowCount();
   TaskList tasks;
   tasks.count = plan.settings.size() * perCloud;
@@ -201,7 +201,7 @@ SettingsEnd DispCalc(const SettingsPlan& plan, TaskPool& pool) {
     if (task % perCloud + 1 < perCloud) return true;
     plan.keep(task / perCloud, sums.Means(tableRows, actual));
     ++end.kept;
-    sums.Begin(plan.window);
+    sums.Begin(plan.window, plan.wantsCross);
     return true;
   };
   tasks.place = [&](std::size_t task, RunProgress& progress) {

@@ -39,6 +39,7 @@ struct SettingsPlan {
   AngleGrid grid;  ///< the same at all of them
   RowWindow window{1, 1};
   bool keepsPartOfCloud = false;  ///< after a Stop the means over the sizes that were done are kept
+  bool wantsCross = true;         ///< of a cloud the means of S1 conj(S2)
   /// Takes what was found, setting by setting in their order.
   std::function<void(std::size_t setting, SettingFound&& found)> keep;
   /// Tells where a setting stands.
