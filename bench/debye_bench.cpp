@@ -1,12 +1,12 @@
 // The Debye series against one Mie run: ratios of run times in one program, compiled with the same flags.
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <cstdio>
 #include <numbers>
 #include <vector>
 
+#include "best_time.h"
 #include "solvers/rays/ray_series.h"
 #include "solvers/series/debye_series.h"
 #include "solvers/series/mie_series.h"
@@ -17,19 +17,6 @@ using namespace lumivex;
 
 constexpr double Wavelength = 0.65;
 double sink = 0.0;
-
-/// Best of several runs in milliseconds: what the machine does when nobody else is using it.
-template <class Work>
-double BestTime(int runs, const Work& work) {
-  using Clock = std::chrono::steady_clock;
-  double best = 1e300;
-  for (int run = 0; run < runs; ++run) {
-    const auto begin = Clock::now();
-    work();
-    best = std::min(best, std::chrono::duration<double, std::milli>(Clock::now() - begin).count());
-  }
-  return best;
-}
 
 std::vector<int> Terms(int first, int last) {
   std::vector<int> selected(static_cast<std::size_t>(last) + 1, 0);

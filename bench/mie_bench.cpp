@@ -1,12 +1,12 @@
 // Mie scattering against the textbook loop: ratios of run times in one program, compiled with the same flags.
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <cstdio>
 #include <numbers>
 #include <vector>
 
+#include "best_time.h"
 #include "solvers/series/mie_series.h"
 #include "textbook_mie.h"
 
@@ -19,19 +19,6 @@ constexpr double Wavelength = 0.65;
 
 double SizeParameter(double radius) {
   return 2.0 * std::numbers::pi * radius / Wavelength;
-}
-
-/// Best of several runs in milliseconds: what the machine does when nobody else is using it.
-template <class Work>
-double BestTime(int runs, const Work& work) {
-  using Clock = std::chrono::steady_clock;
-  double best = 1e300;
-  for (int run = 0; run < runs; ++run) {
-    const auto begin = Clock::now();
-    work();
-    best = std::min(best, std::chrono::duration<double, std::milli>(Clock::now() - begin).count());
-  }
-  return best;
 }
 
 double sink = 0.0;

@@ -1,12 +1,12 @@
 // Whole runs, request to results, beside the sum of their kernels: ratios of run times in one program.
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <cstdio>
 #include <thread>
 #include <vector>
 
+#include "best_time.h"
 #include "runs/run.h"
 #include "runs/settings.h"
 #include "solvers/series/mie_efficiencies.h"
@@ -15,19 +15,6 @@
 namespace {
 
 using namespace lumivex;
-
-/// Best of several runs in milliseconds: what the machine does when nobody else is using it.
-template <class Work>
-double BestTime(int runs, const Work& work) {
-  using Clock = std::chrono::steady_clock;
-  double best = 1e300;
-  for (int run = 0; run < runs; ++run) {
-    const auto begin = Clock::now();
-    work();
-    best = std::min(best, std::chrono::duration<double, std::milli>(Clock::now() - begin).count());
-  }
-  return best;
-}
 
 double sink = 0.0;
 

@@ -12,17 +12,6 @@ namespace lumivex {
 
 namespace {
 
-RowWindow WindowOf(const SphereAsked& asked) {
-  return {std::max(asked.window.low, 1), std::min(asked.window.high, asked.grid.RowCount())};
-}
-
-SphereSolution EmptySolution(const SphereAsked& asked) {
-  SphereSolution solution;
-  solution.S1.Resize(asked.grid.RowCount());
-  solution.S2.Resize(asked.grid.RowCount());
-  return solution;
-}
-
 bool CoversAllAngles(const SphereAsked& asked) {
   const RowWindow window = WindowOf(asked);
   return asked.grid.NANG > 1 && window.low == 1 && window.high == asked.grid.RowCount();

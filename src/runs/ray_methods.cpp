@@ -31,17 +31,6 @@ bool NoneSelected(const MethodOptions& options) {
   return std::ranges::none_of(options.rays, [](int p) { return p != 0; });
 }
 
-RowWindow WindowOf(const SphereAsked& asked) {
-  return {std::max(asked.window.low, 1), std::min(asked.window.high, asked.grid.RowCount())};
-}
-
-SphereSolution EmptySolution(const SphereAsked& asked) {
-  SphereSolution solution;
-  solution.S1.Resize(asked.grid.RowCount());
-  solution.S2.Resize(asked.grid.RowCount());
-  return solution;
-}
-
 SphereSolution Refused(Refusal refusal) {
   SphereSolution solution;
   solution.refusal = std::move(refusal);

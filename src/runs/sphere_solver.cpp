@@ -39,6 +39,17 @@ void CrossSection(const AngleGrid& grid, double x, SphereSolution& solution) {
   solution.efficiencies.g = integral.sum > 0 ? integral.moment / integral.sum : 0;
 }
 
+RowWindow WindowOf(const SphereAsked& asked) {
+  return {std::max(asked.window.low, 1), std::min(asked.window.high, asked.grid.RowCount())};
+}
+
+SphereSolution EmptySolution(const SphereAsked& asked) {
+  SphereSolution solution;
+  solution.S1.Resize(asked.grid.RowCount());
+  solution.S2.Resize(asked.grid.RowCount());
+  return solution;
+}
+
 Refusal BeyondMie() {
   return {"Error in BHMIE sub-routine", "Reduce radius or increase wavelength"};
 }

@@ -94,6 +94,11 @@ SphereSolution vdh(const MethodOptions& options, const SphereAsked& asked, RunMo
 /// Qsca = 2/x^2 times the integral of (|S1|^2 + |S2|^2)/2 sin(theta).
 void CrossSection(const AngleGrid& grid, double x, SphereSolution& solution);
 
+/// The rows that are asked for, within the grid.
+RowWindow WindowOf(const SphereAsked& asked);
+/// Amplitudes of 0 at every row of the grid.
+SphereSolution EmptySolution(const SphereAsked& asked);
+
 /// Refusals that more than one place tells.
 Refusal BeyondMie();
 Refusal NoRays();
