@@ -55,6 +55,8 @@ class Platform {
   virtual void CopyText(std::string_view text) = 0;
   /// Ends the program.
   virtual void Quit() = 0;
+  /// Threads that a run may take; 0 for as many as the machine has.
+  virtual unsigned Threads() const { return 0; }
 };
 
 }  // namespace lumivex

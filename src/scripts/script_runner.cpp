@@ -193,6 +193,8 @@ struct ScriptCommands {
   static void StopAt(ScriptRunner& run, std::string_view rest) {
     if (!IsNumber(rest)) throw Failure{"stop-at takes a percentage"};
     run.stopAt_ = Val(rest);
+    // How far several threads come until then is a matter of chance.
+    run.platform_.threads = 1;
   }
 
   static void Reset(ScriptRunner& run, std::string_view) {
@@ -271,6 +273,7 @@ void ScriptRunner::UseWindow(DrawingSurface& surface, ScriptWindow window) {
 
 void ScriptRunner::Open() {
   stopAt_ = -1;
+  platform_.threads = 0;
   platform_.answers.clear();
   platform_.dialogs.clear();
   platform_.openPaths.clear();
@@ -287,6 +290,7 @@ void ScriptRunner::Start() {
 void ScriptRunner::WatchForStop() {
   if (stopAt_ < 0 || Current().state.ProgressPercent < stopAt_) return;
   stopAt_ = -1;
+  platform_.threads = 0;
   Current().events.Raise("cmdStop_Click");
 }
 

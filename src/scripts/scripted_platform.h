@@ -40,6 +40,7 @@ class ScriptedPlatform final : public Platform {
   // What the world is like.
   ScreenSize screen;
   char decimalSymbol = '.';
+  unsigned threads = 0;
   // What was seen.
   std::vector<ShownMessage> messages;
   std::vector<std::string> helpPages;
@@ -56,6 +57,7 @@ class ScriptedPlatform final : public Platform {
   std::function<std::shared_ptr<void>(Form&)> whileOpen;  ///< what a dialog holds while it is on the screen
 
   void Message(std::string_view title, std::string_view text) override;
+  unsigned Threads() const override { return threads; }
   bool Question(std::string_view title, std::string_view text) override;
   std::optional<std::string> OpenFileName(const FileDialog& dialog) override;
   std::optional<std::string> SaveFileName(const FileDialog& dialog) override;

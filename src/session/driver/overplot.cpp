@@ -53,7 +53,7 @@ void Overplot(Session& session, Onto onto) {
   if (!request) return;
   SessionWatch watch(session);
   ShowRunning(session);
-  RunEnd end = Run(*request, watch);
+  RunEnd end = Run(*request, watch, session.platform.Threads());
   s.PlotMode = onto == Onto::PageOnScreen ? 2 : 1;
   EndProgress(session);
   if (end.hasResults)
