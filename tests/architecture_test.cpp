@@ -8,10 +8,12 @@
 #include <string>
 #include <vector>
 
+#include "source_folder.h"
+
 namespace {
 
 namespace fs = std::filesystem;
-const fs::path sourceRoot = fs::path(LUMIVEX_SOURCE_DIR) / "src";
+const fs::path sourceRoot = fs::path(lumivex::SourceFolder()) / "src";
 
 /// Folders from the bottom of the house to its top; what stands in one line stands on one height.
 const std::vector<std::vector<std::string>> storeys = {

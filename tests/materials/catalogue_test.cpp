@@ -4,6 +4,7 @@
 #include "materials/material_fixture.h"
 #include "record/text_file.h"
 #include "session/inputs/materials/sellmeier_catalogue.h"
+#include "source_folder.h"
 
 namespace lumivex {
 namespace {
@@ -12,7 +13,7 @@ class SellmeierCatalogue : public MaterialSession {
  protected:
   SellmeierCatalogue() {
     for (const char* name : {"Dispersion.rxi", "DispersionBackup.rxi"})
-      std::filesystem::copy(std::string(LUMIVEX_SOURCE_DIR) + "/data/" + name, Path(name));
+      std::filesystem::copy(SourceFolder() + "/data/" + name, Path(name));
     State().CatalogueFolder = folder_.string();
     LoadCatalogue(Now());
   }
@@ -85,7 +86,7 @@ TEST_F(SellmeierCatalogue, ADamagedFileIsToldAndLeftAlone) {
 }
 
 TEST(CatalogueFile, DeliveredCataloguesAreGlasses) {
-  std::ifstream file(std::string(LUMIVEX_SOURCE_DIR) + "/data/Dispersion.rxi");
+  std::ifstream file(SourceFolder() + "/data/Dispersion.rxi");
   const Catalogue catalogue = ReadCatalogueFile(file);
   EXPECT_EQ(catalogue.failure, "");
   std::istringstream again(CatalogueText(catalogue.entries));

@@ -7,10 +7,11 @@
 #include <string>
 
 #include "session/session_fixture.h"
+#include "source_folder.h"
 
 namespace lumivex {
 
-inline const std::string exampleFolder = std::string(LUMIVEX_SOURCE_DIR) + "/data/examples/";
+inline const std::string exampleFolder = SourceFolder() + "/data/examples/";
 
 /// A session with a folder of its own for files.
 class MaterialSession : public ScriptedSession {

@@ -7,11 +7,13 @@
 #include <string>
 #include <vector>
 
+#include "source_folder.h"
+
 namespace lumivex::testing {
 
 /// The rows of a table of reference values: comments (#) and the line of column names are left out.
 inline std::vector<std::vector<double>> ReadReferenceTable(const std::string& name) {
-  const std::string path = std::string(LUMIVEX_SOURCE_DIR) + "/tests/reference/" + name;
+  const std::string path = SourceFolder() + "/tests/reference/" + name;
   std::ifstream file(path);
   if (!file) throw std::runtime_error("cannot read " + path);
   std::vector<std::vector<double>> rows;
