@@ -60,6 +60,7 @@ CloudSamples Sample(const ModelSizes& sizes, double radius) {
   CloudSamples samples;
   samples.radius = std::move(found.radius);
   samples.weight = std::move(found.weight);
+  samples.outside = found.outside;
   samples.lowest = found.lowest;
   samples.highest = found.highest;
   samples.ratio = found.ratio;

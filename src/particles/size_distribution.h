@@ -47,6 +47,7 @@ enum class SizeFailure { None, NegativeRadius, NoFile, BadGamma, BadModes };
 struct CloudSamples {
   std::vector<double> radius;  ///< um
   std::vector<double> weight;  ///< shares or numbers of particles
+  double outside = 0;          ///< particles beyond the samples, in the same measure: they count and scatter nothing
   float lowest = 0, highest = 0;
   double ratio = 1;  ///< of neighbouring radii; 1 with equal steps
   SizeFailure failure = SizeFailure::None;

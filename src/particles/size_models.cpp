@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <limits>
 
 #include "particles/gamma_function.h"
 
@@ -11,7 +12,7 @@ namespace lumivex {
 
 namespace {
 
-constexpr double leftOut = 1e-4;  ///< share of the particles outside the range, half at each end
+constexpr double leftOut = 1e-4;  ///< share of the sum of r^2 outside the range, half at each end
 
 constexpr std::array maritime = {SizeMode{0.0039, 4.5394, 0.656272}, SizeMode{0.133, 1.6218, 0.328629},
                                  SizeMode{0.29, 2.4889, 0.015099}};
@@ -28,12 +29,18 @@ double ModeDensity(const SizeMode& mode, double radius) {
   return mode.fraction * std::exp(-z * z / 2) / (width * radius);
 }
 
-/// The radius below which a share of the particles lies, by halving in ln r.
+/// Logarithm of a mode's mean of r^2, times its number.
+double LogArea(const SizeMode& mode) {
+  const double width = std::log(mode.spread);
+  return std::log(mode.fraction) + 2 * std::log(mode.median) + 2 * width * width;
+}
+
+/// The radius below which a share of the sum of r^2 lies, by halving in ln r.
 double Quantile(const SizeModel& model, double share) {
   double low = std::log(1e-9), high = std::log(1e9);
   for (int i = 0; i < 100; ++i) {
     const double middle = (low + high) / 2;
-    (NumberBelow(model, std::exp(middle)) < share ? low : high) = middle;
+    (AreaBelow(model, std::exp(middle)) < share ? low : high) = middle;
   }
   return std::exp((low + high) / 2);
 }
@@ -86,6 +93,25 @@ double NumberBelow(const SizeModel& model, double radius) {
   return below / all;
 }
 
+double AreaBelow(const SizeModel& model, double radius) {
+  if (const auto* gamma = std::get_if<GammaSizes>(&model))
+    return GammaDistributionBelow((gamma->alpha + 3) / gamma->gamma, gamma->b * std::pow(radius, gamma->gamma));
+  const auto& modes = std::get<std::vector<SizeMode>>(model);
+  // From the largest, so that wide modes do not overflow.
+  double largest = -std::numeric_limits<double>::infinity();
+  for (const auto& mode : modes)
+    if (mode.fraction > 0) largest = std::max(largest, LogArea(mode));
+  double below = 0, all = 0;
+  for (const auto& mode : modes) {
+    if (!(mode.fraction > 0)) continue;
+    const double area = std::exp(LogArea(mode) - largest), width = std::log(mode.spread);
+    // r^2 times a log-normal mode is one again, about a larger median.
+    below += area * Normal(std::log(radius / mode.median) / width - 2 * width);
+    all += area;
+  }
+  return below / all;
+}
+
 SizeSamples SampleModel(const SizeModel& model, int count, SizeSteps steps) {
   SizeSamples samples;
   samples.lowest = static_cast<float>(Quantile(model, leftOut / 2));
@@ -106,7 +132,14 @@ SizeSamples SampleModel(const SizeModel& model, int count, SizeSteps steps) {
     samples.weight[i] = NumberDensity(model, r) * (ratio ? r * relativeWidth : step);
     total += samples.weight[i];
   }
-  for (double& weight : samples.weight) weight /= total;
+  if (!(total > 0)) {
+    // A mode so wide that its area lies beyond all radii: the samples stand at the end, for others to refuse.
+    std::fill(samples.weight.begin() + 1, samples.weight.end(), 1.0 / count);
+    return samples;
+  }
+  const double inside = NumberBelow(model, high) - NumberBelow(model, low);
+  samples.outside = 1 - inside;
+  for (double& weight : samples.weight) weight *= inside / total;
   return samples;
 }
 

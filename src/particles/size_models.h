@@ -41,20 +41,26 @@ bool AreUsable(const std::vector<SizeMode>& modes);
 double NumberDensity(const SizeModel& model, double radius);
 /// Share of the particles smaller than a radius.
 double NumberBelow(const SizeModel& model, double radius);
+/// Share of the sum of r^2, which light is scattered by, that particles smaller than a radius have.
+double AreaBelow(const SizeModel& model, double radius);
 
 enum class SizeSteps { Ratio, Equal };
 
 /// Samples of a model; first index 1.
 struct SizeSamples {
   std::vector<double> radius;  ///< um
-  std::vector<double> weight;  ///< share of the particles in the slice; the sum is 1
-  float lowest = 0;            ///< range that holds all but 1e-4 of the particles
+  std::vector<double> weight;  ///< share of the particles in the slice; with `outside` the sum is 1
+  double outside = 0;          ///< share of the particles beyond the range
+  float lowest = 0;            ///< range that holds all but 1e-4 of the sum of r^2
   float highest = 0;
   double ratio = 1;  ///< of neighbouring radii; 1 with equal steps
 };
 
 /// Cuts the range into slices of equal ratio or width and takes the middle of each; its weight is the density there
 /// times the slice's width.
+///
+/// The range goes by area and not by number: of an aerosol of dust most particles scatter next to nothing, and the few
+/// large ones nearly all. Particles beyond it are told, so that means count them.
 SizeSamples SampleModel(const SizeModel& model, int count, SizeSteps steps);
 
 }  // namespace lumivex

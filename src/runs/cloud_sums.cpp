@@ -52,12 +52,12 @@ void CloudSums::Add(const SphereSolution& sphere, double radius, double weight) 
   last_.rayAngle = sphere.rayAngle;
 }
 
-SettingFound CloudSums::Means(int tableRows, bool actual) const {
+SettingFound CloudSums::Means(int tableRows, bool actual, double outside) const {
   SettingFound found;
   found.sphere = last_;
   found.samples = samples_;
-  const double divisor = actual ? 1 : number_;
-  if (!(divisor > 0)) return found;
+  if (!(number_ > 0)) return found;
+  const double divisor = actual ? 1 : number_ + outside;
   const int rows = std::max(tableRows, window_.low + static_cast<int>(perpendicular_.size()) - 1);
   found.sphere.S1.Resize(rows);
   found.sphere.S2.Resize(rows);

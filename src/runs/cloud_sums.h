@@ -28,7 +28,8 @@ class CloudSums {
   bool HasMeans() const { return number_ > 0; }
 
   /// Means over the particles; with `actual` the sums themselves, as for the numbers of particles in a table.
-  SettingFound Means(int tableRows, bool actual) const;
+  /// @param outside  particles that were not added, since they scatter nothing, but count in the means.
+  SettingFound Means(int tableRows, bool actual, double outside = 0) const;
 
  private:
   RowWindow window_;

@@ -199,7 +199,7 @@ SettingsEnd DispCalc(const SettingsPlan& plan, TaskPool& pool) {
     const Slot& slot = slots[slotIndex];
     if (slot.counts) sums.Add(slot.sphere, slot.radius, slot.weight);
     if (task % perCloud + 1 < perCloud) return true;
-    plan.keep(task / perCloud, sums.Means(tableRows, actual));
+    plan.keep(task / perCloud, sums.Means(tableRows, actual, first.outside));
     ++end.kept;
     sums.Begin(plan.window, plan.wantsCross);
     return true;
@@ -215,7 +215,7 @@ SettingsEnd DispCalc(const SettingsPlan& plan, TaskPool& pool) {
   if (taken < tasks.count) end.refusal = refusals.Of(taken);
   const bool part = plan.keepsPartOfCloud && pool.Stopped() && sums.HasMeans() && end.refusal.text.empty();
   if (part) {
-    plan.keep(end.kept, sums.Means(tableRows, actual));
+    plan.keep(end.kept, sums.Means(tableRows, actual, first.outside));
     ++end.kept;
   }
   return end;
