@@ -175,7 +175,7 @@ Refusal SolvePoints(const RunRequest& request, const AxisRun& axis, std::vector<
     found.Cext[i] = at.Cext;
     found.Csca[i] = at.Csca;
     if (power) {
-      const double x2 = request.method.divideBySize ? plan.settings[index].x * plan.settings[index].x : 1;
+      const double x2 = SphereOptions(request).divideBySize ? plan.settings[index].x * plan.settings[index].x : 1;
       const double k = plan.settings[index].WaveNumber();
       const double scale = request.light.incidentDensity * 2 * pi / (k * k) * x2;
       found.powerPerp[i] = scale * rows.Integral(at.sphere.S1);

@@ -6,6 +6,7 @@
 #include <numbers>
 #include <span>
 
+#include "runs/settings.h"
 #include "solvers/angles/scattering_pattern.h"
 #include "solvers/functions/phase_degrees.h"
 
@@ -58,8 +59,8 @@ double Intensity(const ComplexD& S) {
 
 void FillPoint(Curves& curves, std::size_t i, const AmplitudePair& pair, bool amplitude, double norm) {
   const double first = Intensity(pair.S1), second = Intensity(pair.S2);
-  curves.perpendicular[i] = amplitude ? std::sqrt(first) : first / norm;
-  curves.parallel[i] = amplitude ? std::sqrt(second) : second / norm;
+  curves.perpendicular[i] = (amplitude ? std::sqrt(first) : first) / norm;
+  curves.parallel[i] = (amplitude ? std::sqrt(second) : second) / norm;
   curves.unpolarised[i] = (curves.perpendicular[i] + curves.parallel[i]) / 2;
   curves.extra1[i] = Contrast(curves.perpendicular[i], curves.parallel[i]);
   curves.extra2[i] = PhaseDegrees(pair.S1.re, pair.S1.im);
@@ -91,7 +92,7 @@ void Scale(Curves& curves, double factor) {
 
 /// |S|^2 of the sphere itself, also where the amplitudes were divided by x.
 double UndoDivision(const Results& results) {
-  const bool divided = results.asked.method.method == Method::Mie && results.asked.method.divideBySize;
+  const bool divided = results.asked.method.method == Method::Mie && SphereOptions(results.asked).divideBySize;
   return divided ? results.last.sizeParameter * results.last.sizeParameter : 1;
 }
 

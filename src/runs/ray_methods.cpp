@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <numbers>
+#include <utility>
 
 #include "runs/sphere_solver.h"
 #include "solvers/rays/rainbow.h"
@@ -58,6 +59,7 @@ void AddRays(const MethodOptions& options, const SphereAsked& asked, RayMethod m
   request.mRe = asked.mRe;
   request.mIm = asked.mIm;
   request.selected = options.rays;
+  request.pieces = asked.pieces.get();
   request.method = method;
   request.beam = options.beam;
   request.grid = asked.grid;
@@ -70,6 +72,16 @@ void AddRays(const MethodOptions& options, const SphereAsked& asked, RayMethod m
 
 }  // namespace
 
+bool TracesRays(const MethodOptions& options) {
+  const bool taken = options.difference == Difference::RaysLessDebye || options.difference == Difference::DebyeLessRays;
+  return TraitsOf(options.method).takesDiffraction || taken;
+}
+
+std::shared_ptr<const RayPieces> PiecesOf(const MethodOptions& options, double mRe, double mIm, RunMonitor& monitor) {
+  auto pieces = MakeRayPieces({mRe, mIm}, options.rays, monitor);
+  return pieces ? std::make_shared<const RayPieces>(std::move(*pieces)) : nullptr;
+}
+
 SphereSolution GO(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor) {
   if (NoneSelected(options) && !options.addDiffraction) return Refused(NoRays());
   SphereSolution solution = EmptySolution(asked);
@@ -77,7 +89,8 @@ SphereSolution GO(const MethodOptions& options, const SphereAsked& asked, RunMon
     SumDiffraction(asked.x, DiffractionForm::Disc, asked.grid, WindowOf(asked), solution.S1, solution.S2, monitor);
     solution.efficiencies.Qext = solution.efficiencies.Qsca = 4 / (asked.x * asked.x) * ForwardDiffraction(asked.x);
   }
-  AddRays(options, asked, MethodOf(options.method), !options.addDiffraction, solution, monitor);
+  const bool alone = !options.addDiffraction && options.difference == Difference::None;
+  AddRays(options, asked, MethodOf(options.method), alone, solution, monitor);
   return solution;
 }
 

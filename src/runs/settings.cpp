@@ -33,9 +33,24 @@ std::shared_ptr<const AngleCosines> CosinesOf(const SettingsPlan& plan) {
   return plan.grid.NANG > 1 ? std::make_shared<const AngleCosines>(plan.grid, plan.window) : nullptr;
 }
 
-SphereAsked AskedAt(const SettingsPlan& plan, const Setting& setting, double x,
-                    const std::shared_ptr<const AngleCosines>& cosines) {
-  return {x, setting.mRe, setting.mIm, plan.grid, plan.window, cosines};
+/// What the spheres of a plan have in common.
+struct Shared {
+  std::shared_ptr<const AngleCosines> cosines;
+  std::shared_ptr<const RayPieces> pieces;
+};
+
+Shared SharedOf(const SettingsPlan& plan, TaskPool& pool) {
+  Shared shared{CosinesOf(plan), nullptr};
+  const auto sameIndex = [&](const Setting& setting) {
+    return setting.mRe == plan.settings.front().mRe && setting.mIm == plan.settings.front().mIm;
+  };
+  if (!plan.settings.empty() && std::ranges::all_of(plan.settings, sameIndex))
+    shared.pieces = PiecesInPool(plan.request.method, plan.settings.front().mRe, plan.settings.front().mIm, pool);
+  return shared;
+}
+
+SphereAsked AskedAt(const SettingsPlan& plan, const Setting& setting, double x, const Shared& shared) {
+  return {x, setting.mRe, setting.mIm, plan.grid, plan.window, shared.cosines, shared.pieces};
 }
 
 Refusal RefusalOf(SizeFailure failure) {
@@ -108,19 +123,26 @@ SettingResult SettingAt(const RunRequest& request, double lambda) {
   return result;
 }
 
+MethodOptions SphereOptions(const RunRequest& request) {
+  MethodOptions options = request.method;
+  const bool absolute = request.graph.InUnitsOfLight() || request.graph.NeedsAllRows();
+  if (request.Cloud() && absolute) options.divideBySize = false;
+  return options;
+}
+
 SettingsEnd RunSettings(const SettingsPlan& plan, TaskPool& pool) {
   if (plan.request.Cloud()) return DispCalc(plan, pool);
   for (const Setting& setting : plan.settings)
     if (Refusal beyond = BeyondLimits(plan.request.method, setting.x, setting.mRe, setting.mIm); !beyond.text.empty())
       return {0, std::move(beyond)};
-  const auto cosines = CosinesOf(plan);
+  const Shared shared = SharedOf(plan, pool);
   std::vector<SphereSolution> slots(pool.Slots());
   FirstRefusal refusals;
   TaskList tasks;
   tasks.count = plan.settings.size();
   tasks.work = [&](std::size_t task, std::size_t slot, RunMonitor& monitor) {
     const Setting& setting = plan.settings[task];
-    slots[slot] = SolveSphere(plan.request.method, AskedAt(plan, setting, setting.x, cosines), monitor);
+    slots[slot] = SolveSphere(plan.request.method, AskedAt(plan, setting, setting.x, shared), monitor);
     if (slots[slot].Refused()) refusals.Note(task, slots[slot].refusal);
     return slots[slot].finished && !slots[slot].Refused();
   };
@@ -163,7 +185,8 @@ SettingsEnd DispCalc(const SettingsPlan& plan, TaskPool& pool) {
   }
   const auto perCloud = static_cast<std::size_t>(first.Count());
   const bool actual = IsActual(plan.request.sizes);
-  const auto cosines = CosinesOf(plan);
+  const MethodOptions options = SphereOptions(plan.request);
+  const Shared shared = SharedOf(plan, pool);
   struct Slot {
     SphereSolution sphere;
     SamplesCache samples;
@@ -191,7 +214,7 @@ SettingsEnd DispCalc(const SettingsPlan& plan, TaskPool& pool) {
     slot.counts = slot.weight > 0 && slot.radius > 0;
     if (!slot.counts) return true;
     const double x = SizeParameterOf(slot.radius, setting.indices.MediumInUse(), setting.lambda);
-    slot.sphere = SolveSphere(plan.request.method, AskedAt(plan, setting, x, cosines), monitor);
+    slot.sphere = SolveSphere(options, AskedAt(plan, setting, x, shared), monitor);
     if (slot.sphere.Refused()) refusals.Note(task, slot.sphere.refusal);
     return slot.sphere.finished && !slot.sphere.Refused();
   };

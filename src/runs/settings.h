@@ -53,9 +53,16 @@ struct SettingsEnd {
 };
 SettingsEnd RunSettings(const SettingsPlan& plan, TaskPool& pool);
 
+/// How the spheres of a run are calculated: the method's options, but that a cloud in graphs of absolute units is never
+/// divided by x. The division is undone where one sphere was divided; means over many sizes could not be.
+MethodOptions SphereOptions(const RunRequest& request);
+
 /// DispCalc: the sizes of the plan's cloud at each setting, in place of one solver call. Means are sums over numbers
 /// of particles; for a size file and "actual" results they stay sums.
 SettingsEnd DispCalc(const SettingsPlan& plan, TaskPool& pool);
+
+/// PiecesOf as a task of the pool; empty for a method that traces no rays.
+std::shared_ptr<const RayPieces> PiecesInPool(const MethodOptions& options, double mRe, double mIm, TaskPool& pool);
 
 /// One sphere whose rows are divided among the threads.
 SphereSolution SolveInParts(const MethodOptions& options, const SphereAsked& asked, TaskPool& pool);

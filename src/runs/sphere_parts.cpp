@@ -80,10 +80,12 @@ SphereSolution SolveRaysInParts(const MethodOptions& options, const SphereAsked&
   const auto copy = [](const AmplitudeTable& from, AmplitudeTable& to, RowWindow rows) {
     for (int row = rows.low; row <= rows.high; ++row) to.Set(row, from.Re(row), from.Im(row));
   };
+  SphereAsked withPieces = asked;
+  withPieces.pieces = PiecesInPool(options, asked.mRe, asked.mIm, pool);
   TaskList tasks;
   tasks.count = parts.size();
   tasks.work = [&](std::size_t task, std::size_t slot, RunMonitor& monitor) {
-    SphereAsked part = asked;
+    SphereAsked part = withPieces;
     part.window = parts[task];
     slots[slot] = SolveSphere(options, part, monitor);
     return slots[slot].finished;
@@ -106,6 +108,21 @@ SphereSolution SolveRaysInParts(const MethodOptions& options, const SphereAsked&
 }
 
 }  // namespace
+
+std::shared_ptr<const RayPieces> PiecesInPool(const MethodOptions& options, double mRe, double mIm, TaskPool& pool) {
+  std::shared_ptr<const RayPieces> pieces;
+  if (!TracesRays(options)) return pieces;
+  TaskList one;
+  one.count = 1;
+  one.shareOfRun = 0;
+  one.work = [&](std::size_t, std::size_t, RunMonitor& monitor) {
+    pieces = PiecesOf(options, mRe, mIm, monitor);
+    return true;
+  };
+  one.take = [](std::size_t, std::size_t) { return true; };
+  pool.Do(one);
+  return pieces;
+}
 
 SphereSolution SolveInParts(const MethodOptions& options, const SphereAsked& asked, TaskPool& pool) {
   const bool series =

@@ -12,11 +12,12 @@ namespace lumivex {
 
 /// One sphere, as a solver is asked for it.
 struct SphereAsked {
-  double x = 1;                                 ///< size parameter
-  double mRe = 1, mIm = 0;                      ///< relative refractive index, absorption positive
-  AngleGrid grid;                               ///< rows of scattering angle, or one angle exactly
-  RowWindow window{1, 1};                       ///< rows wanted
-  std::shared_ptr<const AngleCosines> cosines;  ///< of the window, from a call before; may be empty
+  double x = 1;                                  ///< size parameter
+  double mRe = 1, mIm = 0;                       ///< relative refractive index, absorption positive
+  AngleGrid grid;                                ///< rows of scattering angle, or one angle exactly
+  RowWindow window{1, 1};                        ///< rows wanted
+  std::shared_ptr<const AngleCosines> cosines;   ///< of the window, from a call before; may be empty
+  std::shared_ptr<const RayPieces> pieces = {};  ///< of the rays selected, for this index; may be empty
 };
 
 /// What a solver finds of one sphere.
@@ -67,6 +68,12 @@ SphereSolution DebyeSeries(const MethodOptions& options, const SphereAsked& aske
 /// In an absorbing sphere the parallel amplitude of rays alone has its sign changed; a sum with diffraction, or a
 /// difference, has the physical sign. See docs/physics_rays.md.
 SphereSolution GO(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor);
+
+/// Whether a method traces rays at angles: one of its own, or a difference with them.
+bool TracesRays(const MethodOptions& options);
+
+/// The pieces that the rays of such a method have in common at that index; empty after a Stop.
+std::shared_ptr<const RayPieces> PiecesOf(const MethodOptions& options, double mRe, double mIm, RunMonitor& monitor);
 
 /// The rays of "Young mod" for the differences from a series: no diffraction, the physical sign.
 SphereSolution GO2(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor);

@@ -3,8 +3,11 @@
 #include <cstring>
 #include <future>
 #include <numbers>
+#include <span>
 
+#include "runs/curves.h"
 #include "runs/run_fixture.h"
+#include "solvers/angles/scattering_pattern.h"
 #include "solvers/series/mie_series.h"
 
 namespace lumivex {
@@ -204,6 +207,63 @@ TEST(Runs, ARefusalIsDataAndLeavesNothing) {
   refused(wide, "Reduce standard deviation to avoid negative values of radius");
   RunRequest overflow = AngleRequest(1e-200, 1);
   EXPECT_EQ(RunSilently(overflow).outcome, Outcome::Overflow);
+}
+
+// Graphs in absolute units know neither the division by x, whatever the sizes it was by, nor that by k^2.
+TEST(Units, AbsoluteUnitsKnowNoDivision) {
+  const auto curve = [](RunRequest request, bool divided, const CurveLook& look) {
+    request.method.divideBySize = divided;
+    if (auto* axis = std::get_if<AxisRun>(&request.run)) axis->range.step = 1;
+    const RunEnd end = RunSilently(request);
+    EXPECT_EQ(end.outcome, Outcome::Done);
+    return CurvesOf(end.results, look);
+  };
+  const CurveLook plain, perWaveNumber{.amplitude = true, .invWavelength = true};
+  const auto over = [](GraphCode code) {
+    RunRequest request = AngleRequest(5, 1);
+    request.graph = GraphOf(code);
+    return request;
+  };
+  std::vector<RunRequest> requests = {over({1, 2}), over({1, 3}), over({1, 4}), over({1, 7}),
+                                      AxisRequest({18, 1}, 2, 4, 2)};
+  for (std::size_t i = 0; i < 5; ++i) {
+    requests.push_back(requests[i]);
+    requests.back().sizes = LogNormal(0.3);
+  }
+  for (const RunRequest& request : requests) {
+    const Curves right = curve(request, false, plain);
+    const std::size_t middle = right.unpolarised.size() / 2;
+    ASSERT_GT(right.unpolarised[middle], 0) << request.graph.code.type << "/" << request.graph.code.subType;
+    for (const bool divided : {false, true})
+      for (const CurveLook& look : {plain, perWaveNumber}) {
+        const Curves found = curve(request, divided, look);
+        EXPECT_NEAR(found.unpolarised[middle] / right.unpolarised[middle], 1, 1e-9)
+            << request.graph.code.type << "/" << request.graph.code.subType << ", cloud " << request.Cloud();
+        EXPECT_NEAR(found.scatteredPower, right.scatteredPower, 1e-9 * right.scatteredPower);
+      }
+  }
+  // Of intensities and amplitudes the wave number is taken out: once from an amplitude, twice from an intensity.
+  const double k = 2 * std::numbers::pi / 0.65e-6;
+  for (const auto& request : {AngleRequest(5, 1), AxisRequest({11, 1}, 1, 2, 10)}) {
+    const double modulus = curve(request, false, {.amplitude = true}).perpendicular[5];
+    EXPECT_NEAR(curve(request, false, {.invWavelength = true}).perpendicular[5] * k * k / (modulus * modulus), 1, 1e-9);
+    EXPECT_NEAR(curve(request, false, perWaveNumber).perpendicular[5] * k / modulus, 1, 1e-9);
+  }
+}
+
+// Methods without a series for Qsca are normalised by their own sum over the sphere.
+TEST(Units, PhaseFunctionsOfAllMethodsHaveTheMeanOne) {
+  for (const Method method :
+       {Method::Mie, Method::Debye, Method::Rayleigh, Method::Diffraction, Method::Airy, Method::Descartes,
+        Method::Young, Method::YoungMod, Method::YoungAiry, Method::Huygens, Method::Aperture, Method::VanDeHulst}) {
+    RunRequest request = AngleRequest(method == Method::Rayleigh ? 0.01 : 10, 0.1, method);
+    request.graph = GraphOf({1, 2});
+    const RunEnd end = RunSilently(request);
+    ASSERT_EQ(end.outcome, Outcome::Done) << static_cast<int>(method);
+    const Curves curves = CurvesOf(end.results, {});
+    const auto rows = std::span(curves.unpolarised).subspan(1);
+    EXPECT_NEAR(SphereMean(rows), 1, method == Method::Mie ? 1e-3 : 1e-9) << static_cast<int>(method);
+  }
 }
 
 }  // namespace

@@ -80,9 +80,9 @@ class WaveletSet {
   }
 
   /// False when it stopped on the way; S1 and S2 are then of no use.
-  bool Add(double theta, Watch& watch, ComplexD& S1, ComplexD& S2) const {
+  bool Add(double x, double theta, Watch& watch, ComplexD& S1, ComplexD& S2) const {
     constexpr std::size_t chunk = 4096;
-    const double scale = 1.0 / std::sqrt(std::sin(theta));
+    const double scale = 1.0 / std::sqrt(LeastAxisDistance(x, std::sin(theta)));
     for (int halfTurn = lowest_; halfTurn <= highest_; ++halfTurn) {
       const RayFold fold = FoldHalfTurn(halfTurn);
       const double target = DeviationAt(fold, theta);
@@ -142,8 +142,9 @@ HuygensWave TraceHuygens(double x, double m, int p, int R) {
     const RayFold fold = FoldDeviation(ray.deviation - 1e-9);
     const double theta = ScatteringAngle(fold, ray.deviation);
     const RayAmplitude eps = FresnelFactors(ray, {m, 0.0}, p);
-    const bool onAxis = std::sin(theta) < 1e-9;
-    const double V = onAxis ? AxisAmplitude(x, p) : Divergence(x, theta, family, ray);
+    const double sinTheta = std::sin(theta);
+    const bool onAxis = sinTheta < 1e-9;
+    const double V = onAxis ? AxisAmplitude(x, p) : Divergence(x, sinTheta, family, ray);
     const int sign = family.Focus(ray) >= 0.0 ? 1 : -1;
     const double phase = RayPhase(x, m, p, ray, fold, sign);
     const double i = std::atan2(ray.sinI, ray.cosI);
@@ -188,7 +189,7 @@ RowsDone SumHuygens(const HuygensRequest& request, AmplitudeTable& S1, Amplitude
     ComplexD sum1 = S1.Value(row);
     ComplexD sum2 = S2.Value(row);
     for (const WaveletSet& set : sets)
-      if (!set.Add(theta, watch, sum1, sum2)) return RowsUpTo(request.grid, window, row - 1);
+      if (!set.Add(request.x, theta, watch, sum1, sum2)) return RowsUpTo(request.grid, window, row - 1);
     S1.Set(row, sum1.re, sum1.im);
     S2.Set(row, sum2.re, sum2.im);
   }

@@ -48,6 +48,8 @@ struct HuygensRequest {
 /// i, psi = 2x(cos i - p m cos r) + L (D - D_t) + (pi/2)(p - 2 kk - q/2), D_t the unfolded deviations of the angle
 /// theta.
 ///
+/// sin theta is held at 1/x, the width of the caustic on the axis.
+///
 /// Its stationary points are the rays, with all their phases; at a rainbow it goes over into Airy's field by itself.
 /// The sharp edge at grazing incidence leaves a wave of its own of the order of sqrt(x). Diffraction is not in it.
 ///

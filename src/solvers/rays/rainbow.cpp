@@ -67,12 +67,20 @@ double Rainbow::AiryArgument(double x, double theta) const {
   return fold.q * (theta - RainbowAngle) * std::pow(x, 2.0 / 3.0) / std::cbrt(h);
 }
 
+double Rainbow::AxisDistance(double x) const {
+  return LeastAxisDistance(x, std::sin(RainbowAngle));
+}
+
+double LeastAxisDistance(double x, double sinTheta) {
+  return std::max(sinTheta, std::min(1.0, 1.0 / x));
+}
+
 void AddAiry(const Rainbow& R, double x, double theta, double absorption, AiryDerivative derivative, ComplexD& S1,
              ComplexD& S2) {
   const double z = R.AiryArgument(x, theta);
   const double Ai = AiryCalc(z);
   const double AiryAmplitudeScale =
-      absorption * std::pow(x, 7.0 / 6.0) / std::cbrt(R.h) * std::sqrt(2.0 * pi * R.ray.sinI / std::sin(theta));
+      absorption * std::pow(x, 7.0 / 6.0) / std::cbrt(R.h) * std::sqrt(2.0 * pi * R.ray.sinI / R.AxisDistance(x));
   const double phase = RayPhase(x, R.m, R.p, R.ray, R.fold, 0) + x * R.ray.sinI * R.fold.q * (theta - R.RainbowAngle);
   // -i exp(-i phase)
   const ComplexD wave(-std::sin(phase), -std::cos(phase));

@@ -27,7 +27,13 @@ struct Rainbow {
 
   /// Airy's argument z at a scattering angle: negative on the bright side.
   double AiryArgument(double x, double theta) const;
+  /// sin(theta_R) as it counts in the scale of the field: see LeastAxisDistance.
+  double AxisDistance(double x) const;
 };
+
+/// sin(theta), or 1/x where that is larger. Fields of rings about the axis grow as 1/sqrt(sin theta) only down to the
+/// width of the caustic on the axis, which is about 1/x; there the factor is held.
+double LeastAxisDistance(double x, double sinTheta);
 
 /// Nothing where there is no rainbow: p < 2, m <= 1 or m >= p.
 std::optional<Rainbow> MakeRainbow(double m, int p);
@@ -38,10 +44,13 @@ std::optional<Rainbow> MakeRainbow(double m, int p);
 enum class AiryDerivative { None, ParallelOnly, Both };
 
 /// Airy's amplitudes at an angle, added to the pairs: S = -i C (eps Ai(z) + i K Ai'(z)) exp(-i phi),
-/// C = x^(7/6) h^(-1/3) sqrt(2 pi sin i_R/sin theta), K = (x h)^(-1/3) (d eps/di)/cos i_R, phi the phase of the rainbow
-/// ray and x sin i_R q (theta - theta_R). Ai' is the difference over +-0.01.
+/// C = x^(7/6) h^(-1/3) sqrt(2 pi sin i_R/sin theta_R), K = (x h)^(-1/3) (d eps/di)/cos i_R, phi the phase of the
+/// rainbow ray and x sin i_R q (theta - theta_R). Ai' is the difference over +-0.01.
 ///
-/// @param theta  radians, within 0..pi and not at its ends.
+/// The scale is that of the rainbow ray at all angles: with sin theta of the angle itself the axis, where there is no
+/// rainbow, would outshine it a hundred times.
+///
+/// @param theta  radians.
 void AddAiry(const Rainbow& rainbow, double x, double theta, double absorption, AiryDerivative derivative, ComplexD& S1,
              ComplexD& S2);
 

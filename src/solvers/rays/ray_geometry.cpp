@@ -41,6 +41,25 @@ Ray RayFamily::At(double t) const {
   return ray;
 }
 
+Ray RayFamily::Near(const Ray& ray, double dt) const {
+  const double square = dt * dt;
+  const double cosine = 1.0 - square / 2, sine = dt * (1.0 - square / 6);
+  Ray near;
+  if (byRefraction_) {
+    near.sinR = ray.sinR * cosine + ray.cosR * sine;
+    near.cosR = std::max(ray.cosR * cosine - ray.sinR * sine, 0.0);
+    near.sinI = m_ * near.sinR;
+    near.cosI = CosineOf(near.sinI);
+  } else {
+    near.sinI = ray.sinI * cosine + ray.cosI * sine;
+    near.cosI = std::max(ray.cosI * cosine - ray.sinI * sine, 0.0);
+    near.sinR = std::min(near.sinI / m_, 1.0);
+    near.cosR = CosineOf(near.sinR);
+  }
+  near.deviation = ray.deviation + dt * (Slope(ray) + Slope(near)) / 2;
+  return near;
+}
+
 double RayFamily::Slope(const Ray& ray) const {
   if (p_ == 0) return 2.0;
   constexpr double leastCosine = 1e-150;

@@ -23,6 +23,9 @@ class RayFamily {
   RayFamily(double m, int p);
 
   Ray At(double t) const;
+  /// The ray at t + dt of the ray at t, for |dt| up to 1e-4, without a circular function: sines to rounding, the
+  /// deviation by the mean of the slopes at both ends, which leaves out D''' dt^3/12.
+  Ray Near(const Ray& ray, double dt) const;
   /// dD/dt.
   double Slope(const Ray& ray) const;
   /// dD/di times m cosR / 2: m cosR - p cosI. Its sign is that of dD/di, and it is finite everywhere.

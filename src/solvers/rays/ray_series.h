@@ -4,6 +4,7 @@
 
 #include "solvers/angles/amplitude_table.h"
 #include "solvers/angles/angle_grid.h"
+#include "solvers/rays/ray_pieces.h"
 #include "solvers/run_monitor.h"
 #include "solvers/series/angular_sum.h"
 
@@ -34,6 +35,8 @@ struct RayRequest {
   RayBeam beam;
   AngleGrid grid;    ///< rows from 0 to 180 degrees, for a plane wave
   RowWindow window;  ///< rows wanted
+  /// Those of this index and selection, from a call before; without them they are made.
+  const RayPieces* pieces = nullptr;
   double firstAngle =
       0.0;  ///< angle of row 1 (radians); a beam that is not on the axis is seen at angles of both signs
   /// For complex m the parallel amplitude as the older programs have it, with its sign changed; |S2| of rays alone is
@@ -48,6 +51,9 @@ struct RayRequest {
 ///
 /// Angles are kept 1e-6 rad away from 0 and 180 degrees. With YoungAiry, Airy's field is taken where its argument
 /// exceeds -1.5 (p = 2, 3), -0.9 (p = 4), -0.7 (p >= 8); p = 5 to 7 have the value of the p before, or -0.9.
+///
+/// Rays so weak that they are lost in the rounding of those of lower p at the same angle are not traced: of 51 orders
+/// in water most are, after many weak reflections.
 ///
 /// In a beam the side of the sphere counts: rays p >= 1 with an unfolded deviation of the angle enter on the positive
 /// side, and so do all rays p = 0 at positive angles.

@@ -12,6 +12,10 @@ constexpr double pi = std::numbers::pi;
 /// Shorter pieces of the curve are rounding errors of a multiple of pi.
 constexpr double LeastPiece = 1e-12;
 constexpr int MostSteps = 120;
+/// Steps of the parameter that Near can take.
+constexpr double SmallStep = 1e-4;
+/// What may be left of a deviation that Near gives (radians).
+constexpr double SmallRest = 1e-11;
 
 void AddPoint(RayTable& table, double t, const Ray& ray, double deviation) {
   table.parameter.push_back(t);
@@ -73,11 +77,15 @@ RayTable MakeRayTable(double m, int p) {
 
 double GOAngleCalc(const RayFamily& family, double target, double low, double high, double guess) {
   const bool rising = family.At(high).deviation > family.At(low).deviation;
+  return FindRay(family, target, low, high, rising, guess).t;
+}
+
+RayRoot FindRay(const RayFamily& family, double target, double low, double high, bool rising, double guess) {
   const double rounding = 4e-16 * std::max(1.0, std::fabs(target));
   double t = guess;
   if (!(t > low && t < high)) t = 0.5 * (low + high);
+  Ray ray = family.At(t);
   for (int step = 0; step < MostSteps; ++step) {
-    const Ray ray = family.At(t);
     const double difference = ray.deviation - target;
     if (std::fabs(difference) <= rounding) break;
     ((difference > 0.0) == rising ? high : low) = t;
@@ -86,9 +94,17 @@ double GOAngleCalc(const RayFamily& family, double target, double low, double hi
     double next = slope != 0.0 ? t - difference / slope : low;
     if (!(next > low && next < high)) next = 0.5 * (low + high);
     if (next == t) break;
+    const double dt = next - t;
     t = next;
+    if (std::fabs(dt) < SmallStep) {
+      const Ray near = family.Near(ray, dt);
+      const double change = std::fabs(family.Slope(near) - slope);
+      // What the step leaves is dt times half that change; where it is little, so is all that follows.
+      if (std::fabs(near.deviation - target) < SmallRest && change < 1e-3 * std::fabs(slope)) return {t, near};
+    }
+    ray = family.At(t);
   }
-  return t;
+  return {t, ray};
 }
 
 }  // namespace lumivex

@@ -45,4 +45,13 @@ RayTable MakeRayTable(double m, int p);
 /// @param guess  where to start, between low and high.
 double GOAngleCalc(const RayFamily& family, double target, double low, double high, double guess);
 
+/// The same for a ray whose neighbour is known: from a guess as good as that, one tracing and one of Newton's steps are
+/// all it takes.
+/// @param rising  whether D grows from low to high.
+struct RayRoot {
+  double t = 0.0;
+  Ray ray;  ///< its deviation is the target to rounding, or to 1e-11 and told as it is
+};
+RayRoot FindRay(const RayFamily& family, double target, double low, double high, bool rising, double guess);
+
 }  // namespace lumivex
