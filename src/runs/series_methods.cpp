@@ -80,7 +80,10 @@ RowWindow Both(const RowWindow& a, const RowWindow& b) {
 void TakeDifference(const MethodOptions& options, const SphereAsked& asked, SphereSolution& series,
                     RunMonitor& monitor) {
   const bool fromMie = options.difference == Difference::MieLessDebye;
-  SphereSolution other = fromMie ? BHMIE(options, asked, monitor) : GO2(options, asked, monitor);
+  // What is taken away from the series are bare rays; where it is taken from rays, they may have diffraction with them,
+  // as the series has in p = 0.
+  const auto solve = fromMie ? BHMIE : options.difference == Difference::RaysLessDebye ? GO : GO2;
+  SphereSolution other = solve(options, asked, monitor);
   if (other.Refused()) {
     series.refusal = other.refusal;
     return;

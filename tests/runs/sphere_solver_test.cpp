@@ -98,6 +98,22 @@ TEST_F(SphereSolver, DifferencesLeaveWhatTheTermsLack) {
   }
 }
 
+// Rays with their diffraction are what p = 0 of the series holds; without it x^2/2 was missing straight forward.
+TEST_F(SphereSolver, RaysLessTermsTakeDiffractionIn) {
+  ChooseUpTo(2);
+  const SphereSolution bare = [&] {
+    options.difference = Difference::RaysLessDebye;
+    return Solve(Method::Debye, 500, 1.333, 1e-4);
+  }();
+  options.addDiffraction = true;
+  const SphereSolution whole = Solve(Method::Debye, 500, 1.333, 1e-4);
+  EXPECT_NEAR(whole.S1.Re(1) - bare.S1.Re(1), 125000, 1e-6);
+  EXPECT_LT(std::abs(whole.S1.Re(1)), 0.02 * 125000);
+  EXPECT_EQ(whole.S2.Im(40), bare.S2.Im(40)) << "the physical sign, with diffraction or without";
+  options.difference = Difference::DebyeLessRays;
+  EXPECT_GT(Solve(Method::Debye, 500, 1.333, 1e-4).S1.Re(1), 0.9 * 125000) << "bare rays";
+}
+
 // With an absorbing sphere rays alone have the parallel amplitude with its sign changed, which must not reach a sum
 // with another field.
 TEST_F(SphereSolver, ParallelSignOfAbsorbingSpheres) {

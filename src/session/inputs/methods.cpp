@@ -69,7 +69,7 @@ void cboType_click(Session& session) {
   form.cboRays.Visible = form.Label9.Visible = method.showsP;
   if (s.CalcMethod == Method::Airy && (form.cboRays.Text == "0" || form.cboRays.Text == "1")) form.cboRays.Text = "2";
   if (method.showsP) cborays_Click(session);
-  form.chkDiffraction.Visible = method.takesDiffraction;
+  form.chkDiffraction.Visible = OffersDiffraction(session);
   form.mnuHidden.Visible = method.hasHidden;
   for (MenuEntry* entry : {&form.mnuBessel, &form.mnuAiry, &form.mnuReadDiff})
     entry->Visible = form.mnuHidden.Visible && form.mnuHidden.Checked;

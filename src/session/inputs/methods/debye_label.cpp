@@ -39,7 +39,7 @@ std::string DebyeText(const Details& d) {
                            : d.difference == FromMie ? "Mie - Debye series"
                                                      : "Debye series";
   const std::string waves = d.partial ? ": " + d.partial->first + "x - " + d.partial->last + "x" : "";
-  return name + waves + BeamSuffix(d.beam) + RayText(d);
+  return name + waves + BeamSuffix(d.beam) + RayText(d) + (d.diffraction ? "+ Diffraction" : "");
 }
 
 std::string RayTheory(const char* name, const Details& d) {
@@ -139,7 +139,7 @@ std::string MethodLabel(const Session& session, const RayInputs& rays) {
   }
   const auto& partial = session.forms.dlogPartial;
   if (partial.optPartial.Checked) details.partial = {partial.txtMin.Text, partial.txtMax.Text};
-  details.diffraction = WithDiffraction(session);
+  details.diffraction = OffersDiffraction(session) && WithDiffraction(session);
   if (form.mnuGODebye.Checked || form.mnuSWsub.Checked) details.difference = Details::Difference::MinusGo;
   if (form.mnuMieDebye.Checked) details.difference = Details::Difference::FromMie;
   return DebyeLabelText(details);

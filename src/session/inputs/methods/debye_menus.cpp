@@ -21,6 +21,7 @@ void PickDifference(Session& session, MenuEntry& chosen) {
   auto& form = session.form1;
   for (MenuEntry* entry : {&form.mnuMieDebye, &form.mnuGODebye, &form.mnuSWsub})
     entry->Checked = entry == &chosen && !chosen.Checked;
+  form.chkDiffraction.Visible = OffersDiffraction(session);
   Changed(session);
 }
 

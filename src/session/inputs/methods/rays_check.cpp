@@ -73,6 +73,11 @@ bool NoRaysSelected(const Session& session) {
   return session.form1.cboRays.Text == multiple && session.state.RayCount == 0;
 }
 
+bool OffersDiffraction(const Session& session) {
+  const Method method = session.state.CalcMethod;
+  return TraitsOf(method).takesDiffraction || (method == Method::Debye && session.form1.mnuGODebye.Checked);
+}
+
 bool WithDiffraction(const Session& session) {
   return session.form1.chkDiffraction.Checked || session.forms.dlogP.chkDiffraction.Checked;
 }

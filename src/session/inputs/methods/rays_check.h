@@ -36,6 +36,9 @@ void RaysCheck(Session& session);
 /// Whether cboRays reads "Multiple" without a selection.
 bool NoRaysSelected(const Session& session);
 
+/// Whether the method has rays that diffraction can be added to: methods of rays, and "GO - Debye".
+bool OffersDiffraction(const Session& session);
+
 /// Whether diffraction is to be added to rays: the box of the main window or that of dlogP, which follow each other.
 bool WithDiffraction(const Session& session);
 

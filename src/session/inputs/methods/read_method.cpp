@@ -41,7 +41,7 @@ MethodOptions ChosenMethod(const Session& session) {
   options.method = session.state.CalcMethod;
   const MethodTraits& traits = TraitsOf(options.method);
   if (traits.showsP) options.rays = SelectedRays(RayInputsOf(session));
-  options.addDiffraction = traits.takesDiffraction && WithDiffraction(session);
+  options.addDiffraction = OffersDiffraction(session) && WithDiffraction(session);
   if (options.method == Method::Debye) {
     options.difference = DifferenceTicked(form);
     options.partialWaves = PartialWavesOf(session.forms.dlogPartial);
