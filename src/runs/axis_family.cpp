@@ -20,33 +20,6 @@ constexpr int fineRowsTo90 = 9001;  // 0.01 degrees
 /// Points whose spheres share vector lanes in one task: whole groups of lanes, so that no neighbour changes.
 constexpr std::size_t pointsPerTask = 64;
 
-/// Wavelength, size and index at a point of the axis.
-SettingResult SettingAtPoint(const RunRequest& request, AxisVariable axis, double x, const Setting& base) {
-  if (axis == AxisVariable::Wavelength) return SettingAt(request, x / 1000);
-  SettingResult result{base, {}};
-  Setting& setting = result.setting;
-  const double medium = setting.indices.MediumInUse();
-  switch (axis) {
-    case AxisVariable::Radius:
-      setting.radius = x;
-      break;
-    case AxisVariable::Diameter:
-      setting.radius = x / 2;
-      break;
-    case AxisVariable::SizeParameter:
-      setting.radius = x * setting.lambda / (2 * pi * medium);
-      break;
-    case AxisVariable::RefractiveIndex:
-      setting.mRe = x / medium;
-      setting.indices.sphereN = x;
-      break;
-    default:
-      break;
-  }
-  setting.x = axis == AxisVariable::SizeParameter ? x : SizeParameterOf(setting.radius, medium, setting.lambda);
-  return result;
-}
-
 /// The settings of all points, or why one of them has none.
 Refusal PlacePoints(const RunRequest& request, const AxisRun& axis, std::vector<Setting>& settings, AxisFound& found) {
   Setting base;
@@ -130,26 +103,6 @@ Refusal SolveLanes(const RunRequest& request, const AxisRun& axis, const std::ve
   return {};
 }
 
-/// Power scattered into a range of angles: the incident density times 2 pi/k^2 times the integral of |S|^2 sin(theta).
-struct PowerRows {
-  AngleGrid grid;
-  RowWindow window;
-
-  explicit PowerRows(const AxisRun::Range& range) : grid(static_cast<int>(std::nearbyint(90 / range.step)) + 1) {
-    const double rowsPerDegree = (grid.NANG - 1) / 90.0;
-    const auto row = [&](double degrees) { return static_cast<int>(std::nearbyint(degrees * rowsPerDegree)) + 1; };
-    window.low = std::clamp(row(range.low), 1, grid.RowCount());
-    window.high = std::clamp(row(range.high), window.low, grid.RowCount());
-  }
-
-  double Integral(const AmplitudeTable& S) const {
-    double sum = 0;
-    for (int row = window.low; row <= window.high; ++row)
-      sum += std::sin(grid.Angle(row)) * (row == window.low || row == window.high ? 0.5 : 1) * S.Intensity(row);
-    return sum * grid.DANG;
-  }
-};
-
 Refusal SolvePoints(const RunRequest& request, const AxisRun& axis, std::vector<Setting> settings, TaskPool& pool,
                     AxisFound& found, LastSphere& last) {
   const bool power = request.graph.quantity == Quantity::Power;
@@ -197,6 +150,46 @@ Refusal SolvePoints(const RunRequest& request, const AxisRun& axis, std::vector<
 }
 
 }  // namespace
+
+PowerRows::PowerRows(const AxisRun::Range& range) : grid(static_cast<int>(std::nearbyint(90 / range.step)) + 1) {
+  const double rowsPerDegree = (grid.NANG - 1) / 90.0;
+  const auto row = [&](double degrees) { return static_cast<int>(std::nearbyint(degrees * rowsPerDegree)) + 1; };
+  window.low = std::clamp(row(range.low), 1, grid.RowCount());
+  window.high = std::clamp(row(range.high), window.low, grid.RowCount());
+}
+
+double PowerRows::Integral(const AmplitudeTable& S) const {
+  double sum = 0;
+  for (int row = window.low; row <= window.high; ++row)
+    sum += std::sin(grid.Angle(row)) * (row == window.low || row == window.high ? 0.5 : 1) * S.Intensity(row);
+  return sum * grid.DANG;
+}
+
+SettingResult SettingAtPoint(const RunRequest& request, AxisVariable axis, double x, const Setting& base) {
+  if (axis == AxisVariable::Wavelength) return SettingAt(request, x / 1000);
+  SettingResult result{base, {}};
+  Setting& setting = result.setting;
+  const double medium = setting.indices.MediumInUse();
+  switch (axis) {
+    case AxisVariable::Radius:
+      setting.radius = x;
+      break;
+    case AxisVariable::Diameter:
+      setting.radius = x / 2;
+      break;
+    case AxisVariable::SizeParameter:
+      setting.radius = x * setting.lambda / (2 * pi * medium);
+      break;
+    case AxisVariable::RefractiveIndex:
+      setting.mRe = x / medium;
+      setting.indices.sphereN = x;
+      break;
+    default:
+      break;
+  }
+  setting.x = axis == AxisVariable::SizeParameter ? x : SizeParameterOf(setting.radius, medium, setting.lambda);
+  return result;
+}
 
 double StepRatio(const AxisRun& axis) {
   return axis.logSteps ? std::pow(axis.xmax / axis.xmin, 1 / axis.step) : 1;

@@ -20,6 +20,18 @@ FamilyEnd RunConvergence(const RunRequest& request, const ConvergenceRun& run, T
 FamilyEnd RunDebyeAnalysis(const RunRequest& request, const DebyeAnalysisRun& run, TaskPool& pool, Results& results);
 FamilyEnd RunTwoAngle(const RunRequest& request, const TwoAngleRun& run, TaskPool& pool, Results& results);
 
+/// Wavelength, size and index at a point of an axis; what the axis does not vary is that of `base`.
+SettingResult SettingAtPoint(const RunRequest& request, AxisVariable axis, double x, const Setting& base);
+
+/// Power scattered into a range of angles: the incident density times 2 pi/k^2 times the integral of |S|^2 sin(theta).
+struct PowerRows {
+  AngleGrid grid;
+  RowWindow window;
+
+  explicit PowerRows(const AxisRun::Range& range);
+  double Integral(const AmplitudeTable& S) const;
+};
+
 /// What a setting tells of the last sphere.
 void TellSetting(const Setting& setting, LastSphere& last);
 /// What a solution tells of it; leaves the setting's part.

@@ -56,6 +56,31 @@ TEST_F(RunControl, DuringARunTheOtherCommandsAreLocked) {
   EXPECT_EQ(runner.World().beeps, 2);
 }
 
+// The size of the last run once stood for that of the next, and an axis for one sphere.
+TEST_F(RunControl, EveryKindOfRunAsksByItsOwnWork) {
+  const struct {
+    const char* name;
+    const char* small;
+    const char* large;
+  } kinds[] = {
+      {"Intensity v. radius", "set txtXmin 1\nset txtXmax 2\nset cboStep 0.1", "set txtXmin 1000\nset txtXmax 2000"},
+      {"Qext/Qsca/Qabs v. wavelength", "set txtXmin 500\nset txtXmax 700\nset cboStep 50",
+       "set txtRadius 3000\nset cboStep 0.02"},
+      {"Scattered power v. radius", "set txtXmin 1\nset txtXmax 2\nset cboStep 0.25\nset txtF9_step 10",
+       "set txtXmin 1000\nset txtXmax 2000\nset cboStep 5\nset txtF9_step 0.1"},
+  };
+  for (const auto& kind : kinds) {
+    Do("reset");
+    auto& s = runner.Current().state;
+    s.SecondsPerPairTerm = 1e-4;
+    const std::size_t before = Shown().size();
+    Do(std::string("choose cboGraph ") + kind.name + "\n" + kind.small + "\nclick cmdNewPlot");
+    EXPECT_EQ(Shown().size(), before) << kind.name << ": " << LastText();
+    Do(std::string(kind.large) + "\nanswer no\nclick cmdNewPlot");
+    EXPECT_EQ(LastTitle(), "Long calculation !") << kind.name << ": " << LastText();
+  }
+}
+
 TEST_F(RunControl, LongRunsAskInTheWordsOfTheReferenceMachine) {
   auto& s = runner.Current().state;
   s.SecondsPerPairTerm = 1e-3;  // as if this machine were slow

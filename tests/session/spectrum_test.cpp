@@ -8,6 +8,7 @@
 #include "record/layout/menu_tree.h"
 #include "session/driver/duration.h"
 #include "session/driver/progress.h"
+#include "session/driver/read_run.h"
 #include "session/info.h"
 #include "session/inputs/graph_types.h"
 #include "session/inputs/sizes/size_menus.h"
@@ -329,13 +330,19 @@ TEST_F(Spectrum, ProgressNeverFallsAndTellsTheTimeLeft) {
 }
 
 TEST_F(Spectrum, TheExpectedTimeCountsWavelengthsAndSizes) {
-  Do("set cboWave 1\nset txtLambda 0.515");
-  State().NumberWavelengths = 1;
-  const double one = ReferenceSeconds(Now());
-  State().NumberWavelengths = 10;
-  EXPECT_NEAR(ReferenceSeconds(Now()) / one, 10, 1e-12);
+  const auto seconds = [&] { return ReferenceSeconds(*ReadRun(Now())); };
+  Do("set cboWave 1\nset txtLambda 0.515\nset txtRadius 10\nset cboStep 0.1");
+  const double one = seconds();
+  // The fit of the first plot's sphere, by hand: r = 10, S = 1800 (its parabola held at 314.98), step 0.1.
+  const double t = 5.3394821 + 9.759082 - 8.895773e-3 + 6.0300197e-5;
+  const double q = (0.2077 + 0.0061566 * 314.98 - 9.773e-6 * 314.98 * 314.98) * t * 0.1 * 0.65 / 0.515;
+  EXPECT_NEAR(one / (q * 0.1 * (4.2380146 + 1.2130768 * std::log(1800))), 1, 1e-6);
+  Do("set cboWave 10");
+  EXPECT_NEAR(seconds() / one, 10, 1e-12);
   Do("click optDisp\nset cboN 20");
-  EXPECT_NEAR(ReferenceSeconds(Now()) / one, 200, 1e-9);
+  EXPECT_NEAR(seconds() / one, 200, 1e-9);
+  Do("click optMono\nset cboWave 1\nclick mnuRI_Vacuum2\nchoose cboType Debye\nset cboRays -4");
+  EXPECT_NEAR(seconds(), (7.76814 + 18.1405 + 1.369248e-3) * 0.1 * 0.65 / 0.515 * 5, 1e-9);
 }
 
 TEST_F(Spectrum, LeeDiagramsTakeOneSize) {

@@ -7,6 +7,7 @@
 #include "session/driver/keep_curves.h"
 #include "session/driver/lock.h"
 #include "session/driver/overplot.h"
+#include "session/driver/read_run.h"
 #include "session/inputs/look/read_look.h"
 #include "session/inputs/methods.h"
 #include "session/inputs/two_angle_inputs.h"
@@ -40,10 +41,19 @@ bool InputsHold(Session& session) {
 }
 
 /// A series can take long; what needs no series never does.
-bool LeaveGiven(Session& session) {
+bool LeaveGiven(Session& session, const RunRequest& request) {
   auto& s = session.state;
-  if (TraitsOf(s.CalcMethod).series) Duration(session);
+  if (TraitsOf(s.CalcMethod).series) Duration(session, request);
   return s.CommandAborted == 0;
+}
+
+/// Reads the inputs into a request, once, and runs it where they hold and nobody minds the time.
+void RunInputs(Session& session, Onto onto) {
+  if (!InputsHold(session)) return;
+  const auto request = ReadRun(session);
+  if (!request || !LeaveGiven(session, *request)) return;
+  LockON(session);
+  Overplot(session, *request, onto);
 }
 
 /// Whether the stored curves are those of the graph and step that the inputs name. Terms have no step.
@@ -86,10 +96,7 @@ void cmdNewPlot_Click(Session& session) {
   s.OverplotFromFile = 0;
   s.StopAnswer = 0;
   s.PlotMode = 1;
-  if (InputsHold(session) && LeaveGiven(session)) {
-    LockON(session);
-    Overplot(session, Onto::FreshPage);
-  }
+  RunInputs(session, Onto::FreshPage);
   s.PlotMode = 1;
   EndCommand(session);
   s.Busy = wasBusy;
@@ -104,10 +111,7 @@ void cmdOverPlot_Click(Session& session) {
   s.Busy = 1;
   s.StopAnswer = 0;
   s.PlotMode = 2;
-  if (InputsHold(session) && LeaveGiven(session)) {
-    LockON(session);
-    Overplot(session, Onto::PageOnScreen);
-  }
+  RunInputs(session, Onto::PageOnScreen);
   s.PlotMode = 1;
   EndCommand(session);
   s.Busy = 0;

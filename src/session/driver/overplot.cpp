@@ -6,7 +6,6 @@
 #include "runs/run.h"
 #include "session/driver/keep_results.h"
 #include "session/driver/progress.h"
-#include "session/driver/read_run.h"
 #include "session/info.h"
 #include "session/page.h"
 
@@ -47,13 +46,11 @@ void Tell(Session& session, const Refusal& refusal) {
 
 }  // namespace
 
-void Overplot(Session& session, Onto onto) {
+void Overplot(Session& session, const RunRequest& request, Onto onto) {
   auto& s = session.state;
-  auto request = ReadRun(session);
-  if (!request) return;
   SessionWatch watch(session);
   ShowRunning(session);
-  RunEnd end = Run(*request, watch, session.platform.Threads());
+  RunEnd end = Run(request, watch, session.platform.Threads());
   s.PlotMode = onto == Onto::PageOnScreen ? 2 : 1;
   EndProgress(session);
   if (end.hasResults)

@@ -5,10 +5,9 @@
 
 namespace lumivex {
 
-/// The run itself, New plot's and Overplot's: reads the inputs into a request, runs it, and keeps and shows what comes
-/// of it. A fresh page takes its limits from the inputs, the page on the screen keeps its own. A run that is refused
-/// leaves the old results and drawing; a stopped one stores what was done, for Replot to draw. PlotMode is 1 at the
-/// end.
-void Overplot(Session& session, Onto onto);
+/// The run itself, New plot's and Overplot's: runs the request and keeps and shows what comes of it. A fresh page takes
+/// its limits from the inputs, the page on the screen keeps its own. A run that is refused leaves the old results and
+/// drawing; a stopped one stores what was done, for Replot to draw. PlotMode is 1 at the end.
+void Overplot(Session& session, const RunRequest& request, Onto onto);
 
 }  // namespace lumivex

@@ -1,7 +1,6 @@
 #include "session/inputs/two_angle_inputs.h"
 
 #include <algorithm>
-#include <cmath>
 #include <initializer_list>
 #include <string_view>
 
@@ -15,7 +14,6 @@ namespace lumivex {
 namespace {
 
 constexpr double largestIndex = 1000, largestRadius = 1e9;
-constexpr double twoPi = 6.28318530717958648;
 
 bool RefuseAll(Session& session, std::initializer_list<Control*> marked, std::string_view text) {
   for (Control* control : marked) control->BackColour = colours::BadInput;
@@ -104,16 +102,6 @@ void mnuTwoAngle_Click(Session& session) {
 
 void dlogTwoAngle_OKButton_Click(Session& session) {
   ReadTwoAngleInputs(session);
-}
-
-double TwoAnglePairTerms(const Session& session) {
-  const auto& d = session.forms.dlogTwoAngle;
-  const double curves = (Val(d.txtRImax.Text) - Val(d.txtRImin.Text)) / Val(d.txtRIstep.Text) + 1;
-  const double rows = (Val(d.txtRmax.Text) - Val(d.txtRmin.Text)) / Val(d.txtRstep.Text) + 1;
-  const double meanSize = twoPi * (Val(d.txtRmin.Text) + Val(d.txtRmax.Text)) / 2 / Val(session.form1.txtLambda.Text);
-  constexpr double pairs = 900, margin = 20;
-  const double work = curves * rows * pairs * (meanSize + 4 * std::cbrt(std::max(meanSize, 0.0)) + margin);
-  return std::isfinite(work) && curves >= 1 && rows >= 1 ? work : 0;
 }
 
 }  // namespace lumivex

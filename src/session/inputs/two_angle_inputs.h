@@ -30,8 +30,4 @@ void mnuTwoAngle_Click(Session& session);
 /// OK of the dialog holds the inputs against their limits.
 void dlogTwoAngle_OKButton_Click(Session& session);
 
-/// Terms times pairs of angles that the chart asks for: what the time of its calculation goes by. 0 where its inputs
-/// cannot be used; tells nothing.
-double TwoAnglePairTerms(const Session& session);
-
 }  // namespace lumivex

@@ -1,0 +1,145 @@
+#include "runs/work.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "runs/families.h"
+#include "runs/run.h"
+#include "solvers/angles/angle_cosines.h"
+#include "solvers/angles/angle_window.h"
+#include "solvers/series/mie_coefficients.h"
+
+namespace lumivex {
+
+namespace {
+
+// What a term costs beside its angles, in pairs of angles (measured at x = 1000 and 10000).
+constexpr double mieTerm = 80;
+constexpr double mieTermInLanes = 15;  // points of an axis, side by side in vector lanes
+constexpr double debyeTerm = 250;
+constexpr double debyeTermOfEachRay = 10;
+constexpr double ratioTerm = 100;  // times x: continued fractions of an absorbing sphere
+
+/// Most settings, and most sizes of a cloud, that are looked at one by one.
+constexpr int mostLooks = 100;
+
+/// Sums f(1) to f(count); of more than mostLooks some, evenly spread, stand for the others.
+template <class Function>
+double SumOver(int count, const Function& f) {
+  const int looks = std::min(count, mostLooks);
+  double sum = 0;
+  for (int i = 0; i < looks; ++i) sum += f(1 + static_cast<int>((i + 0.5) * count / looks));
+  return looks > 0 ? sum * count / looks : 0;
+}
+
+double PairsOf(const AngleGrid& grid, RowWindow window) {
+  const RowWindow folded = AngleCosines::Folded(grid, window);
+  return folded.Empty() ? 0 : folded.high - folded.low + 1;
+}
+
+double RaysOf(const MethodOptions& options) {
+  return static_cast<double>(std::ranges::count_if(options.rays, [](int p) { return p != 0; }));
+}
+
+/// One sphere over so many pairs of angles.
+double SphereWork(const MethodOptions& options, const Setting& setting, double x, double pairs) {
+  const double terms = NStopEstimate(x);
+  const double mie = terms * (pairs + mieTerm);
+  if (options.method == Method::Mie) return mie;
+  if (options.method != Method::Debye) return 0;
+  const double fractions = options.byRatio && setting.mIm != 0 ? ratioTerm * x : 0;
+  const double debye = terms * (pairs + debyeTerm + debyeTermOfEachRay * RaysOf(options) + fractions);
+  return options.difference == Difference::MieLessDebye ? debye + mie : debye;
+}
+
+/// A sphere, or the cloud about it.
+double SettingWork(const RunRequest& request, const MethodOptions& options, const Setting& setting, double pairs) {
+  if (!request.Cloud()) return SphereWork(options, setting, setting.x, pairs);
+  const CloudSamples samples = SamplesOf(request.sizes, setting.radius);
+  return SumOver(samples.Count(), [&](int i) {
+    const double radius = samples.radius[static_cast<std::size_t>(i)];
+    const double x = SizeParameterOf(radius, setting.indices.MediumInUse(), setting.lambda);
+    return radius > 0 ? SphereWork(options, setting, x, pairs) : 0;
+  });
+}
+
+double WorkAt(const RunRequest& request, double lambda, double pairs) {
+  const SettingResult at = SettingAt(request, lambda);
+  return at.Good() ? SettingWork(request, request.method, at.setting, pairs) : 0;
+}
+
+double WorkOf(const RunRequest& request, const AngleRun& run) {
+  return WorkAt(request, request.light.lambda, PairsOf(AngleGrid(run.rows.NANG), run.rows.window));
+}
+
+double WorkOf(const RunRequest& request, const SpectrumRun& run) {
+  const double pairs = PairsOf(AngleGrid(run.rows.NANG), run.rows.window);
+  const SpectrumOfLight& light = *request.light.spectrum;
+  return SumOver(light.Count(),
+                 [&](int i) { return WorkAt(request, double{light.wavelength[static_cast<std::size_t>(i)]}, pairs); });
+}
+
+double WorkOf(const RunRequest& request, const AxisRun& run) {
+  const bool power = request.graph.quantity == Quantity::Power;
+  const bool lanes = request.method.method == Method::Mie && !power && !request.Cloud();
+  const PowerRows rows(run.range);
+  // In lanes the whole cost of a term, its one angle with it, takes the place of that of a sphere alone.
+  const double pairs = power ? PairsOf(rows.grid, rows.window) : lanes ? mieTermInLanes - mieTerm : 1;
+  const SettingResult base = SettingAt(request, request.light.lambda);
+  const double ratio = StepRatio(run);
+  return SumOver(run.points, [&](int point) {
+    const double position = AxisPosition(run, ratio, point);
+    const SettingResult at = SettingAtPoint(request, request.graph.axis, position, base.setting);
+    return at.Good() ? SettingWork(request, request.method, at.setting, pairs) : 0;
+  });
+}
+
+double WorkOf(const RunRequest& request, const ConvergenceRun&) {
+  // The sums go on beyond their stop.
+  return 1.2 * WorkAt(request, request.light.lambda, 1);
+}
+
+double WorkOf(const RunRequest& request, const DebyeAnalysisRun& run) {
+  const SettingResult at = SettingAt(request, request.light.lambda);
+  if (!at.Good()) return 0;
+  // Each term is a series of its own.
+  MethodOptions term = request.method;
+  term.method = Method::Debye;
+  term.difference = Difference::None;
+  term.rays = {1};
+  MethodOptions mie = term;
+  mie.method = Method::Mie;
+  return (run.limit + 1) * SphereWork(term, at.setting, at.setting.x, 1) + SphereWork(mie, at.setting, at.setting.x, 1);
+}
+
+double WorkOf(const RunRequest& request, const TwoAngleRun& run) {
+  const SettingResult at = SettingAt(request, request.light.lambda);
+  if (!at.Good()) return 0;
+  const AngleGrid grid(twoAngleRowsTo90);
+  const auto rowsOf = [&](double low, double high) {
+    constexpr double degree = AngleGridQuarterTurn / 90;
+    return RowsOfRange(grid, {low * degree, high * degree});
+  };
+  const RowWindow a = rowsOf(run.angle1Min, run.angle1Max), b = rowsOf(run.angle2Min, run.angle2Max);
+  const double pairs = PairsOf(grid, {std::min(a.low, b.low), std::max(a.high, b.high)});
+  MethodOptions mie = request.method;
+  mie.method = Method::Mie;
+  const double column = SumOver(static_cast<int>(run.radius.size()), [&](int row) {
+    const double radius = run.radius[static_cast<std::size_t>(row - 1)];
+    const double x = SizeParameterOf(radius, at.setting.indices.MediumInUse(), at.setting.lambda);
+    return SphereWork(mie, at.setting, x, pairs);
+  });
+  return column * static_cast<double>(run.index.size());
+}
+
+}  // namespace
+
+double PairTermsOf(const RunRequest& request) {
+  return std::visit([&](const auto& run) { return WorkOf(request, run); }, request.run);
+}
+
+int SizesOf(const RunRequest& request) {
+  return request.Cloud() ? std::max(SamplesOf(request.sizes, request.particle.radius).Count(), 1) : 1;
+}
+
+}  // namespace lumivex
