@@ -115,7 +115,7 @@ std::vector<TableColumn> TableOf(const Page& page) {
   if (page.phasors) return PhasorColumns(*page.phasors);
   if (page.kind.IsTwoAngle()) return TwoAngleColumns(page);
   std::vector<Column> columns;
-  const std::string xName(XTitleOf(page.kind.graph, page.kind.fourier));
+  const std::string xName(XTitleOf(page.kind.graph, {page.kind.fourier, page.kind.invWavelength}));
   std::vector<std::pair<const PageCurve*, RowSpan>> groups;
   for (const auto& first : page.curves) {
     const auto known = [&](const auto& group) { return SharesX(*group.first, first); };

@@ -96,7 +96,7 @@ bool CanZoom(const Page& page) {
 }
 
 std::string_view XUnit(const PageKind& kind) {
-  return kind.fourier ? "" : XUnitOf(kind.graph);
+  return XUnitOf(kind.graph, {kind.fourier, kind.invWavelength});
 }
 
 std::string_view YUnit(const PageKind& kind, bool secondPanel) {

@@ -85,11 +85,11 @@ const char* WordsFor(SizeFailure failure) {
     case SizeFailure::NegativeRadius:
       return "Reduce standard deviation to avoid negative values of radius";
     case SizeFailure::NoFile:
-      return "Read a size distribution file first";
+      return "Size distribution: read a file first";
     case SizeFailure::BadGamma:
-      return "Shape and radius of the distribution must be positive";
+      return "Gamma distribution: shape and radius must be positive";
     case SizeFailure::BadModes:
-      return "A median radius must be positive, a spread above 1 and a fraction not negative";
+      return "Multimodal distribution: median radii must be positive, spreads above 1, fractions not negative";
     case SizeFailure::None:
       break;
   }

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace lumivex {
 
@@ -87,6 +88,35 @@ Pattern ReadPattern(std::string_view pattern) {
   return result;
 }
 
+/// Whether the whole text is one finite number with a point for its decimal mark.
+bool IsPlainNumber(std::string_view text) {
+  text = Trim(text);
+  if (!text.empty() && text.front() == '+') text.remove_prefix(1);
+  if (text.empty() || !(IsDigit(text.back()) || text.back() == '.')) return false;
+  double value = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  return error == std::errc{} && end == text.data() + text.size() && std::isfinite(value);
+}
+
+/// A text with one comma that would be a number with a point in its place.
+struct CommaNumber {
+  std::string withPoint;
+  std::size_t digitsBehind = 0;  ///< the comma
+};
+
+std::optional<CommaNumber> ReadComma(std::string_view text) {
+  const auto comma = text.find(',');
+  if (comma == std::string_view::npos) return std::nullopt;
+  CommaNumber number{std::string(text), 0};
+  number.withPoint[comma] = '.';
+  if (!IsPlainNumber(number.withPoint)) return std::nullopt;
+  while (comma + 1 + number.digitsBehind < text.size() && IsDigit(text[comma + 1 + number.digitsBehind]))
+    ++number.digitsBehind;
+  return number;
+}
+
+constexpr std::size_t digitsOfThousands = 3;
+
 }  // namespace
 
 std::string_view Trim(std::string_view text) {
@@ -96,6 +126,7 @@ std::string_view Trim(std::string_view text) {
 }
 
 double Val(std::string_view text) {
+  if (const auto withPoint = PointForComma(text)) return Val(*withPoint);
   std::string clean;
   bool point = false, digits = false;
   std::size_t i = 0;
@@ -137,12 +168,18 @@ double Val(std::string_view text) {
 }
 
 bool IsNumber(std::string_view text) {
-  text = Trim(text);
-  if (!text.empty() && text.front() == '+') text.remove_prefix(1);
-  if (text.empty() || !(IsDigit(text.back()) || text.back() == '.')) return false;
-  double value = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-  return error == std::errc{} && end == text.data() + text.size() && std::isfinite(value);
+  return IsPlainNumber(text) || PointForComma(text);
+}
+
+std::optional<std::string> PointForComma(std::string_view text) {
+  auto number = ReadComma(text);
+  if (!number || number->digitsBehind == digitsOfThousands) return std::nullopt;
+  return std::move(number->withPoint);
+}
+
+bool HasDoubtfulComma(std::string_view text) {
+  const auto number = ReadComma(text);
+  return number && number->digitsBehind == digitsOfThousands;
 }
 
 std::string Str(double value) {

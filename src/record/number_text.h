@@ -1,11 +1,16 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace lumivex {
 
 /// Numbers as text and back, the same in every locale: the point is the decimal symbol.
+///
+/// Users in half of the world type a comma for it. Val and IsNumber read one as the point where only that makes a
+/// number of the whole text ("0,65"). With exactly three digits behind it ("1,500") it may as well part thousands: such
+/// a text is no number, and whoever checks an input says so.
 
 /// The number that the text begins with: blanks are passed over, a sign, digits, a point and an exponent after e, E, d
 /// or D are taken; what follows is ignored. Text without a number gives 0, a number beyond the range of double the
@@ -14,6 +19,12 @@ double Val(std::string_view text);
 
 /// Whether the whole text (but for blanks around it) is one finite number.
 bool IsNumber(std::string_view text);
+
+/// The text with a point for its comma, where the comma can only be a decimal mark; nothing for every other text.
+std::optional<std::string> PointForComma(std::string_view text);
+
+/// Whether the text is a number but for a comma that may be a decimal mark or part thousands.
+bool HasDoubtfulComma(std::string_view text);
 
 /// A number as text with up to 15 significant digits, a leading blank in the sign's place when it is not negative, no
 /// zero before the point (" .5"), and an exponent (" 1.5E-07") below 0.0001 and from 1E15 up.

@@ -41,7 +41,7 @@ class Platform {
   /// Seconds since some moment, never running backward.
   virtual double Timer() = 0;
   virtual ScreenSize Screen() = 0;
-  /// The decimal symbol that the system is set to.
+  /// The decimal symbol that inputs must be typed with; the user is told of one that is not a point.
   virtual char DecimalSymbol() = 0;
   virtual void Beep() = 0;
   /// Opens the user guide at a page ("" for its start).

@@ -254,6 +254,8 @@ Curves CurvesOfFound(const Results& results, const CurveLook& look, const AxisFo
   const Graph& graph = results.asked.graph;
   Curves curves;
   curves.x = found.x;
+  if (look.invWavelength && graph.WavelengthAxis())
+    for (double& x : std::span(curves.x).subspan(1)) x = InverseWavelength(x);
   curves.lastRow = std::max(static_cast<int>(found.x.size()) - 1, 0);
   Size(curves, found.x.size(), notComputed);
   for (int point = 1; point <= std::min(found.done, curves.lastRow); ++point) {
@@ -313,6 +315,10 @@ Curves CurvesOfFound(const Results&, const CurveLook&, const TwoAngleFound&) {
 }
 
 }  // namespace
+
+double InverseWavelength(double nm) {
+  return 1000 / nm;
+}
 
 Curves CurvesOf(const Results& results, const CurveLook& look) {
   return std::visit([&](const auto& found) { return CurvesOfFound(results, look, found); }, results.found);

@@ -9,7 +9,7 @@ namespace lumivex {
 /// What of the results is drawn.
 struct CurveLook {
   bool amplitude = false;      ///< moduli in place of intensities
-  bool invWavelength = false;  ///< intensities freed of the square of the wave number
+  bool invWavelength = false;  ///< intensities freed of the square of the wave number, wavelengths as their inverse
 };
 
 /// The curves of results; first index 1. A value that was not calculated is not a number.
@@ -40,6 +40,9 @@ SpectrumSums SumsOf(const Results& results, const CurveLook& look);
 
 /// One wavelength of a spectrum (from 1), weighed as in the sums.
 Curves CurvesOfWavelength(const Results& results, const CurveLook& look, int wavelength);
+
+/// The inverse of a wavelength (nm) as an axis shows it: in 1/um.
+double InverseWavelength(double nm);
 
 /// The rows of an angle request; null for a family without.
 const AngleRows* RowsOf(const FamilyRun& run);

@@ -27,17 +27,30 @@ struct Sums {
   SphereSolution sphere;
 };
 
-Sums SumMie(const RunRequest& request, const Setting& setting, int row, RunMonitor& monitor) {
+struct Point {
+  double angle;  ///< radians
+  int row;       ///< of the grid, the nearest
+};
+
+/// Amplitudes at exactly the angle asked for, in the place of the row nearest to it.
+void SumAtAngle(ConvergenceFound& found, const Point& at, double scale, RunMonitor& monitor) {
+  AmplitudeTable S1(1), S2(1);
+  if (SumAngularSeries(found.waves, std::span(&at.angle, 1), S1, S2, monitor) != 1) return;
+  found.S1.Set(at.row, scale * S1.Re(1), scale * S1.Im(1));
+  found.S2.Set(at.row, scale * S2.Re(1), scale * S2.Im(1));
+}
+
+Sums SumMie(const RunRequest& request, const Setting& setting, const Point& at, RunMonitor& monitor) {
   MieRequest asked;
   asked.x = setting.x;
   asked.mRe = setting.mRe;
   asked.mIm = setting.mIm;
   asked.NANG = tenthsTo90;
-  asked.window = {row, row};
+  asked.window = {at.row, at.row};
   asked.divideBySize = request.method.divideBySize;
   asked.classicStart = request.method.classicStart;
   asked.convergence = true;
-  asked.selectedAngleIndex = row;
+  asked.convergenceAngle = at.angle;
   MieResult result = SolveMie(asked, monitor);
   Sums sums;
   if (result.refusal != MieRefusal::None) {
@@ -50,13 +63,14 @@ Sums SumMie(const RunRequest& request, const Setting& setting, int row, RunMonit
                 std::move(result.S1),
                 std::move(result.S2),
                 std::move(result.waves)};
+  SumAtAngle(sums.found, at, request.method.divideBySize ? 1 / setting.x : 1, monitor);
   sums.sphere.efficiencies = result.efficiencies;
   sums.sphere.NSTOP = result.truncation.NSTOP;
   sums.sphere.NMX = result.truncation.NMX;
   return sums;
 }
 
-Sums SumDebye(const RunRequest& request, const Setting& setting, int row, RunMonitor& monitor) {
+Sums SumDebye(const RunRequest& request, const Setting& setting, const Point& at, RunMonitor& monitor) {
   Sums sums;
   if (std::ranges::none_of(request.method.rays, [](int p) { return p != 0; })) {
     sums.refusal = NoRays();
@@ -67,7 +81,7 @@ Sums SumDebye(const RunRequest& request, const Setting& setting, int row, RunMon
   asked.mRe = setting.mRe;
   asked.mIm = setting.mIm;
   asked.NANG = tenthsTo90;
-  asked.window = {row, row};
+  asked.window = {at.row, at.row};
   asked.selected = request.method.rays;
   asked.byRatio = request.method.byRatio;
   asked.convergence = true;
@@ -93,6 +107,7 @@ Sums SumDebye(const RunRequest& request, const Setting& setting, int row, RunMon
                 std::move(result.S1),
                 std::move(result.S2),
                 std::move(result.waves)};
+  SumAtAngle(sums.found, at, 1, monitor);
   return sums;
 }
 
@@ -101,13 +116,14 @@ Sums SumDebye(const RunRequest& request, const Setting& setting, int row, RunMon
 FamilyEnd RunConvergence(const RunRequest& request, const ConvergenceRun& run, TaskPool& pool, Results& results) {
   const SettingResult at = SettingAt(request, request.light.lambda);
   if (!at.Good()) return {false, at.refusal};
-  const int row = std::clamp(static_cast<int>(std::nearbyint(run.angle * 10)) + 1, 1, 2 * tenthsTo90 - 1);
+  const Point point{run.angle * pi / 180,
+                    std::clamp(static_cast<int>(std::nearbyint(run.angle * 10)) + 1, 1, 2 * tenthsTo90 - 1)};
   Sums sums;
   TaskList one;
   one.count = 1;
   one.work = [&](std::size_t, std::size_t, RunMonitor& monitor) {
-    sums = request.method.method == Method::Debye ? SumDebye(request, at.setting, row, monitor)
-                                                  : SumMie(request, at.setting, row, monitor);
+    sums = request.method.method == Method::Debye ? SumDebye(request, at.setting, point, monitor)
+                                                  : SumMie(request, at.setting, point, monitor);
     return monitor.Report(1, 1) && sums.refusal.text.empty();
   };
   one.take = [](std::size_t, std::size_t) { return true; };
@@ -115,7 +131,7 @@ FamilyEnd RunConvergence(const RunRequest& request, const ConvergenceRun& run, T
   TellSetting(at.setting, results.last);
   TellSphere(sums.sphere, results.last);
   results.last.NANG = tenthsTo90;
-  results.last.selectedRow = row;
+  results.last.selectedRow = point.row;
   results.found = std::move(sums.found);
   return {true, {}};
 }

@@ -1,6 +1,7 @@
 #include "session/info.h"
 
 #include "pages/run_words.h"
+#include "session/checks/material_bands.h"
 #include "session/driver/progress.h"
 
 namespace lumivex {
@@ -38,6 +39,8 @@ std::string StatusText(const Session& session) {
     const std::string left = TimeLeftWords(s.SecondsLeft);
     return session.form1.txtProgress.Text + (left.empty() ? "" : "   " + left);
   }
+  // Some graphs start with a range that is wider than the band of common materials.
+  if (std::string wayOut = WayOutOfBand(session); !wayOut.empty()) return wayOut;
   if (!s.LastResults) return "Ready";
   return RunInShort(*s.LastResults) + (s.StopAnswer != 0 ? ", stopped: Replot draws what was done" : "");
 }

@@ -14,7 +14,8 @@ std::vector<std::string> RunParameters(const Session& session);
 /// Shows the parameters of the run in Frame6, or hides them.
 void cmdInfo_Click(Session& session);
 
-/// What the status line tells: method, terms and time of the last run, or how far the present one is.
+/// What the status line tells: how far the present run is; between runs the wavelengths that would work, where the
+/// chosen axis goes beyond those of a material; otherwise method, terms and time of the last run.
 std::string StatusText(const Session& session);
 
 }  // namespace lumivex

@@ -247,7 +247,11 @@ void cmdDefault_Click(Session& session) {
   session.forms.dlogSpectrumBand.txtSpectrumMin.Text = "380";
   session.forms.dlogSpectrumBand.txtSpectrumMax.Text = "700";
   session.events.Raise("mnuSpectrumBand_Click");
-  session.forms.dlogTemp.txtTemp.Text = "5";
+  auto& forms = session.forms;
+  for (CheckBox* box :
+       {&forms.dlogTemp.chkRI_Complex, &forms.dlogSegelstein.chkRI_Complex, &forms.dlogRay.chkRI_Complex})
+    box->Checked = true;
+  forms.dlogTemp.txtTemp.Text = "5";
   session.events.Raise("dlogTemp.txtTemp_Change");
   f.cboWave.Text = "1";
   f.txtLambda.Text = "0.65";

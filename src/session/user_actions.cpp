@@ -14,6 +14,11 @@ bool Takes(const Control& control) {
   return control.Visible && control.Enabled;
 }
 
+/// The mark of a bad input belongs to what stood there.
+void TakeMarkOff(Control& control) {
+  if (control.BackColour == colours::BadInput) control.BackColour = colours::White;
+}
+
 }  // namespace
 
 std::string EventName(const Control& control, std::string_view event) {
@@ -29,6 +34,7 @@ bool UserTypes(Session& session, Control& control, std::string_view text) {
   RememberInputs(session, EventName(control, "Change"));
   const ActionScope acting(session.undo);
   *field = text;
+  TakeMarkOff(control);
   if (!session.events.Raise(EventName(control, "Change"))) session.events.Raise(EventName(control, "Click"));
   return true;
 }
@@ -38,6 +44,7 @@ bool UserChooses(Session& session, SelectionList& list, std::string_view item) {
   RememberInputs(session, "");
   const ActionScope acting(session.undo);
   list.Text = item;
+  TakeMarkOff(list);
   if (!session.events.Raise(EventName(list, "Click"))) session.events.Raise(EventName(list, "Change"));
   return true;
 }

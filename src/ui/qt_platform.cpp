@@ -4,7 +4,6 @@
 #include <QClipboard>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QLocale>
 #include <QMessageBox>
 #include <QRegularExpression>
 #include <QScreen>
@@ -21,6 +20,8 @@ QtPlatform::QtPlatform(CommandGate& gate) : gate_(gate) {
 QtPlatform::~QtPlatform() = default;
 
 void QtPlatform::Message(std::string_view title, std::string_view text) {
+  // What the message is about is marked on the screen while it is read.
+  if (gate_.refresh) gate_.refresh();
   QMessageBox box(QMessageBox::Warning, ToQString(title), ToQString(text), QMessageBox::Ok, window);
   box.setTextFormat(Qt::PlainText);
   box.exec();
@@ -73,11 +74,6 @@ ScreenSize QtPlatform::Screen() {
   if (!screen || QGuiApplication::platformName() == "offscreen") return {1920, 1080};
   const QSizeF dots = QSizeF(screen->size()) * screen->devicePixelRatio();
   return {qRound(dots.width()), qRound(dots.height())};
-}
-
-char QtPlatform::DecimalSymbol() {
-  const QString symbol = QLocale::system().decimalPoint();
-  return symbol.isEmpty() ? '.' : symbol.at(0).toLatin1();
 }
 
 void QtPlatform::Beep() {

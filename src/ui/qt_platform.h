@@ -27,7 +27,8 @@ class QtPlatform final : public Platform {
   void Yield() override;
   double Timer() override;
   ScreenSize Screen() override;
-  char DecimalSymbol() override;
+  /// The window takes a decimal comma for a point, so that no setting of the system stands in the way of its inputs.
+  char DecimalSymbol() override { return '.'; }
   void Beep() override;
   void Help(std::string_view page) override;
   void BringToFront(Form& form) override;

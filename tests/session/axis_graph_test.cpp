@@ -221,7 +221,8 @@ TEST_F(AxisGraphs, DebyeAnalysisTakesTheTermsAwayOneByOne) {
   EXPECT_EQ(Get("cboRays"), "2");
   // The last remainder is Mie less the sum of all terms, as the difference of the two series gives it.
   const ComplexD left = found.dots1.Value(14), all = found.dots1.Value(1);
-  Do("choose cboGraph Intensity v. radius\nset cboRays -12\nset txtXmin 10\nset txtXmax 12\nset cboStep 0.5\nclick "
+  Do("choose cboGraph Intensity v. radius\nset txtRefractImag 0\nset cboRays -12\nset txtXmin 10\nset txtXmax 12\nset "
+     "cboStep 0.5\nclick "
      "cmdNewPlot");
   EXPECT_NEAR(s.S1ofPoint.Re(1), all.re - left.re, 1e-9 * std::abs(all.re));
   Do("click mnuMieDebye\nclick cmdNewPlot");

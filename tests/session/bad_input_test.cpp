@@ -17,7 +17,8 @@ struct InputCase {
 const InputCase inputCases[] = {
     {"txtRadius", "", "    The red highlighted data entry is incorrect.    "},
     {"txtRadius", "ten", "    The red highlighted data entry is incorrect.    "},
-    {"txtRadius", "1,5", "    The red highlighted data entry is incorrect.    "},
+    {"txtRadius", "1,500", "Radius (\u00B5m): use a point as the decimal mark, and nothing between thousands"},
+    {"txtRadius", "1,5,0", "    The red highlighted data entry is incorrect.    "},
     {"txtRadius", "nan", "    The red highlighted data entry is incorrect.    "},
     {"txtRadius", "1e999", "    The red highlighted data entry is incorrect.    "},
     {"txtRadius", "-1", "Value must be positive"},

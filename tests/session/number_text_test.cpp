@@ -13,16 +13,19 @@ TEST(NumberText, ValTakesTheNumberThatATextBeginsWith) {
     double value;
   };
   for (const auto& c : {Case{"", 0}, Case{"abc", 0}, Case{"12abc", 12}, Case{"  -1.5e3 um", -1500}, Case{"+.5", 0.5},
-                        Case{"1,25", 1}, Case{"1e", 1}, Case{"1e+2", 100}, Case{"2d3", 2000}, Case{"1 000", 1000},
-                        Case{"1.2.3", 1.2}, Case{"-", 0}, Case{"nan", 0}, Case{"inf", 0}, Case{"1e-999", 0}})
+                        Case{"1,25", 1.25}, Case{"-,5e1", -5}, Case{"1,250", 1}, Case{"1,2,3", 1}, Case{"1,5 um", 1},
+                        Case{"1e", 1}, Case{"1e+2", 100}, Case{"2d3", 2000}, Case{"1 000", 1000}, Case{"1.2.3", 1.2},
+                        Case{"-", 0}, Case{"nan", 0}, Case{"inf", 0}, Case{"1e-999", 0}})
     EXPECT_DOUBLE_EQ(Val(c.text), c.value) << '"' << c.text << '"';
   EXPECT_EQ(Val("1e999"), std::numeric_limits<double>::max());
   EXPECT_EQ(Val("-1e999"), -std::numeric_limits<double>::max());
 }
 
 TEST(NumberText, IsNumberRefusesWhatValWouldGuessAt) {
-  for (const char* good : {"0", " 1.5 ", "+2", "-3e-4", "5."}) EXPECT_TRUE(IsNumber(good)) << good;
-  for (const char* bad : {"", " ", "1,5", "1e", "abc", "12abc", "nan", "inf", "1e999", "--1", "0x10"})
+  for (const char* good : {"0", " 1.5 ", "+2", "-3e-4", "5.", "1,5", "0,6500", "2,"})
+    EXPECT_TRUE(IsNumber(good)) << good;
+  for (const char* bad :
+       {"", " ", "1,500", "1.5,2", "1,2,3", ",", "1e", "abc", "12abc", "nan", "inf", "1e999", "--1", "0x10"})
     EXPECT_FALSE(IsNumber(bad)) << bad;
 }
 

@@ -4,6 +4,7 @@
 
 #include <functional>
 
+#include "session/inputs/graph_types.h"
 #include "session/session_fixture.h"
 
 namespace lumivex {
@@ -350,6 +351,7 @@ TEST_F(RangeRules, EachMarksTitlesTellsAndEndsOrGoesOn) {
     runner.World().messages.clear();
     Session& session = runner.Current();
     c.provoke(session);
+    ShowFamilyInputs(session);
     double Xmin = 0, Xmax = 0, Ymin = 0, Ymax = 0;
     int abort = 0;
     RangeCheck(session, Xmin, Xmax, Ymin, Ymax, abort);

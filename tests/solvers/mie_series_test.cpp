@@ -81,7 +81,7 @@ TEST(MieSeries, ConvergenceSeriesEndsAtTheSum) {
   for (const int row : {1, 4, 19, 30, 37}) {
     MieRequest request = Request(25.0, 1.33, 0.0, 19);
     request.convergence = true;
-    request.selectedAngleIndex = row;
+    request.convergenceAngle = AngleGrid(19).Angle(row);
     const MieResult result = SolveMie(request, monitor);
     const ConvergenceSeries& series = result.convergence;
     const auto last = static_cast<std::size_t>(result.truncation.NSTOP);

@@ -93,6 +93,15 @@ TEST_F(PanelTest, MarksShowOnTheFieldAndReadInEveryPalette) {
   EXPECT_EQ(WidgetOf(Form().txtRadius)->palette().color(QPalette::Base), plain);
 }
 
+TEST_F(PanelTest, TheMarkIsOnTheScreenWhileItsMessageIsRead) {
+  bool marked = false;
+  whileMessage = [&] { marked = WidgetOf(Form().txtRadius)->accessibleDescription().contains("not accepted"); };
+  Type(Form().txtRadius, "x");
+  Press(Form().txtRadius, Qt::Key_Return);
+  ASSERT_EQ(messages.size(), 1U);
+  EXPECT_TRUE(marked);
+}
+
 TEST_F(PanelTest, OptionsListsAndWidgetsFollowTheRecordBothWays) {
   Click(Form().optLinear);
   EXPECT_TRUE(Form().optLinear.Checked);

@@ -62,6 +62,7 @@ class WindowTest : public testing::Test {
   std::vector<std::function<void(QDialog&)>> dialogs;
   std::vector<std::string> messages;  ///< "title: text" of every message and question
   QMessageBox::StandardButton answer = QMessageBox::Yes;
+  std::function<void()> whileMessage;  ///< looks at the window before a message is put away
 
   WindowedSession program;
 
@@ -70,6 +71,7 @@ class WindowTest : public testing::Test {
     QWidget* modal = QApplication::activeModalWidget();
     if (auto* box = qobject_cast<QMessageBox*>(modal)) {
       messages.push_back((box->windowTitle() + ": " + box->text()).toStdString());
+      if (whileMessage) whileMessage();
       QAbstractButton* button = box->button(answer);
       (button ? button : box->button(QMessageBox::Ok))->click();
     } else if (auto* dialog = qobject_cast<QDialog*>(modal); dialog && !dialogs.empty()) {

@@ -134,6 +134,26 @@ void DrawLowerPanel(Page& page, const RunToDraw& run, const Curves& curves) {
       Plot(page, run, curves.x, curves.extra1, {lowerPanel, perpendicularKind}, PenColours(run).first));
 }
 
+bool InvertsX(const PageKind& kind) {
+  return kind.invWavelength && kind.graph.WavelengthAxis();
+}
+
+/// The limits of the axis, which are typed as wavelengths.
+XRange RangeOfX(const PageKind& kind, XRange typed) {
+  if (!InvertsX(kind)) return typed;
+  return {InverseWavelength(typed.xmax), InverseWavelength(typed.xmin)};
+}
+
+/// Curves whose x rises from point to point, as zooms and steps along them expect: of inverse wavelengths the last
+/// comes first.
+Curves Rising(const PageKind& kind, Curves curves) {
+  if (!InvertsX(kind)) return curves;
+  for (auto* list : {&curves.x, &curves.perpendicular, &curves.parallel, &curves.unpolarised, &curves.extra1,
+                     &curves.extra2, &curves.extra3})
+    if (!list->empty()) std::reverse(list->begin() + 1, list->end());
+  return curves;
+}
+
 }  // namespace
 
 PageKind KindOf(const RunToDraw& run) {
@@ -163,7 +183,8 @@ PageKind KindOf(const RunToDraw& run) {
   return kind;
 }
 
-void Display(Page& page, const RunToDraw& run, const Curves& curves) {
+void Display(Page& page, const RunToDraw& run, const Curves& found) {
+  const Curves curves = Rising(page.kind, found);
   const bool twoPanels = page.kind.second != SecondPanel::None && !page.kind.polar;
   if (page.panels.empty())
     DrawFrame(page, run, twoPanels ? PanelPlace::Upper : PanelPlace::Whole, curves.x, curves.perpendicular,
@@ -206,7 +227,8 @@ PageCurve Plot(const Page& page, const RunToDraw& run, std::span<const double> x
 void DrawFrame(Page& page, const RunToDraw& run, PanelPlace place, std::span<const double> x,
                std::span<const double> first, std::span<const double> second) {
   const ScaleLook& scale = run.look.scale;
-  const RowSpan rows = RowsWithin(x, scale.x);
+  const XRange range = RangeOfX(page.kind, scale.x);
+  const RowSpan rows = RowsWithin(x, range);
   constexpr double noBottom = 1e30;
   double top = 0, bottom1 = noBottom, bottom2 = 10 * noBottom;
   for (std::size_t i = rows.first; i <= rows.last; ++i) {
@@ -216,7 +238,7 @@ void DrawFrame(Page& page, const RunToDraw& run, PanelPlace place, std::span<con
     if (!scale.ymin && std::isfinite(a)) bottom1 = AMIN(bottom1, a);
     if (!scale.ymin && std::isfinite(b)) bottom2 = AMIN(bottom2, b);
   }
-  AxisLimits limits{scale.x.xmin, scale.x.xmax, 0, 1};
+  AxisLimits limits{range.xmin, range.xmax, 0, 1};
   page.autoTop = top;
   limits.ymax = GridYmax(scale, page.autoTop, page.scale);
   page.autoBottom = AMIN(bottom1, bottom2);

@@ -44,7 +44,8 @@ void PaintXTitle(FramePaint& paint) {
   auto& surface = paint.surface;
   const auto& box = paint.Box();
   const PageKind& kind = paint.kind;
-  const std::string_view title = kind.IsTwoAngle() ? kind.xTitle : XTitleOf(kind.graph, kind.fourier);
+  const std::string_view title =
+      kind.IsTwoAngle() ? kind.xTitle : XTitleOf(kind.graph, {kind.fourier, kind.invWavelength});
   // Larger numbers reach further down.
   const double belowNumbers = std::max(150.0, 0.5 * surface.TextHeight("X") + 4) + surface.TextHeight("X");
   const double y = box.bottom + std::max(paint.style.special ? 450.0 : 350.0, belowNumbers);

@@ -1,6 +1,7 @@
 #include "pages/items/readings.h"
 
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -67,16 +68,40 @@ void AddSpectrum(const Results& results, const SpectrumFound& found, Lines& line
   Add(lines, WavelengthWords(light, falling ? count : 1) + " to " + WavelengthWords(light, falling ? 1 : count));
 }
 
-/// Intensities straight forward and straight back, of the sphere even where the graph leaves those rows out.
-void AddEndIntensities(const Results& results, const PartialWaves& waves, Lines& lines) {
-  if (waves.Terms() < 1) return;
-  const double x = results.last.sizeParameter;
+/// Mean of |S1|^2 and |S2|^2.
+double MeanIntensity(const ComplexD& S1, const ComplexD& S2) {
+  return (S1.re * S1.re + S1.im * S1.im + S2.re * S2.re + S2.im * S2.im) / 2;
+}
+
+/// What is told of the intensities straight forward and straight back.
+struct EndIntensities {
+  std::optional<double> forward, backward;
+};
+
+/// Those of a series.
+EndIntensities EndsOf(const Results& results, const PartialWaves& waves) {
+  if (waves.Terms() < 1) return {};
   const bool divided = results.asked.method.method == Method::Mie && results.asked.method.divideBySize;
-  const double scale = divided ? x : 1;
-  const auto intensity = [scale](const ComplexD& S) { return (S.re * S.re + S.im * S.im) / (scale * scale); };
-  Add(lines, "  0 deg: " + Format(intensity(ForwardAmplitude(waves)), "scientific"));
-  Add(lines, "  180 deg: " + Format(intensity(BackwardAmplitude(waves)), "scientific"));
-  Add(lines, "X = " + Format(x, "#,##0.######"));
+  const double scale = divided ? results.last.sizeParameter * results.last.sizeParameter : 1;
+  const ComplexD forward = ForwardAmplitude(waves), backward = BackwardAmplitude(waves);
+  return {MeanIntensity(forward, forward) / scale, MeanIntensity(backward, backward) / scale};
+}
+
+/// Those of the rows on show. Rows that the graph leaves out are the series' own, unless another field was taken away.
+EndIntensities EndsOf(const Results& results, const AngleFound& found) {
+  EndIntensities ends;
+  if (results.asked.method.difference == Difference::None) ends = EndsOf(results, found.waves);
+  const auto shown = [&](int row) { return MeanIntensity(found.S1.Value(row), found.S2.Value(row)); };
+  const int last = 2 * RowsOf(results.asked.run)->NANG - 1;
+  if (found.rows.Contains(1)) ends.forward = shown(1);
+  if (found.rows.Contains(last)) ends.backward = shown(last);
+  return ends;
+}
+
+void AddEndIntensities(const Results& results, const EndIntensities& ends, Lines& lines) {
+  if (ends.forward) Add(lines, "  0 deg: " + Format(*ends.forward, "scientific"));
+  if (ends.backward) Add(lines, "  180 deg: " + Format(*ends.backward, "scientific"));
+  Add(lines, "X = " + Format(results.last.sizeParameter, "#,##0.######"));
 }
 
 bool HasEfficiencies(const MethodOptions& method) {
@@ -101,8 +126,11 @@ std::vector<PageLine> VisibleData(const Results& results) {
     Add(lines, "Scattered power = " + Significant(curves.scatteredPower, digitsShown) + " W");
     Add(lines, "Backscattered power = " + Significant(curves.backscatteredPower, digitsShown) + " W");
   }
-  if (const auto* found = results.Find<AngleFound>()) AddEndIntensities(results, found->waves, lines);
-  if (const auto* found = results.Find<TwoAngleFound>()) AddEndIntensities(results, found->waves, lines);
+  // A cloud has no size parameter, and its distribution stands below the efficiencies.
+  if (const auto* found = results.Find<AngleFound>(); found != nullptr && !asked.Cloud())
+    AddEndIntensities(results, EndsOf(results, *found), lines);
+  if (const auto* found = results.Find<TwoAngleFound>())
+    AddEndIntensities(results, EndsOf(results, found->waves), lines);
   return lines;
 }
 

@@ -182,13 +182,14 @@ AxisCaptions CaptionsOf(const Graph& graph) {
   return {text.frame, text.unit};
 }
 
-std::string_view XTitleOf(const Graph& graph, bool fourier) {
+std::string_view XTitleOf(const Graph& graph, XAxisChange change) {
   const AxisText& text = TextOf(graph.axis);
+  if (change.invWavelength && !change.fourier && graph.WavelengthAxis()) return "Inverse wavelength (1/\u00B5m)";
   const bool spectrum = graph.AgainstAngle() || graph.quantity == Quantity::Intensity ||
                         graph.quantity == Quantity::ScatteringMatrix ||
                         (graph.axis == AxisVariable::Wavelength && graph.OfEfficiencies() &&
                          graph.quantity != Quantity::Asymmetry && graph.quantity != Quantity::Albedo);
-  return fourier && spectrum ? text.frequencyTitle : text.title;
+  return change.fourier && spectrum ? text.frequencyTitle : text.title;
 }
 
 std::string_view YTitleOf(const Graph& graph, bool amplitude) {
@@ -220,7 +221,9 @@ std::string_view SecondTitleOf(bool phases) {
   return phases ? "Phase angle" : "Degree of linear polarisation";
 }
 
-std::string_view XUnitOf(const Graph& graph) {
+std::string_view XUnitOf(const Graph& graph, XAxisChange change) {
+  if (change.fourier) return "";
+  if (change.invWavelength && graph.WavelengthAxis()) return "1/\u00B5m";
   return TextOf(graph.axis).unit;
 }
 

@@ -42,9 +42,14 @@ struct AxisCaptions {
 };
 AxisCaptions CaptionsOf(const Graph& graph);
 
-/// Title of the horizontal axis; of frequencies, where the graph has been Fourier transformed and has a word for them.
-/// Empty for a graph whose title names its ranges.
-std::string_view XTitleOf(const Graph& graph, bool fourier);
+/// How the horizontal axis of a page differs from that of its run.
+struct XAxisChange {
+  bool fourier = false;        ///< frequencies, where the graph has a word for them
+  bool invWavelength = false;  ///< wavelengths stand as their inverse, in 1/\u00B5m
+};
+
+/// Title of the horizontal axis. Empty for a graph whose title names its ranges.
+std::string_view XTitleOf(const Graph& graph, XAxisChange change);
 
 /// Title of the vertical axis: " Intensity", "Albedo"; empty for a graph that has none, or one that is not plain text.
 /// @param amplitude  moduli are shown.
@@ -54,7 +59,7 @@ std::string_view YTitleOf(const Graph& graph, bool amplitude);
 std::string_view SecondTitleOf(bool phases);
 
 /// Units of the axes as the read-out prints them: "deg", "nm", "\u00B5m" or empty for numbers; "sq m", "W" or empty.
-std::string_view XUnitOf(const Graph& graph);
+std::string_view XUnitOf(const Graph& graph, XAxisChange change = {});
 std::string_view YUnitOf(const Graph& graph);
 
 /// The three curves of a graph.

@@ -21,7 +21,13 @@ constexpr double mostSteps = 18000, largestShareOfRange = 0.45;
 
 struct AxisWords {
   std::string_view order, positive;
+  std::string_view tooFine = "Select a larger step size";  ///< of equal steps
 };
+
+/// Whether the axis has steps that the user gives; terms of a series have none.
+bool HasSteps(const Graph& graph) {
+  return graph.family == Family::Axis || graph.family == Family::EfficiencyPulse;
+}
 
 /// Minimum below maximum, above 0, and a number of steps that can be drawn.
 Verdict CheckAxis(Check& check, const AxisWords& words) {
@@ -35,7 +41,7 @@ Verdict CheckAxis(Check& check, const AxisWords& words) {
     return Verdict::GoOn;
   }
   if (step <= 0) return Refuse(check, {&form.cboStep}, "Step size must be greater than zero");
-  if ((high - low) / step > mostSteps) return Refuse(check, {&form.cboStep}, "Select a larger step size");
+  if ((high - low) / step > mostSteps) return Refuse(check, {&form.cboStep}, words.tooFine);
   if (step > largestShareOfRange * (high - low)) return Refuse(check, {&form.cboStep}, "Select a smaller step size");
   return Verdict::GoOn;
 }
@@ -44,7 +50,8 @@ Verdict CheckAxis(Check& check, const AxisWords& words) {
 
 Verdict LogarithmicSteps(Check& check) {
   auto& list = check.form.cboStep;
-  if (!check.form.mnuXStepLog.Checked || !IsAxisGraph(check.state) || Val(list.Text) > 1) return Verdict::GoOn;
+  const bool steps = check.form.mnuXStepLog.Checked && HasSteps(ChosenGraph(check.state));
+  if (!steps || Val(list.Text) > 1) return Verdict::GoOn;
   return Refuse(check, {&list}, "Number of steps must be 1 or more");
 }
 
@@ -101,38 +108,40 @@ bool MethodNumbers(Check& check) {
 
 }  // namespace
 
+Verdict DecimalCommas(Check& check) {
+  for (Control* control : check.form.Controls())
+    if (control->Visible && !SettleComma(check.session, *control)) return Verdict::End;
+  return Verdict::GoOn;
+}
+
 Verdict NumericInputs(Check& check) {
   auto& form = check.form;
   auto& session = check.session;
   for (SelectionList* limit : {&form.cboYmax, &form.cboYmin})
     if (limit->Text != automaticLimit && !getval(session, *limit, 1e300, NumberSign::Any)) return Verdict::End;
-  // The two-angle contour has its own ranges and radii in its dialog.
-  const bool ownInputs = IsTwoAngleContour(check.state);
-  if (form.mnuPlaneWave.Checked && !ownInputs) {
-    for (TextInput* limit : {&form.txtXmin, &form.txtXmax})
-      if (!getval(session, *limit, largestInput, NumberSign::PositiveOrZero)) return Verdict::End;
-  }
   struct Number {
     Control* control;
     double upperLimit;
     NumberSign sign;
   };
-  // What the wavelengths of a spectrum put in its place is not looked at.
-  const bool oneWavelength = check.state.NumberWavelengths == 1 && IsNumber(form.cboWave.Text);
-  for (const auto& number : {Number{&form.cboStep, largestInput, NumberSign::PositiveOrZero},
-                             Number{&form.txtRadius, largestInput, NumberSign::Positive},
-                             Number{&form.txtLambda, largestInput, NumberSign::Positive},
-                             Number{&form.txtRefractReal, largestIndex, NumberSign::Positive},
-                             Number{&form.txtRefractImag, largestIndex, NumberSign::PositiveOrZero},
-                             Number{&form.txtRefractMedium, largestIndex, NumberSign::PositiveOrZero}})
-    if ((number.control != &form.txtLambda || oneWavelength) &&
-        !(ownInputs && (number.control == &form.cboStep || number.control == &form.txtRadius)) &&
-        !getval(session, *number.control, number.upperLimit, number.sign))
+  // The limits of a beam's angles may be negative.
+  const NumberSign ofLimits = form.mnuPlaneWave.Checked ? NumberSign::PositiveOrZero : NumberSign::Any;
+  for (const auto& number :
+       {Number{&form.txtXmin, largestInput, ofLimits}, Number{&form.txtXmax, largestInput, ofLimits},
+        Number{&form.cboStep, largestInput, NumberSign::PositiveOrZero},
+        Number{&form.txtRadius, largestInput, NumberSign::Positive},
+        Number{&form.txtLambda, largestInput, NumberSign::Positive},
+        Number{&form.txtRefractReal, largestIndex, NumberSign::Positive},
+        Number{&form.txtRefractImag, largestIndex, NumberSign::PositiveOrZero},
+        Number{&form.txtRefractMedium, largestIndex, NumberSign::PositiveOrZero},
+        Number{&form.txtF9_min, largestInput, NumberSign::Any}, Number{&form.txtF9_max, largestInput, NumberSign::Any},
+        Number{&form.txtF9_step, largestInput, NumberSign::Any}})
+    if (number.control->Visible && !getval(session, *number.control, number.upperLimit, number.sign))
       return Verdict::End;
   if (!MethodNumbers(check)) return Verdict::End;
   check.Xmin = Val(form.txtXmin.Text);
   check.Xmax = Val(form.txtXmax.Text);
-  if (!IsAxisGraph(check.state)) return Verdict::GoOn;
+  if (!IsAxisGraph(check.state) || !form.txtAngle.Visible) return Verdict::GoOn;
   if (!getval(session, form.txtAngle, largestInput, NumberSign::Any)) return Verdict::End;
   const double angle = Val(form.txtAngle.Text);
   if (angle < 0) return Refuse(check, {&form.txtAngle}, "Scattering angle < 0");
@@ -189,19 +198,16 @@ Verdict LeeSteps(Check& check) {
 Verdict AxisStepCount(Check& check) {
   auto& form = check.form;
   const Graph& graph = ChosenGraph(check.state);
-  if (graph.family != Family::Axis && graph.family != Family::EfficiencyPulse) return Verdict::GoOn;
-  const Verdict axis = CheckAxis(check, {"Minimum value must be less than maximum value", "Value must be positive"});
+  if (!HasSteps(graph)) return Verdict::GoOn;
+  constexpr std::string_view tooMany = "Increase the step size or reduce the maximum/minimum range";
+  const Verdict axis =
+      CheckAxis(check, {"Minimum value must be less than maximum value", "Value must be positive", tooMany});
   if (axis != Verdict::GoOn) return axis;
-  const double count =
-      form.mnuXStepLog.Checked ? Val(form.cboStep.Text) : (check.Xmax - check.Xmin) / Val(form.cboStep.Text);
-  if (count > mostSteps)
-    return Refuse(check, {&form.cboStep}, "Increase the step size or reduce the maximum/minimum range");
   if (graph.quantity != Quantity::Power) return Verdict::GoOn;
   const double low = Val(form.txtF9_min.Text), high = Val(form.txtF9_max.Text), step = Val(form.txtF9_step.Text);
   if (low >= high || low < 0 || high > 180)
     return Refuse(check, {&form.txtF9_min, &form.txtF9_max}, "Minimum value must be less than maximum value");
-  if (!(step > 0) || (high - low) / step > mostSteps)
-    return Refuse(check, {&form.txtF9_step}, "Increase the step size or reduce the maximum/minimum range");
+  if (!(step > 0) || (high - low) / step > mostSteps) return Refuse(check, {&form.txtF9_step}, tooMany);
   return Verdict::GoOn;
 }
 
@@ -239,7 +245,8 @@ Verdict AngleScale(Check& check) {
 
 Verdict LastLogarithmicStep(Check& check) {
   auto& list = check.form.cboStep;
-  if (!check.form.mnuXStepLog.Checked || !IsAxisGraph(check.state) || Val(list.Text) > 1) return Verdict::GoOn;
+  const bool steps = check.form.mnuXStepLog.Checked && HasSteps(ChosenGraph(check.state));
+  if (!steps || Val(list.Text) > 1) return Verdict::GoOn;
   return Refuse(check, {&list}, "Number of steps must be >=1");
 }
 

@@ -39,6 +39,8 @@ bool HasWavelengthAxis(const RunState& s);
 bool IsAxisGraph(const RunState& s);
 
 // The rules, in the order in which they stand in range_check.cpp.
+// An input that is not on the screen is never the reason of a refusal.
+Verdict DecimalCommas(Check& check);
 Verdict CoatedSphereGraphs(Check& check);
 Verdict SellmeierLimits(Check& check);
 Verdict BeamMethods(Check& check);

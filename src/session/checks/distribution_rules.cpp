@@ -23,7 +23,8 @@ Verdict DistributionWidth(Check& check) {
   // Three standard deviations below the mean the radius must still be positive.
   constexpr double deviations = 3;
   if (kind == "Normal" && deviations * s.RelativeSD >= 1) return refuse("Reduce the standard deviation");
-  if ((kind != "Log-normal" && kind != "Special") || !form.mnuXStepLog.Checked || !IsAxisGraph(s)) return Verdict::GoOn;
+  const bool wide = (kind == "Log-normal" || kind == "Special") && form.cboSD.Visible;
+  if (!wide || !form.mnuXStepLog.Checked || !IsAxisGraph(s)) return Verdict::GoOn;
   const double steps = Val(form.cboStep.Text);
   const double ratio = std::pow(Val(form.txtXmax.Text) / Val(form.txtXmin.Text), 1 / steps);
   if (!(ratio > 1)) return Verdict::GoOn;

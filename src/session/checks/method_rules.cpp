@@ -5,9 +5,9 @@
 
 #include "record/number_text.h"
 #include "session/checks/check.h"
+#include "session/checks/sphere_of_run.h"
 #include "session/inputs/methods.h"
 #include "session/inputs/methods/rays_check.h"
-#include "session/inputs/methods/sphere_size.h"
 
 namespace lumivex {
 
@@ -16,9 +16,16 @@ namespace {
 constexpr std::string_view onlyMieAndDebye = "Selected graph type is available only for Mie and Debye calculations";
 constexpr std::string_view onlyMie = "Selected graph type is available only for Mie calculations";
 
-/// The chart of two angles has sizes of its own; the terms of a point are those of one sphere.
+/// The chart of two angles has sizes of its own; the terms of a point and the partial sums of a series are those of one
+/// sphere.
 bool NeedsOneSphere(const Graph& graph) {
-  return graph.family == Family::TwoAngle || graph.family == Family::DebyeAnalysis;
+  return graph.family == Family::TwoAngle || graph.family == Family::DebyeAnalysis ||
+         graph.family == Family::Convergence;
+}
+
+/// Where the index of the sphere is told: its field, or its name where the run has one index a wavelength.
+Control* IndexMark(Form1& form, TextInput& field) {
+  return field.Visible ? static_cast<Control*>(&field) : &form.lblSphere;
 }
 
 /// Whether the graph takes the method.
@@ -86,7 +93,7 @@ Verdict BeamMethods(Check& check) {
 
 Verdict NegativeAbsorption(Check& check) {
   auto& field = check.form.txtRefractImag;
-  if (Val(field.Text) >= 0) return Verdict::GoOn;
+  if (!field.Visible || Val(field.Text) >= 0) return Verdict::GoOn;
   Refuse(check, {&field}, "Imaginary value of RI must NOT be negative");
   field.Text = "0";
   field.BackColour = colours::White;
@@ -113,8 +120,7 @@ Verdict MethodAgainstGraph(Check& check) {
     return Refuse(check, {&form.cboGraph}, "This graph type is available only for monodisperse calculations");
   if (graph.methods == MethodsTaken::MieInstead && s.CalcMethod != Method::Mie) {
     Warn(check, "This graph type is available only for Mie calculations");
-    form.cboType.Text = "Mie";
-    TypeCalc(check.session);
+    ChooseMethod(check.session, "Mie");
   }
   const MethodTraits& method = TraitsOf(s.CalcMethod);
   return Takes(graph, method) ? Verdict::GoOn : Refuse(check, {&form.cboGraph}, RefusalOf(graph, method));
@@ -122,15 +128,12 @@ Verdict MethodAgainstGraph(Check& check) {
 
 Verdict ComplexIndex(Check& check) {
   auto& form = check.form;
-  if (!TraitsOf(check.state.CalcMethod).realIndexOnly || Val(form.txtRefractImag.Text) == 0) return Verdict::GoOn;
-  form.txtRefractImag.BackColour = colours::BadInput;
-  Warn(check, "Complex values of refractive index are not valid for this calculation method");
-  form.txtRefractImag.Text = "0";
-  form.txtRefractImag.BackColour = colours::White;
-  // Water goes on without its absorption.
-  check.session.forms.dlogTemp.chkRI_Complex.Checked = false;
-  if (form.mnuRI_IAPWS.Checked) RaiseQuietly(check.session, "mnuRI_IAPWS_Click");
-  if (form.mnuRI_Segelstein.Checked) RaiseQuietly(check.session, "mnuRI_Segelstein_Click");
+  if (!TraitsOf(check.state.CalcMethod).realIndexOnly || BoundsOfRun(check.session).highestK == 0) return Verdict::GoOn;
+  Control* mark = IndexMark(form, form.txtRefractImag);
+  Refuse(check, {mark}, "Complex values of refractive index are not valid for this calculation method");
+  // Water goes on without its absorption; a metal without it would be another material.
+  if (!DropAbsorption(check.session)) return Verdict::End;
+  mark->BackColour = colours::White;
   return Verdict::GoOn;
 }
 
@@ -138,15 +141,14 @@ Verdict DebyeInputs(Check& check) {
   auto& form = check.form;
   auto& s = check.state;
   if (s.CalcMethod != Method::Debye) return Verdict::GoOn;
-  const double imaginary = Val(form.txtRefractImag.Text);
-  if (imaginary < 0)
-    return Refuse(check, {&form.txtRefractImag}, "The imaginary part of the refractive index must be positive");
+  const SphereOfRun bounds = BoundsOfRun(check.session);
+  Control* mark = IndexMark(form, form.txtRefractImag);
+  if (bounds.lowestK < 0) return Refuse(check, {mark}, "The imaginary part of the refractive index must be positive");
   if (Trim(form.cboRays.Text).empty()) return Refuse(check, {&form.cboRays}, "Specify a value for p");
   // The medium is left out here: the limit is a round number anyway.
-  constexpr double twoPi = 6.28318530717958, largestAbsorption = 100;
-  const double x = Val(form.txtRadius.Text) * twoPi / Val(form.txtLambda.Text);
-  if (form.cboRays.Text == "0" || !(imaginary * x > largestAbsorption)) return Verdict::GoOn;
-  return Refuse(check, {&form.txtRefractImag},
+  constexpr double largestAbsorption = 100;
+  if (form.cboRays.Text == "0" || !(bounds.leastAbsorption > largestAbsorption)) return Verdict::GoOn;
+  return Refuse(check, {mark},
                 "Debye rays for p > 0 are suppressed by high absorption in the sphere due to the large imaginary value "
                 "of the refractive index",
                 "Debye series");
@@ -162,16 +164,18 @@ Verdict AiryInputs(Check& check) {
     below2 = (!enabled.empty() && enabled[0] != 0) || (enabled.size() > 1 && enabled[1] != 0);
   }
   if (below2) return Refuse(check, {&form.cboRays}, "Airy theory is valid only for p > 1");
-  if (Val(form.txtRefractImag.Text) == 0) return Verdict::GoOn;
-  Refuse(check, {&form.txtRefractImag}, "Airy theory is not valid for complex values of refractive index");
-  form.txtRefractImag.Text = "0";
+  if (BoundsOfRun(check.session).highestK == 0) return Verdict::GoOn;
+  Refuse(check, {IndexMark(form, form.txtRefractImag)},
+         "Airy theory is not valid for complex values of refractive index");
+  DropAbsorption(check.session);
   return Verdict::End;
 }
 
 Verdict DiffractionIndex(Check& check) {
-  auto& field = check.form.txtRefractReal;
-  if (check.state.CalcMethod != Method::Diffraction || Val(field.Text) > 1) return Verdict::GoOn;
-  return Refuse(check, {&field}, "Refractive index must be greater than 1 for this calculation method");
+  auto& form = check.form;
+  if (check.state.CalcMethod != Method::Diffraction || BoundsOfRun(check.session).lowestN > 1) return Verdict::GoOn;
+  return Refuse(check, {IndexMark(form, form.txtRefractReal)},
+                "Refractive index must be greater than 1 for this calculation method");
 }
 
 Verdict SurfaceWaveInputs(Check& check) {
@@ -190,10 +194,9 @@ Verdict SurfaceWaveInputs(Check& check) {
 }
 
 Verdict RayleighSize(Check& check) {
-  const auto& form = check.form;
-  if (check.state.CalcMethod != Method::Rayleigh || IsAxisGraph(check.state)) return Verdict::GoOn;
+  if (check.state.CalcMethod != Method::Rayleigh) return Verdict::GoOn;
   constexpr double wavelengthsPerRadius = 13;
-  if (Val(form.txtLambda.Text) / SphereRadius(check.session) >= wavelengthsPerRadius) return Verdict::GoOn;
+  if (BoundsOfRun(check.session).wavelengthsPerRadius >= wavelengthsPerRadius) return Verdict::GoOn;
   return Warn(check, "Rayleigh approximation is valid only when r << wavelength");
 }
 

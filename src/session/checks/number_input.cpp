@@ -1,7 +1,9 @@
 #include "session/checks/number_input.h"
 
 #include <string>
+#include <utility>
 
+#include "record/layout/input_name.h"
 #include "record/number_text.h"
 
 namespace lumivex {
@@ -36,10 +38,19 @@ std::string* TextOf(Control& control) {
   return nullptr;
 }
 
+bool SettleComma(Session& session, Control& control) {
+  std::string* text = TextOf(control);
+  if (text == nullptr) return true;
+  if (auto withPoint = PointForComma(*text)) *text = std::move(*withPoint);
+  if (!HasDoubtfulComma(*text)) return true;
+  return Refuse(session, control,
+                NameOfInput(control) + ": use a point as the decimal mark, and nothing between thousands");
+}
+
 bool getval(Session& session, Control& control, double upperLimit, NumberSign sign) {
   control.BackColour = colours::White;
   std::string* text = TextOf(control);
-  if (text == nullptr) return false;
+  if (text == nullptr || !SettleComma(session, control)) return false;
   const std::string clean = Normalised(*text);
   if (!IsNumber(clean)) return Refuse(session, control, "    The red highlighted data entry is incorrect.    ");
   *text = clean;

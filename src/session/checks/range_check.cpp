@@ -11,6 +11,7 @@ namespace {
 
 // The order is part of the design: the first rule that ends the check decides the message.
 constexpr std::array rules = {
+    DecimalCommas,  // all others read numbers
     CoatedSphereGraphs,
     SellmeierLimits,
     BeamMethods,

@@ -57,7 +57,7 @@ Verdict SunOnlyAgainstAngle(Check& check) {
 Verdict SunResolution(Check& check) {
   constexpr double halfDisc = 0.25;  // degrees
   auto& step = check.form.cboStep;
-  if (!check.form.optSun.Checked) return Verdict::GoOn;
+  if (!check.form.optSun.Checked || !step.Visible) return Verdict::GoOn;
   if (Val(step.Text) <= 0) {
     Refuse(check, {&step}, "Value must be > 0");
     step.BackColour = colours::White;

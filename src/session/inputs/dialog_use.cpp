@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "record/number_text.h"
+#include "session/checks/number_input.h"
 
 namespace lumivex {
 
@@ -11,12 +12,24 @@ bool HasBadInput(const Form& form) {
                              [](const Control* c) { return c->Visible && c->BackColour == colours::BadInput; });
 }
 
+namespace {
+
+/// Captions and labels show what was typed: with a point.
+void SettleCommas(Session& session, Form& dialog) {
+  for (Control* control : dialog.Controls())
+    if (control->Visible && control->BackColour != colours::BadInput && !SettleComma(session, *control)) return;
+}
+
+}  // namespace
+
 bool AskIn(Session& session, Form& dialog) {
   if (session.state.RestoringSettings != 0) return true;
-  for (int showing = 0; showing < 2; ++showing) {
-    if (!session.platform.ShowModal(dialog)) return false;
+  const FormSnapshot before = dialog.Snapshot();
+  for (int showing = 0; showing < 2 && session.platform.ShowModal(dialog); ++showing) {
+    SettleCommas(session, dialog);
     if (!HasBadInput(dialog)) return true;
   }
+  dialog.Restore(before);
   return false;
 }
 

@@ -119,8 +119,18 @@ void AxisStartValues(Session& session, const Graph& graph, const AxisStart& star
   }
 }
 
-/// Start values of a new family, unless the user keeps the parameters; the sphere of a family that varied its index is
-/// water again.
+/// The sphere and the medium of the start, and a size that is typed as a radius.
+void StartMaterials(Session& session) {
+  auto& s = session.state;
+  const int restoring = s.RestoringSettings;
+  s.RestoringSettings = 1;
+  for (const std::string_view event : {"mnuRI_IAPWS_Click", "mnuRI_Vacuum2_Click"}) session.events.Raise(event);
+  s.RestoringSettings = restoring;
+  if (!session.form1.mnuRadius.Checked) session.events.Raise("mnuRadius_Click");
+}
+
+/// Start values of a new family, unless the user keeps the parameters; the sphere of a family that varied its index has
+/// its name again.
 void ChangeFamily(Session& session, const Graph& before) {
   auto& s = session.state;
   auto& form = session.form1;
@@ -130,15 +140,20 @@ void ChangeFamily(Session& session, const Graph& before) {
   if (chosen.SharesRangesWith(before) && !fromPoint) return;
   const Graph* graph = ChosenAxisGraph(s);
   const AxisStart* start = graph != nullptr ? FindAxisStart(*graph) : nullptr;
+  const bool keeps = form.mnuKeepParameters.Checked;
   if (before.VariesIndex()) NameKeptSphere(session);
+  if (!keeps) StartMaterials(session);
   if (chosen.VariesIndex()) NameVariableSphere(session);
-  form.mnuXStepLog.Checked = start != nullptr && start->logSteps && !form.mnuKeepParameters.Checked;
-  if (form.mnuKeepParameters.Checked) return;
+  form.mnuXStepLog.Checked = start != nullptr && start->logSteps && !keeps;
+  if (keeps) return;
   if (start != nullptr) {
     AxisStartValues(session, *graph, *start);
   } else if (chosen.OfAngles()) {
     AngleStartValues(session);
   }
+  for (Control* input : std::initializer_list<Control*>{&form.txtXmin, &form.txtXmax, &form.cboStep, &form.cboYmin,
+                                                        &form.cboYmax, &form.cboWave})
+    input->BackColour = colours::White;
   session.events.Raise("txtLambda_change");
 }
 
@@ -155,16 +170,18 @@ void EnterOrLeaveTwoAngle(Session& session, bool was) {
   }
 }
 
-/// Its ranges and radii stand in its dialog, not in the panel.
-void ShowTwoAngleInputs(Session& session) {
+/// The ranges and radii of the chart of two angles stand in its dialog, not in the panel; a graph of one point has
+/// none.
+void ShowAxisInputs(Session& session) {
   auto& form = session.form1;
   const bool chart = IsTwoAngleContour(session.state);
-  for (Control* control : std::initializer_list<Control*>{&form.Label8, &form.cboPol, &form.Label3, &form.txtXmin,
-                                                          &form.Label2, &form.txtXmax, &form.Label5, &form.cboStep})
-    control->Visible = !chart;
-  if (!chart) return;
-  form.Frame2.Caption = "Horizontal scale";
-  form.Label7.Visible = form.txtRadius.Visible = false;
+  const bool axis = !chart && ChosenGraph(session.state).family != Family::DebyeAnalysis;
+  form.Frame2.Visible = axis || chart;
+  form.Label8.Visible = form.cboPol.Visible = !chart;
+  for (Control* control : std::initializer_list<Control*>{&form.Label3, &form.txtXmin, &form.Label2, &form.txtXmax,
+                                                          &form.Label5, &form.cboStep})
+    control->Visible = axis;
+  if (chart) form.Frame2.Caption = "Horizontal scale";
 }
 
 /// Graphs in absolute units of light ask how far the observer is and how strong the light.
@@ -189,20 +206,15 @@ void ShowFamilyInputs(Session& session) {
   } else {
     AngleCaptions(form);
   }
-  form.Frame2.Visible = chosen.family != Family::DebyeAnalysis;
   form.Frame8.Caption = chosen.quantity == Quantity::Power ? "Calculation of Watts/sq m" : "Intensity scale";
   form.Label18.Caption = "Brightness";
   form.Label26.Caption = "Lee diagram";
   ShowWavelengthInputs(session);
   form.Label26.Visible = form.cboLee.Visible = chosen.InColour();
   form.Label24.Visible = form.txtRmax.Visible = form.txtRstep.Visible = chosen.family == Family::Lee;
-  const bool sizeOnAxis = graph != nullptr && graph->SizeAxis();
   form.cboWave.Enabled = true;
   ShowSizeInputs(session);
-  ShowTwoAngleInputs(session);
-  if (sizeOnAxis) form.Label7.Visible = form.txtRadius.Visible = false;
-  const bool wavelengthOnAxis = graph != nullptr && graph->axis == AxisVariable::Wavelength;
-  if (wavelengthOnAxis) form.Label6.Visible = form.txtLambda.Visible = false;
+  ShowAxisInputs(session);
   form.Frame3.Visible = form.txtRadius.Visible || form.optMono.Visible;
   form.Frame4.Visible = form.txtLambda.Visible || form.cboWave.Visible || form.optPoint.Visible;
   ShowFurtherAxis(session, graph);

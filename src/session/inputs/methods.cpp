@@ -13,7 +13,8 @@ namespace lumivex {
 
 namespace {
 
-/// Wavefronts and strips are counted by the angle's input; small spheres around the rainbow show them best.
+/// Wavefronts and strips are counted by the angle's input. Small spheres around the rainbow show wavefronts best; an
+/// aperture sends its light forward, and none behind itself.
 void StripStartValues(Session& session) {
   auto& form = session.form1;
   const auto& s = session.state;
@@ -22,8 +23,9 @@ void StripStartValues(Session& session) {
   if (!counts || !(graph.OfAngles() || graph.family == Family::Impulse) || s.RestoringSettings != 0) return;
   form.txtRadius.Text = "100";
   form.cboRays.Text = "2";
-  form.txtXmin.Text = "120";
-  form.txtXmax.Text = "150";
+  const bool strips = TraitsOf(s.CalcMethod).counts == Counted::Strips;
+  form.txtXmin.Text = strips ? "0" : "120";
+  form.txtXmax.Text = strips ? "90" : "150";
   form.cboStep.Text = "0.1";
 }
 
@@ -128,12 +130,13 @@ void ShowWavelengthInputs(Session& session) {
   auto& form = session.form1;
   const Graph& graph = ChosenGraph(session.state);
   const bool one = Trim(form.cboWave.Text) == "1";
-  form.Label6.Visible = form.txtLambda.Visible = one;
+  form.Label6.Visible = form.txtLambda.Visible = one && !graph.WavelengthAxis();
   ShowIndexInputs(form);
   form.lblSpectrum.Visible = form.mnuSpectrum.Visible = !one;
   // Red, green and blue stand where they stand, whatever the band.
   form.lblSpectrumBand.Visible = !one && form.cboWave.Text != "RGB";
-  form.mnuAverage.Visible = one;
+  // One that was ticked can be taken away whatever the wavelengths.
+  form.mnuAverage.Visible = !one || form.mnuAverage.Checked;
   form.Label18.Visible = form.cboBright.Visible =
       IsAvailable(Feature::ColourBars) && (!one || graph.InColour() || graph.family == Family::Volume);
   form.chkComponents.Visible = form.cboWave.Text == "RGB";

@@ -45,9 +45,7 @@ MieResult SolveMie(const MieRequest& request, RunMonitor& monitor) {
       ComputeMieTruncation(request.x, request.mRe, request.mIm, request.convergence, request.classicStart);
   result.waves = MieCoefficients(request.x, request.mRe, request.mIm, result.truncation);
   result.efficiencies = EfficienciesOf(result.waves, request.x, request.divideBySize);
-  if (request.convergence) {
-    result.convergence = SumConvergence(result.waves, grid.Angle(request.selectedAngleIndex));
-  }
+  if (request.convergence) result.convergence = SumConvergence(result.waves, request.convergenceAngle);
 
   bool stopped = false;
   struct Watch final : RunMonitor {

@@ -25,7 +25,7 @@ struct MieRequest {
   bool divideBySize = false;                    ///< Divide amplitudes by x before Qext and Qback are formed.
   bool classicStart = false;                    ///< See ComputeMieTruncation.
   bool convergence = false;                     ///< Fill MieResult::convergence; sums 1.2 times the terms.
-  int selectedAngleIndex = 1;                   ///< Row of the convergence series, 1..2 NANG - 1.
+  double convergenceAngle = 0.0;                ///< Of the convergence series, radians.
   InstructionSet set = BestInstructionSet();    ///< For tests and benchmarks: one that this machine runs.
 };
 

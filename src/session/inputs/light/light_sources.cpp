@@ -92,6 +92,7 @@ void mnuSpectrumBand_Click(Session& session) {
   if (HasBadInput(dialog)) return;
   s.SpectrumMin = static_cast<float>(Val(dialog.txtSpectrumMin.Text) / 1000);
   s.SpectrumMax = static_cast<float>(Val(dialog.txtSpectrumMax.Text) / 1000);
+  session.form1.lblSpectrumBand.BackColour = colours::White;
   session.form1.lblSpectrumBand.Caption = std::string(Trim(dialog.txtSpectrumMin.Text)) + " - " +
                                           std::string(Trim(dialog.txtSpectrumMax.Text)) + " nm band";
   RaiseInputsChanged(session);

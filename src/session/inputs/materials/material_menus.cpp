@@ -82,6 +82,7 @@ void SphereTyped(Session& session, TextInput& field) {
 void ClearMenuRI(Session& session) {
   for (MenuEntry* entry : SphereEntries(session.form1)) entry->Checked = false;
   session.form1.lblSphere.ForeColour = colours::Black;
+  session.form1.lblSphere.BackColour = colours::White;
 }
 
 void ClearMenuRI2(Session& session) {

@@ -1,6 +1,7 @@
 #include "session/inputs/methods/debye_label.h"
 
 #include "record/number_text.h"
+#include "session/inputs/methods/read_method.h"
 
 namespace lumivex {
 
@@ -140,6 +141,7 @@ std::string MethodLabel(const Session& session, const RayInputs& rays) {
   const auto& partial = session.forms.dlogPartial;
   if (partial.optPartial.Checked) details.partial = {partial.txtMin.Text, partial.txtMax.Text};
   details.diffraction = OffersDiffraction(session) && WithDiffraction(session);
+  if (!TakesDifferences(ChosenGraph(session.state))) return DebyeLabelText(details);
   if (form.mnuGODebye.Checked || form.mnuSWsub.Checked) details.difference = Details::Difference::MinusGo;
   if (form.mnuMieDebye.Checked) details.difference = Details::Difference::FromMie;
   return DebyeLabelText(details);

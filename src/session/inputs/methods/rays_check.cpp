@@ -4,6 +4,7 @@
 
 #include "record/number_text.h"
 #include "session/inputs/methods/debye_label.h"
+#include "session/inputs/methods/read_method.h"
 
 namespace lumivex {
 
@@ -75,7 +76,8 @@ bool NoRaysSelected(const Session& session) {
 
 bool OffersDiffraction(const Session& session) {
   const Method method = session.state.CalcMethod;
-  return TraitsOf(method).takesDiffraction || (method == Method::Debye && session.form1.mnuGODebye.Checked);
+  const bool difference = session.form1.mnuGODebye.Checked && TakesDifferences(ChosenGraph(session.state));
+  return TraitsOf(method).takesDiffraction || (method == Method::Debye && difference);
 }
 
 bool WithDiffraction(const Session& session) {

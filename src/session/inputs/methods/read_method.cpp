@@ -34,6 +34,10 @@ int CountTyped(const TextInput& field, int most) {
 
 }  // namespace
 
+bool TakesDifferences(const Graph& graph) {
+  return graph.family != Family::Convergence && graph.family != Family::DebyeAnalysis;
+}
+
 MethodOptions ChosenMethod(const Session& session) {
   constexpr int mostRays = 100000, mostStrips = 10000;
   const auto& form = session.form1;
@@ -43,7 +47,7 @@ MethodOptions ChosenMethod(const Session& session) {
   if (traits.showsP) options.rays = SelectedRays(RayInputsOf(session));
   options.addDiffraction = OffersDiffraction(session) && WithDiffraction(session);
   if (options.method == Method::Debye) {
-    options.difference = DifferenceTicked(form);
+    if (TakesDifferences(ChosenGraph(session.state))) options.difference = DifferenceTicked(form);
     options.partialWaves = PartialWavesOf(session.forms.dlogPartial);
   }
   options.byRatio = form.mnuDebyeRecursion.Checked;

@@ -70,7 +70,10 @@ void ShowSizeInputs(Session& session) {
   auto& form = session.form1;
   const bool disperse = form.optDisp.Checked;
   const DistributionInputs& inputs = InputsOf(form.cboDistrib.Text);
-  const bool radius = (!disperse || inputs.radius) && !ChosenGraph(session.state).IntensityBySize();
+  const Graph& graph = ChosenGraph(session.state);
+  // Sizes along an axis, or in a dialog of the graph's own, leave none to be typed.
+  const bool ownSizes = (graph.AgainstAxis() && graph.SizeAxis()) || graph.family == Family::TwoAngle;
+  const bool radius = (!disperse || inputs.radius) && !ownSizes;
   form.cboDistrib.Visible = disperse;
   form.Label7.Visible = form.txtRadius.Visible = radius;
   form.Label11.Visible = form.cboSD.Visible = disperse && inputs.deviation;
