@@ -2,6 +2,7 @@
 
 #include "materials/index/dispersion_formulas.h"
 #include "materials/index/index_formulas.h"
+#include "materials/index/table_lookup.h"
 #include "materials/material_fixture.h"
 #include "materials/tables/metals.h"
 #include "materials/tables/ray_water.h"
@@ -145,6 +146,47 @@ TEST_F(RefractiveIndex, CubicsOfTheMediumAskForTheRowsOfTheSphere) {
   ASSERT_TRUE(ReadRefIndex1(Now(), Write("sphere.rix", IndexFileText(6))));
   EXPECT_TRUE(RefRel(Now(), 4.5));
   EXPECT_NEAR(State().RefractMedium, 1.045, 1e-6);  // interval 4 needs 7 rows
+}
+
+// A table whose n and k are cubics of the wavelength: cubic interpolation gives them back in every interval, the first
+// and the last too, and straight lines do not.
+TEST(TableLookup, CubicsGiveBackCubics) {
+  const auto n = [](double x) { return 1 + 0.3 * x - 0.02 * x * x + 0.004 * x * x * x; };
+  const auto k = [](double x) { return 2 - 0.1 * x + 0.05 * x * x - 0.003 * x * x * x; };
+  std::vector<float> lambda{0};
+  std::vector<IndexRow> rows{{9, 9, 9}};
+  for (const double x : {1.0, 1.5, 2.5, 3.0, 4.5, 5.0, 6.0, 7.5}) {
+    lambda.push_back(static_cast<float>(x));
+    rows.push_back({static_cast<float>(n(x)), static_cast<float>(k(x)), 0});
+  }
+  const int count = 8;
+  for (const double at : {1.1, 1.4, 1.9, 2.7, 3.7, 4.8, 5.3, 6.5, 7.4}) {
+    const auto wanted = static_cast<float>(at);
+    const auto metal = LookUpMetal(lambda, rows, wanted, TableRule::Cubic);
+    ASSERT_TRUE(metal) << at;
+    EXPECT_NEAR(metal->n, n(wanted), 1e-6) << at;
+    EXPECT_NEAR(metal->k, k(wanted), 1e-6) << at;
+    const auto straight = LookUpMetal(lambda, rows, wanted, TableRule::Linear);
+    ASSERT_TRUE(straight);
+    EXPECT_GT(std::abs(straight->k - k(wanted)), 1e-4) << at;
+    const FileTable table{lambda, rows, count};
+    // Cubics reach as far as there are rows; with a cubic of the end the last interval has one, the one before has not.
+    for (const bool endCubic : {false, true}) {
+      const auto file = LookUpFile(table, at, TableRule::Cubic, {count + 2, endCubic}).value;
+      ASSERT_TRUE(file) << at;
+      const bool cubic = at < 6 || (at > 6 && endCubic);
+      if (cubic) {
+        EXPECT_NEAR(file->n, n(at), 1e-6) << at;
+        EXPECT_NEAR(file->k, k(at), 1e-6) << at;
+      } else {
+        EXPECT_NEAR(file->k, straight->k, 1e-6) << at;
+      }
+      // A gate of 7 rows lets cubics be up to interval 4.
+      const auto gated = LookUpFile(table, at, TableRule::Cubic, {7, endCubic}).value;
+      ASSERT_TRUE(gated) << at;
+      EXPECT_NEAR(gated->k, at < 4.5 ? k(at) : straight->k, 1e-6) << at;
+    }
+  }
 }
 
 TEST_F(RefractiveIndex, MetalSearchLetsTheLaterIntervalStand) {

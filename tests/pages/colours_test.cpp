@@ -28,6 +28,32 @@ TEST(WavelengthColour, FollowsItsPieces) {
   ExpectColour(colrgb3(0.71), 0, 0, 0, "the other rule ends at 700 nm");
 }
 
+/// A rule of colours at each of its joints and in the middle of each piece.
+TEST(WavelengthColour, OtherRulesFollowTheirPiecesToo) {
+  struct Point {
+    double at, r, g, b;
+  };
+  for (const Point& p :
+       {Point{0.379, 0, 0, 0}, Point{0.38, 255, 0, 255}, Point{0.415, 155.833, 0, 255}, Point{0.46, 28.333, 51, 255},
+        Point{0.48, 0, 153, 255}, Point{0.5, 0, 255, 255}, Point{0.525, 0, 255, 127.5}, Point{0.55, 0, 255, 0},
+        Point{0.565, 127.5, 255, 0}, Point{0.58, 255, 255, 0}, Point{0.615, 255, 127.5, 0}, Point{0.65, 255, 0, 0},
+        Point{0.7, 255, 0, 0}, Point{0.7001, 0, 0, 0}})
+    ExpectColour(colrgb3(p.at), p.r, p.g, p.b, "by the other rule at " + std::to_string(p.at));
+  for (const Point& p : {Point{0.48, 0, 204, 255}, Point{0.5, 0, 255, 127.5}, Point{0.5799, 254.635, 255, 0},
+                         Point{0.58, 255, 254.989, 0}, Point{0.6, 255, 176.531, 0}, Point{0.63, 255, 58.844, 0}})
+    ExpectColour(colRGB2(p.at), p.r, p.g, p.b, "at " + std::to_string(p.at));
+  for (const Point& p :
+       {Point{0.25, 0, 0, 127.5}, Point{0.5, 0, 0, 255}, Point{0.75, 0, 127.5, 637.5}, Point{1, 0, 255, 765},
+        Point{1.5, 127.5, 255, 127.5}, Point{2, 255, 255, 0}, Point{2.5, 255, 127.5, 0}, Point{3, 255, 0, 0},
+        Point{3.5, 255, 127.5, 127.5}, Point{4, 255, 255, 255}, Point{9, 255, 255, 255}})
+    ExpectColour(RatioColour(p.at), p.r, p.g, p.b, "ratio " + std::to_string(p.at));
+  for (const Point& p : {Point{0, 255, 255, 255}, Point{-0.2, 255, 127.5, 127.5}, Point{-0.6, 255, 127.5, 0},
+                         Point{-1, 127.5, 255, 0}, Point{-1.3, 0, 255, 85}, Point{-1.5, 0, 85, 255},
+                         Point{-1.8, 127.5, 0, 255}, Point{-2.2, 127.5, 0, 127.5}, Point{-2.4, 0, 0, 0}})
+    ExpectColour(LogarithmColour(p.at, false), p.r, p.g, p.b, "logarithm " + std::to_string(p.at));
+  ExpectColour(LogarithmColour(-2.2, true), 250, 122.5, 250, "half way to the pale end");
+}
+
 TEST(Saturation, TreatsACellThatIsTooBright) {
   const ColourTriple cell{300, 100, 100};
   ExpectColour(Saturation(cell, SaturationRule::Photo), 255, 100, 100, "Photo");

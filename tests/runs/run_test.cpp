@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cstring>
 #include <future>
 #include <numbers>
@@ -263,6 +264,40 @@ TEST(Units, PhaseFunctionsOfAllMethodsHaveTheMeanOne) {
     const Curves curves = CurvesOf(end.results, {});
     const auto rows = std::span(curves.unpolarised).subspan(1);
     EXPECT_NEAR(SphereMean(rows), 1, method == Method::Mie ? 1e-3 : 1e-9) << static_cast<int>(method);
+  }
+}
+
+// Four columns, three arrays: each is the sum over the wavelengths of the intensity times its weight and its colour.
+TEST(Runs, SumsOfASpectrumAreThoseOfItsWavelengths) {
+  RunRequest request = SpectrumRequest(3, 5, 3);
+  auto& light = *request.light.spectrum;
+  for (std::size_t i = 1; i <= 3; ++i) {
+    light.weight[i] = 0.5F * static_cast<float>(i);
+    light.red[i] = 0.1 * static_cast<double>(i);
+    light.green[i] = 0.7 - 0.2 * static_cast<double>(i);
+    light.blue[i] = 0.3;
+  }
+  const RunEnd end = RunSilently(request);
+  ASSERT_EQ(end.outcome, Outcome::Done);
+  for (const bool divided : {false, true}) {
+    const CurveLook look{.amplitude = false, .invWavelength = divided};
+    const SpectrumSums sums = SumsOf(end.results, look);
+    for (const std::size_t row : {1U, 8U, 19U, 30U, 37U}) {
+      for (std::size_t column = 0; column < 4; ++column) {
+        double perpendicular = 0, parallel = 0;
+        for (int i = 1; i <= 3; ++i) {
+          const auto k = static_cast<std::size_t>(i);
+          const Curves one = CurvesOfWavelength(end.results, look, i);
+          const double colour = std::array{1.0, light.red[k], light.green[k], light.blue[k]}.at(column);
+          perpendicular += one.perpendicular[row] * colour;
+          parallel += one.parallel[row] * colour;
+        }
+        const double close = 1e-12 * (perpendicular + parallel);
+        EXPECT_NEAR(sums.perpendicular.At(row, column), perpendicular, close) << row << " " << column;
+        EXPECT_NEAR(sums.parallel.At(row, column), parallel, close) << row << " " << column;
+        EXPECT_NEAR(sums.mean.At(row, column), (perpendicular + parallel) / 2, close) << row << " " << column;
+      }
+    }
   }
 }
 

@@ -153,6 +153,26 @@ TEST_F(TwoAngles, BadInputsAreToldAndLeaveTheGraph) {
   EXPECT_EQ(State().MapPerp.At(2, 2), value);
 }
 
+TEST_F(TwoAngles, HasLimitsOfWork) {
+  Choose();
+  const auto answer = [&](const char* indices, const char* radii) {
+    // Index 1 to 2 and radius 1 to 2 in so many steps; the runs themselves are stopped at once.
+    auto& dialog = runner.Current().forms.dlogTwoAngle;
+    dialog.txtRImin.Text = dialog.txtRmin.Text = "1";
+    dialog.txtRImax.Text = dialog.txtRmax.Text = "2";
+    dialog.txtRIstep.Text = indices;
+    dialog.txtRstep.Text = radii;
+    runner.World().messages.clear();
+    Do("answer yes\nanswer yes\nstop-at 0\nclick cmdNewPlot");
+    return LastText();
+  };
+  EXPECT_EQ(answer("0.0025", "0.5"), "Select a larger step size") << "401 curves";
+  EXPECT_NE(answer("0.00251", "0.5"), "Select a larger step size");
+  EXPECT_EQ(answer("0.5", "1e-6"), "Select a larger step size");
+  EXPECT_EQ(answer("0.00251", "0.00025"), "Increase the step size or reduce the maximum/minimum range");
+  EXPECT_NE(answer("0.00251", "0.00045"), "Increase the step size or reduce the maximum/minimum range");
+}
+
 TEST_F(TwoAngles, NeedsOneSphereOfTheMieSeriesAtATime) {
   Choose();
   Do("click optDisp\nclick cmdNewPlot");

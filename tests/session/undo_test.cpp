@@ -93,49 +93,6 @@ TEST_F(Undo, InAnOpenDialogIsTheDialogs) {
   EXPECT_EQ(Get("txtRadius"), "10");
 }
 
-/// A user who clicks, types and runs anything in any order breaks nothing.
-TEST(AnyUser, DoesNoHarm) {
-  std::ostringstream output, errors;
-  ScriptRunner runner(output, errors);
-  runner.Start();
-  std::mt19937 random(20240229);
-  // Nobody waits for the longest runs that can be asked for: they are stopped.
-  int yields = 0;
-  runner.World().onYield = [&] {
-    constexpr int patience = 3000;
-    if (++yields > patience) runner.Current().events.Raise("cmdStop_Click");
-  };
-  const auto pick = [&](std::size_t count) { return static_cast<std::size_t>(random() % count); };
-  const std::vector<std::string> texts = {"",    "3",    "30",  "High", "0",   "-1",        "1e999", "nan",
-                                          "abc", "0.1",  "1",   "1,5",  "180", "90",        "0.5",   "10",
-                                          "100", "1e-9", "5e5", "   ",  "RGB", "Automatic", "1.33",  "0.01"};
-  for (int step = 0; step < 1500; ++step) {
-    Session& session = runner.Current();
-    runner.World().answers.assign(4, random() % 2 == 0);
-    const auto forms = session.forms.All();
-    const auto& controls = forms[pick(4) == 0 ? pick(forms.size()) : 0]->Controls();
-    Control& control = *controls[pick(controls.size())];
-    if (control.Kind() == ControlKind::SelectionList && pick(2) == 0) {
-      auto& list = static_cast<SelectionList&>(control);
-      if (!list.Items.empty()) UserChooses(session, list, list.Items[pick(list.Items.size())]);
-    } else if (control.Kind() == ControlKind::TextInput ||
-               (control.Kind() == ControlKind::SelectionList && static_cast<SelectionList&>(control).Editable)) {
-      UserTypes(session, control, texts[pick(texts.size())]);
-    } else {
-      UserClicks(session, control);
-    }
-    yields = 0;
-    if (step % 5 == 0) session.events.Raise("cmdNewPlot_Click");
-    if (step % 97 == 0) session.events.Raise("mnuUndo_Click");
-    ASSERT_EQ(session.state.PlotMode, 1) << step << " " << control.Name();
-    ASSERT_EQ(session.state.Busy, 0) << step << " " << control.Name();
-  }
-  std::ostringstream freshOutput, freshErrors;
-  ScriptRunner fresh(freshOutput, freshErrors);
-  fresh.Start();
-  EXPECT_EQ(fresh.Current().state.NSTOP, 135);
-}
-
 TEST_F(Undo, ALookThatIsTakenBackIsDrawnAtOnce) {
   const auto left = [this] { return runner.Current().page.geometry.box.right; };
   const double before = left();

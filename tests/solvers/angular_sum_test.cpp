@@ -125,6 +125,29 @@ TEST(AngularSum, TouchesOnlyTheRowsOfTheWindow) {
   }
 }
 
+// Small grids, every window there is: the last row of a block, of a half and of the grid come out as in the whole.
+TEST(AngularSum, EveryWindowOfASmallGridHoldsWhatTheWholeHas) {
+  const PartialWaves waves = Waves(3.0);
+  SilentMonitor monitor;
+  for (const int NANG : {2, 3, 9, 18}) {
+    const AngleGrid grid(NANG);
+    const int last = grid.RowCount();
+    AmplitudeTable all1(last), all2(last);
+    SumAngularSeries(waves, grid, {1, last}, all1, all2, monitor);
+    const double close = 1e-14 * std::hypot(all1.Re(1), all1.Im(1));
+    for (int low = 1; low <= last; ++low)
+      for (int high = low; high <= last; ++high) {
+        AmplitudeTable S1(last), S2(last);
+        SumAngularSeries(waves, grid, {low, high}, S1, S2, monitor);
+        for (int j = 1; j <= last; ++j) {
+          const bool wanted = j >= low && j <= high;
+          ASSERT_NEAR(S1.Re(j), wanted ? all1.Re(j) : 0, close) << NANG << " " << low << ".." << high << " row " << j;
+          ASSERT_NEAR(S2.Im(j), wanted ? all2.Im(j) : 0, close) << NANG << " " << low << ".." << high << " row " << j;
+        }
+      }
+  }
+}
+
 // A table of cosines that another call left must not change a single digit, wherever the window begins.
 TEST(AngularSum, CosinesMayBeSharedBetweenCalls) {
   const PartialWaves waves = Waves(30.0);

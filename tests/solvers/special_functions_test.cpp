@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cfenv>
 #include <cmath>
+#include <complex>
 #include <vector>
 
 #include "solvers/functions/airy_function.h"
@@ -174,6 +175,34 @@ TEST(SpecialFunctions, SphericalBesselFunctionsOfRealArgument) {
   EXPECT_TRUE(std::ranges::all_of(f.j, [](double v) { return std::isfinite(v); }));
   EXPECT_TRUE(std::ranges::all_of(f.y, [](double v) { return std::isfinite(v); }));
   EXPECT_EQ(std::fetestexcept(watched), 0);
+}
+
+// Wronskian j_n y_(n-1) - j_(n-1) y_n = 1/x^2 (Abramowitz and Stegun 1965, 10.1.31): the scale of j against that of y,
+// where j_0 normalises, where j_1 does, and where orders grow on the way down.
+TEST(SpecialFunctions, SphericalBesselFunctionsOfBothKindsHaveOneScale) {
+  for (const double x : {1e-3, 0.009, 0.02, 0.5, 1.0, 2.0, 3.2, 6.283185307179586, 9.5, 30.0, 31.4159265, 300.0}) {
+    const int last = static_cast<int>(x + 4 * std::cbrt(x) + 2);
+    for (const int start : {last + 5, MSTA2(x, last, 15), last + 400}) {
+      const SphericalJY f = Besh(x, last, std::max(start, MSTA2(x, last, 15)));
+      for (int n = 1; n <= last; ++n) {
+        const auto k = static_cast<std::size_t>(n);
+        if (std::fabs(f.y[k]) > 1e290) break;
+        EXPECT_NEAR(x * x * (f.j[k] * f.y[k - 1] - f.j[k - 1] * f.y[k]), 1, 1e-10) << "x " << x << " n " << n;
+      }
+    }
+  }
+  SilentMonitor monitor;
+  for (const ComplexD z : {ComplexD(0.3, 0.1), ComplexD(3.14159, 0.0), ComplexD(40.0, -3.0), ComplexD(5.0, 60.0)})
+    for (const int n : {1, 2, 3, 10, 60}) {
+      double below[2], at[2], above[2];
+      SphericalBesselLentz(n - 1, z, below, monitor);
+      SphericalBesselLentz(n, z, at, monitor);
+      SphericalBesselLentz(n + 1, z, above, monitor);
+      const std::complex<double> sum(below[0] + above[0], below[1] + above[1]);
+      const auto expected = (2.0 * n + 1.0) / std::complex<double>(z.re, z.im) * std::complex<double>(at[0], at[1]);
+      EXPECT_LT(std::abs(sum - expected), 1e-10 * (std::abs(expected) + std::hypot(below[0], below[1])))
+          << z.re << " + i " << z.im << ", n " << n;
+    }
 }
 
 TEST(SpecialFunctions, SphericalBesselFunctionsByContinuedFraction) {

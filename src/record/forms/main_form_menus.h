@@ -118,8 +118,8 @@ struct Form1Menus : Form1Inputs {
   MenuEntry mnuRadiusX{*this, "mnuRadiusX", "Size parameter x"};
   MenuEntry mnuSize{*this, "mnuSize", "Divide amplitudes by x"};
   MenuEntry mnuClassicStart{*this, "mnuClassicStart", "Classic start of the Mie recurrence", false,
-                            "Start the logarithmic derivative from zero 20 terms above the series, as older "
-                            "programs did; wrong for large spheres"};
+                            "Start the logarithmic derivative from zero 20 terms above the series, to show what a "
+                            "short start costs: wrong for large spheres"};
   MenuEntry mnuHidden{*this, "mnuHidden", "Diagnostics"};
   MenuEntry mnuMieDebye{*this, "mnuMieDebye", "Mie - Debye"};
   MenuEntry mnuGODebye{*this, "mnuGODebye", "GO - Debye"};

@@ -4,8 +4,8 @@
 
 namespace lumivex {
 
-/// A quarter turn as the angle grid has always used it, in radians. It is 1.6e-15 short of pi/2, and stays so:
-/// the angles of the rows are part of the results.
+/// A quarter turn with the fifteen decimals of the grid, in radians. It is 1.6e-15 short of pi/2, so that row NANG
+/// keeps a cosine above 0 and the mirrored rows never meet.
 inline constexpr double AngleGridQuarterTurn = 1.570796326794895;
 
 /// The rows of scattering angles: NANG rows from 0 to 90 degrees inclusive, mirrored to 180 degrees.

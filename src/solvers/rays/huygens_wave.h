@@ -30,7 +30,8 @@ struct HuygensWave {
 /// Traces R >= 1 rays. Rays that do not enter (sin i > m, p >= 1) are left out: the arrays then end before R + 1.
 ///
 /// The modulus is x sqrt(|sin 2i/G|) as for rays; where G vanishes on the axis it is 2x for p = 1, x/128 for p = 3 and
-/// x/2 otherwise, the values by which older drawings were scaled.
+/// x/2 otherwise: fixed values that stand for the ray of the axis in the drawing (those of its neighbours for p = 0 and
+/// for p = 1 in water); they enter no pattern.
 HuygensWave TraceHuygens(double x, double m, int p, int R);
 
 struct HuygensRequest {

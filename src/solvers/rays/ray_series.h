@@ -39,8 +39,8 @@ struct RayRequest {
   const RayPieces* pieces = nullptr;
   double firstAngle =
       0.0;  ///< angle of row 1 (radians); a beam that is not on the axis is seen at angles of both signs
-  /// For complex m the parallel amplitude as the older programs have it, with its sign changed; |S2| of rays alone is
-  /// the same, but a sum with another field is not.
+  /// For complex m the parallel amplitude with its sign changed, as Fresnel's formulas give it where the parallel field
+  /// is counted along the ray's own normal; |S2| of rays alone is the same, but a sum with another field is not.
   bool parallelReversed = false;
 };
 
