@@ -4,14 +4,14 @@
   make_reference.py FILE      prints the table of that name with its values calculated anew
   make_reference.py --check   tells for each table the largest difference, relative to the modulus
 
-The rows (sphere, angle, term) and the comments are those of the table; only the values are calculated. Bessel functions
-go upward with as many further digits as the recurrence loses, so that nothing here shares a method with the program.
+The rows (sphere, angle, term) and the comments are those of the table; only the values are calculated. The inputs of the
+Mie tables are the doubles nearest to what is printed, those of the Debye table what is printed. Bessel functions go upward with as many further digits as the recurrence loses, so that nothing here shares a method with the program.
 """
 import pathlib
 import sys
 from functools import lru_cache
 
-from mpmath import cos, exp, fabs, floor, log10, mp, mpc, mpf, nstr, pi, sin
+from mpmath import cos, fabs, floor, log10, mp, mpc, mpf, nstr, pi, sin
 
 here = pathlib.Path(__file__).parent
 DIGITS = 60
@@ -27,11 +27,11 @@ def riccati_bessel(z, n_max):
     return psi, chi, slope(psi), slope(chi)
 
 
-def enough_digits(x, m, n_max):
-    """Upward, psi_n loses what chi_n gains: about 2 n log10(2n/(e x)) digits beyond n = x, and exp(2 Im z) inside."""
-    size = float(min(x, abs(m * x)))
+def enough_digits(z, n_max):
+    """Upward, psi_n(z) loses what chi_n gains: about 2 n log10(2n/(e |z|)) digits beyond n = |z|, and exp(2 Im z)."""
+    size = float(abs(z))
     lost = 2 * n_max * max(0.0, float(log10(2 * n_max / (2.718 * size)))) if size < n_max else 0
-    return int(DIGITS + 40 + lost + 2 * abs(float((m * x).imag)) / 2.3)
+    return int(DIGITS + 40 + lost + 2 * abs(float(mpc(z).imag)) / 2.3)
 
 
 def terms(x, margin):
@@ -43,7 +43,7 @@ def whole_sphere(x_text, re_text, im_text, short_start):
     """a_n, b_n for n = 1..N. With short_start D_n begins at 0 twenty rows above, and N has a margin of 20."""
     x, m = mpf(float(x_text)), mpc(float(re_text), float(im_text))
     N = terms(x, 20) if short_start else terms(x, 20) + 60 + int(4 * float(x) ** (1 / 3))
-    mp.dps = enough_digits(x, m, N)
+    mp.dps = enough_digits(x, N)
     x, m = mpf(float(x_text)), mpc(float(re_text), float(im_text))
     y = m * x
     start = int(max(N, abs(y))) + (20 if short_start else 400 + int(abs(y)) // 5)
@@ -64,10 +64,10 @@ def whole_sphere(x_text, re_text, im_text, short_start):
 @lru_cache(maxsize=None)
 def debye_factors(x_text, re_text, im_text):
     """For a_n and b_n: R22, R11 and T of every partial wave; outgoing waves psi - i chi, incoming ones psi + i chi."""
-    x, m = mpf(float(x_text)), mpc(float(re_text), float(im_text))
+    x, m = mpf(x_text), mpc(re_text, im_text)
     N = terms(x, 2)
-    mp.dps = enough_digits(x, m, N) + 60
-    x, m = mpf(float(x_text)), mpc(float(re_text), float(im_text))
+    mp.dps = max(enough_digits(x, N), enough_digits(m * x, N)) + 60
+    x, m = mpf(x_text), mpc(re_text, im_text)
     out, inn = {}, {}
     for z in (x, m * x):
         psi, chi, dpsi, dchi = riccati_bessel(z, N)
