@@ -53,6 +53,13 @@ void PrintTitle(DrawingSurface& surface, const Page& page) {
   surface.Print(run.methodLabel);
 }
 
+/// On white paper the strip behind the inputs and the readings keeps the colour of the window.
+void PaintGroundOfStrip(DrawingSurface& surface, const PageStyle& style) {
+  if (style.paper != colours::White) return;
+  surface.ForeColour = colours::ButtonFace;
+  surface.Line(0, 0, 15750, 2800, LineKind::FilledBox);
+}
+
 /// What stands in the strip over the graph.
 void PaintStrip(DrawingSurface& surface, const Page& page) {
   const bool readings = page.style.readingsVisible && !page.readings.empty();
@@ -67,6 +74,7 @@ void PaintStrip(DrawingSurface& surface, const Page& page) {
 void Paint(const Page& page, DrawingSurface& surface) {
   surface.BackColour = page.style.paper;
   surface.Cls();
+  PaintGroundOfStrip(surface, page.style);
   surface.FontName = "MS Sans Serif";
   surface.FontSize = 8;
   surface.FontBold = false;

@@ -6,6 +6,7 @@
 
 #include "pages/curves/curve_path.h"
 #include "pages/frame/scale.h"
+#include "pages/read_out.h"
 
 namespace lumivex {
 
@@ -56,7 +57,101 @@ std::optional<Extent> ExtentOf(const PageCurve& curve) {
   return extent;
 }
 
+/// The panel whose vertical axis is zoomed: the first, which no page has on a scale of its own.
+const PagePanel& MainPanel(const Page& page) {
+  return page.panels.front();
+}
+
+/// Numbers of a logarithmic axis have two digits, those of a linear one three: ends that are nearer look the same.
+constexpr double leastRatio = 2, leastShare = 0.01;
+constexpr int digitsOfY = 3;
+
+bool IsWideEnough(XRange y, bool logarithmic) {
+  if (logarithmic) return y.xmin > 0 && y.xmax / y.xmin >= leastRatio;
+  return y.xmax - y.xmin >= leastShare * std::max(std::abs(y.xmin), std::abs(y.xmax));
+}
+
+double WithDigits(double value, int digits) {
+  if (value == 0) return 0;
+  const double unit = std::pow(10.0, std::floor(std::log10(std::abs(value))) - (digits - 1));
+  return std::round(value / unit) * unit;
+}
+
+/// All that the vertical axis may show: the frame, and what it shows now.
+XRange BoundsOfY(const Page& page) {
+  const AxisLimits& now = MainPanel(page).limits;
+  return {std::min(page.homeY.xmin, now.ymin), std::max(page.homeY.xmax, now.ymax)};
+}
+
+/// The ends with as many digits as the axis prints; those that have not moved, or cannot go on, stay as they are.
+XRange RoundedY(XRange y, const Page& page) {
+  const PagePanel& panel = MainPanel(page);
+  const XRange bounds = BoundsOfY(page);
+  const auto rounded = [&](double value, double before, double bound) {
+    for (const double kept : {bound, before})
+      if (std::abs(value - kept) <= 1e-9 * std::abs(kept)) return kept;
+    if (panel.logY) return std::clamp(WithDigits(value, 2), bounds.xmin, bounds.xmax);
+    const double unit = std::pow(10.0, std::floor(std::log10(y.xmax - y.xmin)) - (digitsOfY - 1));
+    return std::clamp(std::round(value / unit) * unit, bounds.xmin, bounds.xmax);
+  };
+  return {rounded(y.xmin, panel.limits.ymin, bounds.xmin), rounded(y.xmax, panel.limits.ymax, bounds.xmax)};
+}
+
 }  // namespace
+
+PageView ViewOf(const Page& page) {
+  if (page.panels.empty()) return {};
+  const AxisLimits& limits = MainPanel(page).limits;
+  PageView view{{limits.xmin, limits.xmax}};
+  if (page.zoomedY) view.y = {limits.ymin, limits.ymax};
+  return view;
+}
+
+PageView HomeOf(const Page& page) {
+  return {page.home};
+}
+
+bool IsZoomed(const Page& page) {
+  return HasXAxis(page) && ViewOf(page) != HomeOf(page);
+}
+
+std::optional<PageView> KeptView(const Page& before, const Page& after) {
+  const PageKind &a = before.kind, &b = after.kind;
+  const bool sameAxis = a.graph.axis == b.graph.axis && a.graph.family == b.graph.family && a.fourier == b.fourier;
+  if (!IsZoomed(before) || !HasXAxis(after) || !sameAxis || before.home != after.home) return std::nullopt;
+  PageView view = ViewOf(before);
+  if (before.homeY != after.homeY || a.logY != b.logY) view.y.reset();
+  return view;
+}
+
+XRange ZoomYAt(const Page& page, double surfaceY, double factor) {
+  if (!HasXAxis(page)) return {};
+  const PagePanel& panel = MainPanel(page);
+  const XRange now{panel.limits.ymin, panel.limits.ymax};
+  const PanelMap map{panel.box, panel.limits, page.kind.logX, panel.logY};
+  const double at = map.YAt(std::clamp(surfaceY, panel.box.top, panel.box.bottom));
+  const XRange zoomed = RoundedY(ZoomedRange(now, factor, at, BoundsOfY(page), panel.logY), page);
+  return factor > 1 || IsWideEnough(zoomed, panel.logY) ? zoomed : now;
+}
+
+XRange PanYBy(const Page& page, double surfaceUnits) {
+  if (!HasXAxis(page)) return {};
+  const PagePanel& panel = MainPanel(page);
+  const XRange now{panel.limits.ymin, panel.limits.ymax};
+  return PannedRange(now, surfaceUnits / panel.box.Height(), BoundsOfY(page), panel.logY);
+}
+
+int PointsInView(const Page& page) {
+  std::size_t most = 0;
+  for (const auto& curve : page.curves) {
+    if (curve.panel != 0) continue;
+    const RowSpan rows = RowsWithin(curve.x, RangeShown(page));
+    std::size_t count = 0;
+    for (std::size_t i = rows.first; i <= rows.last && i < curve.y.size(); ++i) count += std::isfinite(curve.y[i]);
+    most = std::max(most, count);
+  }
+  return static_cast<int>(most);
+}
 
 bool HasXAxis(const Page& page) {
   return !page.panels.empty() && !page.kind.polar;
@@ -71,14 +166,19 @@ XRange RoundedRange(XRange range) {
   return {rounded.xmin == 0 ? range.xmin : rounded.xmin, rounded.xmax};
 }
 
-Page SetXRange(Page page, XRange range, const Look& look) {
+Page WithView(Page page, const PageView& view, const Look& look) {
   if (!HasXAxis(page)) return page;
+  page.zoomedY = view.y && (view.x != page.home || *view.y != page.homeY);
   for (std::size_t i = 0; i < page.panels.size(); ++i) {
     PagePanel& panel = page.panels[i];
-    panel.limits.xmin = range.xmin;
-    panel.limits.xmax = range.xmax;
+    panel.limits.xmin = view.x.xmin;
+    panel.limits.xmax = view.x.xmax;
+    if (page.zoomedY && !panel.second) {
+      panel.limits.ymin = view.y->xmin;
+      panel.limits.ymax = view.y->xmax;
+    }
     panel.limits = RepairedLimits(panel.limits, page.kind.logX, panel.logY);
-    if (!panel.second) ChooseLimitsInView(page, i, look);
+    if (!page.zoomedY && !panel.second) ChooseLimitsInView(page, i, look);
   }
   return page;
 }

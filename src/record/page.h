@@ -178,7 +178,8 @@ struct Page {
   ScaleMemory scale;  ///< as this page left it
   std::vector<PagePanel> panels;
   std::vector<PageCurve> curves;
-  XRange home;                         ///< x range of the frame before any zoom
+  XRange home, homeY;                  ///< ranges of the main panel before any zoom
+  bool zoomedY = false;                ///< the vertical range is the user's, not that of the curves in view
   double autoBottom = 0, autoTop = 0;  ///< smallest and largest value of the curves that the frame was chosen for
   bool legend = false;                 ///< whether the names of the curves stand below
   std::string legendNote;              ///< what the legend prints in place of the curves' names, or empty

@@ -27,6 +27,8 @@ class Platform {
 
   /// Shows a message and waits until it is put away. Lines are parted by '\n'.
   virtual void Message(std::string_view title, std::string_view text) = 0;
+  /// The same for what is no warning: who the program is.
+  virtual void Note(std::string_view title, std::string_view text) { Message(title, text); }
   /// Asks; true is Yes.
   virtual bool Question(std::string_view title, std::string_view text) = 0;
   /// Asks for a file; nothing when the user cancels.

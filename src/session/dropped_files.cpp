@@ -15,6 +15,7 @@ void DropFiles(Session& session, std::span<const std::string> paths) {
   if (TakesDroppedFile(paths.front())) {
     RememberInputs(session, "");
     ReadDroppedFile(session, paths.front());
+    OfferHistory(session);
     return;
   }
   session.platform.Message("Dropped files", FileNameOf(paths.front()) +

@@ -46,6 +46,7 @@ constexpr EventRow eventRows[] = {
     {"mnuAperture_Click", mnuAperture_Click},
     {"mnuvdh_Click", mnuvdh_Click},
     {"mnuDebyeSequence_Click", mnuDebyeSequence_Click},
+    {"dlogDebyeSeq.Show", AskDebyeSequence},
     {"chkComponents_Click", Scale_Click},
     {"mnuTwoAngle_Click", mnuTwoAngle_Click},
     {"mnuDiffCrossSection_Click", mnuDiffCrossSection_Click},

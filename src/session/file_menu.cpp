@@ -2,6 +2,7 @@
 
 #include "pages/page_table.h"
 #include "record/text_file.h"
+#include "record/version.h"
 #include "session/window_events.h"
 
 namespace lumivex {
@@ -42,8 +43,9 @@ void mnuHelpContents_Click(Session& session) {
 }
 
 void mnuAbout_Click(Session& session) {
-  session.platform.Message(
-      "About Lumivex", "Lumivex\nScattering of light by spherical particles:\nMie theory, rainbows, glories, coronae.");
+  session.platform.Note("About Lumivex",
+                        "Lumivex " + std::string(programVersion) +
+                            "\nScattering of light by spherical particles:\nMie theory, rainbows, glories, coronae.");
 }
 
 }  // namespace lumivex

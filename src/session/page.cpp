@@ -4,7 +4,6 @@
 
 #include "pages/build_page.h"
 #include "pages/frame/frame.h"
-#include "pages/zoom.h"
 #include "session/inputs/look/read_look.h"
 
 namespace lumivex {
@@ -53,12 +52,8 @@ void RenewLook(Session& session) {
   ShowPage(session, WithLook(session.page, ReadLook(session)));
 }
 
-bool ShowRange(Session& session, XRange range) {
-  if (!HasXAxis(session.page)) return true;
-  session.state.Xmin = range.xmin;
-  session.state.Xmax = range.xmax;
-  ShowPage(session, SetXRange(session.page, range, ReadLook(session)));
-  return HasDataOver(session.page, range);
+void ShowView(Session& session, const PageView& view) {
+  if (HasXAxis(session.page)) ShowPage(session, WithView(session.page, view, ReadLook(session)));
 }
 
 }  // namespace lumivex

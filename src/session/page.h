@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pages/zoom.h"
 #include "record/session.h"
 
 namespace lumivex {
@@ -16,8 +17,7 @@ void ShowPage(Session& session, Page page);
 /// limits stay.
 void RenewLook(Session& session);
 
-/// Makes a range of x the one on the screen.
-/// @return whether some curve has data over all of it; where none has, a calculation would show the rest.
-bool ShowRange(Session& session, XRange range);
+/// Makes a part of the page's axes the one on the screen. The inputs stay as they are.
+void ShowView(Session& session, const PageView& view);
 
 }  // namespace lumivex

@@ -17,6 +17,7 @@
 #include "session/inputs/look/look_menus.h"
 #include "session/inputs/materials/sellmeier_catalogue.h"
 #include "session/inputs/methods.h"
+#include "session/undo.h"
 #include "session/window_events.h"
 
 namespace lumivex {
@@ -231,6 +232,7 @@ void Form_Load(Session& session) {
   s.Busy = 0;
   if (s.ScreenWidthPx > 1024) session.events.Raise("mnuVLarge_Click");
   cmdInfo_Click(session);
+  OfferHistory(session);
 }
 
 void cmdDefault_Click(Session& session) {

@@ -105,6 +105,11 @@ void KeepStep(UndoHistory& undo, InputState state) {
   undo.future.clear();
 }
 
+void EnableHistory(Session& session) {
+  session.form1.mnuUndo.Enabled = !session.undo.past.empty();
+  session.form1.mnuRedo.Enabled = !session.undo.future.empty();
+}
+
 }  // namespace
 
 DialogScope::DialogScope(Session& session, Form& form) : session_(session) {
@@ -118,6 +123,7 @@ DialogScope::~DialogScope() {
   undo.open.pop_back();
   undo.typedInto.clear();
   if (before_ && !(*before_ == Present(session_))) KeepStep(undo, std::move(*before_));
+  EnableHistory(session_);
 }
 
 void RememberInputs(Session& session, std::string_view typedInto) {
@@ -130,16 +136,27 @@ void RememberInputs(Session& session, std::string_view typedInto) {
   KeepStep(undo, Present(session));
 }
 
+void OfferHistory(Session& session) {
+  auto& undo = session.undo;
+  if (undo.acting == 0 && undo.open.empty() && !undo.past.empty() && undo.past.back() == Present(session)) {
+    undo.past.pop_back();
+    undo.typedInto.clear();
+  }
+  EnableHistory(session);
+}
+
 void mnuUndo_Click(Session& session) {
   auto& undo = session.undo;
   if (!undo.open.empty()) return StepInDialog(undo.open.back(), undo.open.back().past, undo.open.back().future);
   Step(session, undo.past, undo.future);
+  EnableHistory(session);
 }
 
 void mnuRedo_Click(Session& session) {
   auto& undo = session.undo;
   if (!undo.open.empty()) return StepInDialog(undo.open.back(), undo.open.back().future, undo.open.back().past);
   Step(session, undo.future, undo.past);
+  EnableHistory(session);
 }
 
 }  // namespace lumivex

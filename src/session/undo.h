@@ -25,6 +25,19 @@ class ActionScope {
   UndoHistory& undo_;
 };
 
+/// Inputs that are set together within one step of undo.
+class UndoHold {
+ public:
+  explicit UndoHold(UndoHistory& undo) : undo_(undo), before_(undo.held) { undo_.held = true; }
+  ~UndoHold() { undo_.held = before_; }
+  UndoHold(const UndoHold&) = delete;
+  UndoHold& operator=(const UndoHold&) = delete;
+
+ private:
+  UndoHistory& undo_;
+  bool before_;
+};
+
 /// A dialog on the screen. What the user does in it is undone and redone in it alone. When it is closed, all of it is
 /// one step of the session's: that of the action which opened it or, where a command did, one of its own.
 class DialogScope {
@@ -38,6 +51,10 @@ class DialogScope {
   Session& session_;
   std::optional<InputState> before_;
 };
+
+/// Ends an action of the user: a step that changed nothing is forgotten, and Undo and Redo are enabled where they would
+/// do something.
+void OfferHistory(Session& session);
 
 /// Puts the inputs of before the last action back, or those that were undone last; steps that changed nothing are
 /// passed over. Events are held back and the results stay. While a dialog is open it is the dialog's inputs. Does

@@ -1,6 +1,5 @@
 #include "session/user_actions.h"
 
-#include <optional>
 #include <string>
 
 #include "session/checks/number_input.h"
@@ -19,6 +18,14 @@ void TakeMarkOff(Control& control) {
   if (control.BackColour == colours::BadInput) control.BackColour = colours::White;
 }
 
+void SetByClick(Control& control) {
+  if (control.Kind() == ControlKind::OptionButton) static_cast<OptionButton&>(control).Select();
+  if (control.Kind() == ControlKind::CheckBox) {
+    auto& box = static_cast<CheckBox&>(control);
+    box.Checked = !box.Checked;
+  }
+}
+
 }  // namespace
 
 std::string EventName(const Control& control, std::string_view event) {
@@ -32,38 +39,41 @@ bool UserTypes(Session& session, Control& control, std::string_view text) {
   if (field == nullptr || !Takes(control)) return false;
   if (*field == text) return true;
   RememberInputs(session, EventName(control, "Change"));
-  const ActionScope acting(session.undo);
-  *field = text;
-  TakeMarkOff(control);
-  if (!session.events.Raise(EventName(control, "Change"))) session.events.Raise(EventName(control, "Click"));
+  {
+    const ActionScope acting(session.undo);
+    *field = text;
+    TakeMarkOff(control);
+    if (!session.events.Raise(EventName(control, "Change"))) session.events.Raise(EventName(control, "Click"));
+  }
+  OfferHistory(session);
   return true;
 }
 
 bool UserChooses(Session& session, SelectionList& list, std::string_view item) {
   if (!Takes(list)) return false;
   RememberInputs(session, "");
-  const ActionScope acting(session.undo);
-  list.Text = item;
-  TakeMarkOff(list);
-  if (!session.events.Raise(EventName(list, "Click"))) session.events.Raise(EventName(list, "Change"));
+  {
+    const ActionScope acting(session.undo);
+    list.Text = item;
+    TakeMarkOff(list);
+    if (!session.events.Raise(EventName(list, "Click"))) session.events.Raise(EventName(list, "Change"));
+  }
+  OfferHistory(session);
   return true;
 }
 
 bool UserClicks(Session& session, Control& control) {
   if (!Takes(control)) return false;
   const bool history = control.Name() == "mnuUndo" || control.Name() == "mnuRedo";
-  const bool recorded = control.Kind() != ControlKind::CommandButton && !history;
-  std::optional<ActionScope> acting;
-  if (recorded) {
+  if (control.Kind() == ControlKind::CommandButton || history) {
+    session.events.Raise(EventName(control, "Click"));
+  } else {
     RememberInputs(session, "");
-    acting.emplace(session.undo);
+    const ActionScope acting(session.undo);
+    SetByClick(control);
+    session.events.Raise(EventName(control, "Click"));
   }
-  if (control.Kind() == ControlKind::OptionButton) static_cast<OptionButton&>(control).Select();
-  if (control.Kind() == ControlKind::CheckBox) {
-    auto& box = static_cast<CheckBox&>(control);
-    box.Checked = !box.Checked;
-  }
-  session.events.Raise(EventName(control, "Click"));
+  OfferHistory(session);
   return true;
 }
 

@@ -48,7 +48,7 @@ void Canvas::paintEvent(QPaintEvent*) {
   const QImage& picture = surface_.Picture();
   const double ratio = surface_.Scale().deviceRatio;
   const QRectF shown(QPointF(0, 0), QSizeF(picture.size()) / ratio);
-  if (shown.width() < width() || shown.height() < height()) painter.fillRect(rect(), ToQColor(surface_.BackColour));
+  if (shown.width() < width() || shown.height() < height()) painter.fillRect(rect(), surface_.PaperColour());
   painter.drawImage(shown, picture);
   if (mark_) {
     painter.setRenderHint(QPainter::Antialiasing);
@@ -91,7 +91,11 @@ void Canvas::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void Canvas::wheelEvent(QWheelEvent* event) {
   const QPointF at = UnitsAt(event->position());
-  if (!mouse.wheel || !mouse.wheel(at.x(), at.y(), event->angleDelta().y() / wheelStep)) event->ignore();
+  // Some systems turn the wheel with Shift into a horizontal one.
+  const QPoint turned = event->angleDelta();
+  const double steps = (turned.y() != 0 ? turned.y() : turned.x()) / wheelStep;
+  const bool one = event->modifiers() & Qt::ShiftModifier;
+  if (!mouse.wheel || !mouse.wheel({at.x(), at.y(), steps, one})) event->ignore();
 }
 
 QRect Canvas::MarkArea() const {

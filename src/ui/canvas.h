@@ -9,6 +9,13 @@
 
 namespace lumivex {
 
+/// A turn of the wheel over the drawing, at a place in surface units.
+struct CanvasWheel {
+  double x = 0, y = 0;
+  double steps = 0;  ///< up is positive
+  bool one = false;  ///< Shift is down: one axis alone
+};
+
 /// What the mouse does on the drawing, in surface units. Whoever reads a curve or zooms into one fills in its part.
 struct CanvasMouse {
   std::function<void(double x, double y)> press;
@@ -16,8 +23,8 @@ struct CanvasMouse {
   std::function<void(double x, double y)> drag;  ///< moved with the left button down
   std::function<void(double x, double y)> release;
   std::function<void(double x, double y)> doubleClick;
-  /// Steps up are positive; false where the wheel is to scroll.
-  std::function<bool(double x, double y, double steps)> wheel;
+  /// False where the wheel is to scroll.
+  std::function<bool(const CanvasWheel& wheel)> wheel;
   std::function<void()> leave;
 };
 
@@ -32,6 +39,9 @@ class Canvas final : public QWidget {
 
   /// The drawing; lives as long as the widget.
   ImageSurface& Surface() { return surface_; }
+  /// Whether the page is shown as on a dark desktop; whoever changes it draws anew.
+  void SetNight(bool night) { surface_.night = night; }
+  bool IsNight() const { return surface_.night; }
   /// Pixels to one surface unit; a change takes effect with the next Renew.
   void SetUnit(double unitPx) { unitPx_ = unitPx; }
   double Unit() const { return unitPx_; }

@@ -32,6 +32,12 @@ QWidget* TargetOf(QObject* receiver, const QMouseEvent& event) {
   return child ? child : widget;
 }
 
+bool IsEnter(const QEvent& event) {
+  if (event.type() != QEvent::KeyPress && event.type() != QEvent::KeyRelease) return false;
+  const int key = static_cast<const QKeyEvent&>(event).key();
+  return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
 }  // namespace
 
 CommandGate::~CommandGate() {
@@ -136,8 +142,10 @@ bool CommandGate::eventFilter(QObject* receiver, QEvent* event) {
 
 void CommandGate::Release() {
   if (whenFree) whenFree();
+  const bool dropsEnter = std::exchange(dropsEnter_, false);
   for (auto& kept : std::exchange(kept_, {}))
-    if (kept.receiver) QCoreApplication::postEvent(kept.receiver, kept.event.release());
+    if (kept.receiver && !(dropsEnter && IsEnter(*kept.event)))
+      QCoreApplication::postEvent(kept.receiver, kept.event.release());
   stopPressed_ = false;
   if (QWidget* window = std::exchange(closing_, nullptr))
     QMetaObject::invokeMethod(window, &QWidget::close, Qt::QueuedConnection);

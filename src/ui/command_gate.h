@@ -29,6 +29,9 @@ class CommandGate final : public QObject {
   /// Whether a command is under way.
   bool Running() const { return depth_ > 0; }
 
+  /// Takes back what Enter was pressed for during this command: it was stopped, and no other is to follow it.
+  void DropEnter() { dropsEnter_ = true; }
+
   /// Serves the window from inside a command; returns at once when it was served less than 25 ms ago.
   void Yield();
 
@@ -69,6 +72,7 @@ class CommandGate final : public QObject {
   int dialogs_ = 0;
   bool serving_ = false;
   bool stopPressed_ = false;
+  bool dropsEnter_ = false;
   Clock::time_point lastServed_;
   std::vector<Kept> kept_;
   QPointer<QWidget> closing_;

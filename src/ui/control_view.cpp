@@ -45,8 +45,8 @@ void SetChecked(QAbstractButton* button, bool on) {
 
 }  // namespace
 
-ControlView::ControlView(Control& control, const ControlActions& actions, std::string_view caption, QWidget* parent)
-    : control_(&control), caption_(ToQString(caption)) {
+ControlView::ControlView(Control& control, const ControlActions& actions, const Control* label, QWidget* parent)
+    : control_(&control), label_(label) {
   switch (control.Kind()) {
     case ControlKind::TextInput:
       MakeTextInput(actions);
@@ -69,7 +69,6 @@ ControlView::ControlView(Control& control, const ControlActions& actions, std::s
   }
   widget_->setParent(parent);
   widget_->setObjectName(ToQString(control.Name()));
-  plain_ = widget_->palette();
 }
 
 void ControlView::MakeTextInput(const ControlActions& actions) {
@@ -190,7 +189,8 @@ void ControlView::SyncLook() {
     back_ = control_->BackColour;
     fore_ = control_->ForeColour;
     const bool isLabel = control_->Kind() == ControlKind::Label;
-    widget_->setPalette(isLabel ? InkedPalette(plain_, fore_) : MarkedPalette(plain_, back_));
+    // Only the colours of the mark are set: all others go on following the desktop.
+    widget_->setPalette(isLabel ? InkedPalette({}, fore_) : MarkedPalette({}, back_));
     const bool isMarked = back_ == colours::BadInput || back_ == colours::Warning;
     if (control_->Kind() == ControlKind::OptionButton || control_->Kind() == ControlKind::CheckBox)
       widget_->setAutoFillBackground(isMarked);
@@ -211,9 +211,15 @@ void ControlView::Sync() {
   if (widget_->isEnabledTo(widget_->parentWidget()) != control_->Enabled) widget_->setEnabled(control_->Enabled);
   const bool shown = IsShown();
   if (widget_->isHidden() == shown) widget_->setVisible(shown);
-  const bool hasOwnName = control_->Kind() == ControlKind::TextInput || control_->Kind() == ControlKind::SelectionList;
-  if (hasOwnName && widget_->accessibleName().isEmpty())
-    widget_->setAccessibleName(caption_.isEmpty() ? ToQString(control_->Tip) : caption_);
+  SyncName();
+}
+
+void ControlView::SyncName() {
+  if (control_->Kind() != ControlKind::TextInput && control_->Kind() != ControlKind::SelectionList) return;
+  // What the input means may change with the graph, and its label says it.
+  const std::string_view caption = label_ ? label_->ShownCaption() : std::string_view{};
+  const QString name = ToQString(caption.empty() ? std::string_view(control_->Tip) : caption);
+  if (widget_->accessibleName() != name) widget_->setAccessibleName(name);
 }
 
 }  // namespace lumivex

@@ -21,8 +21,8 @@ struct ControlActions {
 /// The widget of one control: shows the control's fields and reports what the user does to it.
 class ControlView {
  public:
-  /// @param caption  text of the label that stands before the control, "" where there is none: its accessible name.
-  ControlView(Control& control, const ControlActions& actions, std::string_view caption, QWidget* parent);
+  /// @param label  what stands before the control, null where there is none: it names the control to a screen reader.
+  ControlView(Control& control, const ControlActions& actions, const Control* label, QWidget* parent);
 
   Control& Of() const { return *control_; }
   QWidget* Widget() const { return widget_; }
@@ -41,13 +41,13 @@ class ControlView {
   void SyncValue();
   void SyncList(SelectionList& list);
   void SyncLook();
+  void SyncName();
 
   Control* control_;
-  QString caption_;
+  const Control* label_;
   QPointer<QWidget> widget_;
   std::vector<std::string> items_;
   Colour back_ = colours::White, fore_ = colours::Black;
-  QPalette plain_;
   std::string tip_;
 };
 

@@ -1,6 +1,7 @@
 #include "ui/dialog_view.h"
 
 #include <QDialogButtonBox>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -29,20 +30,43 @@ DialogView::DialogView(Form& form, Hooks hooks, QWidget* parent)
   auto* column = new QVBoxLayout(this);
   column->setSpacing(8);
   column->setSizeConstraint(QLayout::SetMinimumSize);
-  lines_ = std::make_unique<FormView>(form, LinesOf(form), FormStyle{}, hooks_.actions, this);
+  BuildLines();
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
   buttons->button(QDialogButtonBox::Ok)->setDefault(true);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   column->addSpacing(6);
   column->addWidget(buttons);
-  undoKeys_.Watch(*this);
   Sync();
   for (const auto& view : lines_->Views()) {
     if (view->Of().Kind() == ControlKind::Label || view->Widget()->isHidden()) continue;
     view->Widget()->setFocus();
     break;
   }
+}
+
+void DialogView::BuildLines() {
+  auto* column = static_cast<QVBoxLayout*>(layout());
+  lines_.reset();
+  delete body_;
+  body_ = new QWidget(this);
+  auto* lines = new QVBoxLayout(body_);
+  lines->setContentsMargins(0, 0, 0, 0);
+  lines->setSpacing(column->spacing());
+  lines_ = std::make_unique<FormView>(form_, LinesOf(form_), FormStyle{}, hooks_.actions, body_);
+  column->insertWidget(0, body_);
+  undoKeys_.Watch(*body_);
+}
+
+void DialogView::changeEvent(QEvent* event) {
+  QDialog::changeEvent(event);
+  if (!body_ || !IsNewLook(*event)) return;
+  // Widths were measured with the font, and marks mixed from the palette, of before.
+  const QString focused = focusWidget() ? focusWidget()->objectName() : QString();
+  BuildLines();
+  Sync();
+  if (auto* widget = focused.isEmpty() ? nullptr : body_->findChild<QWidget*>(focused)) widget->setFocus();
+  adjustSize();
 }
 
 void DialogView::Sync() {

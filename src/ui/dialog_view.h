@@ -29,13 +29,16 @@ class DialogView final : public QDialog {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
+  void BuildLines();
   std::string EventOf(std::string_view button) const;
 
   Form& form_;
   Hooks hooks_;
   FormSnapshot before_;
+  QWidget* body_ = nullptr;  ///< holds the lines
   std::unique_ptr<FormView> lines_;
   UndoKeys undoKeys_;
 };

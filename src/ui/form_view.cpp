@@ -28,17 +28,29 @@ std::vector<Control*> ControlsOf(const Form& form, const LayoutLine& line) {
   return controls;
 }
 
+/// Digits that the inputs of a line with several have room for: what stands in them at the start, in all lines alike.
+int CharsOfFields(const Form& form, std::span<const LayoutLine> lines) {
+  std::size_t chars = 7;
+  for (const auto& line : lines) {
+    const auto controls = ControlsOf(form, line);
+    if (std::ranges::count_if(controls, [](const Control* c) { return IsInput(*c); }) < 2) continue;
+    for (const Control* control : controls)
+      if (control->Kind() == ControlKind::TextInput) chars = std::max(chars, control->Value().text.size());
+  }
+  return static_cast<int>(std::min<std::size_t>(chars, 16));
+}
+
 }  // namespace
 
 FormView::FormView(Form& form, std::span<const LayoutLine> lines, const FormStyle& style, const ControlActions& actions,
                    QWidget* parent)
     : style_(style), column_(static_cast<QVBoxLayout*>(parent->layout())) {
   // Room for the digits, the frame and the arrow of a list.
-  frameWidth_ = 2 * parent->style()->pixelMetric(QStyle::PM_DefaultFrameWidth) + 10;
-  arrowWidth_ = parent->fontMetrics().height() + 4;
+  const int air = style.tight ? 4 : 10;
+  frameWidth_ = 2 * parent->style()->pixelMetric(QStyle::PM_DefaultFrameWidth) + air;
+  arrowWidth_ = parent->fontMetrics().height() + (style.tight ? 0 : 4);
   fieldWidth_ = style.fieldChars * parent->fontMetrics().horizontalAdvance('0') + frameWidth_ + arrowWidth_;
-  constexpr int leastChars = 7;
-  leastFieldWidth_ = leastChars * parent->fontMetrics().horizontalAdvance('0') + frameWidth_;
+  leastFieldWidth_ = CharsOfFields(form, lines) * parent->fontMetrics().horizontalAdvance('0') + frameWidth_;
   for (const auto& line : lines) AddLine(form, line, actions, parent);
 }
 
@@ -55,8 +67,8 @@ void FormView::AddLine(Form& form, const LayoutLine& line, const ControlActions&
   if (titles) row->addStretch(1);
   for (Control* control : controls) {
     const bool isNamed = labelled && control == controls[1];
-    auto& view = views_.emplace_back(std::make_unique<ControlView>(
-        *control, actions, isNamed ? controls.front()->ShownCaption() : std::string_view{}, parent));
+    auto& view = views_.emplace_back(
+        std::make_unique<ControlView>(*control, actions, isNamed ? controls.front() : nullptr, parent));
     view->Sync();
     QWidget* widget = view->Widget();
     widget->setVisible(true);  // so that the first measure counts everything; the next Sync hides what is hidden

@@ -17,6 +17,7 @@ namespace lumivex {
 struct FormStyle {
   int fieldChars = 12;   ///< digits that the inputs of a labelled line have room for, together
   bool compact = false;  ///< inputs hardly higher than their text
+  bool tight = false;    ///< and hardly wider
 };
 
 /// The controls of a form as lines of widgets, built from their description.
@@ -39,7 +40,7 @@ class FormView {
  private:
   void AddLine(Form& form, const LayoutLine& line, const ControlActions& actions, QWidget* parent);
 
-  /// Width of one of several inputs behind a label; in a dialog each has room for a number.
+  /// Width of one of several inputs behind a label; in a dialog each has room for the longest number of its form.
   int ShareOfField(std::ptrdiff_t fields, int spacing) const;
 
   FormStyle style_;

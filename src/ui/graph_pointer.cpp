@@ -5,10 +5,8 @@
 #include <utility>
 
 #include "pages/read_out.h"
-#include "pages/zoom.h"
-#include "record/number_text.h"
 #include "session/page.h"
-#include "session/user_actions.h"
+#include "session/view.h"
 #include "ui/look.h"
 
 namespace lumivex {
@@ -18,7 +16,23 @@ namespace {
 constexpr double zoomOfStep = 0.8;  // range after one click of the wheel
 constexpr double panOfStep = 0.1;   // of the range, one press of an arrow
 constexpr double leastDrag = 60;    // surface units: less is a click
-constexpr int restMs = 250;
+constexpr double numbersX = 700;    // height of the numbers and the title below the plot (surface units)
+constexpr int restMs = 500;
+constexpr std::size_t mostSteps = 100;
+
+/// Whether two ranges look the same on the screen.
+bool Same(XRange a, XRange b) {
+  const double slack = 1e-6 * std::abs(b.xmax - b.xmin);
+  return std::abs(a.xmin - b.xmin) <= slack && std::abs(a.xmax - b.xmax) <= slack;
+}
+
+/// The view as it can be typed. One that has come back to the whole is the whole, whatever its last digits.
+PageView Settled(const Page& page, PageView view) {
+  const PageView home = HomeOf(page), shown = ViewOf(page);
+  view.x = Same(view.x, home.x) ? home.x : Same(view.x, shown.x) ? shown.x : RoundedRange(view.x);
+  if (view.x == home.x && view.y && Same(*view.y, page.homeY)) view.y.reset();
+  return view;
+}
 
 }  // namespace
 
@@ -26,30 +40,25 @@ GraphPointer::GraphPointer(Canvas& canvas, std::function<void(const CommandGate:
     : canvas_(canvas), act_(std::move(act)) {
   rest_.setSingleShot(true);
   rest_.setInterval(restMs);
-  connect(&rest_, &QTimer::timeout, this, [this] { CalculateMissing(); });
   canvas_.mouse.move = [this](double x, double y) { Read({x, y}); };
-  canvas_.mouse.drag = [this](double x, double) { Drag(x); };
+  canvas_.mouse.drag = [this](double x, double y) { Drag({x, y}); };
   canvas_.mouse.release = [this](double x, double y) {
     dragFrom_.reset();
-    CalculateMissing();
+    rest_.stop();
     Read({x, y});
   };
   canvas_.mouse.doubleClick = [this](double x, double y) {
-    if (InGraph({x, y})) Show(session_->page.home);
+    if (ZoneAt({x, y}) != Zone::None) Show(HomeOf(session_->page));
   };
-  canvas_.mouse.wheel = [this](double x, double y, double steps) {
-    if (!InGraph({x, y})) return false;
-    Show(RoundedRange(ZoomAt(session_->page, x, std::pow(zoomOfStep, steps))));
-    Read({x, y});
-    return true;
-  };
+  canvas_.mouse.wheel = [this](const CanvasWheel& wheel) { return Wheel(wheel); };
   canvas_.mouse.leave = [this] { Forget(); };
 }
 
 void GraphPointer::Attach(Session& session) {
   session_ = &session;
   dragFrom_.reset();
-  missing_ = false;
+  past_.clear();
+  zoomedLast_ = false;
   Forget();
 }
 
@@ -57,20 +66,53 @@ bool GraphPointer::Ready() const {
   return session_ && session_->state.Busy == 0 && HasXAxis(session_->page);
 }
 
-bool GraphPointer::InGraph(SurfacePoint place) const {
-  return Ready() && ReadAt(session_->page, place.x, place.y);
+GraphPointer::Zone GraphPointer::ZoneAt(SurfacePoint place) const {
+  if (!Ready()) return Zone::None;
+  const auto& panels = session_->page.panels;
+  for (const auto& panel : panels)
+    if (panel.box.Holds(place.x, place.y)) return Zone::Plot;
+  const GraphBox &main = panels.front().box, &last = panels.back().box;
+  const bool besides = place.x >= 0 && place.x < main.left && place.y >= main.top && place.y <= main.bottom;
+  if (besides) return Zone::YAxis;
+  const bool below = place.y > last.bottom && place.y <= last.bottom + numbersX;
+  return below && place.x >= last.left && place.x <= last.right ? Zone::XAxis : Zone::None;
 }
 
 void GraphPointer::Press(SurfacePoint place) {
-  if (InGraph(place)) dragFrom_ = place.x;
+  if (ZoneAt(place) == Zone::Plot) dragFrom_ = place;
 }
 
-void GraphPointer::Drag(double x) {
+bool GraphPointer::Wheel(const CanvasWheel& wheel) {
+  const SurfacePoint at{wheel.x, wheel.y};
+  const Zone zone = ZoneAt(at);
+  if (zone == Zone::None) return false;
+  const Page& page = session_->page;
+  const double factor = std::pow(zoomOfStep, wheel.steps);
+  PageView view = ViewOf(page);
+  if (zone != Zone::YAxis) view.x = ZoomAt(page, at.x, factor);
+  // A second panel has a scale of its own.
+  const bool onMain = page.panels.front().box.Holds(at.x, at.y);
+  if (zone == Zone::YAxis || (zone == Zone::Plot && onMain && !wheel.one)) view.y = ZoomYAt(page, at.y, factor);
+  place_ = at;
+  Show(Settled(page, view));
+  return true;
+}
+
+void GraphPointer::Drag(SurfacePoint place) {
   if (!dragFrom_ || !Ready()) return;
-  const double moved = x - *dragFrom_;
-  if (std::abs(moved) < leastDrag) return;
-  dragFrom_ = x;
-  Show(RoundedRange(PanBy(session_->page, moved)));
+  const double right = place.x - dragFrom_->x, down = place.y - dragFrom_->y;
+  if (std::hypot(right, down) < leastDrag) return;
+  dragFrom_ = place;
+  Pan(right, down);
+}
+
+void GraphPointer::Pan(double right, double down) {
+  const Page& page = session_->page;
+  PageView view = ViewOf(page);
+  view.x = PanBy(page, right);
+  // The vertical axis follows what is in view unless it was zoomed itself.
+  if (view.y) view.y = PanYBy(page, down);
+  Show(Settled(page, view));
 }
 
 void GraphPointer::Read(SurfacePoint place) {
@@ -99,27 +141,32 @@ QString GraphPointer::Text() const {
   return session_ && reading_ ? ToQString(reading_->text) : QString();
 }
 
-void GraphPointer::Show(XRange range) {
-  act_([this, range] {
-    auto& form = session_->form1;
-    if (!UserTypes(*session_, form.txtXmin, Shortest(range.xmin)) ||
-        !UserTypes(*session_, form.txtXmax, Shortest(range.xmax)))
-      return;
-    // Not a replot of the last run alone: curves drawn over it stay.
-    missing_ = !ShowRange(*session_, range);
-  });
-  if (missing_ && !dragFrom_) rest_.start();
+void GraphPointer::BeginStep() {
+  if (!rest_.isActive()) past_.push_back(ViewOf(session_->page));
+  if (past_.size() > mostSteps) past_.erase(past_.begin());
+  rest_.start();
 }
 
-void GraphPointer::CalculateMissing() {
-  rest_.stop();
-  if (!std::exchange(missing_, false) || !Ready()) return;
-  act_([this] {
-    const XRange home = session_->page.home;
-    session_->events.Raise("cmdNewPlot_Click");
-    // The way back leads to where the user started from.
-    session_->page.home = home;
-  });
+void GraphPointer::Show(const PageView& view) {
+  if (view == ViewOf(session_->page)) return;
+  BeginStep();
+  zoomedLast_ = true;
+  act_([this, view] { ShowView(*session_, view); });
+}
+
+bool GraphPointer::Enter() {
+  if (!zoomedLast_ || !Ready()) return false;
+  const auto run = RunOfView(*session_);
+  if (!run) return false;
+  act_([this, &run] { CalculateView(*session_, *run); });
+  return true;
+}
+
+QString GraphPointer::Offer() const {
+  const auto run = zoomedLast_ && Ready() ? RunOfView(*session_) : std::nullopt;
+  if (!run) return {};
+  if (!run->complete) return QStringLiteral("Not all in view has been calculated: Enter does");
+  return QStringLiteral("%1 points in view: Enter calculates more").arg(run->points);
 }
 
 void GraphPointer::Step(int direction) {
@@ -158,25 +205,40 @@ bool GraphPointer::Key(const QKeyEvent& event) {
     NextCurve(event.key() == Qt::Key_PageUp ? -1 : 1);
     return true;
   }
+  if (event.key() == Qt::Key_Backspace) {
+    if (!Ready() || past_.empty()) return true;
+    const PageView before = past_.back();
+    past_.pop_back();
+    act_([this, &before] { ShowView(*session_, before); });
+    return true;
+  }
   const bool zoomIn = event.key() == Qt::Key_Plus || event.key() == Qt::Key_Equal;
   const bool zoomOut = event.key() == Qt::Key_Minus;
   const bool home = event.key() == Qt::Key_Home;
   if (!left && !right && !zoomIn && !zoomOut && !home) return false;
   if (!Ready()) return true;
+  const GraphBox& box = session_->page.panels.front().box;
+  const bool upright = event.key() == Qt::Key_Up || event.key() == Qt::Key_Down;
   if (home) {
-    Show(session_->page.home);
+    Show(HomeOf(session_->page));
+  } else if (upright && session_->page.zoomedY) {
+    Pan(0, (right ? panOfStep : -panOfStep) * box.Height());
   } else if (left || right) {
-    const double width = session_->page.panels.front().box.Width();
-    Show(RoundedRange(PanBy(session_->page, (right ? -panOfStep : panOfStep) * width)));
+    Pan((right ? -panOfStep : panOfStep) * box.Width(), 0);
   } else {
-    // At the reading, where there is one; else at the middle.
-    const GraphBox& box = session_->page.panels.front().box;
-    const double x = reading_ && reading_->onCurve ? reading_->place.x : 0.5 * (box.left + box.right);
-    Show(RoundedRange(ZoomAt(session_->page, x, zoomIn ? zoomOfStep : 1 / zoomOfStep)));
+    ZoomX(zoomIn ? zoomOfStep : 1 / zoomOfStep);
   }
-  Renew();
-  if (readingChanged) readingChanged();
   return true;
+}
+
+void GraphPointer::ZoomX(double factor) {
+  // At the reading, where there is one; else at the middle.
+  const Page& page = session_->page;
+  const GraphBox& box = page.panels.front().box;
+  const double x = reading_ && reading_->onCurve ? reading_->place.x : 0.5 * (box.left + box.right);
+  PageView view = ViewOf(page);
+  view.x = ZoomAt(page, x, factor);
+  Show(Settled(page, view));
 }
 
 }  // namespace lumivex

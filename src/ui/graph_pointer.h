@@ -5,20 +5,25 @@
 #include <QTimer>
 #include <functional>
 #include <optional>
+#include <vector>
 
 #include "pages/curves/curve_steps.h"
+#include "pages/zoom.h"
 #include "record/session.h"
 #include "ui/canvas.h"
 #include "ui/command_gate.h"
 
 namespace lumivex {
 
-/// What mouse and keyboard do on the graph: reading it, zooming and panning its x axis.
+/// What mouse and keyboard do on the graph: reading it, zooming and panning its axes.
 ///
-/// The pointer reads; the wheel zooms at the pointer, a drag pans, a double click shows the whole range again. With the
-/// focus on the graph, + and - zoom at its middle, the arrows pan, Home shows the whole, and Ctrl with an arrow steps
-/// the reading from point to point, with Page up and Page down from curve to curve. A zoom draws what is stored; where
-/// there is nothing stored a calculation follows once the hand rests.
+/// The pointer reads; the wheel zooms both axes at the pointer, with Shift or over the numbers of an axis only one; a
+/// drag pans, a double click shows the whole again. With the focus on the graph, + and - zoom the horizontal axis, the
+/// arrows pan, Home shows the whole, Backspace goes back to the view before, and Ctrl with an arrow steps the reading
+/// from point to point, with Page up and Page down from curve to curve.
+///
+/// A zoom draws what is stored and calculates nothing. Turns of the wheel that follow each other, and one drag, are one
+/// step back.
 class GraphPointer final : public QObject {
  public:
   /// @param act  runs a command of the session through the gate.
@@ -29,6 +34,13 @@ class GraphPointer final : public QObject {
   void Press(SurfacePoint place);
   /// Whether the key meant something here.
   bool Key(const QKeyEvent& event);
+  /// Enter right after a zoom that left few points in view calculates the view; false where it is to do what it does
+  /// elsewhere.
+  bool Enter();
+  /// The user has gone on to the inputs: Enter is theirs again.
+  void LeaveView() { zoomedLast_ = false; }
+  /// What Enter would do here, for the status line; empty where it would do nothing of its own.
+  QString Offer() const;
   /// The reading as the status line shows it; empty away from the graph.
   QString Text() const;
   /// Reads the place anew after the graph has changed.
@@ -37,24 +49,31 @@ class GraphPointer final : public QObject {
   std::function<void()> readingChanged;
 
  private:
+  /// Where the wheel turns: over the plot, or over the numbers of one of its axes.
+  enum class Zone { None, Plot, XAxis, YAxis };
+
   void Read(SurfacePoint place);
   void Forget();
-  void Show(XRange range);
-  void Drag(double x);
+  void BeginStep();
+  void Show(const PageView& view);
+  bool Wheel(const CanvasWheel& wheel);
+  void Drag(SurfacePoint place);
   void Step(int direction);
   void NextCurve(int direction);
-  void CalculateMissing();
+  void Pan(double right, double down);
+  void ZoomX(double factor);
   bool Ready() const;
-  bool InGraph(SurfacePoint place) const;
+  Zone ZoneAt(SurfacePoint place) const;
 
   Canvas& canvas_;
   std::function<void(const CommandGate::Action&)> act_;
   Session* session_ = nullptr;
   std::optional<SurfacePoint> place_;
   std::optional<GraphReading> reading_;
-  std::optional<double> dragFrom_;  ///< surface x
-  bool missing_ = false;            ///< part of the range shown has not been calculated
-  QTimer rest_;                     ///< runs out when the hand rests
+  std::optional<SurfacePoint> dragFrom_;
+  std::vector<PageView> past_;  ///< views before each step
+  bool zoomedLast_ = false;     ///< nothing was typed or chosen since
+  QTimer rest_;                 ///< runs while the hand has not rested: what follows belongs to the same step
 };
 
 }  // namespace lumivex

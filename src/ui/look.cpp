@@ -41,6 +41,10 @@ bool IsDark(const QPalette& palette) {
   return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
 }
 
+bool IsNewLook(const QEvent& event) {
+  return event.type() == QEvent::ApplicationFontChange || event.type() == QEvent::ApplicationPaletteChange;
+}
+
 QPalette MarkedPalette(const QPalette& plain, Colour mark) {
   if (mark == colours::White || mark == colours::ButtonFace) return plain;
   QPalette marked = plain;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QEvent>
 #include <QPalette>
 #include <QString>
 #include <string>
@@ -18,6 +19,9 @@ QString ShownText(std::string_view caption);
 
 bool IsDark(const QPalette& palette);
 
+/// Whether the desktop has changed its font or its colours.
+bool IsNewLook(const QEvent& event);
+
 /// The palette of an input that is marked: red for bad input, yellow for a warning, any other colour as it is, each
 /// with a text that reads on it; white and the neutral colour leave the palette as it is.
 QPalette MarkedPalette(const QPalette& plain, Colour mark);
@@ -26,7 +30,7 @@ QPalette MarkedPalette(const QPalette& plain, Colour mark);
 QPalette InkedPalette(const QPalette& plain, Colour ink);
 
 /// The palette of the input panel: on a light desktop its ground is the neutral colour of the drawing, so that the two
-/// meet without an edge; a dark one stays as it is above the drawing, which is always light like a printed page.
+/// meet without an edge; on a dark one the drawing takes the desktop's ground.
 QPalette PanelPalette(const QPalette& application);
 
 }  // namespace lumivex

@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "record/version.h"
+#include "ui/look.h"
 #include "ui/process_clock.h"
 #include "ui/script_window.h"
 #include "ui/windowed_session.h"
@@ -79,7 +81,7 @@ int main(int argc, char** argv) {
     return usageError;
   }
   if (arguments.help || arguments.version) {
-    std::printf("%s", arguments.help ? usage : "Lumivex 1.0\n");
+    std::printf("%s", arguments.help ? usage : ("Lumivex " + std::string(programVersion) + "\n").c_str());
     return 0;
   }
   if (!HasDisplay()) {
@@ -93,7 +95,7 @@ int main(int argc, char** argv) {
   }
   QApplication::setStyle("Fusion");
   QApplication::setApplicationName("Lumivex");
-  QApplication::setApplicationVersion("1.0");
+  QApplication::setApplicationVersion(ToQString(programVersion));
   QApplication application(argc, argv);
   return arguments.script.empty() ? RunWindow(arguments.timing) : RunScript(arguments.script);
 }

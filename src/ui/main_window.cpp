@@ -21,20 +21,23 @@
 
 #include "session/dropped_files.h"
 #include "session/info.h"
+#include "session/page.h"
 #include "session/undo.h"
 #include "session/user_actions.h"
 #include "session/window_events.h"
 #include "ui/look.h"
+#include "ui/panel_density.h"
 
 namespace lumivex {
 
 namespace {
 
-constexpr double panelWidth = 12000, panelHeight = 2800;  // the strip of the input panel (surface units)
-constexpr double leastWidth = 13750, leastHeight = 7000;  // below that the drawing is scrolled
-constexpr double marginRight = 600, marginBottom = 900;   // around a graph of fixed size (surface units)
-constexpr double leastFontShare = 0.75;
-constexpr double panelFontShare = 0.9;  // the panel's font against the application's
+constexpr double panelHeight = 2800;                     // the strip of the input panel (surface units)
+constexpr double leastHeight = 7000;                     // below that the drawing is scrolled
+constexpr double marginRight = 600, marginBottom = 900;  // around a graph of fixed size (surface units)
+
+/// Title bar and edges that the desktop puts around a window (pixels); it tells them only once the window is shown.
+constexpr QSize windowFrame{16, 40};
 constexpr int startWidthPx = 1400, startHeightPx = 900;
 
 bool IsReturn(const QEvent* event) {
@@ -54,7 +57,7 @@ std::vector<std::string> LocalFiles(const QMimeData& data) {
 QSize RoomOnScreen(const QWidget& window) {
   constexpr int plenty = 4000;
   if (QGuiApplication::platformName() == "offscreen") return {plenty, plenty};
-  return window.screen()->availableGeometry().size();
+  return window.screen()->availableGeometry().size() - windowFrame;
 }
 
 }  // namespace
@@ -85,10 +88,13 @@ MainWindow::MainWindow(CommandGate& gate)
   pointer_.readingChanged = [this] { ShowReadOut(); };
   gate_.refresh = [this] { Refresh(); };
   gate_.whenFree = [this] {
+    if (lookIsStale_) TakeNewLook();
     if (canvas_->IsStale()) Resized();
   };
   gate_.stop = [this] {
     UserClicks(*session_, session_->form1.cmdStop);
+    // Enter was meant for the run that is not wanted any more.
+    if (session_->state.StopAnswer != 0) gate_.DropEnter();
     Refresh();
   };
   resize(QSize(startWidthPx, startHeightPx).boundedTo(RoomOnScreen(*this)));
@@ -110,8 +116,7 @@ void MainWindow::MakeStatusLine() {
   progress_ = new QProgressBar(this);
   progress_->setAccessibleName("Progress of the calculation");
   progress_->setRange(0, 100);
-  progress_->setFixedWidth(fontMetrics().averageCharWidth() * 34);
-  progress_->setMaximumHeight(fontMetrics().height() + 2);
+  MeasureProgress();
   progress_->hide();
   status_->setContentsMargins(4, 0, 0, 0);
   statusBar()->addWidget(readOut_);
@@ -122,9 +127,11 @@ void MainWindow::MakeStatusLine() {
 
 ControlActions MainWindow::Actions() {
   return {[this](Control& control, const std::string& text) {
+            pointer_.LeaveView();
             Act([this, &control, &text] { UserTypes(*session_, control, text); });
           },
           [this](SelectionList& list, const std::string& item) {
+            pointer_.LeaveView();
             Act([this, &list, &item] { UserChooses(*session_, list, item); });
           },
           [this](Control& control) {
@@ -144,9 +151,8 @@ void MainWindow::Attach(Session& session) {
   menu_ = std::make_unique<MenuView>(*menuBar(), session.form1,
                                      [this](Control& entry) { Act([this, &entry] { UserClicks(*session_, entry); }); });
   for (const auto& window : std::exchange(windows_, {})) delete window;
-  delete info_;
-  info_ = new InfoOverlay(session.form1.Frame6, canvas_);
   delete std::exchange(panel_, nullptr);
+  RenewInfo();
   FitPanel();
   // The first thing to type is a size.
   if (auto* radius = qobject_cast<QLineEdit*>(WidgetOf(session.form1.txtRadius))) {
@@ -163,7 +169,8 @@ void MainWindow::RenewDrawing() {
 }
 
 void MainWindow::FitPanel() {
-  if (!panel_) BuildPanel(panelFontShare);
+  units_.resize(PanelDensities().size());
+  if (!panel_) BuildPanel(density_);
   if (!isVisible()) {
     const QSize frame(0, menuBar()->sizeHint().height() + statusBar()->sizeHint().height());
     resize(size().expandedTo(canvas_->minimumSize() + frame).boundedTo(RoomOnScreen(*this)));
@@ -172,27 +179,36 @@ void MainWindow::FitPanel() {
   // In a narrow window the panel takes a smaller font, down to what can still be read, rather than push the readings
   // out. Fonts come in steps and the frames around the text do not shrink with it, so one guess is not enough.
   const double room = scroll_->maximumViewportSize().width();
-  const auto fits = [&] { return room / (leastWidth * canvas_->Unit()); };
-  if (fits() > 1.02 && fontShare_ < panelFontShare) BuildPanel(std::min(panelFontShare, fontShare_ * fits()));
-  for (int guess = 0; guess < 6 && fits() < 1 && fontShare_ > leastFontShare; ++guess)
-    BuildPanel(std::max(leastFontShare, fontShare_ * std::min(fits(), 0.985)));
+  const PanelFit fit = FitInto(room, [this](std::size_t density) { return UnitOf(density); });
+  leastUnits_ = fit.leastUnits;
+  if (fit.density != density_) BuildPanel(fit.density);
+  ReserveRoom();
 }
 
-void MainWindow::BuildPanel(double fontShare) {
+double MainWindow::UnitOf(std::size_t density) {
+  // The frames around the text do not shrink with it, so that a width has to be tried to be known.
+  if (!(units_[density] > 0)) BuildPanel(density);
+  return units_[density];
+}
+
+void MainWindow::BuildPanel(std::size_t density) {
   const QString focused =
       focusWidget() && panel_ && panel_->isAncestorOf(focusWidget()) ? focusWidget()->objectName() : "";
   delete panel_;
-  fontShare_ = fontShare;
+  density_ = density;
+  const PanelDensity& dense = PanelDensities()[density];
   QFont font = QApplication::font();
-  if (font.pointSizeF() > 0) font.setPointSizeF(font.pointSizeF() * fontShare);
+  if (font.pointSizeF() > 0) font.setPointSizeF(font.pointSizeF() * dense.fontShare);
+  if (dense.stretch != 100) font.setStretch(dense.stretch);
   canvas_->setFont(font);
   canvas_->setPalette(PanelPalette(QApplication::palette()));
-  panel_ = new PanelView(session_->form1, Actions(), canvas_);
+  panel_ = new PanelView(session_->form1, Actions(), dense.tight, canvas_);
 
   const QSize needed = panel_->Needed();
-  const double unit = std::max(needed.width() / panelWidth, needed.height() / panelHeight);
+  const double unit = std::max(needed.width() / panelUnits, needed.height() / panelHeight);
   canvas_->SetUnit(unit);
-  panel_->setGeometry(0, 0, static_cast<int>(panelWidth * unit), static_cast<int>(panelHeight * unit));
+  units_[density] = unit;
+  panel_->setGeometry(0, 0, static_cast<int>(panelUnits * unit), static_cast<int>(panelHeight * unit));
   gate_.stopButton = panel_->WidgetOf(session_->form1.cmdStop);
   WatchInputs();
   panel_->Sync();
@@ -203,7 +219,7 @@ void MainWindow::BuildPanel(double fontShare) {
 }
 
 void MainWindow::ReserveRoom() {
-  double width = leastWidth, height = leastHeight;
+  double width = std::max(leastUnits_, panelUnits), height = leastHeight;
   const bool isLoaded = HasResults(session_->state);
   if (isLoaded && !session_->form1.mnuVLarge.Checked) {
     // A graph of fixed size keeps it in a smaller window, which is then scrolled.
@@ -222,7 +238,7 @@ void MainWindow::WatchInputs() {
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
   if (IsReturn(event)) {
-    NewPlot();
+    if (!pointer_.Enter()) NewPlot();
     return true;
   }
   // A file is for the window: an input would take its path as text.
@@ -243,7 +259,9 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
     QMainWindow::keyPressEvent(event);
     return;
   }
-  if (auto* button = qobject_cast<QPushButton*>(focusWidget())) {
+  auto* button = qobject_cast<QPushButton*>(focusWidget());
+  if (pointer_.Enter()) return;
+  if (button) {
     button->click();
   } else {
     NewPlot();
@@ -292,7 +310,8 @@ void MainWindow::ShowReadOut() {
 
 void MainWindow::ShowStatus() {
   const auto& form = session_->form1;
-  const QString text = ToQString(StatusText(*session_));
+  const QString offer = pointer_.Offer();
+  const QString text = ToQString(StatusText(*session_)) + (offer.isEmpty() ? offer : "      " + offer);
   if (status_->text() != text) status_->setText(text);
   const QString average = form.mnuAverage.Checked ? ToQString(form.lblAverage.Caption) : QString();
   if (average_->text() != average) average_->setText(average);
@@ -304,6 +323,12 @@ void MainWindow::ShowStatus() {
 
 void MainWindow::Refresh() {
   if (!session_) return;
+  // On a dark desktop the page is dark too, unless the user has chosen its background.
+  const bool night = IsDark(QApplication::palette()) && session_->form1.mnuDefault.Checked;
+  if (night != canvas_->IsNight() && !gate_.Running()) {
+    canvas_->SetNight(night);
+    DrawPage(*session_);
+  }
   panel_->Sync();
   menu_->Sync();
   info_->Sync(canvas_->Unit(), scroll_->maximumViewportSize().width());
@@ -398,11 +423,28 @@ void MainWindow::dropEvent(QDropEvent* event) {
 
 void MainWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
-  const bool newLook =
-      event->type() == QEvent::ApplicationFontChange || event->type() == QEvent::ApplicationPaletteChange;
-  if (!newLook || !panel_ || gate_.Running()) return;
-  BuildPanel(panelFontShare);
+  if (panel_ && IsNewLook(*event)) TakeNewLook();
+}
+
+void MainWindow::TakeNewLook() {
+  lookIsStale_ = gate_.Running();
+  if (lookIsStale_) return;
+  units_.clear();
+  delete std::exchange(panel_, nullptr);
+  density_ = 0;
+  MeasureProgress();
+  RenewInfo();
   Resized();
+}
+
+void MainWindow::RenewInfo() {
+  delete info_;
+  info_ = new InfoOverlay(session_->form1.Frame6, canvas_);
+}
+
+void MainWindow::MeasureProgress() {
+  progress_->setFixedWidth(fontMetrics().averageCharWidth() * 34);
+  progress_->setMaximumHeight(fontMetrics().height() + 2);
 }
 
 }  // namespace lumivex

@@ -68,7 +68,11 @@ class MainWindow final : public QMainWindow {
  private:
   void MakeStatusLine();
   void FitPanel();
-  void BuildPanel(double fontShare);
+  void BuildPanel(std::size_t density);
+  double UnitOf(std::size_t density);
+  void TakeNewLook();
+  void RenewInfo();
+  void MeasureProgress();
   void ReserveRoom();
   void RenewDrawing();
   void WatchInputs();
@@ -86,7 +90,10 @@ class MainWindow final : public QMainWindow {
   GraphPointer pointer_;
   PanelView* panel_ = nullptr;
   InfoOverlay* info_ = nullptr;
-  double fontShare_ = 1;  ///< the panel's font against the application's
+  std::size_t density_ = 0;    ///< of the panel
+  std::vector<double> units_;  ///< pixels to a unit with each density, 0 where it has not been measured yet
+  double leastUnits_ = 0;      ///< width that the drawing keeps (surface units)
+  bool lookIsStale_ = false;   ///< the desktop's font or colours changed during a run
   std::unique_ptr<MenuView> menu_;
   QLabel* readOut_ = nullptr;
   QLabel* status_ = nullptr;

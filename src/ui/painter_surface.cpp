@@ -7,12 +7,15 @@
 #include <numbers>
 #include <vector>
 
+#include "ui/night_colours.h"
+
 namespace lumivex {
 
 namespace {
 
 constexpr double unitsPerPoint = 20;
 constexpr double pointsPerPx = 0.75;
+constexpr double largestDot = 60;  // surface units
 /// Beyond any window or page, and small enough for the fixed-point numbers of a rasteriser.
 constexpr double farAway = 30000;
 /// A long dashed curve is stroked in pieces: the rasteriser's work for one path grows faster than its length.
@@ -71,8 +74,16 @@ double PainterSurface::LineDots() const {
   return scale_.dots ? std::max(1.0, std::round(width)) : width * 0.8;
 }
 
+QColor PainterSurface::FillColourOf(Colour colour) const {
+  return night ? NightFill(colour) : ToQColor(colour);
+}
+
+QColor PainterSurface::InkOf(Colour colour) const {
+  return night ? NightInk(colour) : ToQColor(colour);
+}
+
 QPen PainterSurface::PenOf(Colour colour) const {
-  QPen pen(ToQColor(colour), LineDots(), Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
+  QPen pen(InkOf(colour), LineDots(), Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
   pen.setCosmetic(scale_.dots);
   if (DrawStyle != 0) pen.setDashPattern(DashesOf(DrawStyle));
   return pen;
@@ -83,10 +94,10 @@ void PainterSurface::Cls() {
   CurrentX = CurrentY = 0;
   if (!painter_.isActive()) return;
   const double ratio = scale_.deviceRatio;
-  painter_.fillRect(QRectF(0, 0, std::ceil(width_ * ratio), std::ceil(height_ * ratio)), ToQColor(BackColour));
+  painter_.fillRect(QRectF(0, 0, std::ceil(width_ * ratio), std::ceil(height_ * ratio)), PaperColour());
 }
 
-void PainterSurface::FillBox(double x1, double y1, double x2, double y2, Colour colour) {
+void PainterSurface::FillBox(double x1, double y1, double x2, double y2, const QColor& colour) {
   double left = std::min(x1, x2), right = std::max(x1, x2), top = std::min(y1, y2), bottom = std::max(y1, y2);
   if (scale_.dots) {
     // Half-open, so that neighbours meet without a gap and without sharing a dot.
@@ -95,7 +106,7 @@ void PainterSurface::FillBox(double x1, double y1, double x2, double y2, Colour 
     right = std::max(std::round(right), left + 1);
     bottom = std::max(std::round(bottom), top + 1);
   }
-  painter_.fillRect(QRectF(left, top, right - left, bottom - top), ToQColor(colour));
+  painter_.fillRect(QRectF(left, top, right - left, bottom - top), colour);
 }
 
 bool PainterSurface::DrawStraight(double x1, double y1, double x2, double y2) {
@@ -103,12 +114,12 @@ bool PainterSurface::DrawStraight(double x1, double y1, double x2, double y2) {
   const double width = LineDots(), half = std::floor(width / 2);
   if (std::round(y1) == std::round(y2)) {
     const double y = std::floor(y1) - half;
-    FillBox(std::floor(std::min(x1, x2)), y, std::floor(std::max(x1, x2)) + 1, y + width, ForeColour);
+    FillBox(std::floor(std::min(x1, x2)), y, std::floor(std::max(x1, x2)) + 1, y + width, InkOf(ForeColour));
     return true;
   }
   if (std::round(x1) == std::round(x2)) {
     const double x = std::floor(x1) - half;
-    FillBox(x, std::floor(std::min(y1, y2)), x + width, std::floor(std::max(y1, y2)) + 1, ForeColour);
+    FillBox(x, std::floor(std::min(y1, y2)), x + width, std::floor(std::max(y1, y2)) + 1, InkOf(ForeColour));
     return true;
   }
   return false;
@@ -119,7 +130,9 @@ void PainterSurface::Line(double x1, double y1, double x2, double y2, LineKind k
   changed_ = true;
   const double left = Dots(x1), top = Dots(y1), right = Dots(x2), bottom = Dots(y2);
   if (kind == LineKind::FilledBox) {
-    FillBox(left, top, right, bottom, ForeColour);
+    // A box as small as this is a dot of a curve.
+    const bool isDot = std::abs(x2 - x1) <= largestDot && std::abs(y2 - y1) <= largestDot;
+    FillBox(left, top, right, bottom, isDot ? InkOf(ForeColour) : FillColourOf(ForeColour));
     return;
   }
   if (kind == LineKind::Box) {
@@ -200,7 +213,7 @@ void PainterSurface::PSet(double x, double y, Colour colour) {
   if (!painter_.isActive() || !AllFinite({x, y})) return;
   changed_ = true;
   const double left = scale_.dots ? std::floor(Dots(x)) : Dots(x), top = scale_.dots ? std::floor(Dots(y)) : Dots(y);
-  FillBox(left, top, left + LineDots(), top + LineDots(), colour);
+  FillBox(left, top, left + LineDots(), top + LineDots(), InkOf(colour));
 }
 
 void PainterSurface::Circle(double x, double y, double radius, Colour colour) {
@@ -208,7 +221,7 @@ void PainterSurface::Circle(double x, double y, double radius, Colour colour) {
   changed_ = true;
   painter_.setRenderHint(QPainter::Antialiasing, true);
   painter_.setPen(PenOf(colour));
-  painter_.setBrush(FillStyle == 0 ? QBrush(ToQColor(FillColour)) : QBrush(Qt::NoBrush));
+  painter_.setBrush(FillStyle == 0 ? QBrush(FillColourOf(FillColour)) : QBrush(Qt::NoBrush));
   painter_.drawEllipse(QPointF(Dots(x), Dots(y)), Dots(std::abs(radius)), Dots(std::abs(radius)));
 }
 
@@ -261,7 +274,7 @@ void PainterSurface::Text(double x, double y, std::string_view text) {
   QPointF at(Dots(x), Dots(y) + face.metrics.ascent());
   if (scale_.dots) at = QPointF(std::round(at.x()), std::round(at.y()));
   painter_.setFont(face.font);
-  painter_.setPen(ToQColor(ForeColour));
+  painter_.setPen(InkOf(ForeColour));
   painter_.drawText(at, FromText(text));
 }
 
@@ -281,7 +294,7 @@ void ImageSurface::Resize(int widthPx, int heightPx, double unitPx, double devic
   image_ = QImage(size.expandedTo({1, 1}), QImage::Format_RGB32);
   image_.setDotsPerMeterX(dotsPerMetre);
   image_.setDotsPerMeterY(dotsPerMetre);
-  image_.fill(ToQColor(BackColour));
+  image_.fill(PaperColour());
   Open(image_, {unitPx, deviceRatio, true}, widthPx, heightPx);
 }
 

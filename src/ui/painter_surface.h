@@ -33,6 +33,10 @@ class PainterSurface : public DrawingSurface {
   void Close();
   bool IsOpen() const { return painter_.isActive(); }
   const SurfaceScale& Scale() const { return scale_; }
+  /// Colours are those of a dark desktop.
+  bool night = false;
+  /// The colour that the surface is cleared to.
+  QColor PaperColour() const { return FillColourOf(BackColour); }
   /// Whether anything was drawn since the last call.
   bool TakeChanged();
 
@@ -61,7 +65,9 @@ class PainterSurface : public DrawingSurface {
   double Dots(double units) const;
   double LineDots() const;
   QPen PenOf(Colour colour) const;
-  void FillBox(double x1, double y1, double x2, double y2, Colour colour);
+  QColor FillColourOf(Colour colour) const;
+  QColor InkOf(Colour colour) const;
+  void FillBox(double x1, double y1, double x2, double y2, const QColor& colour);
   bool DrawStraight(double x1, double y1, double x2, double y2);
   void DrawSolid(std::span<const QPointF> points, double width);
   void DrawRun(std::span<const QPointF> points, QPen& pen);

@@ -59,11 +59,12 @@ class FrameBox final : public QWidget {
 
 }  // namespace
 
-PanelView::PanelView(Form& form, const ControlActions& actions, QWidget* parent) : QWidget(parent) {
+PanelView::PanelView(Form& form, const ControlActions& actions, bool tight, QWidget* parent)
+    : QWidget(parent), tight_(tight) {
   setAutoFillBackground(true);
   auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(5, 4, 4, 1);
-  row->setSpacing(4);
+  row->setContentsMargins(tight ? 2 : 5, 4, tight ? 2 : 4, 1);
+  row->setSpacing(tight ? 2 : 4);
   std::map<int, QWidget*> columns;
   for (const auto& layout : MainPanel()) {
     QWidget*& column = columns[layout.column];
@@ -98,7 +99,8 @@ void PanelView::AddBox(Form& form, const FrameLayout& layout, const ControlActio
   auto* frame = layout.frame.empty() ? nullptr : dynamic_cast<Frame*>(form.Find(layout.frame));
   QWidget* box = frame ? new FrameBox(&column) : new QWidget(&column);
   auto* lines = new QVBoxLayout(box);
-  lines->setContentsMargins(frame ? 5 : 1, frame ? 2 : 1, frame ? 5 : 1, frame ? 4 : 1);
+  const int side = frame ? (tight_ ? 3 : 5) : 1;
+  lines->setContentsMargins(side, frame ? 2 : 1, side, frame ? 4 : 1);
   lines->setSpacing(frame ? FrameBox::leastSpacing : 4);
   QLabel* title = nullptr;
   if (frame) {
@@ -110,7 +112,7 @@ void PanelView::AddBox(Form& form, const FrameLayout& layout, const ControlActio
     lines->addWidget(title);
     box->setAccessibleName(ToQString(frame->Caption));
   }
-  auto view = std::make_unique<FormView>(form, layout.lines, FormStyle{layout.fieldChars, true}, actions, box);
+  auto view = std::make_unique<FormView>(form, layout.lines, FormStyle{layout.fieldChars, true, tight_}, actions, box);
   lines->addStretch(1);
   static_cast<QVBoxLayout*>(column.layout())->addWidget(box, 1);
   boxes_.push_back({frame, box, title, std::move(view)});

@@ -14,7 +14,8 @@ namespace lumivex {
 /// The input panel over the top of the graph's surface: frames in columns, as the layout describes them.
 class PanelView final : public QWidget {
  public:
-  PanelView(Form& form, const ControlActions& actions, QWidget* parent);
+  /// @param tight  with less air about frames and inputs, for narrow windows.
+  PanelView(Form& form, const ControlActions& actions, bool tight, QWidget* parent);
 
   /// The size (pixels) that the panel needs with everything shown that may ever be; it does not change with the graph.
   QSize Needed() const { return needed_; }
@@ -32,6 +33,7 @@ class PanelView final : public QWidget {
   };
   void AddBox(Form& form, const FrameLayout& layout, const ControlActions& actions, QWidget& column);
 
+  bool tight_;
   std::vector<Box> boxes_;
   QSize needed_;
 };

@@ -19,12 +19,20 @@ QtPlatform::QtPlatform(CommandGate& gate) : gate_(gate) {
 
 QtPlatform::~QtPlatform() = default;
 
+void QtPlatform::Tell(QMessageBox::Icon icon, std::string_view title, std::string_view text) const {
+  QMessageBox box(icon, ToQString(title), ToQString(text), QMessageBox::Ok, window);
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
+}
+
 void QtPlatform::Message(std::string_view title, std::string_view text) {
   // What the message is about is marked on the screen while it is read.
   if (gate_.refresh) gate_.refresh();
-  QMessageBox box(QMessageBox::Warning, ToQString(title), ToQString(text), QMessageBox::Ok, window);
-  box.setTextFormat(Qt::PlainText);
-  box.exec();
+  Tell(QMessageBox::Warning, title, text);
+}
+
+void QtPlatform::Note(std::string_view title, std::string_view text) {
+  Tell(QMessageBox::NoIcon, title, text);
 }
 
 bool QtPlatform::Question(std::string_view title, std::string_view text) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QMessageBox>
 #include <QPointer>
 #include <QWidget>
 #include <functional>
@@ -19,6 +20,7 @@ class QtPlatform final : public Platform {
   ~QtPlatform() override;
 
   void Message(std::string_view title, std::string_view text) override;
+  void Note(std::string_view title, std::string_view text) override;
   bool Question(std::string_view title, std::string_view text) override;
   std::optional<std::string> OpenFileName(const FileDialog& dialog) override;
   std::optional<std::string> SaveFileName(const FileDialog& dialog) override;
@@ -43,6 +45,8 @@ class QtPlatform final : public Platform {
   std::function<std::string(std::string_view)> savePicture;  ///< returns a sentence on what went wrong
 
  private:
+  void Tell(QMessageBox::Icon icon, std::string_view title, std::string_view text) const;
+
   CommandGate& gate_;
   QElapsedTimer clock_;
   QPointer<GuideWindow> guide_;

@@ -72,6 +72,19 @@ TEST_F(Phasors, NarrowSurfacesHoldTheWholeCircle) {
   EXPECT_LT(place.x + place.radius, surface.ScaleWidth());
 }
 
+TEST_F(Phasors, LowSurfacesHoldALargeCircleAndTheWholeScale) {
+  Draw();
+  RecordingSurface low(16800, 8900);
+  PageGeometry geometry = GeometryOf(session);
+  geometry.surfaceWidth = low.ScaleWidth();
+  geometry.surfaceHeight = low.ScaleHeight();
+  const Page placed = PlacePage(page, geometry);
+  Paint(placed, low);
+  EXPECT_THAT(DrawingReader(low).Outside(low.ScaleWidth(), low.ScaleHeight()), testing::IsEmpty());
+  EXPECT_GT(placed.phasors->place.radius, 1700);
+  EXPECT_GT(placed.phasors->place.y - placed.phasors->place.radius, 3900) << "clear of the title";
+}
+
 TEST_F(Phasors, AreReadAndListedTermByTerm) {
   Draw();
   const auto place = DotPlace(*page.phasors, page.phasors->first, 3);

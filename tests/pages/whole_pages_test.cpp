@@ -175,6 +175,14 @@ TEST_F(Pages, ShowWhatWasCalculatedWhateverIsClickedAfterwards) {
   }
 }
 
+TEST_F(Pages, OnWhitePaperTheStripIsGreyBelowItsReadings) {
+  Do("click mnuWhite");
+  const std::string drawing = Drawing();
+  const auto strip = drawing.find("15750");
+  ASSERT_NE(strip, std::string::npos) << drawing.substr(0, 300);
+  EXPECT_LT(strip, drawing.find("Qsca = ")) << "the strip would hide the readings";
+}
+
 TEST_F(Pages, WattsAreThoseOfTheRunAfterTheDivisionIsClicked) {
   Do("dialog dlogIncident ok\nchoose cboGraph Watts/sq. m. v. scattering angle\nclick cmdNewPlot");
   const auto parallel = Values(2);

@@ -35,7 +35,7 @@ TEST_F(Zoom, KeepsWhatIsUnderThePointerAndStaysWithinTheCircle) {
   Near(ZoomAt(page, PlaceOf(60, 100).x, 3), 0, 180);
   Near(ZoomAt(page, -1e9, 0.5), 0, 90);
   Near(ZoomAt(page, 5000, 0), 0, 180);
-  lumivex::ShowRange(session, {30, 120});
+  ShowView(session, {{30, 120}});
   Near(PanBy(page, -(0.5) * page.panels[0].box.Width()), 75, 165);
   Near(PanBy(page, -(5) * page.panels[0].box.Width()), 90, 180);
   Near(PanBy(page, -(-5) * page.panels[0].box.Width()), 0, 90);
@@ -43,7 +43,7 @@ TEST_F(Zoom, KeepsWhatIsUnderThePointerAndStaysWithinTheCircle) {
   for (int i = 0; i < 200; ++i) {
     const XRange range = RoundedRange(ZoomAt(page, 7000, 0.8));
     ASSERT_LT(range.xmin, range.xmax);
-    lumivex::ShowRange(session, range);
+    ShowView(session, {range});
     width = range.xmax - range.xmin;
   }
   EXPECT_GT(width, 1e-5) << "a zoom ends where numbers run out of digits";
@@ -51,13 +51,13 @@ TEST_F(Zoom, KeepsWhatIsUnderThePointerAndStaysWithinTheCircle) {
 
 TEST_F(Zoom, ChoosesTheScaleForWhatIsInViewAndKeepsOverplots) {
   DrawOver();
-  EXPECT_TRUE(lumivex::ShowRange(session, {100, 150}));
+  ShowView(session, {{100, 150}});
   EXPECT_EQ(page.panels[0].limits.ymax, 1000);
   EXPECT_EQ(page.panels[0].limits.ymin, 10);
   EXPECT_EQ(page.curves.size(), 4U);
   Near(page.home, 0, 180);
   form.cboYmax.Text = "5e4";
-  lumivex::ShowRange(session, {0, 50});
+  ShowView(session, {{0, 50}});
   EXPECT_EQ(page.panels[0].limits.ymax, 5e4) << "a limit that was chosen stays";
 }
 
@@ -65,9 +65,46 @@ TEST_F(Zoom, TellsWhereNothingIsStored) {
   Found().rows = {{1, 0}, {138, 146}};
   ShowRange("137", "145");
   Draw();
-  EXPECT_TRUE(lumivex::ShowRange(session, {138, 144}));
-  EXPECT_FALSE(lumivex::ShowRange(session, {120, 144}));
-  EXPECT_TRUE(lumivex::ShowRange(session, {137, 145})) << "the last step of an axis may end short of it";
+  EXPECT_TRUE(HasDataOver(page, {138, 144}));
+  EXPECT_FALSE(HasDataOver(page, {120, 144}));
+  EXPECT_TRUE(HasDataOver(page, {137, 145})) << "the last step of an axis may end short of it";
+}
+
+TEST_F(Zoom, TheVerticalAxisKeepsWhatIsUnderThePointerAndItsNumbersApart) {
+  const double top = page.panels[0].limits.ymax, bottom = page.panels[0].limits.ymin;
+  const XRange half = ZoomYAt(page, PlaceOf(60, 1000).y, 0.5);
+  EXPECT_GT(half.xmin, bottom);
+  EXPECT_LT(half.xmax, top);
+  ShowView(session, {page.home, half});
+  EXPECT_EQ(page.panels[0].limits.ymax, half.xmax);
+  ShowView(session, {{100, 150}, half});
+  EXPECT_EQ(page.panels[0].limits.ymax, half.xmax) << "the user's range stays whatever is in view";
+  for (int i = 0; i < 50; ++i) {
+    const XRange y = ZoomYAt(page, PlaceOf(120, 1000).y, 0.8);
+    ShowView(session, {{100, 150}, y});
+  }
+  EXPECT_GE(page.panels[0].limits.ymax / page.panels[0].limits.ymin, 2);
+  for (int i = 0; i < 50; ++i) ShowView(session, {page.home, ZoomYAt(page, 5000, 1.25)});
+  EXPECT_EQ(page.panels[0].limits.ymax, top);
+  EXPECT_EQ(page.panels[0].limits.ymin, bottom);
+  EXPECT_FALSE(IsZoomed(page));
+}
+
+TEST_F(Zoom, LastsWhileTheNextPageHasTheSameRange) {
+  ShowView(session, {{100, 150}, XRange{1e2, 1e4}});
+  const Page before = page;
+  Draw();
+  const auto same = KeptView(before, page);
+  ASSERT_TRUE(same);
+  EXPECT_EQ(*same, ViewOf(before));
+  form.optLinear.Select();
+  Draw();
+  const auto linear = KeptView(before, page);
+  ASSERT_TRUE(linear);
+  EXPECT_EQ(*linear, (PageView{{100, 150}})) << "limits of a logarithmic axis mean nothing on a linear one";
+  ShowRange("0", "90");
+  Draw();
+  EXPECT_FALSE(KeptView(before, page)) << "limits that were typed are what is wanted now";
 }
 
 TEST_F(Zoom, OfAnotherAxisGoesAsFarAsItsCurves) {
@@ -85,7 +122,7 @@ TEST_F(Zoom, OfAnotherAxisGoesAsFarAsItsCurves) {
   form.optXLog.Select();
   ShowRange("1", "181");
   Draw();
-  lumivex::ShowRange(session, {10, 20});
+  ShowView(session, {{10, 20}});
   const XRange out = ZoomAt(page, 8000, 100);
   EXPECT_NEAR(out.xmin, 1, 1e-9);
   EXPECT_NEAR(out.xmax, 181, 1e-9);
@@ -128,7 +165,7 @@ TEST_F(Zoom, ASecondPanelIsReadInItsOwnUnits) {
   EXPECT_NEAR(reading->y, 180, 1e-9);
   EXPECT_NEAR(reading->curveY, 200, 1e-9);
   EXPECT_THAT(reading->text, testing::StartsWith("90 deg   180 deg"));
-  lumivex::ShowRange(session, {10, 20});
+  ShowView(session, {{10, 20}});
   EXPECT_EQ(page.panels[1].limits.xmin, 10);
   EXPECT_EQ(page.panels[1].limits.ymax, 360);
 }

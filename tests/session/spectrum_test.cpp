@@ -197,7 +197,7 @@ TEST_F(Spectrum, TheSumOfManyShowsTheColourOfItsLight) {
   const auto reading = ReadAt(Drawn(), map.X(140), map.Y(Drawn().curves[0].y[1401]));
   ASSERT_TRUE(reading && reading->onCurve);
   EXPECT_EQ(reading->curveY, Drawn().curves[0].y[1401]);
-  EXPECT_TRUE(ShowRange(Now(), {138, 142}));
+  ShowView(Now(), {{138, 142}});
   EXPECT_LE(Drawn().panels[0].limits.ymin, reading->curveY);
   output.str("");
   Do("drawing");

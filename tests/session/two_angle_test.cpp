@@ -91,6 +91,12 @@ TEST_F(TwoAngles, ChartShowsLinesIndicesAndRadiiAndIsDrawnAnew) {
   for (const char* text : {"n = 1.3", "1.375", "r = ", "Cross-section, 0.5 to 5.5 deg. (sq \u00B5m)",
                            "5.5 to 10.5 deg.", "Mie scattering into two ranges of angle"})
     EXPECT_NE(drawing.find(text), std::string::npos) << text;
+  const auto sizeOf = [&](const char* text) {
+    const auto at = drawing.find(std::string("\"") + text);
+    const auto size = drawing.rfind("size=", at);
+    return drawing.substr(size, drawing.find(' ', size) - size);
+  };
+  EXPECT_EQ(sizeOf("5.5 to 10.5 deg."), sizeOf("(sq")) << "the two lines of one title";
   Do("click cmdReplot");
   EXPECT_EQ(Drawing(), drawing);
   // Over it only a chart of the same ranges, then both are there.

@@ -21,14 +21,25 @@ TEST_F(Undo, GoesBackActionByActionWithTypingMerged) {
   EXPECT_EQ(Get("optLinear"), "false");
   Do("click mnuUndo");
   EXPECT_EQ(Get("txtRadius"), "10");
-  Do("click mnuUndo");
-  EXPECT_EQ(Get("txtRadius"), "10");
+  EXPECT_EQ(Get("mnuUndo.Enabled"), "false") << "there is nothing left to take back";
   Do("click mnuRedo\nclick mnuRedo");
   EXPECT_EQ(Get("txtRadius"), "12.5");
   EXPECT_EQ(Get("OptLog"), "false");
   EXPECT_EQ(Get("Qext"), Qext);
-  Do("set txtRadius 3\nclick mnuRedo");
-  EXPECT_EQ(Get("txtLambda"), "0.65") << "a new action leaves nothing to redo";
+  Do("set txtRadius 3");
+  EXPECT_EQ(Get("mnuRedo.Enabled"), "false") << "a new action leaves nothing to redo";
+}
+
+TEST_F(Undo, IsOfferedWhereItDoesSomething) {
+  EXPECT_EQ(Get("mnuUndo.Enabled"), "false");
+  EXPECT_EQ(Get("mnuRedo.Enabled"), "false");
+  // A tick set and taken away, a text typed back, an option that is on already.
+  Do("set txtRadius 1\nset txtRadius 10\nclick OptLog\ndialog dlogAverage cancel\nclick mnuAverage");
+  EXPECT_EQ(Get("mnuUndo.Enabled"), "false");
+  Do("set txtRadius 1\nset txtRadius 12\nclick mnuUndo");
+  EXPECT_EQ(Get("txtRadius"), "10") << "typing goes on to be kept";
+  EXPECT_EQ(Get("mnuUndo.Enabled"), "false");
+  EXPECT_EQ(Get("mnuRedo.Enabled"), "true");
 }
 
 TEST_F(Undo, TakesBackAGraphWithItsCaptionsAndRanges) {

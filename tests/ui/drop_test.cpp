@@ -4,6 +4,7 @@
 #include <QMimeData>
 #include <QUrl>
 
+#include "session/user_actions.h"
 #include "window_fixture.h"
 
 namespace lumivex {
@@ -42,10 +43,20 @@ TEST_F(DropTest, AFileIsReadAndPutToUse) {
   EXPECT_EQ(Form().cboDistrib.Text, "Special");
   ASSERT_TRUE(Drop(Example("white_led.spe")));
   EXPECT_TRUE(Form().mnuSpectrumFile.Checked);
+  EXPECT_EQ(Form().cboWave.Text, "Med.") << "one wavelength would go on without the spectrum";
+  EXPECT_TRUE(WidgetOf(Form().lblSpectrum)->isVisible());
   EXPECT_TRUE(messages.empty()) << messages.front();
   program.Window().ActionOf(Form().mnuUndo)->trigger();
   program.Window().ActionOf(Form().mnuUndo)->trigger();
   EXPECT_FALSE(Form().optDisp.Checked) << "a drop is one step of undo";
+}
+
+TEST_F(DropTest, ASpectrumWaitsForAGraphOfSeveralWavelengthsAndSaysSo) {
+  program.Gate().Do([this] { UserChooses(Now(), Form().cboGraph, "Qext/Qsca/Qabs v. radius"); });
+  ASSERT_TRUE(Drop(Example("white_led.spe")));
+  ASSERT_EQ(messages.size(), 1U);
+  EXPECT_NE(messages.back().find("takes effect in graphs of several wavelengths"), std::string::npos);
+  EXPECT_EQ(Form().cboWave.Text, "1");
 }
 
 TEST_F(DropTest, OtherFilesAndSeveralAtOnceAreToldAndChangeNothing) {

@@ -5,7 +5,9 @@
 #include <QRadioButton>
 #include <cmath>
 
+#include "session/user_actions.h"
 #include "ui/look.h"
+#include "ui/night_colours.h"
 #include "window_fixture.h"
 
 namespace lumivex {
@@ -179,6 +181,73 @@ TEST_F(PanelTest, NothingIsClippedWithEverythingShownAndLargeFonts) {
     }
   }
   QApplication::setFont(normal);
+}
+
+TEST_F(PanelTest, TipsAndNamesFollowWhatAnInputMeans) {
+  const auto* size = WidgetOf(Form().txtRadius);
+  const auto* low = WidgetOf(Form().txtXmin);
+  EXPECT_EQ(size->toolTip(), "Radius of the sphere in micrometres");
+  program.Window().ActionOf(Form().mnuDiameter)->trigger();
+  EXPECT_EQ(size->toolTip(), "Diameter of the sphere in micrometres");
+  EXPECT_EQ(size->accessibleName(), "Diameter (\u00B5m)");
+  EXPECT_TRUE(low->toolTip().contains("angle"));
+  program.Gate().Do([this] { UserChooses(Now(), Form().cboGraph, "Qext/Qsca/Qabs v. wavelength"); });
+  EXPECT_TRUE(low->toolTip().contains("wavelength")) << low->toolTip().toStdString();
+  EXPECT_EQ(low->accessibleName(), "Minimum (nm)");
+  program.Window().ActionOf(Form().mnuUndo)->trigger();
+  EXPECT_TRUE(low->toolTip().contains("angle")) << "with the graph they come back";
+}
+
+TEST_F(PanelTest, NarrowWindowsShowTheCommandsAndWideEnoughOnesTheReadings) {
+  struct Case {
+    int width, height;
+    bool readings;
+  };
+  // 837 by 493 is what a frame leaves of 1280 by 800 at one and a half times the density.
+  for (const auto& [width, height, readings] :
+       {Case{1350, 728, true}, Case{1008, 728, true}, Case{837, 493, true}, Case{800, 600, false}}) {
+    program.Window().resize(width, height);
+    program.Window().Settle();
+    QTest::qWait(60);
+    const auto& canvas = program.Window().Drawing();
+    const std::string size = std::to_string(width) + " x " + std::to_string(height);
+    EXPECT_EQ(canvas.width(), width) << size << " is scrolled";
+    for (const Control* control : std::initializer_list<const Control*>{&Form().cmdNewPlot, &Form().txtXmax}) {
+      const QWidget* widget = WidgetOf(*control);
+      EXPECT_LE(widget->mapTo(&program.Window(), widget->rect().topRight()).x(), width) << size;
+      EXPECT_EQ(Clipped(*widget), "") << size;
+    }
+    EXPECT_GE(width, (readings ? 13700 : 12000) * canvas.Unit()) << size;
+  }
+}
+
+TEST_F(PanelTest, AThemeReachesThePageAndOpenDialogsUnlessABackgroundIsChosen) {
+  const QPalette before = QApplication::palette();
+  Now().platform.Show(Now().forms.dlogAverage);
+  auto* field = program.Window().findChild<QLineEdit*>("txtAverage");
+  ASSERT_NE(field, nullptr);
+  const auto corner = [this] { return program.Window().Drawing().Surface().PaperColour().lightness(); };
+  QApplication::setPalette(DarkPalette());
+  QTest::qWait(50);
+  EXPECT_LT(corner(), 100);
+  field = program.Window().findChild<QLineEdit*>("txtAverage");
+  EXPECT_EQ(field->palette().color(QPalette::Base), QColor(30, 30, 30));
+  EXPECT_EQ(WidgetOf(Form().txtRadius)->palette().color(QPalette::Base), QColor(30, 30, 30));
+  program.Window().ActionOf(Form().mnuGrey)->trigger();
+  EXPECT_GT(corner(), 200) << "a page that the user chose";
+  program.Window().ActionOf(Form().mnuDefault)->trigger();
+  EXPECT_LT(corner(), 100);
+  QApplication::setPalette(before);
+  QTest::qWait(50);
+  EXPECT_GT(corner(), 200);
+}
+
+TEST_F(PanelTest, WhatIsDrawnOnADarkPageReads) {
+  const QColor ground = NightFill({0xE0FFFF});
+  for (const Colour ink : {colours::Black, RGB(96, 96, 96), RGB(128, 0, 0), RGB(0, 0, 255), RGB(0, 0, 128)})
+    EXPECT_GE(Contrast(NightInk(ink), ground), 3.9) << ink.value;
+  EXPECT_EQ(NightInk(RGB(255, 0, 0)), QColor(255, 0, 0)) << "what reads already keeps its colour";
+  EXPECT_EQ(NightFill(colours::Black), QColor(Qt::black)) << "the ground of a spectrum";
 }
 
 TEST_F(PanelTest, ThePanelKeepsItsPlaceWhenAGraphHidesInputs) {

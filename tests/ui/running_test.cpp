@@ -71,6 +71,29 @@ TEST_F(RunningTest, EscStopsAndAnsweredNoTheRunGoesOn) {
   EXPECT_EQ(messages.size(), 1U);
 }
 
+TEST_F(RunningTest, EnterTypedBeforeAStopStartsNoOtherRun) {
+  RunLong([&] {
+    Press(Form().txtXmin, Qt::Key_Return);
+    QTest::keyClick(&program.Window(), Qt::Key_Escape);
+  });
+  const double seconds = Now().state.LastRunSeconds;
+  QTest::qWait(50);
+  EXPECT_EQ(messages.size(), 1U) << "another run would have been stopped by nobody";
+  EXPECT_EQ(Now().state.LastRunSeconds, seconds);
+}
+
+TEST_F(RunningTest, AThemeChosenDuringARunIsTakenUpAtItsEnd) {
+  const QPalette before = QApplication::palette();
+  RunLong([&] {
+    QApplication::setPalette(QPalette(QColor(60, 60, 64), QColor(45, 45, 48)));
+    QApplication::sendPostedEvents();
+    Click(Form().cmdStop);
+  });
+  EXPECT_TRUE(program.Window().Drawing().IsNight());
+  EXPECT_EQ(WidgetOf(Form().txtRadius)->palette().color(QPalette::Window), QColor(45, 45, 48));
+  QApplication::setPalette(before);
+}
+
 TEST_F(RunningTest, ClosingAndResizingWaitForTheEnd) {
   const double width = Now().surface->ScaleWidth();
   bool closedDuring = true;

@@ -5,8 +5,10 @@
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QTest>
 #include <QTimer>
 #include <functional>
@@ -17,7 +19,8 @@
 
 namespace lumivex {
 
-/// The program in a real window, loaded and shown. Messages are put away by themselves and kept.
+/// The program in a real window, loaded and shown. Messages are put away by themselves and kept; a dialog that nobody
+/// answers is closed after a while, and the test fails, so that it cannot hang the others.
 class WindowTest : public testing::Test {
  protected:
   WindowTest() {
@@ -78,8 +81,21 @@ class WindowTest : public testing::Test {
       const auto act = dialogs.front();
       dialogs.erase(dialogs.begin());
       act(*dialog);
+    } else if (modal) {
+      constexpr int patienceMs = 3000;
+      if (modal != unanswered_) {
+        unanswered_ = modal;
+        waiting_.start();
+      } else if (waiting_.elapsed() > patienceMs) {
+        ADD_FAILURE() << "nobody answered " << modal->windowTitle().toStdString();
+        modal->close();
+      }
+      return;
     }
+    unanswered_ = nullptr;
   }
+  QPointer<QWidget> unanswered_;
+  QElapsedTimer waiting_;
   QTimer answerTimer_;
 };
 

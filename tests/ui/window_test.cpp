@@ -120,6 +120,38 @@ TEST_F(MainWindowTest, AResizeDrawsThePageAnewAtTheNewSize) {
   EXPECT_NEAR(Now().state.GraphRight, 0.97 * Now().surface->ScaleWidth(), 5);
 }
 
+TEST_F(MainWindowTest, AboutTellsTheVersionAndWarnsOfNothing) {
+  QMessageBox::Icon icon = QMessageBox::Warning;
+  QTimer::singleShot(0, [&] {
+    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) icon = box->icon();
+  });
+  program.Window().ActionOf(Form().mnuAbout)->trigger();
+  ASSERT_EQ(messages.size(), 1U);
+  EXPECT_TRUE(messages[0].starts_with("About Lumivex: Lumivex 1.0\n")) << messages[0];
+  EXPECT_EQ(icon, QMessageBox::NoIcon);
+}
+
+TEST_F(MainWindowTest, AClickOnTheDebyeAnalysisChoosesItsNumbers) {
+  dialogs = {[](QDialog& open) { open.accept(); }};
+  program.Window().ActionOf(Form().mnuDebyeSequence)->trigger();
+  Click(Form().cmdNewPlot);
+  ASSERT_TRUE(Now().page.phasors);
+  ASSERT_EQ(Now().page.phasors->labels.number, 5);
+  dialogs = {[](QDialog& open) {
+    auto* terms = open.findChild<QLineEdit*>("txtTerms");
+    ASSERT_NE(terms, nullptr);
+    terms->selectAll();
+    QTest::keyClicks(terms, "9");
+    open.accept();
+  }};
+  const PhasorPlace& place = Now().page.phasors->place;
+  const QPoint centre = (QPointF(place.x, place.y) * program.Window().Drawing().Unit()).toPoint();
+  QTest::mouseClick(&program.Window().Drawing(), Qt::LeftButton, {}, centre);
+  EXPECT_TRUE(dialogs.empty()) << "the dialog was not opened";
+  EXPECT_EQ(Now().page.phasors->labels.number, 9);
+  EXPECT_TRUE(messages.empty()) << messages.front();
+}
+
 TEST_F(MainWindowTest, F1OpensTheGuide) {
   ASSERT_FALSE(GuideWindow::Path().isEmpty());
   QAction* help = program.Window().ActionOf(Form().mnuHelpContents);

@@ -100,7 +100,10 @@ PagePanel& Grid(Page& page, PanelPlace place, AxisLimits limits, bool second) {
   panel.limits = RepairedLimits(limits, kind.logX, panel.logY);
   panel.oddTest = page.scale.GridOddTest;
   if (!kind.logX && !kind.polar) page.scale.GridOddTest = panel.limits.xmin;
-  if (!second) page.home = {panel.limits.xmin, panel.limits.xmax};
+  if (!second) {
+    page.home = {panel.limits.xmin, panel.limits.xmax};
+    page.homeY = {panel.limits.ymin, panel.limits.ymax};
+  }
   return page.panels.emplace_back(panel);
 }
 

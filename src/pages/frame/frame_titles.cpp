@@ -26,18 +26,23 @@ void PrintAt(DrawingSurface& surface, double x, double y, std::string_view text)
 
 /// Title of the vertical axis at x 50, its line above the highest number; the title of the run stands to the right.
 /// @param y  where it starts if there is room.
-void PrintAbove(FramePaint& paint, double y, std::string_view title) {
+/// @param widest  a text of which every line of the title takes the size.
+void PrintAbove(FramePaint& paint, double y, std::string_view title, std::string_view widest) {
   if (title.empty()) return;
   auto& surface = paint.surface;
   const double fontSize = surface.FontSize;
   const double margin = paint.Box().left - 70;
-  while (50 + surface.TextWidth(title) > margin && surface.FontSize > smallestFont) surface.FontSize -= 0.5;
+  while (50 + surface.TextWidth(widest) > margin && surface.FontSize > smallestFont) surface.FontSize -= 0.5;
   const double highest = paint.labels.HighestTop(0, paint.Box().left, paint.Box().top);
   const double height = surface.TextHeight(title);
   const double top = std::min(y, highest - aboveNumbers - height);
   PrintAt(surface, 50, top, title);
   paint.labels.Take(50, top, surface.TextWidth(title), height);
   surface.FontSize = fontSize;
+}
+
+void PrintAbove(FramePaint& paint, double y, std::string_view title) {
+  PrintAbove(paint, y, title, title);
 }
 
 void PaintXTitle(FramePaint& paint) {
@@ -79,8 +84,10 @@ void PaintWattsTitle(FramePaint& paint) {
 void PaintTwoAngleTitle(FramePaint& paint, double top, double line) {
   const std::string_view title = paint.kind.yTitle;
   const auto unit = std::min(title.find('('), title.size());
-  PrintAbove(paint, top - 600 + line, title.substr(unit));
-  PrintAbove(paint, top - 600, title.substr(0, unit));
+  const std::string_view range = title.substr(0, unit), inUnit = title.substr(unit);
+  const std::string_view widest = paint.surface.TextWidth(range) > paint.surface.TextWidth(inUnit) ? range : inUnit;
+  PrintAbove(paint, top - 600 + line, inUnit, widest);
+  PrintAbove(paint, top - 600, range, widest);
 }
 
 void PaintYTitle(FramePaint& paint) {

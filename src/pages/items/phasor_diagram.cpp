@@ -126,7 +126,10 @@ void PrintScale(DrawingSurface& surface, const PagePhasors& dots) {
   const std::string text =
       "|S| from " + Significant(dots.ymin, 3) + " at the centre to " + Significant(dots.ymax, 3) + " at the rim";
   const PhasorPlace& disc = dots.place;
-  PrintAt(surface, disc.x - surface.TextWidth(text) / 2, disc.y + std::floor(disc.radius) + 200, text);
+  // Below a small circle the line is wider than the circle, and keeps clear of the page's edge.
+  const double width = surface.TextWidth(text);
+  const double left = std::min(disc.x - width / 2, surface.ScaleWidth() - width - 0.5 * gap);
+  PrintAt(surface, left, disc.y + std::floor(disc.radius) + 200, text);
 }
 
 /// A modulus and a phase as the status line has them.
@@ -141,7 +144,13 @@ PhasorPlace PlacePhasors(const PageGeometry& geometry) {
   place.tableBottom = std::clamp(geometry.surfaceHeight - gap, boxTop + gap, lowestBox);
   const double right = geometry.surfaceWidth - gap;
   // Below the circle a line tells its scale.
-  const double most = std::clamp(geometry.surfaceHeight - centreY - 2 * gap, smallestRadius, largestRadius);
+  double most = std::clamp(geometry.surfaceHeight - centreY - 2 * gap, smallestRadius, largestRadius);
+  if (most < largestRadius) {
+    // A low page has more room for the circle around the middle of what is left below the title.
+    const double high = geometry.surfaceHeight - 2 * gap - boxTop;
+    most = std::clamp(0.5 * high, most, largestRadius);
+    place.y = geometry.surfaceHeight - 2 * gap - most;
+  }
   place.radius = most;
   if (right >= centreX + most) return place;
   place.tableRight = std::clamp(right - 2 * most - gap, narrowestBox, widestBox);

@@ -69,10 +69,7 @@ void OfferCommands(Session& session) {
   const auto& s = session.state;
   // A curve of one wavelength over the colours of several would have no scale in common with them.
   const bool single = s.NumberWavelengths == 1 && s.ResultWavelengths == 1;
-  // Only intensity against angle is a matter of several wavelengths.
-  const Graph& graph = ChosenGraph(s);
-  form.cboWave.Enabled = (graph.AgainstAngle() && graph.quantity == Quantity::Intensity) || graph.InColour() ||
-                         graph.family == Family::Volume || s.NumberWavelengths > 1;
+  form.cboWave.Enabled = TakesWavelengths(ChosenGraph(s)) || s.NumberWavelengths > 1;
   form.cmdReplot.Visible = HasRun(s);
   form.cmdReplot.Enabled = HasRun(s);
   form.cmdOverPlot.Visible = HasRun(s);

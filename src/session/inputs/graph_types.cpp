@@ -5,6 +5,7 @@
 #include <initializer_list>
 
 #include "record/number_text.h"
+#include "session/inputs/input_tips.h"
 #include "session/inputs/methods.h"
 #include "session/inputs/sizes/size_menus.h"
 
@@ -218,6 +219,7 @@ void ShowFamilyInputs(Session& session) {
   form.Frame3.Visible = form.txtRadius.Visible || form.optMono.Visible;
   form.Frame4.Visible = form.txtLambda.Visible || form.cboWave.Visible || form.optPoint.Visible;
   ShowFurtherAxis(session, graph);
+  WriteTips(session);
 }
 
 void cboGraph_Click(Session& session) {

@@ -5,6 +5,7 @@
 
 #include "record/number_text.h"
 #include "session/inputs/graph_types.h"
+#include "session/inputs/input_tips.h"
 #include "session/inputs/materials/refractive_index.h"
 #include "session/inputs/methods.h"
 
@@ -16,6 +17,7 @@ void ChooseSizeKind(Session& session, MenuEntry& chosen, const std::string& capt
   auto& form = session.form1;
   for (MenuEntry* entry : {&form.mnuRadius, &form.mnuDiameter, &form.mnuRadiusX}) entry->Checked = entry == &chosen;
   form.Label7.Caption = caption;
+  WriteTips(session);
   Inputs_Changed(session);
 }
 

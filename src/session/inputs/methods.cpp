@@ -115,6 +115,21 @@ void mnuDebyeSequence_Click(Session& session) {
   ChooseGraph(session, "Debye analysis");
 }
 
+void AskDebyeSequence(Session& session) {
+  auto& dialog = session.forms.dlogDebyeSeq;
+  const std::string limit = dialog.txtLimit.Text;
+  if (!AskIn(session, dialog)) return;
+  // Which points are numbered is a matter of the drawing; further terms have to be calculated.
+  session.events.Raise("cmdReplot_Click");
+  if (dialog.txtLimit.Text != limit) session.events.Raise("Inputs_Changed");
+}
+
+bool TakesWavelengths(const Graph& graph) {
+  // Only intensity against angle is a matter of several wavelengths.
+  return (graph.AgainstAngle() && graph.quantity == Quantity::Intensity) || graph.InColour() ||
+         graph.family == Family::Volume;
+}
+
 void NumberWavelengths(Session& session) {
   TakeSpecialRadius(session);
   session.state.NumberWavelengths = WavelengthCount(session.form1.cboWave.Text, RadiusInUse(session));

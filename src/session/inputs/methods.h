@@ -29,6 +29,13 @@ void mnuvdh_Click(Session& session);
 /// Asks how far the Debye terms of one point are followed, and chooses the graph that shows them.
 void mnuDebyeSequence_Click(Session& session);
 
+/// The same dialog while that graph is there: the numbers beside its points are drawn at once, a new highest p waits
+/// for the next run.
+void AskDebyeSequence(Session& session);
+
+/// Whether a graph may be calculated at several wavelengths.
+bool TakesWavelengths(const Graph& graph);
+
 /// Settles NumberWavelengths from cboWave; "High", "Med." and "Low" depend on the radius in use, which becomes Radius
 /// where it is that of a size file.
 void NumberWavelengths(Session& session);

@@ -240,12 +240,6 @@ void mnuWhite_Click(Session& session) {
   SetSidePictures(session, colours::White);
   session.surface->BackColour = colours::White;
   SetBackground(session, whiteBackground);
-  // The strip behind the inputs keeps the colour of the window.
-  auto& surface = *session.surface;
-  const Colour before = surface.ForeColour;
-  surface.ForeColour = colours::ButtonFace;
-  surface.Line(0, 0, 15750, 2800, LineKind::FilledBox);
-  surface.ForeColour = before;
 }
 
 void mnuGrey_Click(Session& session) {

@@ -1,0 +1,83 @@
+#include "session/inputs/input_tips.h"
+
+#include <string>
+
+namespace lumivex {
+
+namespace {
+
+/// What runs along an axis, with its unit, in the middle of a sentence.
+std::string AxisWords(AxisVariable axis) {
+  switch (axis) {
+    case AxisVariable::Wavelength:
+      return "wavelength in vacuum, in nanometres";
+    case AxisVariable::Radius:
+      return "radius of the sphere in micrometres";
+    case AxisVariable::Diameter:
+      return "diameter of the sphere in micrometres";
+    case AxisVariable::SizeParameter:
+      return "size parameter x of the sphere";
+    case AxisVariable::RefractiveIndex:
+      return "refractive index of the sphere";
+    case AxisVariable::Terms:
+      return "number of terms of the series";
+    case AxisVariable::Angle:
+      return "scattering angle in degrees";
+    default:
+      return "";
+  }
+}
+
+std::string UnitOfStep(AxisVariable axis) {
+  switch (axis) {
+    case AxisVariable::Wavelength:
+      return " in nanometres";
+    case AxisVariable::Radius:
+    case AxisVariable::Diameter:
+      return " in micrometres";
+    case AxisVariable::Angle:
+      return " in degrees";
+    default:
+      return "";
+  }
+}
+
+void WriteSizeTip(Form1& form) {
+  if (form.mnuDiameter.Checked) {
+    form.txtRadius.Tip = "Diameter of the sphere in micrometres";
+  } else if (form.mnuRadiusX.Checked) {
+    form.txtRadius.Tip = "Size parameter x of the sphere: its circumference in wavelengths of the medium";
+  } else {
+    form.txtRadius.Tip = "Radius of the sphere in micrometres";
+  }
+}
+
+void WriteAxisTips(Form1& form, const Graph& graph) {
+  const std::string words = AxisWords(graph.axis);
+  form.txtXmin.Tip = "Lowest value of the horizontal axis";
+  form.txtXmax.Tip = "Highest value of the horizontal axis";
+  for (TextInput* end : {&form.txtXmin, &form.txtXmax})
+    if (!words.empty()) end->Tip += " (" + words + ")";
+  form.cboStep.Tip = form.mnuXStepLog.Checked ? "Number of steps of the calculation, even on a logarithmic scale"
+                                              : "Step of the calculation" + UnitOfStep(graph.axis);
+}
+
+}  // namespace
+
+void WriteTips(Session& session) {
+  auto& form = session.form1;
+  const Graph& graph = ChosenGraph(session.state);
+  WriteSizeTip(form);
+  WriteAxisTips(form, graph);
+  const std::string& counted = form.Label19.Caption;
+  form.txtAngle.Tip = counted == "Number of rays"     ? "Number of rays of the wavefront"
+                      : counted == "Number of strips" ? "Number of strips of the aperture"
+                                                      : "Scattering angle in degrees";
+  const bool power = graph.quantity == Quantity::Power;
+  form.txtF9_min.Tip = power ? "Lowest scattering angle of the power, in degrees" : "Lowest value of the further axis";
+  form.txtF9_max.Tip =
+      power ? "Highest scattering angle of the power, in degrees" : "Highest value of the further axis";
+  form.txtF9_step.Tip = power ? "Step of the scattering angle in degrees" : "Number of steps of the further axis";
+}
+
+}  // namespace lumivex
