@@ -3,6 +3,7 @@
 #include <QDialogButtonBox>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <string>
@@ -60,7 +61,11 @@ void DialogView::BuildLines() {
 
 void DialogView::changeEvent(QEvent* event) {
   QDialog::changeEvent(event);
-  if (!body_ || !IsNewLook(*event)) return;
+  // Not here: the application is going through its widgets, and those of the lines are replaced.
+  if (body_ && IsNewLook(*event)) QTimer::singleShot(0, this, [this] { TakeNewLook(); });
+}
+
+void DialogView::TakeNewLook() {
   // Widths were measured with the font, and marks mixed from the palette, of before.
   const QString focused = focusWidget() ? focusWidget()->objectName() : QString();
   BuildLines();

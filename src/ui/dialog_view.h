@@ -33,6 +33,7 @@ class DialogView final : public QDialog {
 
  private:
   void BuildLines();
+  void TakeNewLook();
   std::string EventOf(std::string_view button) const;
 
   Form& form_;

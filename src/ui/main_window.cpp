@@ -26,7 +26,6 @@
 #include "session/user_actions.h"
 #include "session/window_events.h"
 #include "ui/look.h"
-#include "ui/panel_density.h"
 
 namespace lumivex {
 
@@ -423,17 +422,19 @@ void MainWindow::dropEvent(QDropEvent* event) {
 
 void MainWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
-  if (panel_ && IsNewLook(*event)) TakeNewLook();
+  if (!panel_ || !IsNewLook(*event)) return;
+  // Not here: the application is going through its widgets, and the panel's are replaced.
+  lookIsStale_ = true;
+  QTimer::singleShot(0, this, [this] { TakeNewLook(); });
 }
 
 void MainWindow::TakeNewLook() {
-  lookIsStale_ = gate_.Running();
-  if (lookIsStale_) return;
-  units_.clear();
-  delete std::exchange(panel_, nullptr);
-  density_ = 0;
+  if (!lookIsStale_ || gate_.Running()) return;
+  lookIsStale_ = false;
   MeasureProgress();
   RenewInfo();
+  units_.assign(units_.size(), 0);
+  BuildPanel(0);
   Resized();
 }
 

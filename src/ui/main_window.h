@@ -17,6 +17,7 @@
 #include "ui/info_overlay.h"
 #include "ui/menu_view.h"
 #include "ui/page_picture.h"
+#include "ui/panel_density.h"
 #include "ui/panel_view.h"
 #include "ui/undo_keys.h"
 
@@ -90,10 +91,10 @@ class MainWindow final : public QMainWindow {
   GraphPointer pointer_;
   PanelView* panel_ = nullptr;
   InfoOverlay* info_ = nullptr;
-  std::size_t density_ = 0;    ///< of the panel
-  std::vector<double> units_;  ///< pixels to a unit with each density, 0 where it has not been measured yet
-  double leastUnits_ = 0;      ///< width that the drawing keeps (surface units)
-  bool lookIsStale_ = false;   ///< the desktop's font or colours changed during a run
+  std::size_t density_ = 0;                ///< of the panel
+  std::vector<double> units_;              ///< pixels to a unit with each density, 0 where it has not been measured yet
+  double leastUnits_ = unitsWithReadings;  ///< width that the drawing keeps (surface units)
+  bool lookIsStale_ = false;               ///< the desktop's font or colours have changed
   std::unique_ptr<MenuView> menu_;
   QLabel* readOut_ = nullptr;
   QLabel* status_ = nullptr;
