@@ -16,6 +16,8 @@ namespace {
 constexpr std::size_t mostApart = 4;  // controls of a line that share its width by their contents
 constexpr int boxWidth = 28;          // a tick box and the air about it (pixels)
 constexpr int compactMargin = 6;      // frame and a dot of air above and below the text (pixels)
+constexpr int tightMargin = 3;        // the frame alone
+constexpr int leastArrow = 20;        // width of a list's arrow (pixels)
 
 bool IsInput(const Control& control) {
   return control.Kind() == ControlKind::TextInput || control.Kind() == ControlKind::SelectionList;
@@ -46,9 +48,10 @@ FormView::FormView(Form& form, std::span<const LayoutLine> lines, const FormStyl
                    QWidget* parent)
     : style_(style), column_(static_cast<QVBoxLayout*>(parent->layout())) {
   // Room for the digits, the frame and the arrow of a list.
-  const int air = style.tight ? 4 : 10;
+  const int air = style.tight ? 6 : 10;
   frameWidth_ = 2 * parent->style()->pixelMetric(QStyle::PM_DefaultFrameWidth) + air;
-  arrowWidth_ = parent->fontMetrics().height() + (style.tight ? 0 : 4);
+  // The arrow does not shrink with the font.
+  arrowWidth_ = std::max(parent->fontMetrics().height() + 4, style.tight ? leastArrow : 0);
   fieldWidth_ = style.fieldChars * parent->fontMetrics().horizontalAdvance('0') + frameWidth_ + arrowWidth_;
   leastFieldWidth_ = CharsOfFields(form, lines) * parent->fontMetrics().horizontalAdvance('0') + frameWidth_;
   for (const auto& line : lines) AddLine(form, line, actions, parent);
@@ -73,7 +76,8 @@ void FormView::AddLine(Form& form, const LayoutLine& line, const ControlActions&
     QWidget* widget = view->Widget();
     widget->setVisible(true);  // so that the first measure counts everything; the next Sync hides what is hidden
     const bool isLabel = control->Kind() == ControlKind::Label;
-    if (style_.compact && IsInput(*control)) widget->setFixedHeight(widget->fontMetrics().height() + compactMargin);
+    if (style_.compact && IsInput(*control))
+      widget->setFixedHeight(widget->fontMetrics().height() + (style_.tight ? tightMargin : compactMargin));
     if (style_.compact && control->Kind() == ControlKind::CommandButton) {
       widget->setMinimumWidth(widget->fontMetrics().horizontalAdvance(ToQString(control->ShownCaption())) +
                               arrowWidth_);

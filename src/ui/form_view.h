@@ -17,7 +17,7 @@ namespace lumivex {
 struct FormStyle {
   int fieldChars = 12;   ///< digits that the inputs of a labelled line have room for, together
   bool compact = false;  ///< inputs hardly higher than their text
-  bool tight = false;    ///< and hardly wider
+  bool tight = false;    ///< and no higher, with less air about them
 };
 
 /// The controls of a form as lines of widgets, built from their description.

@@ -42,7 +42,15 @@ bool IsDark(const QPalette& palette) {
 }
 
 bool IsNewLook(const QEvent& event) {
-  return event.type() == QEvent::ApplicationFontChange || event.type() == QEvent::ApplicationPaletteChange;
+  switch (event.type()) {
+    case QEvent::ApplicationFontChange:
+    case QEvent::ApplicationPaletteChange:
+    case QEvent::FontChange:
+    case QEvent::PaletteChange:
+      return true;
+    default:
+      return false;
+  }
 }
 
 QPalette MarkedPalette(const QPalette& plain, Colour mark) {

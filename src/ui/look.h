@@ -19,7 +19,7 @@ QString ShownText(std::string_view caption);
 
 bool IsDark(const QPalette& palette);
 
-/// Whether the desktop has changed its font or its colours.
+/// Whether a top window is told that the desktop has changed its font or its colours.
 bool IsNewLook(const QEvent& event);
 
 /// The palette of an input that is marked: red for bad input, yellow for a warning, any other colour as it is, each

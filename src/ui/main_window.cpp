@@ -178,7 +178,9 @@ void MainWindow::FitPanel() {
   // In a narrow window the panel takes a smaller font, down to what can still be read, rather than push the readings
   // out. Fonts come in steps and the frames around the text do not shrink with it, so one guess is not enough.
   const double room = scroll_->maximumViewportSize().width();
-  const PanelFit fit = FitInto(room, [this](std::size_t density) { return UnitOf(density); });
+  const MenuEntry& shown = session_->form1.mnuDataVisible;
+  const bool readings = shown.Visible && shown.Checked;
+  const PanelFit fit = FitInto(room, readings, [this](std::size_t density) { return UnitOf(density); });
   leastUnits_ = fit.leastUnits;
   if (fit.density != density_) BuildPanel(fit.density);
   ReserveRoom();

@@ -8,8 +8,8 @@ namespace lumivex {
 namespace {
 
 constexpr PanelDensity densities[] = {{0.90, 100, false}, {0.86, 100, false}, {0.82, 100, false}, {0.78, 100, false},
-                                      {0.75, 100, false}, {0.75, 100, true},  {0.75, 93, true},   {0.73, 88, true},
-                                      {0.71, 84, true},   {0.68, 80, true}};
+                                      {0.75, 100, false}, {0.75, 100, true},  {0.75, 94, true},   {0.73, 90, true},
+                                      {0.71, 86, true},   {0.69, 82, true}};
 
 }  // namespace
 
@@ -17,13 +17,13 @@ std::span<const PanelDensity> PanelDensities() {
   return densities;
 }
 
-PanelFit FitInto(double roomPx, const std::function<double(std::size_t density)>& unitOf) {
+PanelFit FitInto(double roomPx, bool readings, const std::function<double(std::size_t density)>& unitOf) {
   const auto firstThatFits = [&](double units) {
     std::size_t density = 0;
     while (density < std::size(densities) && unitOf(density) * units > roomPx) ++density;
     return density;
   };
-  const std::size_t withReadings = firstThatFits(unitsWithReadings);
+  const std::size_t withReadings = readings ? firstThatFits(unitsWithReadings) : std::size(densities);
   if (withReadings < std::size(densities)) return {withReadings, unitsWithReadings};
   return {std::min(firstThatFits(panelUnits), std::size(densities) - 1), panelUnits};
 }

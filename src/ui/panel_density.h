@@ -29,7 +29,8 @@ struct PanelFit {
 
 /// The airiest panel that leaves room for the readings in so many pixels. In less room than the densest needs the
 /// readings give way, so that the commands and the whole graph are there.
-/// @param unitOf  pixels to a unit with a density.
-PanelFit FitInto(double roomPx, const std::function<double(std::size_t density)>& unitOf);
+/// @param readings  whether they are shown at all.
+/// @param unitOf    pixels to a unit with a density.
+PanelFit FitInto(double roomPx, bool readings, const std::function<double(std::size_t density)>& unitOf);
 
 }  // namespace lumivex
