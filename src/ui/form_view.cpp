@@ -48,8 +48,7 @@ FormView::FormView(Form& form, std::span<const LayoutLine> lines, const FormStyl
                    QWidget* parent)
     : style_(style), column_(static_cast<QVBoxLayout*>(parent->layout())) {
   // Room for the digits, the frame and the arrow of a list.
-  const int air = style.tight ? 6 : 10;
-  frameWidth_ = 2 * parent->style()->pixelMetric(QStyle::PM_DefaultFrameWidth) + air;
+  frameWidth_ = 2 * parent->style()->pixelMetric(QStyle::PM_DefaultFrameWidth) + 10;
   // The arrow does not shrink with the font.
   arrowWidth_ = std::max(parent->fontMetrics().height() + 4, style.tight ? leastArrow : 0);
   fieldWidth_ = style.fieldChars * parent->fontMetrics().horizontalAdvance('0') + frameWidth_ + arrowWidth_;
