@@ -34,7 +34,8 @@ TEST_F(Undo, IsOfferedWhereItDoesSomething) {
   EXPECT_EQ(Get("mnuUndo.Enabled"), "false");
   EXPECT_EQ(Get("mnuRedo.Enabled"), "false");
   // A tick set and taken away, a text typed back, an option that is on already.
-  Do("set txtRadius 1\nset txtRadius 10\nclick OptLog\ndialog dlogAverage cancel\nclick mnuAverage");
+  Do("set txtRadius 1\nset txtRadius 10\nclick OptLog\n"
+     "dialog dlogSpectrumBand cancel\nclick mnuSpectrumBand");
   EXPECT_EQ(Get("mnuUndo.Enabled"), "false");
   Do("set txtRadius 1\nset txtRadius 12\nclick mnuUndo");
   EXPECT_EQ(Get("txtRadius"), "10") << "typing goes on to be kept";
