@@ -6,11 +6,14 @@
 
 namespace lumivex {
 
-/// Mean of the values j from Int(i - w/2) to Int(i + w/2) that lie within first..last; values that are not numbers do
-/// not count. Not a number where the value itself is none. A width of 0 gives the value, one of 1 the
-/// mean with the value before.
+/// Running mean: at row i the mean of the values j from Int(i - w/2) to Int(i + w/2) that lie within first..last;
+/// values that are not numbers do not count. A row that is not a number, or lies outside first..last, stays as it is. A
+/// width of 0 gives the values, one of 1 the mean with the value before.
+///
+/// The work does not depend on the width. Sums are only ever added to and never subtracted from, so that a small value
+/// beside a forward peak ten decades above it keeps all its digits (van Herk's sums from both sides of a block).
 /// @param y  first index 1.
-double RunningMean(std::span<const double> y, std::size_t i, double w, std::size_t first, std::size_t last);
+std::vector<double> RunningMeans(std::span<const double> y, double w, std::size_t first, std::size_t last);
 
 /// Weights of the solar disc by offset from the middle, rows 0 to `rows` + 1 (the last one 0), and their sum over both
 /// sides.

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "axes/scale_rules.h"
+
 namespace lumivex {
 
 namespace {
@@ -30,11 +32,13 @@ void Order(double& low, double& high) {
 
 double Scaled(double value, double low, double high, bool logarithmic) {
   if (!logarithmic) return (value - low) / (high - low);
-  return value > 0 ? std::log(value / low) / std::log(high / low) : std::nan("");
+  return value > 0 ? LogOfRatio(value, low) / LogOfRatio(high, low) : std::nan("");
 }
 
 double Unscaled(double part, double low, double high, bool logarithmic) {
-  return logarithmic ? low * std::pow(high / low, part) : low + part * (high - low);
+  if (!logarithmic) return low + part * (high - low);
+  const double ratio = high / low;
+  return std::isfinite(ratio) ? low * std::pow(ratio, part) : std::exp(std::log(low) + part * LogOfRatio(high, low));
 }
 
 /// Ranges are moved on a line: the logarithm of a logarithmic axis.

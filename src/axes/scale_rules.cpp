@@ -47,6 +47,11 @@ double RuleLog10(double x) {
   return std::log(x) / ln10OfTheRules;
 }
 
+double LogOfRatio(double a, double b) {
+  const double ratio = a / b;
+  return std::isnormal(ratio) ? std::log(ratio) : std::log(a) - std::log(b);
+}
+
 bool IsOdd(double s) {
   return std::abs(std::floor(s / 2) - s / 2) > 0.1;
 }

@@ -19,6 +19,9 @@ double Log10Guarded(double x);
 /// x / ln 10 of the rules: ln(x) / 2.302585093.
 double RuleLog10(double x);
 
+/// ln(a / b) of two positive numbers, also where their quotient is beyond the range of double.
+double LogOfRatio(double a, double b);
+
 /// Whether a number counts as odd for the ladder: |Int(s/2) - s/2| > 0.1.
 bool IsOdd(double s);
 

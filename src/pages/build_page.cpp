@@ -1,6 +1,5 @@
 #include "pages/build_page.h"
 
-#include "pages/curves/curve_legend.h"
 #include "pages/curves/curve_path.h"
 #include "pages/curves/spectrum_graph.h"
 #include "pages/frame/frame.h"
@@ -9,6 +8,7 @@
 #include "pages/items/size_histogram.h"
 #include "pages/items/two_angle_chart.h"
 #include "pages/run_words.h"
+#include "record/number_text.h"
 
 namespace lumivex {
 
@@ -41,9 +41,38 @@ std::string NameOfSizes(const RunWords& words) {
   return words.sizes.substr(0, words.sizes.find(','));
 }
 
+/// A run in words; what the look makes of its curves tells it from others too.
+PageRun WordsOf(const RunToDraw& run) {
+  const Results& results = run.results;
+  PageRun words{RunTitleOf(results), MethodLabelOf(results), ParameterLinesOf(results), MarksOf(results),
+                FinerMarksOf(results)};
+  const bool disc = run.look.sun.disc && results.asked.graph.AgainstAngle();
+  words.marks.emplace_back(disc ? "disc of the sun" : "");
+  words.marks.push_back(run.look.averageWidth ? "mean over " + Significant(*run.look.averageWidth, 8) : "");
+  return words;
+}
+
+/// A page of so many numbers takes some hundred MB: the oldest runs give way before memory does.
+constexpr std::size_t mostNumbers = 40'000'000;
+
+std::size_t NumbersOn(const Page& page) {
+  std::size_t numbers = 0;
+  for (const PageCurve& curve : page.curves) numbers += curve.y.size() + curve.colours.size();
+  return numbers;
+}
+
+void LeaveOutOldestRuns(Page& page) {
+  while (NumbersOn(page) > mostNumbers && page.runs.size() > 1) {
+    std::erase_if(page.curves, [](const PageCurve& curve) { return curve.run == 0; });
+    for (PageCurve& curve : page.curves) --curve.run;
+    page.runs.erase(page.runs.begin());
+    ++page.runsLeftOut;
+  }
+}
+
 void AddRun(Page& page, const RunToDraw& run) {
   const Results& results = run.results;
-  page.runs.push_back({RunTitleOf(results), MethodLabelOf(results), ParameterLinesOf(results)});
+  page.runs.push_back(WordsOf(run));
   switch (results.asked.graph.drawing) {
     case Drawing::PhasorDiagram:
       page.phasors = PlotDots(run, page.geometry);
@@ -57,9 +86,7 @@ void AddRun(Page& page, const RunToDraw& run) {
       else
         Display(page, run, CurvesOf(results, run.Curves()));
   }
-  // The lines of the chart of two angles carry their names themselves.
-  const bool named = results.asked.graph.drawing == Drawing::TwoAngleChart;
-  if (page.kind.polar || (run.look.scale.polar && !named)) PolarLabel(page, results);
+  LeaveOutOldestRuns(page);
   page.readings = VisibleData(results);
   page.histogram = DistDisplay(results.asked.sizes, results.asked.particle.radius, NameOfSizes(results.asked.words),
                                run.look.histogramLog, results.asked.graph);

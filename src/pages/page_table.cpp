@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <optional>
 #include <utility>
 
+#include "pages/curves/curve_names.h"
 #include "pages/curves/curve_path.h"
 #include "pages/items/phasor_diagram.h"
 #include "record/catalogue/graph_texts.h"
@@ -21,7 +23,7 @@ std::string Cell(double value) {
 }
 
 /// x of a curve as the table shows it: the scattering angle, also where the curve is drawn by its phase.
-const std::vector<double>& TableX(const PageCurve& curve) {
+const SharedValues& TableX(const PageCurve& curve) {
   return curve.angle.empty() ? curve.x : curve.angle;
 }
 
@@ -29,6 +31,7 @@ const std::vector<double>& TableX(const PageCurve& curve) {
 bool SharesX(const PageCurve& a, const PageCurve& b) {
   const auto& xa = TableX(a);
   const auto& xb = TableX(b);
+  if (xa.SharesWith(xb)) return true;
   return xa.size() == xb.size() && std::equal(xa.begin() + 1, xa.end(), xb.begin() + 1, [](double p, double q) {
            return p == q || (std::isnan(p) && std::isnan(q));
          });
@@ -47,17 +50,18 @@ std::string Unused(const std::vector<Column>& columns, const std::string& name) 
 /// A two-angle chart as a table: the radii of a run, then both cross-sections of each index.
 std::vector<Column> TwoAngleColumns(const Page& page) {
   std::vector<Column> columns;
+  const CurveNames names(page);
   std::optional<std::size_t> drawn;
   for (const auto& curve : page.curves) {
-    const auto add = [&](const std::string& name, const std::vector<double>& values) {
+    const auto add = [&](const std::string& name, const SharedValues& values) {
       Column column{Unused(columns, name), {}};
       for (std::size_t i = 1; i < values.size(); ++i) column.cells.push_back(Cell(values[i]));
       columns.push_back(std::move(column));
     };
     if (curve.run != drawn) add("Radius (\u00B5m)", curve.angle);
     drawn = curve.run;
-    add(curve.name + ": " + page.kind.xTitle, curve.x);
-    add(curve.name + ": Cross-section, " + page.kind.yTitle, curve.y);
+    add(names.Of(curve) + ": " + page.kind.xTitle, curve.x);
+    add(names.Of(curve) + ": Cross-section, " + page.kind.yTitle, curve.y);
   }
   return columns;
 }
@@ -115,6 +119,7 @@ std::vector<TableColumn> TableOf(const Page& page) {
   if (page.phasors) return PhasorColumns(*page.phasors);
   if (page.kind.IsTwoAngle()) return TwoAngleColumns(page);
   std::vector<Column> columns;
+  const CurveNames names(page);
   const std::string xName(XTitleOf(page.kind.graph, {page.kind.fourier, page.kind.invWavelength}));
   std::vector<std::pair<const PageCurve*, RowSpan>> groups;
   for (const auto& first : page.curves) {
@@ -130,13 +135,35 @@ std::vector<TableColumn> TableOf(const Page& page) {
     columns.push_back(std::move(xs));
     for (const auto& curve : page.curves) {
       if (!SharesX(first, curve)) continue;
-      Column ys{Unused(columns, curve.name), {}};
+      Column ys{Unused(columns, names.Of(curve)), {}};
+      const SharedValues values = DrawnValues(curve, rows);
       for (std::size_t i = rows.first; i <= rows.last; ++i)
-        if (std::isfinite(x[i])) ys.cells.push_back(Cell(DrawnValue(curve, i, rows)));
+        if (std::isfinite(x[i])) ys.cells.push_back(Cell(values[i]));
       columns.push_back(std::move(ys));
     }
   }
   return columns;
+}
+
+std::vector<std::string> HeaderInShort(const Page& page) {
+  if (page.runs.empty()) return {};
+  const auto& first = page.runs.front().parameters;
+  if (page.runs.size() == 1) return first;
+  const auto isIn = [](const std::vector<std::string>& lines, const std::string& line) {
+    return std::ranges::find(lines, line) != lines.end();
+  };
+  const auto inAll = [&](const std::string& line) {
+    return std::ranges::all_of(page.runs, [&](const PageRun& run) { return isIn(run.parameters, line); });
+  };
+  std::vector<std::string> lines;
+  std::ranges::copy_if(first, std::back_inserter(lines), inAll);
+  for (std::size_t i = 0; i < page.runs.size(); ++i) {
+    std::string own;
+    for (const std::string& line : page.runs[i].parameters)
+      if (!inAll(line)) own += (own.empty() ? "" : "; ") + std::string(Trim(line));
+    lines.push_back("Run " + std::to_string(i + 1) + (own.empty() ? "" : ": " + own));
+  }
+  return lines;
 }
 
 std::string TableAsText(const Page& page) {

@@ -14,10 +14,14 @@ struct TableColumn {
   std::vector<std::string> cells;
 };
 
-/// x once for curves that share it, then a column a curve. Of a two-angle chart the radii of a run and both
-/// cross-sections of each index; of a phasor diagram the moduli and phases of what is left, by number of terms taken
-/// away.
+/// x once for curves that share it, then a column a curve, by the names that the key has. Of a two-angle chart the
+/// radii of a run and both cross-sections of each index; of a phasor diagram the moduli and phases of what is left, by
+/// number of terms taken away.
 std::vector<TableColumn> TableOf(const Page& page);
+
+/// The parameters of the runs for a picture: of one run its lines; of several first the lines that all have, then a
+/// line a run with what is its own.
+std::vector<std::string> HeaderInShort(const Page& page);
 
 /// The table with a line of names above, parted by tabs, as a spreadsheet takes it from the clipboard; empty for an
 /// empty page.

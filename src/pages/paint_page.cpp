@@ -1,5 +1,8 @@
+#include <algorithm>
+#include <cmath>
+
 #include "pages/build_page.h"
-#include "pages/curves/curve_legend.h"
+#include "pages/curves/curve_key.h"
 #include "pages/curves/curve_path.h"
 #include "pages/frame/frame.h"
 #include "pages/frame/polar_plot.h"
@@ -32,23 +35,46 @@ void PaintPanel(DrawingSurface& surface, const Page& page, std::size_t index, Ti
   if (panel.second && page.kind.second == SecondPanel::Polarisation) PaintMiddleLine(surface, panel.box);
 }
 
+/// Lines of text in columns over the room of the graph.
+void PaintSheet(DrawingSurface& surface, const std::vector<std::string>& lines) {
+  if (lines.empty()) return;
+  // Below the panel of the inputs, which covers what is above.
+  constexpr double left = 1000, top = 3400, between = 400;
+  const double height = 1.1 * surface.TextHeight("X");
+  const auto rows = static_cast<std::size_t>(std::max(1.0, std::floor((surface.ScaleHeight() - top) / height)));
+  double x = left, width = 0;
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    if (i > 0 && i % rows == 0) x += width + between, width = 0;
+    width = std::max(width, surface.TextWidth(lines[i]));
+    surface.CurrentX = x;
+    surface.CurrentY = top + height * static_cast<double>(i % rows);
+    surface.Print(lines[i], false);
+  }
+}
+
 /// The title of the last run and the label of its method over the graph.
 void PrintTitle(DrawingSurface& surface, const Page& page) {
   if (page.runs.empty()) return;
-  constexpr double titleTop = 520, titleSize = 10;  // above the graph box
+  constexpr double titleTop = 520, titleSize = 10, labelSize = 8, smallestSize = 6, between = 200;
   const GraphBox& box = page.geometry.box;
   const PageRun& run = page.runs.back();
   const double top = box.top - titleTop;
   surface.ForeColour = colours::Black;
+  surface.FontSize = labelSize;
+  const double labelWidth = surface.TextWidth(run.methodLabel);
   surface.FontSize = titleSize;
   surface.FontBold = true;
+  // Both in one line, over a small graph as far as the surface goes.
+  const double room = surface.ScaleWidth() - box.left - labelWidth - 2 * between;
+  while (surface.TextWidth(run.title) > room && surface.FontSize > smallestSize) surface.FontSize -= 0.5;
   surface.CurrentX = box.left;
   surface.CurrentY = top + 80;
   surface.Print(run.title, false);
-  surface.FontSize = 8;
+  const double end = box.left + surface.TextWidth(run.title) + between;
+  surface.FontSize = labelSize;
   surface.FontBold = false;
   surface.ForeColour = RGB(96, 96, 96);
-  surface.CurrentX = box.right - surface.TextWidth(run.methodLabel);
+  surface.CurrentX = std::max(box.right - labelWidth, end);
   surface.CurrentY = top + 120;
   surface.Print(run.methodLabel);
 }
@@ -80,10 +106,10 @@ void Paint(const Page& page, DrawingSurface& surface) {
   surface.FontBold = false;
   TickLabels polarLabels(surface);
   for (std::size_t i = 0; i < page.panels.size(); ++i) PaintPanel(surface, page, i, polarLabels);
+  PaintSheet(surface, page.sheet);
   if (page.phasors) PaintPhasors(surface, *page.phasors, page.style.ground);
   PaintTwoAngleNotes(surface, page);
-  PaintPanelLegend(surface, page);
-  PaintLegend(surface, page, polarLabels);
+  PaintKey(surface, page, polarLabels);
   PrintTitle(surface, page);
   PaintStrip(surface, page);
   surface.ForeColour = colours::Black;

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "axes/polar_coordinates.h"
+#include "pages/curves/curve_names.h"
 #include "pages/curves/curve_path.h"
 #include "pages/items/phasor_diagram.h"
 #include "record/catalogue/graph_texts.h"
@@ -59,7 +60,7 @@ void FindNearest(const Page& page, double surfaceX, double surfaceY, GraphReadin
   for (std::size_t c = 0; c < page.curves.size(); ++c) {
     const PageCurve& curve = page.curves[c];
     if (curve.panel != reading.panel) continue;
-    const RowSpan shown = RowsWithin(curve.x, {panel.limits.xmin, panel.limits.xmax});
+    const SharedValues values = DrawnValues(curve, RowsWithin(curve.x, {panel.limits.xmin, panel.limits.xmax}));
     for (const auto& [row, p] : PlacedRows(page, panel, curve)) {
       const double distance = std::hypot(p.x - surfaceX, p.y - surfaceY);
       if (!(distance < nearest)) continue;
@@ -67,7 +68,7 @@ void FindNearest(const Page& page, double surfaceX, double surfaceY, GraphReadin
       reading.onCurve = true;
       reading.curve = c;
       reading.curveX = curve.angle.empty() ? curve.x[row] : curve.angle[row];
-      reading.curveY = DrawnValue(curve, row, shown);
+      reading.curveY = values[row];
       reading.place = p;
     }
   }
@@ -101,7 +102,7 @@ std::string_view XUnit(const PageKind& kind) {
 
 std::string_view YUnit(const PageKind& kind, bool secondPanel) {
   if (secondPanel) return kind.second == SecondPanel::Phases ? "deg" : "";
-  return YUnitOf(kind.graph);
+  return YUnitOf(kind.graph, {kind.amplitude, kind.invWavelength, kind.perVolume});
 }
 
 }  // namespace
@@ -119,10 +120,11 @@ std::optional<GraphReading> ReadAt(const Page& page, double surfaceX, double sur
   const XRange range{panel.limits.xmin, panel.limits.xmax};
   const std::string_view xUnit = XUnit(page.kind), yUnit = YUnit(page.kind, panel.second);
   reading.text = WithUnit(reading.x, DigitsOfX(reading.x, range), xUnit) + "   " + WithUnit(reading.y, 4, yUnit);
+  const CurveNames names(page);
   if (reading.onCurve && page.kind.IsTwoAngle()) {
-    reading.text += "      " + page.curves[reading.curve].name + ", r = " + WithUnit(reading.curveX, 6, "\u00B5m");
+    reading.text += "      " + names.Of(page.curves[reading.curve]) + ", r = " + WithUnit(reading.curveX, 6, "\u00B5m");
   } else if (reading.onCurve) {
-    reading.text += "      " + page.curves[reading.curve].name + ": " +
+    reading.text += "      " + names.Of(page.curves[reading.curve]) + ": " +
                     WithUnit(reading.curveX, DigitsOfX(reading.curveX, range), xUnit) + "   " +
                     WithUnit(reading.curveY, 6, yUnit);
   }

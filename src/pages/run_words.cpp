@@ -1,8 +1,9 @@
 #include "pages/run_words.h"
 
 #include <algorithm>
-#include <optional>
 
+#include "materials/index/material.h"
+#include "record/catalogue/graph_texts.h"
 #include "record/number_text.h"
 #include "runs/curves.h"
 
@@ -40,35 +41,47 @@ std::string SpectrumRange(const SpectrumOfLight& light) {
   return Significant(std::min(first, last), 6) + " to " + Significant(std::max(first, last), 6) + " nm";
 }
 
-/// Range and step of the horizontal axis.
-struct AxisWords {
-  double xmin, xmax, step;
-  bool logSteps = false;
-  std::string unit = {};
-};
+constexpr double degreesPerRadian = 180 / 3.14159265358979324;
 
-std::optional<AxisWords> AxisOf(const Results& results) {
-  const FamilyRun& run = results.asked.run;
-  if (const AngleRows* rows = RowsOf(run)) return AxisWords{rows->xmin, rows->xmax, rows->step, false, "\u00B0"};
-  if (const auto* axis = std::get_if<AxisRun>(&run))
-    return AxisWords{axis->xmin, axis->xmax, axis->step, axis->logSteps};
-  if (std::holds_alternative<ConvergenceRun>(run)) return AxisWords{1, static_cast<double>(results.last.NSTOP), 1};
-  return std::nullopt;
+/// "400 to 700 nm in steps of 0.5 nm".
+std::string AxisRange(double xmin, double xmax, double step, bool logSteps, const std::string& unit) {
+  return Number(xmin) + " to " + Number(xmax) + unit +
+         (logSteps ? " in " + Number(step) + " steps" : " in steps of " + Number(step) + unit);
+}
+
+/// The unit behind a number of the horizontal axis.
+std::string UnitOfAxis(const Graph& graph) {
+  if (graph.AgainstAngle()) return "\u00B0";
+  const std::string unit(XUnitOf(graph));
+  return unit.empty() ? "" : " " + unit;
+}
+
+/// Scattering angles that a graph against something else is for: "140\u00B0", "0 to 180\u00B0"; empty without.
+std::string AnglesAsked(const RunRequest& asked) {
+  if (const auto* analysis = std::get_if<DebyeAnalysisRun>(&asked.run))
+    return Number(analysis->angle * degreesPerRadian) + "\u00B0";
+  if (const auto* convergence = std::get_if<ConvergenceRun>(&asked.run)) return Number(convergence->angle) + "\u00B0";
+  const auto* axis = std::get_if<AxisRun>(&asked.run);
+  if (axis == nullptr) return "";
+  if (asked.graph.AtOneAngle()) return Number(axis->angle * degreesPerRadian) + "\u00B0";
+  if (asked.graph.quantity != Quantity::Power) return "";
+  return AxisRange(axis->range.low, axis->range.high, axis->range.step, false, "\u00B0");
 }
 
 void AddAxis(const Results& results, std::vector<std::string>& lines) {
-  if (const auto* analysis = std::get_if<DebyeAnalysisRun>(&results.asked.run)) {
-    constexpr double degreesPerRadian = 180 / 3.14159265358979324;
-    lines.push_back("Scattering angle: " + Number(analysis->angle * degreesPerRadian) + "\u00B0, p = 0 to " +
-                    std::to_string(analysis->limit));
+  const RunRequest& asked = results.asked;
+  if (const auto* analysis = std::get_if<DebyeAnalysisRun>(&asked.run)) {
+    lines.push_back("Scattering angle: " + AnglesAsked(asked) + ", p = 0 to " + std::to_string(analysis->limit));
     return;
   }
-  const auto axis = AxisOf(results);
-  if (!axis) return;
-  const std::string& unit = axis->unit;
-  const std::string step = Number(axis->step);
-  lines.push_back(results.asked.words.scale + ": " + Number(axis->xmin) + unit + " to " + Number(axis->xmax) + unit +
-                  (axis->logSteps ? " in " + step + " steps" : " in steps of " + step + unit));
+  if (const std::string angles = AnglesAsked(asked); !angles.empty()) lines.push_back("Scattering angle: " + angles);
+  const std::string start = asked.words.scale + ": ", unit = UnitOfAxis(asked.graph);
+  if (const AngleRows* rows = RowsOf(asked.run))
+    lines.push_back(start + AxisRange(rows->xmin, rows->xmax, rows->step, false, unit));
+  else if (const auto* axis = std::get_if<AxisRun>(&asked.run))
+    lines.push_back(start + AxisRange(axis->xmin, axis->xmax, axis->step, axis->logSteps, unit));
+  else if (std::holds_alternative<ConvergenceRun>(asked.run))
+    lines.push_back(start + AxisRange(1, results.last.NSTOP, 1, false, ""));
 }
 
 void AddMethod(const Results& results, std::vector<std::string>& lines) {
@@ -80,20 +93,88 @@ void AddMethod(const Results& results, std::vector<std::string>& lines) {
   if (asked.light.spectrum) {
     lines.push_back(std::to_string(asked.Wavelengths()) + " wavelengths, " + SpectrumRange(*asked.light.spectrum));
     lines.push_back("Light: " + asked.words.light);
-  } else {
+  } else if (!asked.graph.WavelengthAxis()) {
     lines.push_back("Wavelength: " + Number(results.last.lambda) + " \u00B5m in vacuo");
   }
 }
 
+/// Sizes that a table or a model has by itself are those of no radius.
+bool HasRadius(const RunRequest& asked) {
+  if (asked.graph.SizeAxis() || std::holds_alternative<FileSizes>(asked.sizes)) return false;
+  const auto* model = std::get_if<ModelSizes>(&asked.sizes);
+  return model == nullptr || std::holds_alternative<GammaShape>(model->model);
+}
+
+std::string SizesWords(const RunRequest& asked) {
+  const auto* file = std::get_if<FileSizes>(&asked.sizes);
+  if (file == nullptr) return asked.words.sizes;
+  const std::string name = file->name.empty() ? "Special" : "Special (" + file->name + ")";
+  return name + ", " + std::to_string(SamplesOf(asked.sizes, asked.particle.radius).Count()) + " sizes";
+}
+
+/// The index along an axis of wavelengths: of the first and of the last one, in its words for one where they are the
+/// same; empty where the material has none at an end.
+std::string IndexAlong(const AxisRun& axis, const Material& material, bool medium) {
+  std::string words[2];
+  for (const int end : {0, 1}) {
+    const double lambda = (end == 0 ? axis.xmin : axis.xmax) / 1000;
+    const auto found = medium ? MediumIndexAt(material, lambda).value : IndexAt(material, lambda).value;
+    if (!found) return "";
+    words[end] = IndexWords(found->n, medium ? 0 : found->k);
+  }
+  return words[0] == words[1] ? words[0] : words[0] + " to " + words[1];
+}
+
+/// Refractive index of the sphere, or of the medium, as far as it is one of the run; empty where the axis has it.
+std::string IndexOf(const Results& results, bool medium) {
+  const RunRequest& asked = results.asked;
+  const OpticalIndices& indices = results.last.indices;
+  if (asked.graph.WavelengthAxis())
+    return IndexAlong(std::get<AxisRun>(asked.run), medium ? asked.particle.medium : asked.particle.sphere, medium);
+  if (medium) return Number(indices.MediumInUse());
+  if (!asked.graph.VariesIndex()) return IndexWords(indices.sphereN, indices.sphereK);
+  return indices.sphereK == 0 ? "" : "that of the axis + " + Number(indices.sphereK) + " i";
+}
+
+void AddIndex(const Results& results, bool medium, const std::string& middle, std::vector<std::string>& lines) {
+  lines.push_back(medium ? results.asked.words.medium : results.asked.words.sphere);
+  if (const std::string index = IndexOf(results, medium); !index.empty()) lines.push_back("   n = " + index + middle);
+}
+
 void AddSphere(const Results& results, const std::string& middle, std::vector<std::string>& lines) {
   const RunRequest& asked = results.asked;
-  if (!asked.graph.SizeAxis()) {
+  if (HasRadius(asked)) {
     lines.push_back("Radius: " + Number(results.last.radius) + " \u00B5m");
-    lines.push_back("Size parameter x: " + Number(results.last.sizeParameter) + middle);
+    if (!asked.graph.WavelengthAxis())
+      lines.push_back("Size parameter x: " + Number(results.last.sizeParameter) + middle);
   }
-  if (asked.Cloud()) lines.push_back("Sizes: " + asked.words.sizes);
-  lines.push_back(asked.words.sphere);
-  lines.push_back("   n = " + IndexWords(results.last.indices.sphereN, results.last.indices.sphereK) + middle);
+  if (asked.Cloud()) lines.push_back("Sizes: " + SizesWords(asked));
+  AddIndex(results, false, middle, lines);
+}
+
+/// Whether a material is a number that was typed.
+bool IsTyped(const Material& material) {
+  return std::holds_alternative<FixedIndex>(material) || std::holds_alternative<FixedDielectric>(material);
+}
+
+std::string SizeMark(const Results& results) {
+  const RunRequest& asked = results.asked;
+  if (std::holds_alternative<TwoAngleRun>(asked.run)) return "";
+  std::string radius;
+  if (HasRadius(asked))
+    radius = asked.particle.sizeTyped ? "x = " + Number(*asked.particle.sizeTyped)
+                                      : "r = " + Number(asked.particle.radius) + " \u00B5m";
+  if (!asked.Cloud()) return radius;
+  return SizesWords(asked) + (radius.empty() ? "" : ", " + radius);
+}
+
+std::string MaterialMark(const Results& results, bool medium) {
+  const RunRequest& asked = results.asked;
+  const Material& material = medium ? asked.particle.medium : asked.particle.sphere;
+  const bool varied = !medium && (asked.graph.VariesIndex() || std::holds_alternative<TwoAngleRun>(asked.run));
+  const std::string name(Trim(medium ? asked.words.mediumName : asked.words.sphereName));
+  if (varied || !IsTyped(material)) return varied ? "" : (medium ? "in " : "") + name;
+  return (medium ? "medium n = " : "n = ") + IndexOf(results, medium);
 }
 
 }  // namespace
@@ -139,8 +220,7 @@ std::vector<std::string> ParameterLinesOf(const Results& results) {
   } else {
     AddSphere(results, middle, lines);
   }
-  lines.push_back(asked.words.medium);
-  lines.push_back("   n = " + Number(results.last.indices.MediumInUse()) + middle);
+  AddIndex(results, true, middle, lines);
   const std::string time = TimeWords(results.seconds);
   if (angles != nullptr) {
     lines.push_back("Angles: " + Number(angles->angle1Min) + " to " + Number(angles->angle1Max) + "\u00B0 and " +
@@ -153,6 +233,34 @@ std::vector<std::string> ParameterLinesOf(const Results& results) {
   lines.push_back(terms ? "Series: " + std::to_string(results.last.NSTOP) + " terms, " + time
                         : "Calculated in " + time);
   return lines;
+}
+
+std::vector<std::string> MarksOf(const Results& results) {
+  const RunRequest& asked = results.asked;
+  const bool named = asked.method.method != Method::Mie && !asked.words.methodLabel.empty();
+  std::string method = named ? asked.words.methodLabel : asked.words.method;
+  std::ranges::replace(method, '\n', ' ');
+  const bool oneWavelength = !asked.light.spectrum && !asked.graph.WavelengthAxis();
+  return {method,
+          asked.method.divideBySize ? "divided by x" : "",
+          SizeMark(results),
+          MaterialMark(results, false),
+          MaterialMark(results, true),
+          oneWavelength ? Number(1000 * asked.light.lambda) + " nm" : "",
+          AnglesAsked(asked)};
+}
+
+std::vector<std::string> FinerMarksOf(const Results& results) {
+  const RunRequest& asked = results.asked;
+  const std::string sphere = IndexOf(results, false), medium = IndexOf(results, true);
+  double step = 0;
+  if (const AngleRows* rows = RowsOf(asked.run)) step = rows->step;
+  if (const auto* axis = std::get_if<AxisRun>(&asked.run)) step = axis->step;
+  const bool logSteps = std::holds_alternative<AxisRun>(asked.run) && std::get<AxisRun>(asked.run).logSteps;
+  return {sphere.empty() ? "" : "n = " + sphere, medium.empty() ? "" : "medium n = " + medium,
+          step == 0  ? ""
+          : logSteps ? Number(step) + " steps"
+                     : "step " + Number(step)};
 }
 
 std::string TimeWords(double seconds) {

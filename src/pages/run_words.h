@@ -16,6 +16,10 @@ std::string MethodLabelOf(const Results& results);
 /// The parameters of a run in words, a line each.
 std::vector<std::string> ParameterLinesOf(const Results& results);
 
+/// What may tell a run from others on its page, and what tells it from those that agree in all of that: see PageRun.
+std::vector<std::string> MarksOf(const Results& results);
+std::vector<std::string> FinerMarksOf(const Results& results);
+
 /// "12 ms" or "3.2 s".
 std::string TimeWords(double seconds);
 

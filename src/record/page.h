@@ -1,7 +1,10 @@
 #pragma once
 
+#include <cstddef>
+#include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "axes/panel_map.h"
@@ -91,21 +94,43 @@ struct PagePanel {
   double oddTest = 0;   ///< GridOddTest as the frame before left it
 };
 
+/// Numbers that do not change once they are made. Copies share them: a page of long curves is copied at every zoom, and
+/// all curves of a run have the same x.
+class SharedValues {
+ public:
+  SharedValues() : SharedValues(std::vector<double>()) {}
+  SharedValues(std::vector<double> values) : values_(std::make_shared<const std::vector<double>>(std::move(values))) {}
+
+  const std::vector<double>& All() const { return *values_; }
+  operator const std::vector<double>&() const { return *values_; }
+  std::size_t size() const { return values_->size(); }
+  bool empty() const { return values_->empty(); }
+  double operator[](std::size_t i) const { return (*values_)[i]; }
+  const double* data() const { return values_->data(); }
+  const double* begin() const { return values_->data(); }
+  const double* end() const { return values_->data() + values_->size(); }
+  bool SharesWith(const SharedValues& other) const { return values_ == other.values_; }
+
+ private:
+  std::shared_ptr<const std::vector<double>> values_;
+};
+
 /// One curve. Arrays have first index 1; element 0 is unused. Values that are not numbers were not computed: they lift
 /// the pen.
 struct PageCurve {
-  std::size_t panel = 0;      ///< index of its panel
-  std::size_t run = 0;        ///< index of the run that it comes from
-  int kind = 1;               ///< 1 perpendicular, 2 parallel, 3 unpolarised; a ratio of the matrix in this order
-  std::string name;           ///< as the legend prints it
-  std::vector<double> x;      ///< in the unit of the x axis; in a polar plot the polar angle (degrees)
-  std::vector<double> y;      ///< after the fold with the solar disc
-  std::vector<double> angle;  ///< what runs along the curve where x does not: the scattering angle (degrees) where x
-                              ///< is a phase, the radius (um) of a two-angle chart; otherwise empty
-  double averageRows = 0;     ///< rows of the running mean; 0 without
-  bool interpolate = false;   ///< cubic interpolation between the points
-  bool wraps = false;         ///< an angle: it goes on at 0 after 360
-  bool markers = false;       ///< marks instead of lines
+  std::size_t panel = 0;     ///< index of its panel
+  std::size_t run = 0;       ///< index of the run that it comes from
+  int kind = 1;              ///< 1 perpendicular, 2 parallel, 3 unpolarised; a ratio of the matrix in this order
+  std::string name;          ///< polarisation, efficiency or ratio that it is
+  std::string keyName;       ///< what the key prints in place of the name, where it says more; otherwise empty
+  SharedValues x;            ///< in the unit of the x axis; in a polar plot the polar angle (degrees)
+  SharedValues y;            ///< after the fold with the solar disc
+  SharedValues angle;        ///< what runs along the curve where x does not: the scattering angle (degrees) where x
+                             ///< is a phase, the radius (um) of a two-angle chart; otherwise empty
+  double averageRows = 0;    ///< rows of the running mean; 0 without
+  bool interpolate = false;  ///< cubic interpolation between the points
+  bool wraps = false;        ///< an angle: it goes on at 0 after 360
+  bool markers = false;      ///< marks instead of lines
   Colour colour;
   std::vector<Colour> colours;  ///< of each row, where the curve shows the colour of its light; otherwise empty
   int drawStyle = 0;            ///< 0 solid, 1 dash, 2 dot
@@ -116,6 +141,11 @@ struct PageCurve {
 struct PageRun {
   std::string title, methodLabel;
   std::vector<std::string> parameters;
+  /// What may tell it from other runs: method, size, sphere, medium, wavelength, angle, what was made of its curves.
+  /// The same place means the same thing in every run; empty where it does not apply.
+  std::vector<std::string> marks;
+  /// The same for what tells runs apart that agree in all marks: indices, steps.
+  std::vector<std::string> finerMarks;
 };
 
 /// Which terms of a phasor diagram have their number beside the dot.
@@ -181,14 +211,15 @@ struct Page {
   XRange home, homeY;                  ///< ranges of the main panel before any zoom
   bool zoomedY = false;                ///< the vertical range is the user's, not that of the curves in view
   double autoBottom = 0, autoTop = 0;  ///< smallest and largest value of the curves that the frame was chosen for
-  bool legend = false;                 ///< whether the names of the curves stand below
-  std::string legendNote;              ///< what the legend prints in place of the curves' names, or empty
   std::optional<PagePhasors> phasors;
   std::vector<HuygensWave> wavefronts;  ///< in the strip over the graph
   std::vector<PageLine> readings;       ///< of the last run
   std::optional<PageHistogram> histogram;
-  std::vector<PageRun> runs;  ///< in the order drawn
+  std::vector<PageRun> runs;       ///< in the order drawn
+  std::size_t runsLeftOut = 0;     ///< oldest ones that gave way to others
+  std::vector<std::string> sheet;  ///< lines of text that stand in place of a graph
 
+  /// Whether there is no graph.
   bool Empty() const { return panels.empty() && !phasors; }
 };
 

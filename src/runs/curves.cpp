@@ -4,6 +4,7 @@
 #include <cmath>
 #include <limits>
 #include <numbers>
+#include <optional>
 #include <span>
 
 #include "runs/settings.h"
@@ -35,11 +36,39 @@ void Size(Curves& curves, std::size_t size, double value) {
   }
 }
 
+/// Decimals of a number as it was typed; nothing where no typed number gives it.
+std::optional<int> DecimalsOf(double value) {
+  constexpr int most = 10;
+  constexpr double rounding = 1e-14;
+  double scaled = std::abs(value);
+  for (int decimals = 0; decimals <= most; ++decimals, scaled *= 10)
+    if (std::abs(scaled - std::nearbyint(scaled)) <= rounding * scaled) return decimals;
+  return std::nullopt;
+}
+
+/// Multiples of a step as a person would type them: three steps of 0.1 are 0.3, and not 0.30000000000000004.
+class TypedValues {
+ public:
+  TypedValues(double start, double step) {
+    const auto ofStart = DecimalsOf(start), ofStep = DecimalsOf(step);
+    if (ofStart && ofStep) scale_ = std::pow(10.0, std::max(*ofStart, *ofStep));
+  }
+  double operator()(double value) const {
+    constexpr double largestWhole = 9007199254740992.0;  // beyond it every double is whole
+    if (scale_ == 0 || !(std::abs(value) * scale_ < largestWhole)) return value;
+    return std::nearbyint(value * scale_) / scale_;
+  }
+
+ private:
+  double scale_ = 0;
+};
+
 /// x of the rows of a window, the others not a number.
 std::vector<double> AnglesOf(const AngleRows& rows) {
   std::vector<double> x(At(2 * rows.NANG), notComputed);
+  const TypedValues typed(0, rows.step);
   for (int row = std::max(rows.window.low, 1); row <= rows.window.high && At(row) < x.size(); ++row)
-    x[At(row)] = (row - 1) * rows.step;
+    x[At(row)] = typed((row - 1) * rows.step);
   return x;
 }
 
@@ -254,8 +283,11 @@ Curves CurvesOfFound(const Results& results, const CurveLook& look, const AxisFo
   const Graph& graph = results.asked.graph;
   Curves curves;
   curves.x = found.x;
+  const auto& axis = std::get<AxisRun>(results.asked.run);
   if (look.invWavelength && graph.WavelengthAxis())
     for (double& x : std::span(curves.x).subspan(1)) x = InverseWavelength(x);
+  else if (!axis.logSteps)
+    std::ranges::transform(curves.x, curves.x.begin(), TypedValues(axis.xmin, axis.step));
   curves.lastRow = std::max(static_cast<int>(found.x.size()) - 1, 0);
   Size(curves, found.x.size(), notComputed);
   for (int point = 1; point <= std::min(found.done, curves.lastRow); ++point) {

@@ -332,7 +332,7 @@ void MainWindow::Refresh() {
   }
   panel_->Sync();
   menu_->Sync();
-  info_->Sync(canvas_->Unit(), scroll_->maximumViewportSize().width());
+  info_->Sync(session_->page, canvas_->Unit(), scroll_->maximumViewportSize().width());
   ShowStatus();
   for (DialogView* dialog : dialogs_) dialog->Sync();
   for (const auto& window : windows_)

@@ -11,8 +11,10 @@
 #include <QSaveFile>
 #include <QSvgGenerator>
 #include <algorithm>
+#include <vector>
 
 #include "pages/build_page.h"
+#include "pages/page_table.h"
 #include "ui/look.h"
 #include "ui/painter_surface.h"
 
@@ -37,31 +39,38 @@ PageGeometry GeometryOn(const Page& page, const DrawingSurface& surface) {
   return geometry;
 }
 
-/// The parameters of the run, in columns over the room of the input panel.
+/// The parameters of the runs, in columns over the room of the input panel, in letters small enough for all of them.
 void PrintParameters(const Page& page, DrawingSurface& surface) {
-  if (page.runs.empty()) return;
-  constexpr double left = 1000, top = 600, lineHeight = 200, gap = 400;
-  constexpr std::size_t mostLines = 8;
+  constexpr double left = 1000, top = 600, bottom = 2850, gap = 400;
+  constexpr double largestFont = 8, smallestFont = 4, fontStep = 0.5;
+  const auto lines = HeaderInShort(page);
+  if (lines.empty()) return;
   const SurfacePen before = surface;
   surface.ForeColour = colours::Black;
-  surface.FontSize = 8;
   surface.FontBold = false;
-  const auto& lines = page.runs.back().parameters;
-  if (lines.empty()) return;
-  const std::size_t columns = (lines.size() + mostLines - 1) / mostLines;
-  std::size_t linesPerColumn = (lines.size() + columns - 1) / columns;
-  // An indented line stays below the one that it belongs to.
-  while (linesPerColumn < std::min(mostLines, lines.size()) && lines[linesPerColumn].starts_with(' ')) ++linesPerColumn;
-  double x = left, columnWidth = 0;
-  for (std::size_t i = 0; i < lines.size(); ++i) {
-    if (i > 0 && i % linesPerColumn == 0) {
-      x += columnWidth + gap;
-      columnWidth = 0;
+  // Places of the lines as far as there is room, and whether there is for all.
+  const auto place = [&](std::vector<SurfacePoint>& places) {
+    const double height = surface.TextHeight("X");
+    const auto rows = static_cast<std::size_t>((bottom - top) / height);
+    double x = left, y = top, width = 0;
+    places.clear();
+    for (std::size_t i = 0, row = 0; i < lines.size(); ++i, ++row) {
+      // An indented line stays below the one that it belongs to.
+      const bool follows = i + 1 < lines.size() && lines[i + 1].starts_with(' ');
+      if (row >= rows || (row + 1 == rows && row > 0 && follows)) x += width + gap, y = top, row = 0, width = 0;
+      width = std::max(width, surface.TextWidth(lines[i]));
+      if (x + width > panelWidth) return false;
+      places.push_back({x, y});
+      y += height;
     }
-    columnWidth = std::max(columnWidth, surface.TextWidth(lines[i]));
-    if (x + columnWidth > panelWidth) break;
-    surface.CurrentX = x;
-    surface.CurrentY = top + lineHeight * static_cast<double>(i % linesPerColumn);
+    return true;
+  };
+  std::vector<SurfacePoint> places;
+  surface.FontSize = largestFont;
+  while (!place(places) && surface.FontSize > smallestFont) surface.FontSize -= fontStep;
+  for (std::size_t i = 0; i < places.size(); ++i) {
+    surface.CurrentX = places[i].x;
+    surface.CurrentY = places[i].y;
     surface.Print(lines[i], false);
   }
   static_cast<SurfacePen&>(surface) = before;

@@ -66,6 +66,7 @@ TEST_F(Axes, TheLadderFollowsTheRange) {
       {"140", "150", {"140", "142", "144", "146", "148", "150"}},
       {"170", "180", {"170", "172", "174", "176", "178", "180"}},
       {"10", "10.5", {"10", "10.1", "10.2", "10.3", "10.4", "10.5"}},
+      {"1000", "2500", {"1000", "1200", "1600", "2000", "2400", "2500"}},
       {"0.05", "1", {"0", "0.2", "0.4", "0.6", "0.8", "1"}},
   };
   for (const auto& row : rows) {
@@ -97,6 +98,64 @@ TEST_F(Axes, NumbersOfALogarithmicAxisStandAtTheDecades) {
   Draw();
   left = Read().TextsIn({0, box.left, box.top - 150, box.bottom + 90});
   EXPECT_THAT(left, testing::UnorderedElementsAre(".01", ".1", "1", "10"));
+}
+
+TEST_F(Axes, EndsWithinADecadeAreWhatTheyAre) {
+  form.cboYmin.Text = "500";
+  form.cboYmax.Text = "999";
+  Range("0", "180");
+  EXPECT_NE(Read().Text("999"), nullptr) << "it was 1000";
+  EXPECT_NE(Read().Text("500"), nullptr);
+}
+
+TEST_F(Axes, ExponentsOfThreeDigitsStandLeftOfTheTicks) {
+  for (const auto& [low, high] : {std::pair{"1e-120", "1e-100"}, {"1e100", "1e140"}, {"2e-300", "1e300"}}) {
+    SCOPED_TRACE(low);
+    form.cboYmin.Text = low;
+    form.cboYmax.Text = high;
+    Range("0", "180");
+    const GraphBox box = Box();
+    int exponents = 0;
+    for (const auto& text : Read().All(DrawnOperation::Kind::Text)) {
+      if (text.fontSize != 7 || text.points[0].x > box.left) continue;
+      ++exponents;
+      EXPECT_LE(text.points[0].x + text.width, box.left - 100) << text.text;
+      EXPECT_GE(text.points[0].x, 0);
+    }
+    EXPECT_GT(exponents, 3);
+    EXPECT_THAT(Read().Overlaps(), IsEmpty());
+    const auto curves = Read().Curves();
+    // What lies below the bottom is not drawn; what lies above the top runs along it.
+    ASSERT_EQ(curves.empty(), Val(low) > 1) << "the quotient of the limits may be beyond all numbers";
+    if (curves.empty()) continue;
+    for (const auto& p : curves[0].points) EXPECT_TRUE(p.y >= box.top - 1 && p.y <= box.bottom + 1);
+  }
+  EXPECT_NEAR(PanelMap({Box(), {0, 180, 2e-300, 1e300}, false, true}).YAt(0.5 * (Box().top + Box().bottom)), 1.414,
+              0.01);
+}
+
+TEST_F(Axes, EveryVerticalAxisHasATitle) {
+  struct Row {
+    GraphCode code;
+    std::vector<const char*> title;
+  };
+  const std::vector<Row> rows = {
+      {{1, 1}, {" Intensity"}}, {{1, 2}, {"Phase", "function"}}, {{1, 3}, {"Watts/m"}},      {{1, 4}, {"sq m/sr"}},
+      {{1, 7}, {"CPDF"}},       {{14, 1}, {"Efficiency"}},       {{14, 6}, {"Area (sq m)"}}, {{16, 1}, {"Asymmetry"}}};
+  Range("0", "180");
+  for (const Row& row : rows) {
+    page.kind.graph = GraphOf(row.code);
+    Paint(page, surface);
+    for (const char* line : row.title) EXPECT_NE(Read().Text(line), nullptr) << line;
+    EXPECT_THAT(Read().Overlaps(), IsEmpty()) << row.title[0];
+  }
+  page.kind.graph = GraphOf({1, 1});
+  page.kind.invWavelength = true;
+  Paint(page, surface);
+  EXPECT_NE(Read().Text(" (sq m)"), nullptr) << "divided by the square of the wave number";
+  page.kind.wavelengths = 30;
+  Paint(page, surface);
+  EXPECT_NE(Read().Text("Weighted"), nullptr) << "by the light";
 }
 
 TEST_F(Axes, ALogarithmicXAxisPrintsWhatTheGridMenusAskFor) {

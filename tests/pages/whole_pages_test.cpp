@@ -5,10 +5,15 @@
 #include <type_traits>
 
 #include "pages/build_page.h"
+#include "pages/curves/curve_path.h"
+#include "pages/drawing_reader.h"
+#include "pages/free_room.h"
+#include "pages/items/readings.h"
 #include "pages/page_table.h"
 #include "pages/read_out.h"
 #include "record/layout/menu_tree.h"
 #include "runs/curves.h"
+#include "session/inputs/look/read_look.h"
 #include "session/page.h"
 #include "session/session_fixture.h"
 #include "session/window_events.h"
@@ -317,7 +322,102 @@ TEST_F(Pages, TheChartOfTwoAnglesTellsItsLastSphere) {
   for (const char* reading : {"  0 deg: ", "  180 deg: ", "X = "})
     EXPECT_NE(Drawing().find(reading), std::string::npos) << reading;
   Do("click mnuPolarPlot");
-  EXPECT_FALSE(Drawn().legend) << "its lines are named";
+  EXPECT_EQ(Drawing().find("polarisation"), std::string::npos) << "its lines are named";
+}
+
+// The note with the parameters stood over the distribution, and over the curve where it had no room beside the inputs.
+TEST_F(Pages, ANoteHidesNeitherReadingsNorDistributionNorPeak) {
+  Do("size 1400x900");
+  EXPECT_EQ(FreeRoom(Drawn(), 3000, 2500, 16000, 21000).y, 150) << "beside the readings";
+  const GraphBox box = Drawn().geometry.box;
+  const SurfacePoint inPlot = FreeRoom(Drawn(), 3000, 2500, 11760, 15000);
+  EXPECT_GT(inPlot.x, box.left + 3000) << "clear of the forward peak";
+  EXPECT_GT(inPlot.y, box.top);
+  Do("click optDisp\nset cboN 5\nclick cmdNewPlot");
+  EXPECT_GT(FreeRoom(Drawn(), 3000, 2500, 16000, 21000).x, 15600) << "beside the distribution";
+  EXPECT_GT(FreeRoom(Drawn(), 3000, 2500, 11760, 18000).y, box.top);
+  Do("click mnuSmall");
+  EXPECT_GT(FreeRoom(Drawn(), 3000, 2500, 11760, 18000).x, Drawn().geometry.box.right) << "beside a small graph";
+}
+
+TEST_F(Pages, AStripOfAnyWidthNamesItsUnit) {
+  for (const char* kind : {"Aerosol m0", "Aerosol m6", "Log-normal", "Haze"}) {
+    Do("reset\nset cboN 5\nset cboStep 5\nclick optDisp\nchoose cboDistrib " + std::string(kind) +
+       "\nclick cmdNewPlot\nclick mnuSmall");
+    for (const double width : {13600.0, 15000.0, 15300.0, 19000.0}) {
+      RecordingSurface surface(width, 12000);
+      Paint(Drawn(), surface);
+      const DrawingReader read(surface);
+      const auto texts = read.TextsIn({11000, 20000, 2100, 2500});
+      EXPECT_TRUE(
+          texts.empty() ||
+          std::ranges::any_of(texts, [](const std::string& text) { return text.find("\u00B5m") != std::string::npos; }))
+          << kind << " " << width;
+      EXPECT_THAT(read.Overlaps(), testing::IsEmpty()) << kind << " " << width;
+    }
+  }
+}
+
+TEST_F(Pages, AReadingThatIsNoNumberIsNotPrinted) {
+  Do("dialog dlogIncident ok\nchoose cboGraph Watts/sq. m. v. scattering angle\nset cboStep 1\nclick cmdNewPlot");
+  Results results = *State().LastResults;
+  EXPECT_THAT(VisibleData(results)[6].text, testing::StartsWith("Scattered power = "));
+  // A run that was stopped has rows without numbers.
+  std::get<AngleFound>(results.found).rows.forward.high = 20;
+  for (const PageLine& line : VisibleData(results)) {
+    EXPECT_EQ(line.text.find("power"), std::string::npos) << line.text;
+    EXPECT_EQ(line.text.find("NaN"), std::string::npos) << line.text;
+  }
+}
+
+TEST_F(Pages, NoDeviationIsAskedForThatIsNoNumber) {
+  Do("choose cboGraph Qext/Qsca/Qabs v. radius\nset cboN 5\nclick optDisp\nset txtXmin 1e-200\nset txtXmax 1e200\n"
+     "set cboStep 5\nclick cmdNewPlot");
+  for (const ShownMessage& message : Shown()) EXPECT_EQ(message.text.find("Infinity"), std::string::npos);
+}
+
+// 40 runs of 900001 rows took 1.3 GB.
+TEST_F(Pages, TheOldestRunsGiveWayWhenAPageHoldsTooMuch) {
+  Do("set cboStep 1\nclick cmdNewPlot\nset txtRadius 5\nclick cmdOverPlot");
+  Page page = Drawn();
+  page.curves[0].y = std::vector<double>(45'000'000);
+  const Results results = *State().LastResults;
+  const Page left = DrawOver(page, results, ReadLook(Now()));
+  EXPECT_EQ(left.runsLeftOut, 1U);
+  EXPECT_EQ(left.runs.size(), 2U);
+  for (const auto& curve : left.curves) EXPECT_LT(curve.run, 2U);
+  RecordingSurface surface(19200, 15360);
+  Paint(left, surface);
+  EXPECT_NE(DrawingReader(surface).Text("Oldest runs left out, for want of memory: 1"), nullptr);
+}
+
+// A curve of more rows than any picture has dots is as high and as low in every dot as all its rows.
+TEST_F(Pages, ManyRowsAreThinnedWithoutLosingAPeak) {
+  Do("set cboStep 5\nchoose cboPol Unpolarised\nclick cmdNewPlot\nclick mnuLarge");
+  Page page = Drawn();
+  constexpr std::size_t rows = 900001;
+  std::vector<double> x(rows + 1), y(rows + 1, 10);
+  for (std::size_t i = 1; i <= rows; ++i) x[i] = 180.0 * static_cast<double>(i - 1) / (rows - 1);
+  y[500000] = 1000;
+  y[700000] = 0.5;
+  y[300000] = std::nan("");
+  page.curves[0].x = std::move(x);
+  page.curves[0].y = std::move(y);
+  page.panels[0].limits = {0, 180, 0.1, 10000};
+  const auto runs = CurveRuns(page, page.panels[0], page.curves[0]);
+  ASSERT_EQ(runs.size(), 2U) << "a gap stays a gap";
+  std::size_t points = 0;
+  double highest = 1e9, lowest = 0;
+  for (const auto& run : runs)
+    for (const auto& p : run) {
+      ++points;
+      highest = std::min(highest, p.y);
+      lowest = std::max(lowest, p.y);
+    }
+  EXPECT_LT(points, 60000U);
+  const PanelMap map{page.panels[0].box, page.panels[0].limits, false, true};
+  EXPECT_NEAR(highest, map.Y(1000), 1e-6);
+  EXPECT_NEAR(lowest, map.Y(0.5), 1e-6);
 }
 
 // A piece takes the colour of the row before where its middle is half-way, in a picture of any size.

@@ -128,7 +128,7 @@ TEST_F(MethodInputs, WavelengthsStandAsTheirInverse) {
   EXPECT_DOUBLE_EQ(page.panels[0].limits.xmax, 2.5);
   const PageCurve& curve = page.curves.back();
   EXPECT_TRUE(std::is_sorted(curve.x.begin() + 1, curve.x.end()));
-  EXPECT_EQ(curve.y.back(), State().Iperp[1]);
+  EXPECT_EQ(curve.y.All().back(), State().Iperp[1]);
   EXPECT_EQ(TableOf(page)[0].name, "Inverse wavelength (1/\u00B5m)");
   const auto reading = ReadAt(page, page.panels[0].box.left + 900, page.panels[0].box.top + 900);
   ASSERT_TRUE(reading);

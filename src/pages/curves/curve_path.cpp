@@ -6,9 +6,11 @@
 #include <iterator>
 #include <limits>
 #include <span>
+#include <utility>
 
 #include "axes/curve_smoothing.h"
 #include "axes/polar_coordinates.h"
+#include "axes/scale_rules.h"
 
 namespace lumivex {
 
@@ -136,6 +138,85 @@ std::vector<SurfacePoint> InterpolatedPoints(const std::vector<SurfacePoint>& po
   return all;
 }
 
+/// Far more points than any picture has dots side by side.
+bool IsDense(std::size_t points, const GraphBox& box) {
+  constexpr double pointsPerUnit = 3;
+  return static_cast<double>(points) > pointsPerUnit * box.Width();
+}
+
+/// Rows in one unit of the surface, as they come along a curve: of each unit the first, the lowest, the highest and the
+/// last are kept.
+class UnitOfRows {
+ public:
+  explicit UnitOfRows(std::vector<std::size_t>& kept) : kept_(kept) {}
+
+  void Add(std::size_t row, double unit, double value) {
+    if (!std::isfinite(value) || unit != unit_) Close();
+    if (!std::isfinite(value)) return kept_.push_back(row);
+    if (!open_ || value > highestValue_) highest_ = row, highestValue_ = value;
+    if (!open_ || value < lowestValue_) lowest_ = row, lowestValue_ = value;
+    if (!open_) first_ = row;
+    last_ = row;
+    unit_ = unit;
+    open_ = true;
+  }
+  void Close() {
+    if (!open_) return;
+    open_ = false;
+    std::size_t before = 0;
+    for (const std::size_t row : {first_, std::min(highest_, lowest_), std::max(highest_, lowest_), last_})
+      if (row != before) kept_.push_back(before = row);
+  }
+
+ private:
+  std::vector<std::size_t>& kept_;
+  std::size_t first_ = 0, last_ = 0, highest_ = 0, lowest_ = 0;
+  double unit_ = 0, highestValue_ = 0, lowestValue_ = 0;
+  bool open_ = false;
+};
+
+/// The rows from first to last that are drawn; all of them but where they are dense.
+std::vector<std::size_t> DrawnRows(const PanelMap& map, const PageCurve& curve, const SharedValues& values,
+                                   RowSpan rows) {
+  std::vector<std::size_t> kept;
+  const bool dense = IsDense(rows.last - rows.first + 1, map.box);
+  UnitOfRows unit(kept);
+  for (std::size_t i = rows.first; i <= rows.last; ++i) {
+    if (dense)
+      unit.Add(i, std::floor(map.X(curve.x[i])), values[i]);
+    else
+      kept.push_back(i);
+  }
+  unit.Close();
+  return kept;
+}
+
+/// @param thinned  whether rows that would fall on others may be left out.
+std::vector<PlacedRow> Place(const Page& page, const PagePanel& panel, const PageCurve& curve, bool thinned) {
+  std::vector<PlacedRow> placed;
+  const std::size_t size = std::min(curve.x.size(), curve.y.size());
+  if (page.kind.polar) {
+    const PolarMap map = PolarMapOf(page);
+    const SharedValues values = DrawnValues(curve, {1, size > 0 ? size - 1 : 0});
+    for (std::size_t i = 1; i < size; ++i) placed.push_back({i, map.Point(curve.x[i], values[i])});
+    return placed;
+  }
+  const RowSpan shown = RowsWithin(curve.x, {panel.limits.xmin, panel.limits.xmax});
+  if (shown.Empty()) return placed;
+  const PanelMap map = MapOf(page, panel);
+  // One row beyond each end, so that a zoomed curve runs on to the edge of the box.
+  const std::size_t first = std::max<std::size_t>(1, shown.first - 1), last = std::min(size - 1, shown.last + 1);
+  const SharedValues values = DrawnValues(curve, shown);
+  const auto place = [&](std::size_t i) { placed.push_back({i, Placed(map, curve.x[i], values[i])}); };
+  if (thinned) {
+    for (const std::size_t i : DrawnRows(map, curve, values, {first, last})) place(i);
+  } else {
+    placed.reserve(last - first + 1);
+    for (std::size_t i = first; i <= last; ++i) place(i);
+  }
+  return placed;
+}
+
 void DrawMarks(DrawingSurface& surface, const Page& page, const PagePanel& panel, const PageCurve& curve) {
   const bool polar = page.kind.polar, matrix = page.kind.IsMatrix();
   const GraphBox box = WithRounding(panel.box);
@@ -204,16 +285,16 @@ RowSpan RowsWithin(std::span<const double> x, XRange range) {
   return rows;
 }
 
-double DrawnValue(const PageCurve& curve, std::size_t row, RowSpan shown) {
-  if (!(curve.averageRows > 0) || row < shown.first || row > shown.last) return curve.y[row];
-  return RunningMean(curve.y, row, curve.averageRows, shown.first, shown.last);
+SharedValues DrawnValues(const PageCurve& curve, RowSpan shown) {
+  if (!(curve.averageRows > 0) || shown.Empty()) return curve.y;
+  return RunningMeans(curve.y.All(), curve.averageRows, shown.first, shown.last);
 }
 
 double PolarMap::Distance(double value) const {
   if (!std::isfinite(value)) return notThere;
   if (!logarithmic) return radius * std::clamp(value / outer, 0.0, 1.0);
   const double shown = value > 0 ? value : inner / 10;
-  return radius * std::clamp(std::log(shown / inner) / std::log(outer / inner), 0.0, 1.0);
+  return radius * std::clamp(LogOfRatio(shown, inner) / LogOfRatio(outer, inner), 0.0, 1.0);
 }
 
 SurfacePoint PolarMap::Point(double angleDegrees, double value) const {
@@ -237,29 +318,15 @@ PolarMap PolarMapOf(const Page& page) {
 }
 
 std::vector<PlacedRow> PlacedRows(const Page& page, const PagePanel& panel, const PageCurve& curve) {
-  std::vector<PlacedRow> placed;
-  const std::size_t size = std::min(curve.x.size(), curve.y.size());
-  if (page.kind.polar) {
-    const PolarMap map = PolarMapOf(page);
-    const RowSpan all{1, size > 0 ? size - 1 : 0};
-    for (std::size_t i = 1; i < size; ++i) placed.push_back({i, map.Point(curve.x[i], DrawnValue(curve, i, all))});
-    return placed;
-  }
-  const RowSpan shown = RowsWithin(curve.x, {panel.limits.xmin, panel.limits.xmax});
-  if (shown.Empty()) return placed;
-  const PanelMap map = MapOf(page, panel);
-  // One row beyond each end, so that a zoomed curve runs on to the edge of the box.
-  const std::size_t first = std::max<std::size_t>(1, shown.first - 1), last = std::min(size - 1, shown.last + 1);
-  placed.reserve(last - first + 1);
-  for (std::size_t i = first; i <= last; ++i)
-    placed.push_back({i, Placed(map, curve.x[i], DrawnValue(curve, i, shown))});
-  return placed;
+  return Place(page, panel, curve, false);
 }
 
 std::vector<std::vector<SurfacePoint>> CurveRuns(const Page& page, const PagePanel& panel, const PageCurve& curve) {
+  const auto rows = Place(page, panel, curve, true);
   std::vector<SurfacePoint> points;
+  points.reserve(rows.size());
   std::size_t before = 0;
-  for (const auto& placed : PlacedRows(page, panel, curve)) {
+  for (const auto& placed : rows) {
     // From 360 degrees back to 0 there is no line.
     if (curve.wraps && before > 0 && std::abs(curve.y[placed.row] - curve.y[before]) > 180)
       points.push_back({notThere, notThere});
@@ -267,7 +334,9 @@ std::vector<std::vector<SurfacePoint>> CurveRuns(const Page& page, const PagePan
     before = placed.row;
   }
   if (page.kind.polar) return UnclippedRuns(points);
-  return ClippedRuns(curve.interpolate ? InterpolatedPoints(points) : points, panel.box);
+  // Between points that are closer than dots there is nothing to interpolate.
+  const bool interpolated = curve.interpolate && !IsDense(rows.size(), panel.box);
+  return ClippedRuns(interpolated ? InterpolatedPoints(points) : points, panel.box);
 }
 
 void PaintCurve(DrawingSurface& surface, const Page& page, const PageCurve& curve) {

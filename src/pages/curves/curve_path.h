@@ -18,8 +18,8 @@ struct RowSpan {
 /// The rows whose x lies within the range (a millionth of it beyond the ends counts as within).
 RowSpan RowsWithin(std::span<const double> x, XRange range);
 
-/// The value that is drawn for a row: y, or its running mean over the rows shown.
-double DrawnValue(const PageCurve& curve, std::size_t row, RowSpan shown);
+/// The values that are drawn: y, or for the rows shown its running mean over them.
+SharedValues DrawnValues(const PageCurve& curve, RowSpan shown);
 
 /// The circle of a polar plot with the values at its centre and at its rim.
 struct PolarMap {
@@ -40,7 +40,9 @@ struct PlacedRow {
 };
 std::vector<PlacedRow> PlacedRows(const Page& page, const PagePanel& panel, const PageCurve& curve);
 
-/// Uninterrupted runs of a curve, clipped to the panel's box (not in a polar plot), interpolated where it is wanted.
+/// Uninterrupted runs of a curve, clipped to the panel's box (not in a polar plot), interpolated where it is wanted. Of
+/// far more points than any picture has dots side by side, those are left out that would fall on others: of each unit
+/// of the surface the first, the lowest, the highest and the last stay.
 std::vector<std::vector<SurfacePoint>> CurveRuns(const Page& page, const PagePanel& panel, const PageCurve& curve);
 
 /// Paints a curve with its own pen, which is put back to solid and thin; the colour of the surface changes.

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <vector>
 
+#include "pages/curves/curve_names.h"
 #include "pages/curves/curve_path.h"
 
 namespace lumivex {
@@ -27,9 +28,10 @@ std::vector<PlacedRow> SeenRows(const Page& page, std::size_t index) {
 GraphReading ReadingAt(const Page& page, std::size_t index, SurfacePoint point, const GraphReading& before) {
   auto reading = ReadAt(page, point.x, point.y);
   if (!reading || !reading->onCurve) return before;
-  const std::string& nearest = page.curves[reading->curve].name;
+  const CurveNames names(page);
+  const std::string nearest = names.Of(page.curves[reading->curve]);
   const auto at = reading->text.find(nearest);
-  if (at != std::string::npos) reading->text.replace(at, nearest.size(), page.curves[index].name);
+  if (at != std::string::npos) reading->text.replace(at, nearest.size(), names.Of(page.curves[index]));
   reading->curve = index;
   return *reading;
 }

@@ -5,6 +5,9 @@
 #include <cmath>
 #include <cstdlib>
 #include <limits>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "axes/polar_coordinates.h"
 #include "pages/curves/curve_path.h"
@@ -44,14 +47,34 @@ bool HasOneCurve(const Results& results) {
   return graph.quantity == Quantity::Albedo || (results.last.relativeIm == 0 && graph.OfEfficiencies());
 }
 
+/// What the one curve of a sphere without absorption says of all three; empty for other quantities.
+std::string WithoutAbsorption(Quantity quantity) {
+  if (quantity == Quantity::Efficiencies) return "Qext = Qsca   Qabs = 0";
+  return quantity == Quantity::CrossSections ? "Cext = Csca   Cabs = 0" : "";
+}
+
+/// x of a curve: a run's curves, and those of runs over the same rows, hold it once.
+SharedValues SharedOnPage(const Page& page, std::span<const double> x) {
+  const auto same = [](double a, double b) { return a == b || (std::isnan(a) && std::isnan(b)); };
+  const SharedValues* before = nullptr;
+  for (const PageCurve& curve : page.curves) {
+    const SharedValues& held = curve.angle.empty() ? curve.x : curve.angle;
+    if (before != nullptr && held.SharesWith(*before)) continue;
+    before = &held;
+    if (std::ranges::equal(held, x, same)) return held;
+  }
+  return std::vector<double>(x.begin(), x.end());
+}
+
 /// Amplitudes of the complex plane: the phase is the polar angle, the modulus the radius.
 void TakeComplexAmplitude(const AngleFound& found, PageCurve& curve) {
   curve.angle = curve.x;
+  std::vector<double> x = curve.x, y = curve.y;
   const int rows = std::min(found.S1.Rows(), found.S2.Rows());
-  for (std::size_t i = 1; i < curve.y.size(); ++i) {
+  for (std::size_t i = 1; i < y.size(); ++i) {
     const int row = static_cast<int>(i);
-    const bool computed = std::isfinite(curve.y[i]) && std::isfinite(curve.x[i]);
-    curve.y[i] = notComputed;
+    const bool computed = std::isfinite(y[i]) && std::isfinite(x[i]);
+    y[i] = notComputed;
     if (row > rows || !computed) continue;
     const ComplexD a = found.S1.Value(row), b = found.S2.Value(row);
     const ComplexD S = curve.kind == unpolarisedKind ? ComplexD{(a.re + b.re) / 2, (a.im + b.im) / 2}
@@ -59,9 +82,11 @@ void TakeComplexAmplitude(const AngleFound& found, PageCurve& curve) {
                                                      : a;
     double modulus = 0, phase = 0;
     RectangularPolar(S.re, S.im, modulus, phase);
-    curve.y[i] = modulus;
-    curve.x[i] = phase * 180 / 3.14159265358979;
+    y[i] = modulus;
+    x[i] = phase * 180 / 3.14159265358979;
   }
+  curve.x = std::move(x);
+  curve.y = std::move(y);
 }
 
 void DrawCurves(Page& page, const RunToDraw& run, const Curves& curves) {
@@ -73,7 +98,9 @@ void DrawCurves(Page& page, const RunToDraw& run, const Curves& curves) {
     page.curves.push_back(Plot(page, run, curves.x, y, {upperPanel, kind}, colour));
   };
   if (HasOneCurve(run.results)) {
-    if (run.look.polarisations != Polarisations::None) add(perpendicularKind, curves.perpendicular, colours.first);
+    if (run.look.polarisations == Polarisations::None) return;
+    add(perpendicularKind, curves.perpendicular, colours.first);
+    page.curves.back().keyName = WithoutAbsorption(page.kind.graph.quantity);
     return;
   }
   for (const int kind : KindsWanted(run.look)) {
@@ -206,11 +233,11 @@ PageCurve Plot(const Page& page, const RunToDraw& run, std::span<const double> x
   curve.run = page.runs.empty() ? 0 : page.runs.size() - 1;
   curve.kind = place.kind;
   curve.name = CurveName(page.kind, place.kind, second);
-  curve.x.assign(x.begin(), x.end());
-  curve.y.assign(y.begin(), y.end());
-  for (std::size_t i = 1; i < curve.y.size() && i < curve.x.size(); ++i)
-    if (!std::isfinite(curve.x[i])) curve.y[i] = notComputed;
-  if (!phases) curve.y = SeenUnderSun(run, curve.y);
+  curve.x = SharedOnPage(page, x);
+  std::vector<double> values(y.begin(), y.end());
+  for (std::size_t i = 1; i < values.size() && i < x.size(); ++i)
+    if (!std::isfinite(x[i])) values[i] = notComputed;
+  curve.y = phases ? std::move(values) : SeenUnderSun(run, values);
   if (const auto* found = run.results.Find<AngleFound>(); found != nullptr && page.kind.IsComplexPolar())
     TakeComplexAmplitude(*found, curve);
   const double step = StepOf(run.results.asked);

@@ -12,8 +12,6 @@ namespace {
 /// Between two panels: numbers of the upper one, title of the lower one, and air.
 constexpr double gapBetweenPanels = 800;
 
-constexpr double slideFont = 14;
-
 /// Small, medium, large and very large logos.
 double LogoFontSize(GraphSize size) {
   switch (size) {
@@ -27,17 +25,6 @@ double LogoFontSize(GraphSize size) {
       break;
   }
   return 18;
-}
-
-/// The surface as every frame starts on it.
-void PrepareSurface(DrawingSurface& surface, const PageStyle& style) {
-  surface.ForeColour = colours::Black;
-  surface.FillStyle = 1;
-  surface.DrawStyle = 0;
-  surface.DrawWidth = 1;
-  surface.FontName = "MS Sans Serif";
-  surface.FontSize = style.special ? slideFont : 8;
-  surface.FontBold = style.special;
 }
 
 void PaintLogo(FramePaint& paint) {

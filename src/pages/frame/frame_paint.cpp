@@ -18,7 +18,19 @@ constexpr double surfaceMargin = 30;
 
 constexpr double smallestFont = 6;
 
+constexpr double slideFont = 14;
+
 }  // namespace
+
+void PrepareSurface(DrawingSurface& surface, const PageStyle& style) {
+  surface.ForeColour = colours::Black;
+  surface.FillStyle = 1;
+  surface.DrawStyle = 0;
+  surface.DrawWidth = 1;
+  surface.FontName = "MS Sans Serif";
+  surface.FontSize = style.special ? slideFont : 8;
+  surface.FontBold = style.special;
+}
 
 bool TickLabels::HasRoom(double x, double y, double width, double height) const {
   return std::none_of(taken_.begin(), taken_.end(), [&](const GraphBox& box) {

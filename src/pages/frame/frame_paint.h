@@ -32,6 +32,9 @@ class TickLabels {
   std::vector<GraphBox> taken_;
 };
 
+/// The surface as every frame starts on it: solid thin pen, the letters of the numbers.
+void PrepareSurface(DrawingSurface& surface, const PageStyle& style);
+
 /// Everything that the painters of one frame share.
 struct FramePaint {
   FramePaint(const Page& thePage, const PagePanel& thePanel, DrawingSurface& theSurface);
@@ -65,5 +68,7 @@ void PaintXAxis(FramePaint& paint);
 void PaintYAxis(FramePaint& paint);
 /// Titles of both axes.
 void PaintAxisTitles(FramePaint& paint);
+/// Lower edge of the title of the horizontal axis, where the page goes on below it.
+double BottomOfXTitle(DrawingSurface& surface, const Page& page);
 
 }  // namespace lumivex

@@ -45,16 +45,22 @@ void PrintAbove(FramePaint& paint, double y, std::string_view title) {
   PrintAbove(paint, y, title, title);
 }
 
+/// Top of the title of the horizontal axis, in the letters that the surface has now.
+double TopOfXTitle(const DrawingSurface& surface, const PageStyle& style, const GraphBox& box) {
+  // Larger numbers reach further down.
+  const double height = surface.TextHeight("X");
+  const double belowNumbers = std::max(150.0, 0.5 * height + 4) + height;
+  return box.bottom + std::max(style.special ? 450.0 : 350.0, belowNumbers);
+}
+
 void PaintXTitle(FramePaint& paint) {
   auto& surface = paint.surface;
   const auto& box = paint.Box();
   const PageKind& kind = paint.kind;
   const std::string_view title =
       kind.IsTwoAngle() ? kind.xTitle : XTitleOf(kind.graph, {kind.fourier, kind.invWavelength});
-  // Larger numbers reach further down.
-  const double belowNumbers = std::max(150.0, 0.5 * surface.TextHeight("X") + 4) + surface.TextHeight("X");
-  const double y = box.bottom + std::max(paint.style.special ? 450.0 : 350.0, belowNumbers);
-  PrintAt(surface, 0.5 * (box.left + box.right) - 0.5 * surface.TextWidth(title), y, title);
+  PrintAt(surface, 0.5 * (box.left + box.right) - 0.5 * surface.TextWidth(title),
+          TopOfXTitle(surface, paint.style, box), title);
 }
 
 void PaintBackscatterTitle(FramePaint& paint, std::string_view title) {
@@ -90,18 +96,29 @@ void PaintTwoAngleTitle(FramePaint& paint, double top, double line) {
   PrintAbove(paint, top - 600, range, widest);
 }
 
+/// Two lines above the axis, the lower one in its place.
+void PaintTwoLines(FramePaint& paint, double y, std::string_view upper, std::string_view lower) {
+  const std::string_view widest = paint.surface.TextWidth(upper) > paint.surface.TextWidth(lower) ? upper : lower;
+  PrintAbove(paint, y, lower, widest);
+  PrintAbove(paint, y - paint.surface.TextHeight("X"), upper, widest);
+}
+
+void PaintSecondTitle(FramePaint& paint) {
+  if (paint.kind.IsMatrix()) return;
+  const double top = paint.Box().top;
+  const double line = paint.surface.TextHeight("X");
+  const double y = std::min(top - 350, top - 0.5 * line - line);
+  PrintAt(paint.surface, 50, y, SecondTitleOf(paint.kind.second == SecondPanel::Phases));
+}
+
 void PaintYTitle(FramePaint& paint) {
-  auto& surface = paint.surface;
   const PageKind& kind = paint.kind;
   const double top = paint.Box().top;
-  const double line = surface.TextHeight("X");
+  const double line = paint.surface.TextHeight("X");
   const std::string_view title = YTitleOf(kind.graph, kind.amplitude);
-  if (paint.panel.second) {
-    if (kind.IsMatrix()) return;
-    const double y = std::min(top - 350, top - 0.5 * line - line);
-    PrintAt(surface, 50, y, SecondTitleOf(kind.second == SecondPanel::Phases));
-    return;
-  }
+  const std::string_view second = YTitleSecondLineOf(kind.graph, {kind.amplitude, kind.invWavelength, kind.perVolume});
+  // A second line stands one line lower, where the title of an intensity has its only one.
+  const double y = top - 600 + line;
   switch (kind.graph.quantity) {
     case Quantity::Irradiance:
       return PaintWattsTitle(paint);
@@ -114,14 +131,21 @@ void PaintYTitle(FramePaint& paint) {
       PrintAbove(paint, top - 400, "Parameter");
       return PrintAbove(paint, top - 600, title);
     case Quantity::CrossSections:
+      if (!second.empty()) return PaintTwoLines(paint, y, title, second);
       return PrintAbove(paint, top - 500, title);
-    case Quantity::Intensity:
-    case Quantity::ScatteringMatrix:
-      // One blank line below the place of the title.
-      return PrintAbove(paint, top - 600 + line, title);
-    default:
+    case Quantity::Albedo:
+    case Quantity::Power:
       return PrintAbove(paint, top - 600, title);
+    default:
+      // One blank line stands in the place of a second one.
+      return second.empty() ? PrintAbove(paint, y, title) : PaintTwoLines(paint, y, title, second);
   }
+}
+
+/// Sums over a spectrum, and the curves of its wavelengths, are weighed by the light source.
+void PaintSpectrumTitle(FramePaint& paint) {
+  const double y = paint.Box().top - 600 + paint.surface.TextHeight("X");
+  PaintTwoLines(paint, y, "Weighted", paint.kind.amplitude ? "amplitude" : "intensity");
 }
 
 }  // namespace
@@ -130,8 +154,22 @@ void PaintAxisTitles(FramePaint& paint) {
   // The upper of two panels shares the title of the horizontal axis with the lower one.
   if (paint.panel.place != PanelPlace::Upper) PaintXTitle(paint);
   Restore(paint.surface);
-  if (paint.kind.wavelengths <= 1) PaintYTitle(paint);
+  if (paint.panel.second) {
+    if (paint.kind.wavelengths <= 1) PaintSecondTitle(paint);
+  } else if (paint.kind.wavelengths <= 1) {
+    PaintYTitle(paint);
+  } else {
+    PaintSpectrumTitle(paint);
+  }
   Restore(paint.surface);
+}
+
+double BottomOfXTitle(DrawingSurface& surface, const Page& page) {
+  const SurfacePen pen = surface;
+  PrepareSurface(surface, page.style);
+  const double bottom = TopOfXTitle(surface, page.style, page.panels.back().box) + surface.TextHeight("X");
+  static_cast<SurfacePen&>(surface) = pen;
+  return bottom;
 }
 
 }  // namespace lumivex

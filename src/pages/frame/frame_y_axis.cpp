@@ -16,6 +16,9 @@ constexpr int mostTicks = 2000;
 /// A number of so many characters is printed as a power of ten.
 constexpr std::size_t longText = 5;
 
+/// Decades from label to label up to which each has its tick.
+constexpr int mostDecadesApart = 5;
+
 constexpr double minorTick = 70, majorTick = 100, labelTick = 50;
 
 std::string AxisNumber(std::string text, double value) {
@@ -103,10 +106,15 @@ double PlaceOfTens(FramePaint& paint, const PowerLook& look) {
   const double fontSize = surface.FontSize;
   surface.FontSize = look.exponentSize;
   double widest = 0;
-  for (const double end : {paint.map.limits.ymin, paint.map.limits.ymax})
-    widest = std::max(widest, surface.TextWidth(Trim(Str(std::floor(Log10Guarded(end))))));
+  bool three = false;
+  for (const double end : {paint.map.limits.ymin, paint.map.limits.ymax}) {
+    const std::string exponent(Trim(Str(std::floor(Log10Guarded(end)))));
+    widest = std::max(widest, surface.TextWidth(exponent));
+    three = three || exponent.size() > 2;
+  }
   surface.FontSize = fontSize;
-  return std::min(look.ten, paint.Box().left - 60 - widest - ten);
+  // The widest exponents would stand over the ticks.
+  return std::min(look.ten, paint.Box().left - (three ? majorTick + 30 : 60) - widest - ten);
 }
 
 /// Number at a place of the axis, with its tick.
@@ -118,7 +126,10 @@ void GridYLabel(FramePaint& paint, double value) {
   const double e = RoundTo(Log10Guarded(value), 2);
   const double mantissa = RoundTo(std::pow(10.0, e - std::floor(e)), 1);
   if (limits.ymax < 1000 && limits.ymin >= 0.001) {
-    paint.LabelLeft(Trim(Str(mantissa == 1 ? std::pow(10.0, std::floor(e)) : value)), y);
+    // A decade that was calculated may be a hair beside its power; 999 is 999.
+    constexpr double hair = 1e-9;
+    const double power = std::pow(10.0, std::round(std::log10(value)));
+    paint.LabelLeft(Trim(Str(std::abs(value / power - 1) < hair ? power : value)), y);
     return;
   }
   const PowerLook look = LookOfPowers(paint);
@@ -162,7 +173,7 @@ int DecadeStep(const FramePaint& paint, DecadeRange decades) {
   else
     step = span >= 20 ? 3 : span > 12 ? 2 : 1;
   const double perDecade =
-      paint.Box().Height() / std::max(RuleLog10(paint.map.limits.ymax / paint.map.limits.ymin), 1e-9);
+      paint.Box().Height() / std::max(RuleLog10(paint.map.limits.ymax) - RuleLog10(paint.map.limits.ymin), 1e-9);
   const double needed = 1.6 * paint.surface.TextHeight("10");
   while (step < 100 && step * perDecade < needed) ++step;
   return step;
@@ -176,7 +187,7 @@ bool IsInside(double value, const AxisLimits& limits) {
 void PaintBetweenDecades(FramePaint& paint, bool lines) {
   const auto& limits = paint.map.limits;
   const LabelWindow window = WindowBetweenDecades(paint.style.size);
-  const double ratio = limits.ymax / limits.ymin;
+  const double ratio = limits.ymax / limits.ymin;  // beyond all numbers it is beyond the window as well
   const bool numbers = ratio > window.above && ratio < window.below;
   double inc = std::pow(10.0, std::floor(Log10Guarded(limits.ymin)));
   double value = inc;
@@ -207,7 +218,9 @@ void PaintLogarithmic(FramePaint& paint) {
     for (int e = decades.first; e <= decades.last; ++e)
       if (IsInside(std::pow(10.0, e), limits)) visit(e, paint.map.Y(std::pow(10.0, e)));
   };
-  forEachDecade([&](int, double y) {
+  forEachDecade([&](int e, double y) {
+    // So many decades that their ticks would be one black bar have those that are labelled.
+    if (decadeStep > mostDecadesApart && e % decadeStep != 0) return;
     if (minor || paint.style.gridLines.majorY) paint.HorizontalLine(y, paint.style.gridColour);
     paint.TickLeft(y, paint.style.gridLines.majorY ? majorTick : minorTick);
   });

@@ -1,5 +1,6 @@
 #include "pages/items/readings.h"
 
+#include <cmath>
 #include <initializer_list>
 #include <optional>
 #include <string>
@@ -34,6 +35,11 @@ void Add(Lines& lines, std::string text, Colour colour = colours::Black) {
   lines.push_back({std::move(text), colour});
 }
 
+/// A reading; a number that there is none of is not told.
+void AddNumber(Lines& lines, const std::string& name, double value, const std::string& unit = "") {
+  if (std::isfinite(value)) Add(lines, name + Significant(value, digitsShown) + unit);
+}
+
 void AddEfficiencies(const Efficiencies& e, Lines& lines) {
   const std::initializer_list<std::pair<const char*, double>> readings = {{"Qsca = ", e.Qsca},
                                                                           {"Qext = ", e.Qext},
@@ -41,7 +47,7 @@ void AddEfficiencies(const Efficiencies& e, Lines& lines) {
                                                                           {"Qback = ", e.Qback},
                                                                           {"Qradar = ", pi / 4 * e.Qback},
                                                                           {"g = ", e.g}};
-  for (const auto& [name, value] : readings) Add(lines, name + Significant(value, digitsShown));
+  for (const auto& [name, value] : readings) AddNumber(lines, name, value);
 }
 
 /// Wavelengths of a sum over a spectrum: the efficiencies belong to one wavelength and say nothing about it.
@@ -123,8 +129,8 @@ std::vector<PageLine> VisibleData(const Results& results) {
   AddEfficiencies(results.last.efficiencies, lines);
   if (asked.graph.quantity == Quantity::Irradiance) {
     const Curves curves = CurvesOf(results, {});
-    Add(lines, "Scattered power = " + Significant(curves.scatteredPower, digitsShown) + " W");
-    Add(lines, "Backscattered power = " + Significant(curves.backscatteredPower, digitsShown) + " W");
+    AddNumber(lines, "Scattered power = ", curves.scatteredPower, " W");
+    AddNumber(lines, "Backscattered power = ", curves.backscatteredPower, " W");
   }
   // A cloud has no size parameter, and its distribution stands below the efficiencies.
   if (const auto* found = results.Find<AngleFound>(); found != nullptr && !asked.Cloud())

@@ -8,6 +8,9 @@
 
 namespace lumivex {
 
+/// Right edge of the readings (surface units).
+inline constexpr double ReadingsRight = 13900;
+
 /// The readings of results: the efficiencies of a sphere or cloud lit by a plane wave, with the powers of a graph in
 /// Watts and the intensities straight forward and back of a graph against angle; of a spectrum its wavelengths. None
 /// for a method that has no efficiencies.

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <vector>
 
+#include "pages/items/readings.h"
 #include "record/number_text.h"
 
 namespace lumivex {
@@ -12,8 +13,8 @@ namespace {
 
 // The side strip (surface units). The readings of a run stand in its left part; the distribution then takes the rest
 // or, in a narrow window, what is below them.
-constexpr double stripLeft = 12000, stripRight = 15600, stripBottom = 2800;
-constexpr double readingsRight = 13900, readingsBottom = 1800, marginOfAxis = 150, leastAxis = 800;
+constexpr double stripLeft = 12000, stripRight = HistogramRight, stripBottom = 2800;
+constexpr double readingsBottom = 1800, marginOfAxis = 150, leastAxis = 800;
 constexpr double peakTop = 100, barHeight = 2000, lowPeakTop = 1850, lowBarHeight = 420;
 
 /// Where the bars stand.
@@ -31,7 +32,7 @@ Strip StripOf(const DrawingSurface& surface, StripTaken taken) {
   const double right = std::min(stripRight, surface.ScaleWidth()) - marginOfAxis;
   const Strip whole{stripLeft + marginOfAxis, right};
   if (!taken.byReadings) return whole;
-  const Strip beside{readingsRight + marginOfAxis, right};
+  const Strip beside{ReadingsRight + marginOfAxis, right};
   if (beside.HasRoom()) return beside;
   if (taken.byPowers) return {};
   return {whole.left, whole.right, lowPeakTop, lowPeakTop + lowBarHeight};
@@ -78,21 +79,29 @@ void PrintCaption(DrawingSurface& surface, const Strip& strip, const std::string
   surface.FontSize = fontSize;
 }
 
-/// Numbers at both ends, between them the title or, where there is no room, its unit.
+/// Numbers at both ends, between them the title or its unit. Where there is no room between them the unit stands behind
+/// the upper number, and both have no more digits than fit.
 void DrawAxis(DrawingSurface& surface, const PageHistogram& axis, const Strip& strip) {
   surface.Line(strip.left, strip.base, strip.right, strip.base);
-  const std::string low = Significant(axis.low, 3), high = Significant(axis.high, 3);
-  const double numbersTop = strip.NumbersTop();
-  const double lowWidth = surface.TextWidth(low), highWidth = surface.TextWidth(high);
-  PrintAt(surface, strip.left, numbersTop, low);
-  PrintAt(surface, strip.right - highWidth, numbersTop, high);
-  for (const std::string title :
-       {axis.overIndex ? "Refractive index" : "Radius (\u00B5m)", axis.overIndex ? "n" : "\u00B5m"}) {
+  const double top = strip.NumbersTop(), room = strip.right - strip.left;
+  const std::string unit = axis.overIndex ? "n" : "\u00B5m";
+  const double blank = surface.TextWidth(" ");
+  const auto print = [&](const std::string& low, const std::string& high, const std::string& title) {
+    const double lowWidth = surface.TextWidth(low), highWidth = surface.TextWidth(high);
     const double width = surface.TextWidth(title), x = (strip.left + strip.right - width) / 2;
-    if (x <= strip.left + lowWidth || x + width >= strip.right - highWidth) continue;
-    PrintAt(surface, x, numbersTop, title);
-    break;
-  }
+    const bool fits = title.empty() ? lowWidth + highWidth + 2 * blank <= room
+                                    : x > strip.left + lowWidth + blank && x + width + blank < strip.right - highWidth;
+    if (!fits) return false;
+    PrintAt(surface, strip.left, top, low);
+    if (!title.empty()) PrintAt(surface, x, top, title);
+    PrintAt(surface, strip.right - highWidth, top, high);
+    return true;
+  };
+  const std::string low = Significant(axis.low, 3), high = Significant(axis.high, 3);
+  bool printed = print(low, high, axis.overIndex ? "Refractive index" : "Radius (\u00B5m)") || print(low, high, unit);
+  for (int digits = 3; digits > 0 && !printed; --digits)
+    printed = print(Significant(axis.low, digits), Significant(axis.high, digits) + " " + unit, "");
+  if (!printed) print("", Significant(axis.high, 2) + " " + unit, "");
   PrintCaption(surface, strip, axis.caption);
 }
 

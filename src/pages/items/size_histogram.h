@@ -9,6 +9,9 @@
 
 namespace lumivex {
 
+/// Right edge of the strip that it stands in (surface units).
+inline constexpr double HistogramRight = 15600;
+
 /// A size distribution as a histogram: a bar a sample, as high as its density (a box a class of a table of classes).
 /// @param name         of the distribution, for the caption.
 /// @param logarithmic  axis of the radius.

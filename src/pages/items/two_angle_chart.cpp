@@ -4,6 +4,7 @@
 #include <cmath>
 #include <limits>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "pages/curves/curve_path.h"
@@ -80,12 +81,15 @@ PageCurve CurveOf(const Page& page, const RunToDraw& run, std::size_t column) {
   PageCurve curve;
   curve.run = page.runs.empty() ? 0 : page.runs.size() - 1;
   curve.name = "n = " + Shortest(asked.index[column]);
-  for (auto* list : {&curve.x, &curve.y, &curve.angle}) list->assign(found.first.rows + 1, 0.0);
+  std::vector<double> x(found.first.rows + 1, 0.0), y = x, radius = x;
   for (std::size_t row = 0; row < found.first.rows; ++row) {
-    curve.x[row + 1] = found.first.At(row, column);
-    curve.y[row + 1] = found.second.At(row, column);
-    curve.angle[row + 1] = asked.radius[row];
+    x[row + 1] = found.first.At(row, column);
+    y[row + 1] = found.second.At(row, column);
+    radius[row + 1] = asked.radius[row];
   }
+  curve.x = std::move(x);
+  curve.y = std::move(y);
+  curve.angle = std::move(radius);
   // "True colour" tells the indices apart, any other colour the charts that are drawn over each other.
   const std::size_t columns = found.first.columns;
   const double part = columns > 1 ? static_cast<double>(column) / static_cast<double>(columns - 1) : 0;

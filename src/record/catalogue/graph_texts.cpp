@@ -127,6 +127,7 @@ constexpr std::array<std::string_view, 3> polarisations = {"Perpendicular polari
                                                            "Unpolarised"};
 constexpr std::array quantityTexts = {
     QuantityText{Quantity::Irradiance, "W/sq m", polarisations},
+    QuantityText{Quantity::DifferentialCrossSection, "sq m/sr", polarisations},
     QuantityText{Quantity::RangeCrossSections, "sq \u00B5m", polarisations},
     QuantityText{Quantity::ScatteringMatrix, "", {"S11", "S11", "S11"}},
     QuantityText{Quantity::Efficiencies, "", {"Qext", "Qsca", "Qabs"}},
@@ -195,11 +196,17 @@ std::string_view XTitleOf(const Graph& graph, XAxisChange change) {
 std::string_view YTitleOf(const Graph& graph, bool amplitude) {
   switch (graph.quantity) {
     case Quantity::Intensity:
-      if (graph.family != Family::Angle && graph.family != Family::Axis) return "";
       return amplitude ? " Amplitude" : " Intensity";
+    case Quantity::PhaseFunction:
+      return "Phase";
+    case Quantity::DifferentialCrossSection:
+      return "sq m/sr";
+    case Quantity::CumulativeProbability:
+      return "CPDF";
+    case Quantity::Efficiencies:
+      return "Efficiency";
     case Quantity::CrossSections:
-      // A diameter stands alone on its graph.
-      return graph.axis == AxisVariable::Diameter ? "" : "Area (sq m)";
+      return "Area (sq m)";
     case Quantity::Qback:
       return "Qback";
     case Quantity::Qradar:
@@ -217,6 +224,22 @@ std::string_view YTitleOf(const Graph& graph, bool amplitude) {
   }
 }
 
+std::string_view YTitleSecondLineOf(const Graph& graph, YTitleLook look) {
+  switch (graph.quantity) {
+    case Quantity::Intensity:
+      if (!look.invWavelength) return "";
+      return look.amplitude ? " (m)" : " (sq m)";
+    case Quantity::PhaseFunction:
+      return "function";
+    case Quantity::Efficiencies:
+      return look.perVolume ? "(1/\u00B5m)" : "";
+    case Quantity::CrossSections:
+      return look.perVolume ? "per cu \u00B5m" : "";
+    default:
+      return "";
+  }
+}
+
 std::string_view SecondTitleOf(bool phases) {
   return phases ? "Phase angle" : "Degree of linear polarisation";
 }
@@ -227,7 +250,10 @@ std::string_view XUnitOf(const Graph& graph, XAxisChange change) {
   return TextOf(graph.axis).unit;
 }
 
-std::string_view YUnitOf(const Graph& graph) {
+std::string_view YUnitOf(const Graph& graph, YTitleLook look) {
+  if (graph.quantity == Quantity::Intensity && look.invWavelength) return look.amplitude ? "m" : "sq m";
+  if (look.perVolume && graph.quantity == Quantity::Efficiencies) return "1/\u00B5m";
+  if (look.perVolume && graph.quantity == Quantity::CrossSections) return "sq m/cu \u00B5m";
   return TextOf(graph.quantity).unit;
 }
 

@@ -55,12 +55,21 @@ std::string_view XTitleOf(const Graph& graph, XAxisChange change);
 /// @param amplitude  moduli are shown.
 std::string_view YTitleOf(const Graph& graph, bool amplitude);
 
+/// What stands below the title of the vertical axis: its unit, or the second word of a long title; empty where the
+/// title says all.
+struct YTitleLook {
+  bool amplitude = false;
+  bool invWavelength = false;  ///< freed of the wave number
+  bool perVolume = false;      ///< of the spheres
+};
+std::string_view YTitleSecondLineOf(const Graph& graph, YTitleLook look);
+
 /// Title of a second panel, of phases or of the degree of polarisation.
 std::string_view SecondTitleOf(bool phases);
 
 /// Units of the axes as the read-out prints them: "deg", "nm", "\u00B5m" or empty for numbers; "sq m", "W" or empty.
 std::string_view XUnitOf(const Graph& graph, XAxisChange change = {});
-std::string_view YUnitOf(const Graph& graph);
+std::string_view YUnitOf(const Graph& graph, YTitleLook look = {});
 
 /// The three curves of a graph.
 enum class CurveKind { Perpendicular = 1, Parallel = 2, Unpolarised = 3 };

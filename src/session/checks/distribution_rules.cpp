@@ -27,7 +27,8 @@ Verdict DistributionWidth(Check& check) {
   if (!wide || !form.mnuXStepLog.Checked || !IsAxisGraph(s)) return Verdict::GoOn;
   const double steps = Val(form.cboStep.Text);
   const double ratio = std::pow(Val(form.txtXmax.Text) / Val(form.txtXmin.Text), 1 / steps);
-  if (!(ratio > 1)) return Verdict::GoOn;
+  // Without a ratio no deviation would do; the rules on the axis say what is wrong with it.
+  if (!(ratio > 1) || !std::isfinite(ratio)) return Verdict::GoOn;
   const double stepsWide = deviations * s.RelativeSD / (ratio - 1);
   if (stepsWide > steps) return refuse("Reduce the Standard Deviation");
   if (stepsWide < deviations) {

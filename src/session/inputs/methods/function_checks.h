@@ -4,8 +4,8 @@
 
 namespace lumivex {
 
-/// Checks of the special functions for whoever works on the program: they print on the graph surface and take no part
-/// in a calculation. The next plot clears the page.
+/// Checks of the special functions for whoever works on the program: their numbers stand in place of the graph and take
+/// no part in a calculation. The next plot, or a replot of what was calculated, takes their place.
 
 /// The round trip from polar to rectangular and back for 10 to 360 degrees, then J and Y of orders 0 and 1 with their
 /// derivatives at x = txtRadius.

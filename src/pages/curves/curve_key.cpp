@@ -1,0 +1,189 @@
+#include "pages/curves/curve_key.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "pages/curves/curve_names.h"
+
+namespace lumivex {
+
+namespace {
+
+struct Entry {
+  std::string name;
+  Colour colour;
+  int drawStyle = 0, drawWidth = 1;
+  int line = 0;  ///< of its polarisation
+  bool operator==(const Entry&) const = default;
+};
+
+/// A piece of the curve on the colour of the plot, as long and as far from the name (surface units).
+constexpr double sampleWidth = 420, afterSample = 100, betweenNames = 300;
+
+/// Air at the right and the lower edge of the surface.
+constexpr double margin = 60;
+
+constexpr double largestFont = 8, smallestFont = 5, fontStep = 0.5;
+
+/// Text in the colour of its curve, darker where the curve is too light for the page around the plot.
+Colour TextColour(Colour curve) {
+  constexpr double lightest = 160;
+  const double lightness = 0.3 * curve.Red() + 0.59 * curve.Green() + 0.11 * curve.Blue();
+  const double factor = lightness > lightest ? 0.5 : 1;
+  return RGB(factor * curve.Red(), factor * curve.Green(), factor * curve.Blue());
+}
+
+/// The second panel of phases and of polarisation has the pens of the first, and a title.
+bool StandsInKey(const Page& page, const PageCurve& curve) {
+  if (curve.panel >= page.panels.size()) return false;
+  return !page.panels[curve.panel].second || page.kind.second == SecondPanel::Ratios;
+}
+
+/// All that the key says, each pen and name once. The line of a curve is its kind; ratios come below the curve above
+/// them.
+std::vector<Entry> EntriesOf(const Page& page) {
+  std::vector<Entry> entries;
+  const CurveNames names(page);
+  for (const PageCurve& curve : page.curves) {
+    if (!StandsInKey(page, curve)) continue;
+    const int ratio = page.panels[curve.panel].second ? 1 : 0;
+    const Entry entry{names.InKey(curve), curve.colour, curve.drawStyle, curve.drawWidth, curve.kind + ratio};
+    if (std::ranges::find(entries, entry) == entries.end()) entries.push_back(entry);
+  }
+  std::ranges::stable_sort(entries, {}, &Entry::line);
+  return entries;
+}
+
+bool HasKey(const Page& page) {
+  // The lines of a chart of two angles carry their names themselves.
+  if (page.panels.empty() || page.kind.IsTwoAngle()) return false;
+  std::size_t count = 0;
+  for (const PageCurve& curve : page.curves) {
+    if (!StandsInKey(page, curve)) continue;
+    ++count;
+    if (count > 1 || !curve.keyName.empty()) return true;
+  }
+  return page.runsLeftOut > 0;
+}
+
+/// Room for the key.
+struct Room {
+  double left = 0, top = 0, right = 0, bottom = 0;
+};
+
+/// Below the title of the horizontal axis, in a polar plot below the scale's text.
+Room RoomOf(DrawingSurface& surface, const Page& page, const TickLabels& polarLabels) {
+  const double right = surface.ScaleWidth() - margin, bottom = surface.ScaleHeight() - margin;
+  const double line = surface.TextHeight("X");
+  if (page.kind.polar) {
+    constexpr double linesOfKey = 3;
+    const PageGeometry& at = page.geometry;
+    double below = at.polarY + at.polarRadius;
+    for (const GraphBox& text : polarLabels.Taken()) below = std::max(below, text.bottom);
+    below += 150;
+    if (below + linesOfKey * line <= bottom) return {std::max(100.0, at.polarX - at.polarRadius), below, right, bottom};
+    // A very large circle leaves room only at its side.
+    const double top = at.polarY + 0.25 * at.polarRadius;
+    return {at.polarX + 1.25 * at.polarRadius, std::min(top, bottom - linesOfKey * line), right, bottom};
+  }
+  const double below = BottomOfXTitle(surface, page) + 0.25 * line;
+  return {page.panels.back().box.left, std::min(below, bottom - line), right, bottom};
+}
+
+double WidthOf(const DrawingSurface& surface, const Entry& entry) {
+  return sampleWidth + afterSample + surface.TextWidth(entry.name);
+}
+
+/// Where each entry stands, by index; empty where they do not all find room.
+using Places = std::vector<SurfacePoint>;
+
+/// One line a polarisation.
+Places PlaceByLine(const DrawingSurface& surface, const std::vector<Entry>& entries, const Room& room) {
+  double width = 0;
+  for (const Entry& entry : entries) width = std::max(width, WidthOf(surface, entry) + betweenNames);
+  const double height = surface.TextHeight("X");
+  Places places;
+  double x = room.left, y = room.top;
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    if (i > 0 && entries[i].line != entries[i - 1].line) x = room.left, y += height;
+    if (x + width - betweenNames > room.right || y + height > room.bottom) return {};
+    places.push_back({x, y});
+    x += width;
+  }
+  return places;
+}
+
+/// Column after column, each as wide as it must be.
+Places PlaceInColumns(const DrawingSurface& surface, const std::vector<Entry>& entries, const Room& room) {
+  const double height = surface.TextHeight("X");
+  const auto rows = static_cast<std::size_t>(std::max(1.0, std::floor((room.bottom - room.top) / height)));
+  Places places;
+  double x = room.left, width = 0;
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    const std::size_t row = i % rows;
+    if (row == 0 && i > 0) x += width + betweenNames, width = 0;
+    width = std::max(width, WidthOf(surface, entries[i]));
+    if (x + width > room.right) return {};
+    places.push_back({x, room.top + height * static_cast<double>(row)});
+  }
+  return places;
+}
+
+/// Sets the size of the letters and leaves out what has no room at the smallest.
+Places PlaceAll(DrawingSurface& surface, std::vector<Entry>& entries, const Room& room) {
+  for (double size = largestFont; size >= smallestFont; size -= fontStep) {
+    surface.FontSize = size;
+    if (Places places = PlaceByLine(surface, entries, room); !places.empty()) return places;
+    if (Places places = PlaceInColumns(surface, entries, room); !places.empty()) return places;
+  }
+  std::size_t more = 0;
+  while (entries.size() > 1) {
+    ++more;
+    entries.pop_back();
+    entries.back() = {"and " + std::to_string(more + 1) + " more", colours::Black};
+    if (Places places = PlaceInColumns(surface, entries, room); !places.empty()) return places;
+  }
+  return Places(entries.size(), {room.left, room.top});
+}
+
+/// One entry at a place: sample and name.
+void PrintEntry(DrawingSurface& surface, const Entry& entry, Colour ground, SurfacePoint at) {
+  const auto [x, y] = at;
+  const double height = surface.TextHeight("X");
+  if (entry.line > 0) {
+    surface.ForeColour = ground;
+    surface.Line(x, y + 0.1 * height, x + sampleWidth, y + 0.9 * height, LineKind::FilledBox);
+    surface.ForeColour = entry.colour;
+    surface.DrawStyle = entry.drawStyle;
+    surface.DrawWidth = entry.drawWidth;
+    surface.Line(x, y + 0.5 * height, x + sampleWidth, y + 0.5 * height);
+    surface.DrawStyle = 0;
+    surface.DrawWidth = 1;
+  }
+  surface.ForeColour = TextColour(entry.colour);
+  surface.CurrentX = x + sampleWidth + afterSample;
+  surface.CurrentY = y;
+  surface.Print(entry.name, false);
+}
+
+}  // namespace
+
+void PaintKey(DrawingSurface& surface, const Page& page, const TickLabels& polarLabels) {
+  if (!HasKey(page)) return;
+  const SurfacePen pen = surface;
+  surface.FontName = "MS Sans Serif";
+  surface.FontSize = largestFont;
+  surface.FontBold = false;
+  std::vector<Entry> entries = EntriesOf(page);
+  if (page.runsLeftOut > 0)
+    entries.insert(
+        entries.begin(),
+        Entry{"Oldest runs left out, for want of memory: " + std::to_string(page.runsLeftOut), colours::Black});
+  const Places places = PlaceAll(surface, entries, RoomOf(surface, page, polarLabels));
+  for (std::size_t i = 0; i < entries.size(); ++i) PrintEntry(surface, entries[i], page.style.ground, places[i]);
+  static_cast<SurfacePen&>(surface) = pen;
+}
+
+}  // namespace lumivex

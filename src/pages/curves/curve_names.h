@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "record/page.h"
+
+namespace lumivex {
+
+/// The curves of a page by names that tell them apart: key, read-out and tables all have these.
+///
+/// A curve is its polarisation, efficiency or ratio; with several runs on the page there stands before it whatever of
+/// method, size, sphere, medium, wavelength and angle is not the same in all of them: "Debye series (p = 2): Parallel
+/// polarisation".
+class CurveNames {
+ public:
+  explicit CurveNames(const Page& page);
+
+  /// What tells a run of the page from the others; empty for one that needs no telling.
+  const std::string& OfRun(std::size_t run) const;
+  /// A curve as read-outs and tables name it.
+  std::string Of(const PageCurve& curve) const;
+  /// A curve as the key names it.
+  std::string InKey(const PageCurve& curve) const;
+
+ private:
+  std::vector<std::string> runs_;
+};
+
+}  // namespace lumivex
