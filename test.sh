@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Tests Lumivex: sets up what is missing, builds with warnings as errors, runs every test, then the core's tests once more
-# under the address and undefined-behaviour sanitizers, and the runs in several threads under the thread sanitizer. --tidy runs clang-tidy over the sources as well.
+# under the address and undefined-behaviour sanitizers, the fuzz programs for 20 seconds each, and the runs in several
+# threads under the thread sanitizer. --tidy runs clang-tidy over the sources as well.
 set -euo pipefail
 cd "$(dirname "$0")"
 . cmake/setup.sh
@@ -24,6 +25,9 @@ echo "== sanitizers"
 cmake --preset asan -DLUMIVEX_WERROR=ON >/dev/null
 cmake --build --preset asan -j "$jobs"
 ctest --preset asan -j "$jobs"
+
+echo "== fuzz"
+tests/fuzz/run.sh 20
 
 echo "== threads"
 cmake --preset tsan -DLUMIVEX_WERROR=ON >/dev/null

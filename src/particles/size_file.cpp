@@ -111,8 +111,10 @@ SizeFile ReadSizeFile(std::istream& stream, const SizeFileOptions& options) {
       ReadSize(items, file, diameter);
     else
       ReadClass(items, file, factor, options.perWidth);
+    items.EndRow(file.uniform ? 2 : 3);
     CheckRow(items, file);
   }
+  items.EndData();
   if (!items.Failed()) Normalise(items, file, options.normalise);
   if (items.Failed()) return Fault(SizeFileFault::Data, items.Failure());
   SetLimits(file);

@@ -82,9 +82,12 @@ struct SelectionList final : Control {
   void SetValue(const ControlValue& value) override { Text = value.text; }
   /// Whether one of the items reads so (exactly).
   bool Holds(std::string_view text) const;
+  /// The place of the item of that text, from 0: of several the one picked last, else the first; -1 for none.
+  int PlaceOf(std::string_view text) const;
   bool Editable;
   std::string Text;
   std::vector<std::string> Items;
+  int Picked = -1;  ///< place of the item picked last, from 0, which tells items of one text apart; -1 for a typed text
 };
 
 /// One of a group of which exactly one is on.

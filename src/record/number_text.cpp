@@ -126,6 +126,7 @@ std::string_view Trim(std::string_view text) {
 }
 
 double Val(std::string_view text) {
+  text = Trim(text);
   if (const auto withPoint = PointForComma(text)) return Val(*withPoint);
   std::string clean;
   bool point = false, digits = false;
@@ -133,7 +134,6 @@ double Val(std::string_view text) {
   const auto skipBlanks = [&] {
     while (i < text.size() && (text[i] == ' ' || text[i] == '\t')) ++i;
   };
-  skipBlanks();
   if (i < text.size() && (text[i] == '+' || text[i] == '-')) {
     if (text[i] == '-') clean += '-';
     ++i;

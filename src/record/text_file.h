@@ -6,11 +6,24 @@
 
 namespace lumivex {
 
-/// Writes a file whole: beside its place first, then renamed, so that a failure leaves the old file as it was.
-/// @return empty, or in one sentence what went wrong.
+/// Writes a file whole: under a name of its own beside its place first, then renamed. A failure leaves the old file as
+/// it was, and of two programs that write one file at once one has its content there, never a mixture.
+///
+/// Links are followed: the file that a link names is written and the link stays. A file keeps its mode; one that may
+/// not be written is not replaced either. What is no regular file is never replaced: a character device, and what is
+/// open already ("/dev/stdout", a pipe of the shell), is written through; a folder, a named pipe, which would wait for
+/// a reader, and a disk are refused.
+/// @return empty, or in one sentence what went wrong, with the system's reason.
 std::string WriteWholeFile(std::string_view path, std::string_view content);
 
 /// The whole content of a file, or nothing where it cannot be read.
 std::optional<std::string> ReadWholeFile(std::string_view path);
+
+/// A name in that folder which nobody else has: the file is made, empty, and may be written and renamed.
+/// @return the path, or nothing where the folder takes no file: errno tells why.
+std::optional<std::string> MakeUniqueFile(const std::string& folder);
+
+/// What the system says of an error number: "No space left on device".
+std::string ReasonOf(int errorNumber);
 
 }  // namespace lumivex

@@ -5,9 +5,11 @@
 #include <sstream>
 #include <vector>
 
+#include "materials/files/readable_text.h"
 #include "record/number_text.h"
 #include "record/text_file.h"
 #include "scripts/script_commands.h"
+#include "scripts/script_line.h"
 #include "session/checks/number_input.h"
 #include "session/start_up.h"
 #include "session/undo.h"
@@ -19,22 +21,6 @@ namespace lumivex {
 namespace {
 
 constexpr double unitsPerPixel = 15;
-
-/// The line without its comment: a '#' at the start of a word begins one.
-std::string_view WithoutComment(std::string_view line) {
-  for (std::size_t i = 0; i < line.size(); ++i)
-    if (line[i] == '#' && (i == 0 || line[i - 1] == ' ' || line[i - 1] == '\t')) return line.substr(0, i);
-  return line;
-}
-
-/// Takes the first word off a text.
-std::string TakeWord(std::string_view& text) {
-  text = Trim(text);
-  const auto end = std::min(text.find_first_of(" \t"), text.size());
-  std::string word(text.substr(0, end));
-  text = Trim(text.substr(end));
-  return word;
-}
 
 struct PixelSize {
   int width = 0, height = 0;
@@ -55,9 +41,12 @@ bool ReadsAsOn(std::string_view text) {
   return SameName(text, "true") || SameName(text, "on") || Val(text) != 0;
 }
 
-/// Sets a field of an open dialog as a user would.
+/// Sets a field of an open dialog as a user would: a text that a list holds is picked from it.
 void SetField(Session& session, Control& control, const std::string& text) {
-  if (TextOf(control) != nullptr) {
+  const bool list = control.Kind() == ControlKind::SelectionList;
+  if (list && static_cast<SelectionList&>(control).Holds(text)) {
+    UserChooses(session, static_cast<SelectionList&>(control), text);
+  } else if (TextOf(control) != nullptr) {
     UserTypes(session, control, text);
   } else if (control.Value().checked != ReadsAsOn(text)) {
     UserClicks(session, control);
@@ -72,7 +61,7 @@ struct ScriptCommands {
 
   static Control& Named(ScriptRunner& run, const std::string& name) {
     Control* control = FindControl(run.Current(), name);
-    if (control == nullptr) throw Failure{"there is no control " + name};
+    if (control == nullptr) throw Failure{"there is no control " + Readable(name)};
     return *control;
   }
 
@@ -95,7 +84,7 @@ struct ScriptCommands {
     Control& control = Named(run, name);
     if (control.Kind() != ControlKind::SelectionList) throw Failure{name + " is no list"};
     auto& list = static_cast<SelectionList&>(control);
-    if (!ListTakes(list, rest)) throw Failure{name + " does not offer " + std::string(rest)};
+    if (!ListTakes(list, rest)) throw Failure{name + " does not offer " + Readable(rest)};
     if (!UserChooses(run.Current(), list, rest)) throw Failure{name + " is disabled or hidden"};
   }
 
@@ -112,7 +101,7 @@ struct ScriptCommands {
   static void Dialog(ScriptRunner& run, std::string_view rest) {
     ScriptedPlatform::DialogAnswer answer;
     answer.form = TakeWord(rest);
-    if (run.Current().forms.Find(answer.form) == nullptr) throw Failure{"there is no dialog " + answer.form};
+    if (run.Current().forms.Find(answer.form) == nullptr) throw Failure{"there is no dialog " + Readable(answer.form)};
     const std::string verdict = TakeWord(rest);
     if (verdict != "ok" && verdict != "cancel") throw Failure{"a dialog is answered ok or cancel"};
     answer.ok = verdict == "ok";
@@ -124,7 +113,7 @@ struct ScriptCommands {
       } else if (!answer.fields.empty() && equals == std::string::npos) {
         answer.fields.back().second += " " + word;
       } else {
-        throw Failure{"there is no field " + word};
+        throw Failure{"there is no field " + Readable(word)};
       }
     }
     run.platform_.dialogs.push_back(std::move(answer));
@@ -135,38 +124,34 @@ struct ScriptCommands {
     run.platform_.answers.push_back(rest == "yes");
   }
 
-  static void OpenPath(ScriptRunner& run, std::string_view rest) { run.platform_.openPaths.emplace_back(rest); }
+  static void OpenPath(ScriptRunner& run, std::string_view rest) { run.platform_.openPaths.push_back(PathIn(rest)); }
 
-  static void SavePath(ScriptRunner& run, std::string_view rest) { run.platform_.savePaths.emplace_back(rest); }
+  static void SavePath(ScriptRunner& run, std::string_view rest) { run.platform_.savePaths.push_back(PathIn(rest)); }
 
   static void Get(ScriptRunner& run, std::string_view rest) {
     const auto value = ReadValue(run.Current(), rest);
-    if (!value) throw Failure{"there is nothing named " + std::string(rest)};
+    if (!value) throw Failure{"there is nothing named " + Readable(rest)};
     run.output_ << rest << " = " << *value << '\n';
   }
 
-  static void Table(ScriptRunner& run, std::string_view rest) {
-    run.Write(std::string(rest), CurveTable(run.Current()));
-  }
+  static void Table(ScriptRunner& run, std::string_view rest) { run.Write(PathIn(rest), CurveTable(run.Current())); }
 
   static void Amplitudes(ScriptRunner& run, std::string_view rest) {
-    run.Write(std::string(rest), AmplitudeRows(run.Current()));
+    run.Write(PathIn(rest), AmplitudeRows(run.Current()));
   }
 
   static void Array(ScriptRunner& run, std::string_view rest) {
     const std::string name = TakeWord(rest);
     const auto rows = ArrayRows(run.Current(), name);
-    if (!rows) throw Failure{"there is no array " + name};
-    run.Write(std::string(rest), *rows);
+    if (!rows) throw Failure{"there is no array " + Readable(name)};
+    run.Write(PathIn(rest), *rows);
   }
 
-  static void Drawing(ScriptRunner& run, std::string_view rest) {
-    run.Write(std::string(rest), DrawingLines(*run.chosen_));
-  }
+  static void Drawing(ScriptRunner& run, std::string_view rest) { run.Write(PathIn(rest), DrawingLines(*run.chosen_)); }
 
   static void ChooseWindow(ScriptRunner& run, std::string_view rest) {
     Window* window = FindWindow(run.Current(), rest);
-    if (window == nullptr) throw Failure{"there is no window " + std::string(rest)};
+    if (window == nullptr) throw Failure{"there is no window " + Readable(rest)};
     run.chosen_ = window;
   }
 
@@ -209,20 +194,23 @@ struct ScriptCommands {
   static void Picture(ScriptRunner& run, std::string_view rest) {
     if (!run.window_.picture) throw Failure{"pictures need a window: lumivex --script"};
     PixelSize size;
-    if (const auto space = rest.rfind(' '); space != std::string_view::npos) {
-      if (const auto given = ReadSize(rest.substr(space + 1))) {
-        size = *given;
-        rest = Trim(rest.substr(0, space));
-      }
+    const auto last = rest.find_last_of(" \t");
+    if (const auto given = ReadSize(last == rest.npos ? rest : rest.substr(last + 1))) {
+      size = *given;
+      rest = last == rest.npos ? std::string_view() : Trim(rest.substr(0, last));
     }
-    if (const std::string failure = run.window_.picture(*run.chosen_->form, rest, size.width, size.height);
+    const std::string path = PathIn(rest);
+    if (path.empty()) throw Failure{"picture needs the name of a file"};
+    if (const std::string failure = run.window_.picture(*run.chosen_->form, path, size.width, size.height);
         !failure.empty())
       throw Failure{failure};
   }
 
   static void Screenshot(ScriptRunner& run, std::string_view rest) {
     if (!run.window_.screenshot) throw Failure{"screenshots need a window: lumivex --script"};
-    if (const std::string failure = run.window_.screenshot(*run.chosen_->form, rest); !failure.empty())
+    const std::string path = PathIn(rest);
+    if (path.empty()) throw Failure{"screenshot needs the name of a file"};
+    if (const std::string failure = run.window_.screenshot(*run.chosen_->form, path); !failure.empty())
       throw Failure{failure};
   }
 };
@@ -308,13 +296,14 @@ void ScriptRunner::Execute(const std::string& line) {
   const std::string name = TakeWord(rest);
   for (const auto& row : commandRows)
     if (row.name == name) return row.run(*this, rest);
-  throw Failure{"unknown command " + name};
+  throw Failure{"unknown command " + Readable(name)};
 }
 
 int ScriptRunner::Run(std::istream& script) {
   std::string line;
   for (int number = 1; std::getline(script, line); ++number) {
     if (platform_.quit) break;
+    if (number == 1 && line.starts_with("\xEF\xBB\xBF")) line.erase(0, 3);
     try {
       Execute(line);
     } catch (const Failure& failure) {
@@ -324,7 +313,9 @@ int ScriptRunner::Run(std::istream& script) {
     }
   }
   output_.flush();
-  return ok;
+  if (!script.bad()) return ok;
+  errors_ << "the script could not be read to its end" << std::endl;
+  return scriptError;
 }
 
 }  // namespace lumivex

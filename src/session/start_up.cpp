@@ -18,6 +18,7 @@
 #include "session/inputs/materials/sellmeier_catalogue.h"
 #include "session/inputs/methods.h"
 #include "session/undo.h"
+#include "session/user_folder.h"
 #include "session/window_events.h"
 
 namespace lumivex {
@@ -193,6 +194,7 @@ void Form_Load(Session& session) {
   CheckDecimalSymbol(session);
   FillLists(f);
   if (session.state.CatalogueFolder.empty()) session.state.CatalogueFolder = FindCatalogueFolder(ProgramFolder());
+  if (session.state.CatalogueUserFolder.empty()) session.state.CatalogueUserFolder = UserDataFolder();
   LoadCatalogue(session);
 
   f.OptXLinear.Select();

@@ -43,6 +43,7 @@ bool UserTypes(Session& session, Control& control, std::string_view text) {
     const ActionScope acting(session.undo);
     *field = text;
     TakeMarkOff(control);
+    if (control.Kind() == ControlKind::SelectionList) static_cast<SelectionList&>(control).Picked = -1;
     if (!session.events.Raise(EventName(control, "Change"))) session.events.Raise(EventName(control, "Click"));
   }
   OfferHistory(session);
@@ -56,6 +57,7 @@ bool UserChooses(Session& session, SelectionList& list, std::string_view item) {
     const ActionScope acting(session.undo);
     list.Text = item;
     TakeMarkOff(list);
+    list.Picked = list.PlaceOf(item);
     if (!session.events.Raise(EventName(list, "Click"))) session.events.Raise(EventName(list, "Change"));
   }
   OfferHistory(session);

@@ -93,8 +93,10 @@ void ControlView::MakeList(const ControlActions& actions) {
     QObject::connect(box->lineEdit(), &QLineEdit::textEdited, box,
                      [&list, types = actions.types](const QString& text) { types(list, FromQString(text)); });
   }
-  QObject::connect(box, &QComboBox::textActivated, box,
-                   [&list, chooses = actions.chooses](const QString& text) { chooses(list, FromQString(text)); });
+  QObject::connect(box, &QComboBox::activated, box, [&list, box, chooses = actions.chooses](int place) {
+    list.Picked = place;
+    chooses(list, FromQString(box->itemText(place)));
+  });
   widget_ = box;
 }
 

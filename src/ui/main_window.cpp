@@ -2,9 +2,11 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QBuffer>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QDropEvent>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QLineEdit>
@@ -19,6 +21,7 @@
 #include <cmath>
 #include <utility>
 
+#include "record/text_file.h"
 #include "session/dropped_files.h"
 #include "session/info.h"
 #include "session/page.h"
@@ -390,8 +393,14 @@ std::string MainWindow::SaveScreenshot(std::string_view path) {
   Refresh();
   // What has just been shown or hidden finds its place when the event loop runs, which a script does not wait for.
   Settle();
-  if (grab().save(ToQString(path))) return {};
-  return "The screenshot could not be written to " + std::string(path) + ".";
+  const QByteArray kind = QFileInfo(ToQString(path)).suffix().toLatin1();
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  if (!grab().save(&buffer, kind.isEmpty() ? "PNG" : kind.constData())) {
+    return "The name of a screenshot ends in .png, .jpg or .bmp.";
+  }
+  return WriteWholeFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
 QWidget* MainWindow::WidgetOf(const Control& control) const {

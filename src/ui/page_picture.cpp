@@ -8,13 +8,13 @@
 #include <QMimeData>
 #include <QPageSize>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <QSvgGenerator>
 #include <algorithm>
 #include <vector>
 
 #include "pages/build_page.h"
 #include "pages/page_table.h"
+#include "record/text_file.h"
 #include "ui/look.h"
 #include "ui/painter_surface.h"
 
@@ -106,12 +106,6 @@ QByteArray PagePdf(const Page& page, const PageFormat& format) {
   return bytes;
 }
 
-std::string WriteFile(const QString& path, const QByteArray& bytes) {
-  QSaveFile file(path);
-  if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit()) return {};
-  return FromQString("The picture could not be written to " + path + ": " + file.errorString() + ".");
-}
-
 }  // namespace
 
 PageFormat ScaledFormat(const PageFormat& onScreen, int widthPx, int heightPx) {
@@ -161,7 +155,7 @@ std::string SavePage(const Page& page, const PageFormat& format, std::string_vie
     return "The name of a picture file ends in .png, .svg or .pdf.";
   }
   if (bytes.isEmpty()) return "The picture could not be drawn at that size.";
-  return WriteFile(file, bytes);
+  return WriteWholeFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
 std::string CopyPage(const Page& page, const PageFormat& format, double deviceRatio) {

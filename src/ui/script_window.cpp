@@ -4,12 +4,15 @@
 #include <fstream>
 #include <iostream>
 
+#include "scripts/script_file.h"
 #include "scripts/script_runner.h"
 #include "ui/main_window.h"
 
 namespace lumivex {
 
 namespace {
+
+constexpr int lostOutput = 1;
 
 ScriptWindow FunctionsOf(MainWindow& window) {
   ScriptWindow functions;
@@ -30,9 +33,8 @@ ScriptWindow FunctionsOf(MainWindow& window) {
 int RunScript(const std::string& path) {
   const bool fromInput = path == "-";
   std::ifstream file;
-  if (!fromInput) file.open(path);
-  if (!fromInput && !file) {
-    std::cerr << "lumivex: " << path << " cannot be read\n";
+  if (const std::string failure = fromInput ? "" : OpenScript(file, path); !failure.empty()) {
+    std::cerr << "lumivex: " << failure << '\n';
     return ScriptRunner::scriptError;
   }
   CommandGate gate;
@@ -43,7 +45,8 @@ int RunScript(const std::string& path) {
   runner.Start();
   const int result = runner.Run(fromInput ? std::cin : file);
   window.hide();
-  return result;
+  const bool written = OutputWasWritten(std::cout, std::cerr, "lumivex");
+  return written || result != ScriptRunner::ok ? result : lostOutput;
 }
 
 }  // namespace lumivex

@@ -1,18 +1,20 @@
 #!/bin/sh
-# Fuzzes the readers of input files for a bounded time: run.sh [SECONDS]. Needs clang with libFuzzer. The corpus is
-# made of the examples; an input that fails is left in the folder it prints.
+# Fuzzes readers, writers and texts, each program for a bounded time: run.sh [SECONDS]. Builds what is missing in
+# build/fuzz. Each begins with the inputs that once failed (findings/PROGRAM), the examples and what earlier runs kept;
+# an input that fails is left in the folder it prints: mend the fault and put the input, made small, into findings.
 set -eu
 seconds=${1:-60}
 root=$(cd "$(dirname "$0")/../.." && pwd)
-work=${FUZZ_FOLDER:-$(mktemp -d)}
-mkdir -p "$work/corpus"
-clang++ -std=c++20 -O1 -g -fsanitize=fuzzer,address,undefined -fno-sanitize-recover=undefined -I"$root/src" \
-  "$root/tests/fuzz/input_files.cc" "$root"/src/materials/kernel/*.cpp "$root"/src/materials/tables/sun_spectra.cpp \
-  "$root"/src/particles/kernel/*.cpp -o "$work/input_files"
+build=$root/build/fuzz
+work=${FUZZ_FOLDER:-$build/work}
+cd "$root"
+cmake --preset fuzz >/dev/null
+cmake --build --preset fuzz -j "$(nproc)"
 
 seed() { # LETTER FILE
-  { printf '%s' "$1"; head -c 2000 "$2"; } > "$work/corpus/$1_$(basename "$2")"
+  { printf '%s' "$1"; cat "$2"; } > "$work/input_files.seeds/$1_$(basename "$2")"
 }
+mkdir -p "$work/input_files.seeds" "$work/texts.seeds" "$work/writers.seeds"
 examples=$root/data/examples
 for file in "$examples"/*.rix; do seed r "$file"; done
 for file in "$examples"/*.csv; do seed c "$file"; done
@@ -20,26 +22,16 @@ for file in "$examples"/*.yml; do seed y "$file"; done
 for file in "$examples"/*.spe; do seed s "$file"; done
 for file in "$examples"/*.dis; do seed d "$file"; seed D "$file"; done
 seed x "$root/data/Dispersion.rxi"
+# The lines of the script in the guide, and numbers of every writing.
+sed -n 's/^    \(set\|get\|table\|picture\|choose\)/\1/p' "$root/README.md" | split -l 1 - "$work/texts.seeds/line_"
+printf '%s' '1.25E-07' > "$work/texts.seeds/number"
+printf '%s' 'picture "a #1.png" 300x200 # told' > "$work/texts.seeds/quoted"
+printf 'Ice, "thin"\n1.03\n0\n1e-400\n' > "$work/writers.seeds/entry"
 
-cat > "$work/words" <<'WORDS'
-"Lumivex 300"
-"Lumivex 301"
-"Lumivex"
-"Complex"
-"Real"
-"Uniform"
-"Non uniform"
-"non-uniform"
-"diameter"
-"radius"
-"32767"
-"1e39"
-"nan"
-"type: formula 1"
-"type: tabulated k"
-"coefficients:"
-"wavelength_range:"
-WORDS
-echo "Fuzzing in $work"
-cd "$work"
-./input_files -dict=words -max_total_time="$seconds" -max_len=4096 -timeout=5 -rss_limit_mb=512 corpus
+for program in input_files texts writers; do
+  echo "== fuzz $program"
+  mkdir -p "$work/$program.kept"
+  "$build/fuzz_$program" -dict="$root/tests/fuzz/words" -max_total_time="$seconds" -max_len=65536 -timeout=10 \
+    -rss_limit_mb=1024 -artifact_prefix="$work/" -print_final_stats=0 -verbosity=0 \
+    "$work/$program.kept" "$work/$program.seeds" "$root/tests/fuzz/findings/$program"
+done

@@ -1,9 +1,11 @@
+#include <algorithm>
 #include <sstream>
 
 #include "materials/files/catalogue_file.h"
 #include "materials/material_fixture.h"
 #include "record/text_file.h"
 #include "session/inputs/materials/sellmeier_catalogue.h"
+#include "session/user_actions.h"
 #include "source_folder.h"
 
 namespace lumivex {
@@ -15,6 +17,7 @@ class SellmeierCatalogue : public MaterialSession {
     for (const char* name : {"Dispersion.rxi", "DispersionBackup.rxi"})
       std::filesystem::copy(SourceFolder() + "/data/" + name, Path(name));
     State().CatalogueFolder = folder_.string();
+    State().CatalogueUserFolder.clear();
     LoadCatalogue(Now());
   }
   const std::vector<std::string>& Items() { return Now().forms.dlogRI_Formula.cboMaterial.Items; }
@@ -55,6 +58,54 @@ TEST_F(SellmeierCatalogue, AddsRemovesAndRestores) {
   EXPECT_TRUE(Shown().empty());
 }
 
+TEST_F(SellmeierCatalogue, EntriesOfOneNameArePickedByTheirPlace) {
+  auto& list = Now().forms.dlogRI_Formula.cboMaterial;
+  Do("choose dlogRI_Formula.cboMaterial Diamond\nset dlogRI_Formula.cboMaterial  Twin \n"
+     "set dlogRI_Formula.txtB1 2\nclick dlogRI_Formula.cmdSave");
+  EXPECT_EQ(list.Text, "Twin");
+  Do("set dlogRI_Formula.txtB1 3\nset dlogRI_Formula.cboMaterial x\nset dlogRI_Formula.cboMaterial Twin\n"
+     "click dlogRI_Formula.cmdSave");
+  list.Picked = 40;
+  EXPECT_TRUE(UserChooses(Now(), list, "Twin"));
+  EXPECT_EQ(Get("dlogRI_Formula.txtB1"), "3");
+  list.Picked = 39;
+  EXPECT_TRUE(UserChooses(Now(), list, "Twin"));
+  EXPECT_EQ(Get("dlogRI_Formula.txtB1"), "2");
+  // Another program took the first material out meanwhile.
+  std::ifstream file(Path("Dispersion.rxi"));
+  auto entries = ReadCatalogueFile(file).entries;
+  entries.erase(entries.begin());
+  Write("Dispersion.rxi", CatalogueText(entries));
+  Do("click dlogRI_Formula.cmdRemove");
+  EXPECT_EQ(std::ranges::count(Items(), "Twin"), 1);
+  EXPECT_EQ(Items().size(), 39U);
+}
+
+TEST_F(SellmeierCatalogue, AChoiceInADialogLoadsTheCoefficients) {
+  Do("dialog dlogRI_Formula ok cboMaterial=Fused silica\nclick mnuRI_Formula");
+  EXPECT_EQ(Get("dlogRI_Formula.txtC3"), "97.93400254");
+  EXPECT_EQ(Get("lblSphere"), "Sphere: Fused silica");
+}
+
+TEST_F(SellmeierCatalogue, GoesToTheUsersFolderWhereTheProgramsCannotBeWritten) {
+  const auto before = std::filesystem::directory_iterator(std::filesystem::current_path());
+  const long files = std::distance(before, {});
+  State().CatalogueFolder = "/proc";  // takes files from nobody
+  Do("set dlogRI_Formula.cboMaterial Mine\nclick dlogRI_Formula.cmdSave");
+  EXPECT_NE(LastText().find("/proc/Dispersion.rxi could not be written"), std::string::npos) << LastText();
+  State().CatalogueUserFolder = Path("home/share");
+  Do("click dlogRI_Formula.cmdSave");
+  EXPECT_TRUE(std::filesystem::exists(Path("home/share/Dispersion.rxi")));
+  // From then on it is the one in use, wherever the delivered one lies.
+  State().CatalogueFolder = folder_.string();
+  LoadCatalogue(Now());
+  EXPECT_EQ(Items(), std::vector<std::string>{"Mine"});
+  Do("click dlogRI_Formula.cmdRestore");
+  EXPECT_EQ(Items().size(), 39U);
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(std::filesystem::current_path()), {}), files);
+  EXPECT_EQ(FindCatalogueFolder(""), "");
+}
+
 TEST_F(SellmeierCatalogue, CanBeEmptied) {
   Write("Dispersion.rxi", CatalogueText({{"Only", {"1", "0", "0", "0", "0", "0", "0", "0"}}}));
   LoadCatalogue(Now());
@@ -71,7 +122,7 @@ TEST_F(SellmeierCatalogue, ADamagedFileIsToldAndLeftAlone) {
     return text.replace(text.find(from), from.size(), to);
   };
   for (const auto& damaged : {with("4000", "3999"), with("Lumivex:", "Lumivox:"), whole.substr(0, whole.size() / 2),
-                              with("1.08511833", "one"), with(" 39", " 99999"), std::string()}) {
+                              with("1.08511833", "one"), with(" 39", " 99999"), with(" 39", " 38"), std::string()}) {
     Write("Dispersion.rxi", damaged);
     for (const char* step : {"click dlogRI_Formula.cmdRemove", "choose dlogRI_Formula.cboMaterial Diamond",
                              "set dlogRI_Formula.cboMaterial New"}) {

@@ -55,6 +55,13 @@ TEST_F(InputFiles, DamagedIndexFilesAreToldAndKeepTheTable) {
   EXPECT_EQ(IndexMessage(With(good, "2, 1.02", "-2, 1.02")), opening + "\n\nLine 18: a wavelength must be positive");
   EXPECT_EQ(IndexMessage(With(good, " 3\n", " 10000000\n")),
             opening + "\n\nLine 16: a number from 1 to 32767 is needed");
+  EXPECT_EQ(IndexMessage(With(good, "2, 1.02, 0.002", "2, 1.02, 0.002, 7")),
+            opening + "\n\nLine 18: more than 3 numbers in a row (decimals need a point)");
+  EXPECT_EQ(IndexMessage(good + "\n4, 1.04, 0.004\n"),
+            opening + "\n\nLine 21: there is more than the rows that the file announces");
+  EXPECT_EQ(IndexMessage("Lumi\x01\xFF" + std::string(60, 'v') + "\n"),
+            opening + "\n\nThe first line of this file should be \"Lumivex 300\"\nbut it reads \"Lumi??" +
+                std::string(34, 'v') + "\"");
   EXPECT_EQ(IndexMessage(""), opening + "\n\nThe first line of this file should be \"Lumivex 300\"\nbut it reads \"\"");
   EXPECT_FALSE(ReadRefIndex1(Now(), folder_.string()));
   EXPECT_NE(LastText().find("This is a folder, not a file"), std::string::npos);
@@ -81,6 +88,8 @@ TEST_F(InputFiles, SpectraMustAgreeWithTheirHeader) {
   EXPECT_NE(message(With(good, ", 10", ", 0")).find("Line 5:"), std::string::npos);
   EXPECT_NE(message(With(good, ", 10", ", 1e-9")).find("Line 5:"), std::string::npos);
   EXPECT_NE(message(good.substr(0, good.size() - 6)).find("the file ends too early"), std::string::npos);
+  EXPECT_NE(message(With(good, "390, 2", "390, 2,5")).find("Line 9: more than 2 numbers"), std::string::npos);
+  EXPECT_NE(message(good + "410 3\n").find("Line 11: there is more"), std::string::npos);
   EXPECT_TRUE(ReadSpectrum(Now(), Write("good.spe", With(good, "380.0", "380.000001"))));  // the same single
   EXPECT_TRUE(ReadSpectrum(Now(), exampleFolder + "mercury_lamp.spe"));
   EXPECT_EQ(State().SpectrumFileNonUniform, 1);
@@ -113,9 +122,10 @@ TEST_F(InputFiles, SizeFilesKeepTheirPeculiarities) {
   EXPECT_EQ(file.size[1], 4.0F);
   for (const char* bad : {"um\nuniform\n1\n1 1\n", "um\n\n1\n1 1\n"})
     EXPECT_EQ(read("Lumivex 300" + free + bad).fault, SizeFileFault::Format) << bad;
-  for (const char* bad : {"um\nUniform\n2\n1 1\n", "um\nUniform\n10000000\n1 1\n", "um\nUniform\n1\n-1 1\n",
-                          "um\nUniform\n1\n1 -1\n", "um\nUniform\n1\n1 0\n", "um\nUniform\n1\n1e30 1e39\n",
-                          "um\nUniform\n0\n", "ell\nUniform\n1\n1 1\n", "um\nUniform\n1\nnan 1\n"})
+  for (const char* bad :
+       {"um\nUniform\n2\n1 1\n", "um\nUniform\n10000000\n1 1\n", "um\nUniform\n1\n-1 1\n", "um\nUniform\n1\n1 -1\n",
+        "um\nUniform\n1\n1 0\n", "um\nUniform\n1\n1e30 1e39\n", "um\nUniform\n0\n", "ell\nUniform\n1\n1 1\n",
+        "um\nUniform\n1\nnan 1\n", "um\nUniform\n1\n1 1 1\n", "um\nUniform\n1\n1 1\n2 1\n"})
     EXPECT_EQ(read("Lumivex 300" + free + bad).fault, SizeFileFault::Data) << bad;
 }
 
@@ -156,6 +166,83 @@ TEST_F(InputFiles, TablesOfOtherProgramsAreImported) {
   EXPECT_EQ(Get("lblSphere"), "Sphere: fused_silica");
   EXPECT_TRUE(RefRel(Now(), 0.5876));
   EXPECT_NEAR(State().RefractReal, 1.45846, 2e-5);
+}
+
+IndexFileResult Csv(const std::string& text) {
+  std::istringstream stream(text);
+  return ReadIndexCsv(stream);
+}
+
+IndexFileResult Yaml(const std::string& text) {
+  std::istringstream stream(text);
+  return ReadIndexYaml(stream);
+}
+
+TEST(ImportedTables, AreReadInTheWritingsOfManyPrograms) {
+  // Each gives n = 1.5 and k = 0.25 at half a micrometre.
+  const char* const writings[] = {
+      "0,5;1,5;0,25\n",
+      "0,5\t1,5\t0,25\n",
+      "0,5 1,5 0,25\n",
+      "\"0,5\",\"1,5\",\"0,25\"\n",
+      "0.5, 1.5, 0.25\r",
+      "sep=;\nWavelength (nm);n;k\n500;1,5;0,25\n",
+      "k,n,lambda/nm\n0.25,1.5,500\n",
+      "wavelength [\u00B5m]\tn\tk\tremark\n0.5\t1.5\t0.25\tof columnnm\n",
+      "wavelength(angstrom),k (extinction),n\n5000,.25,+1.5\n",
+      "# Wavelength (nm)  n  k\n500 1.5 0.25\n",
+      "wavelength (mm) n k\n5e-4 1.5 2.5d-1\n",
+      "Energy (eV),n,k\n2.479683968,1.5,0.25\n",
+      "Wavenumber (cm^-1),n,k\n20000,1.5,0.25\n",
+      "Gold, as measured in nm units by nobody\n0.5,1.5,0.25\n\n,,,\n",
+      "um,n\r0.5,1.5\rum,k\r0.4,0.2\r0.6,0.3\r",
+  };
+  for (const char* writing : writings) {
+    const auto result = Csv(writing);
+    ASSERT_EQ(result.detail, "") << writing;
+    ASSERT_EQ(result.table.count, 1) << writing;
+    EXPECT_FLOAT_EQ(result.table.lambda[1], 0.5F) << writing;
+    EXPECT_FLOAT_EQ(result.table.rows[1][0], 1.5F) << writing;
+    EXPECT_FLOAT_EQ(result.table.rows[1][1], 0.25F) << writing;
+  }
+}
+
+TEST(ImportedTables, NeverLoseARowInSilence) {
+  const std::pair<std::string, std::string> damaged[] = {
+      {"0.4,1.5x\n0.5,1.4\n", "Line 1: \"1.5x\" is not a number"},
+      {"0.4,1.5,0.1\n0.5,,0.1\n", "Line 2: a cell is empty"},
+      {"wl,n,k\n0.4,1.5,\n", "Line 2: a cell is empty"},
+      {"0.4,1.5\n0.5,1.4,0.1\n", "Line 2: a row has 2 cells here, not 3"},
+      {"400,5,1,33\n", "Line 1: more than 3 columns need a heading (wavelength, n, k)"},
+      {"0.4,1.5\nx,y\n0.6,1.3\n", "Line 2: \"x\" is not a number"},
+      {"0.4,1.5\nremeasured in nm\n", "Line 2: a row has 2 cells here, not 3"},
+      {"0.4\n", "Line 1: a wavelength and its index are needed"},
+      {"0.4,1.5\n0.5,1" + std::string(50, 'x') + "\n", "Line 2: \"1" + std::string(39, 'x') + "\" is not a number"},
+  };
+  for (const auto& [text, message] : damaged) EXPECT_EQ(Csv(text).detail, message) << text;
+  const std::string head = "DATA:\n  - type: tabulated nk\n    data: |\n";
+  EXPECT_EQ(Yaml(head + "  0.4 1.5 0.1\n  0.5 1.4\n").detail, "Line 5: a row has 3 numbers here");
+  EXPECT_EQ(Yaml(head + "  0.4 1.5 0.1\n  0.5 1.4 O\n").detail, "Line 5: \"0.5 1.4 O\" is not a row of numbers");
+  EXPECT_EQ(Yaml("DATA:\n - type: formula 10\n").detail, "Line 2: \"formula 10\" is not a known kind of data");
+  EXPECT_EQ(Yaml("DATA:\n - type: formula 1\n   wavelength_range: 0.2 1\n   coefficients: 0 one\n").detail,
+            "Line 4: the coefficients of a formula are numbers");
+  const auto first = Yaml("DATA:\n  - type: tabulated n\n    data: 0.4 1.5\n      0.5 1.4\nSPECS:\n  n: 3\n");
+  EXPECT_EQ(first.detail, "");
+  EXPECT_EQ(first.table.count, 2);
+}
+
+// At exactly their last wavelength these tables were once read in row 49, as those of the format .rix are.
+TEST_F(InputFiles, ImportedTablesEndInTheirOwnLastRow) {
+  ASSERT_TRUE(ReadDroppedFile(Now(), exampleFolder + "fused_silica.yml"));
+  const double end = State().FileLast1;
+  RefRel(Now(), end);
+  EXPECT_NEAR(State().RefractReal, 1.1596, 1e-3);
+  ASSERT_TRUE(ReadRefIndex1(Now(), Write("short.csv", "0.4,1.5\n0.8,1.25\n")));
+  EXPECT_TRUE(RefRel(Now(), 0.8));
+  EXPECT_EQ(State().RefractReal, 1.25);
+  ASSERT_TRUE(ReadRefIndex1(Now(), Write("long.rix", IndexFileText(60))));
+  EXPECT_TRUE(RefRel(Now(), 60));
+  EXPECT_FLOAT_EQ(static_cast<float>(State().RefractReal), 1.49F);
 }
 
 TEST_F(InputFiles, EveryExampleIsRead) {

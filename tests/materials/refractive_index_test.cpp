@@ -76,6 +76,21 @@ TEST_F(RefractiveIndex, EveryModelHasItsIndexAndItsNames) {
   }
 }
 
+TEST_F(RefractiveIndex, TheNameFollowsThroughGraphsThatVaryTheIndex) {
+  struct Case {
+    const char *chosen, *caption, *name;
+  };
+  for (const auto& c : {Case{"set txtRefractReal 1.5", "Sphere: Fixed refractive index", "Sphere of fixed RI"},
+                        Case{"click mnuRI_Fixed1", "Sphere: Fixed refractive index", "Sphere of fixed RI"},
+                        Case{"click mnuRI_Au", "Sphere: Gold", "Gold"}}) {
+    Do(std::string("reset\n") + c.chosen + "\nchoose cboGraph Intensity v. refractive index");
+    EXPECT_EQ(Get("lblSphere"), "Sphere: Variable refractive index");
+    Do("choose cboGraph Intensity v. scattering angle\nclick cmdNewPlot");
+    EXPECT_EQ(Get("lblSphere"), c.caption) << c.chosen;
+    EXPECT_EQ(Get("SphereName"), c.name) << c.chosen;
+  }
+}
+
 TEST_F(RefractiveIndex, WavelengthsOutsideATableLeaveTheFieldsAlone) {
   Do("click mnuRI_Au\nset txtLambda 0.6");
   const std::string before = Get("txtRefractReal");

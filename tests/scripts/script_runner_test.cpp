@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "record/text_file.h"
+#include "scripts/script_file.h"
 #include "session/session_fixture.h"
 
 namespace lumivex {
@@ -70,6 +71,11 @@ TEST_F(Script, NamesAndValues) {
 TEST_F(Script, DialogsAnswerOnceAndThenStandAsTheyAre) {
   Do("dialog dlogTemp cancel txtTemp=30\nclick mnuRI_IAPWS");
   EXPECT_EQ(Get("lblSphere"), "Sphere: Water (IAPWS 5C Complex)");
+  Do("dialog dlogTemp ok txtTemp=warm\nclick mnuRI_IAPWS");
+  EXPECT_EQ(LastText(), "Temperature (C): a number is needed");
+  EXPECT_EQ(Get("dlogTemp.txtTemp"), "5");
+  Do("dialog dlogAir ok txtAirTemp=\nclick mnuRI_Air1");
+  EXPECT_EQ(Get("lblSphere"), "Sphere: Water (IAPWS 5C Complex)");
   Do("dialog dlogTemp ok txtTemp=15 chkRI_Complex=0\nclick mnuRI_IAPWS");
   EXPECT_EQ(Get("lblSphere"), "Sphere: Water (IAPWS 15C)");
   Do("click cmdNewPlot");
@@ -109,16 +115,50 @@ TEST_F(Script, ResizePlacesTheGraphInTheNewSurface) {
   EXPECT_NEAR(Number("GraphBottom"), 0.86 * 10500, 1);
 }
 
-TEST_F(Script, WritingNeverLeavesHalfAFile) {
-  const auto folder = std::filesystem::temp_directory_path() / "lumivex_write_test";
-  std::filesystem::create_directories(folder / "taken");
-  EXPECT_FALSE(WriteWholeFile((folder / "taken").string(), "text").empty());
-  EXPECT_TRUE(WriteWholeFile((folder / "new.txt").string(), "text").empty());
-  EXPECT_EQ(ReadWholeFile((folder / "new.txt").string()), "text");
-  int files = 0;
-  for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(folder)) ++files;
-  EXPECT_EQ(files, 2);
+TEST_F(Script, PathsMayHoldAHashBetweenQuotes) {
+  const auto folder = std::filesystem::temp_directory_path() / "lumivex script paths";
+  std::filesystem::create_directories(folder);
+  Do("\xEF\xBB\xBFget txtRadius # a mark of byte order begins no command");
+  Do("array Iperp \"" + (folder / "run #1.csv").string() + "\" # as told");
+  Do("array Iperp " + (folder / "run#2.csv").string() + " # no quotes needed");
+  EXPECT_TRUE(std::filesystem::exists(folder / "run #1.csv"));
+  EXPECT_TRUE(std::filesystem::exists(folder / "run#2.csv"));
+  Do("open \"" + (folder / "a #b.rix").string() + "\"");
+  EXPECT_EQ(runner.World().openPaths.back(), (folder / "a #b.rix").string());
+  Do("set txtRadius 5 # \" closes nothing");
+  EXPECT_EQ(Get("txtRadius"), "5");
   std::filesystem::remove_all(folder);
+}
+
+TEST_F(Script, PicturesNeedAName) {
+  std::string asked;
+  RecordingSurface surface(12000, 9000);
+  ScriptWindow window;
+  window.picture = [&asked](Form&, std::string_view path, int width, int) {
+    asked = std::string(path) + "|" + std::to_string(width);
+    return std::string();
+  };
+  window.screenshot = [](Form&, std::string_view) { return std::string(); };
+  runner.UseWindow(surface, window);
+  runner.Start();
+  for (const char* line : {"picture", "picture 100x100", "picture \"\" 100x100", "screenshot", "screenshot \"\""})
+    EXPECT_NE(Fail(line).find("needs the name of a file"), std::string::npos) << line;
+  EXPECT_EQ(asked, "");
+  Do("picture \"a #1.png\" 300x200");
+  EXPECT_EQ(asked, "a #1.png|300");
+}
+
+TEST(ScriptFile, FoldersAndLostOutputAreTold) {
+  std::ifstream script;
+  const std::string folder = std::filesystem::temp_directory_path().string();
+  EXPECT_EQ(OpenScript(script, folder), folder + " is a folder, not a script");
+  EXPECT_EQ(OpenScript(script, "/none"), "/none cannot be read: No such file or directory");
+  std::ostringstream errors;
+  std::ofstream lost("/dev/full");
+  lost << "numbers";
+  EXPECT_FALSE(OutputWasWritten(lost, errors, "lumivex-run"));
+  EXPECT_NE(errors.str().find("lumivex-run: the output could not be written"), std::string::npos);
+  EXPECT_TRUE(OutputWasWritten(errors, errors, ""));
 }
 
 }  // namespace

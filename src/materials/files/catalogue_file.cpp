@@ -7,6 +7,7 @@
 
 #include "materials/files/index_file.h"
 #include "materials/files/input_items.h"
+#include "materials/files/readable_text.h"
 
 namespace lumivex {
 
@@ -47,12 +48,15 @@ Catalogue ReadCatalogueFile(std::istream& stream) {
     CatalogueEntry entry;
     items.Skip(1);
     entry.name = items.Text();
+    entry.name.erase(0, std::min(entry.name.find_first_not_of(" \t"), entry.name.size()));
+    entry.name.erase(entry.name.find_last_not_of(" \t") + 1);
     for (auto& number : entry.numbers) {
       number = items.Text();
-      if (!NumberOfItem(number)) items.Fail("\"" + number.substr(0, 40) + "\" is not a number");
+      if (!NumberOfItem(number)) items.Fail("\"" + Readable(number) + "\" is not a number");
     }
     catalogue.entries.push_back(std::move(entry));
   }
+  items.EndData();
   if (items.Failed()) return {{}, items.Failure()};
   return catalogue;
 }

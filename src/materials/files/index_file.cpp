@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "materials/files/input_items.h"
+#include "materials/files/readable_text.h"
 
 namespace lumivex {
 
@@ -43,7 +44,7 @@ IndexFileResult ReadIndexFile(std::istream& stream) {
   constexpr int freeLines = 11;
   InputItems items(stream);
   const std::string marker = items.TextIfAny().value_or("");
-  if (marker != "Lumivex 300") return Fault(IndexFileFault::FirstLine, marker);
+  if (marker != "Lumivex 300") return Fault(IndexFileFault::FirstLine, Readable(marker));
   items.Skip(freeLines);
   IndexFileResult result;
   result.table.name = items.Text();
@@ -57,9 +58,11 @@ IndexFileResult ReadIndexFile(std::istream& stream) {
     const double wavelength = items.Number() * factor.value_or(1);
     const float n = items.Single();
     const float k = complex ? items.Single() : 0;
+    items.EndRow(complex ? 3 : 2);
     if (!(wavelength > 0 && wavelength < 1e30)) items.Fail("a wavelength must be positive");
     result.table.Add(static_cast<float>(wavelength), n, k);
   }
+  items.EndData();
   if (items.Failed()) return Fault(IndexFileFault::Data, items.Failure());
   return result;
 }

@@ -6,17 +6,20 @@
 
 namespace lumivex {
 
-/// Reads a table of other programs: lines of wavelength, n and perhaps k, parted by commas, semicolons, blanks or tabs.
+/// Reads a table of other programs: lines of wavelength, n and perhaps k, parted by commas, semicolons, blanks or tabs;
+/// with semicolons, tabs or blanks a comma may stand for the decimal point.
 ///
-/// Wavelengths are in micrometres; "nm" in a line of headings says nanometres. A heading "k" without "n" begins a
-/// second block that gives k by wavelength. A missing k is 0. Lines of text and lines that begin with # are passed
-/// over. Rows may stand in any order; of equal wavelengths the first counts.
+/// A line of headings before the first row names columns in any order: n, k and the wavelength (or "energy",
+/// "wavenumber") with its unit as a word, angstrom, nm, um, mm, m, eV or cm-1; micrometres without one. Without
+/// headings the columns are wavelength, n and k. A heading "k" without "n" further down begins a block that gives k by
+/// wavelength. A missing column k is 0. Titles before the first row and lines that begin with # are passed over; any
+/// other line must be a row without empty cells. Rows may stand in any order; of equal wavelengths the first counts.
 IndexFileResult ReadIndexCsv(std::istream& stream);
 
 /// Reads an index file in the YAML layout of the database refractiveindex.info: its blocks "tabulated nk", "tabulated
 /// n", "tabulated k" and "formula 1" to "formula 9" (M. N. Polyanskiy, Sci. Data 11, 94, 2024). A formula becomes a
 /// table of 1001 rows, equally spaced in the logarithm of the wavelength over its range; k comes from its own block,
-/// straight between its rows and 0 outside.
+/// straight between its rows and 0 outside. Other kinds of block, and lines of a table that are no rows, are refused.
 IndexFileResult ReadIndexYaml(std::istream& stream);
 
 }  // namespace lumivex

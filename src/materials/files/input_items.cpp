@@ -7,13 +7,14 @@
 #include <limits>
 #include <system_error>
 
+#include "materials/files/readable_text.h"
+
 namespace lumivex {
 
 namespace {
 
 constexpr std::size_t longestItem = 4096;
 constexpr int endOfFile = std::char_traits<char>::eof();
-constexpr std::size_t longestQuote = 40;  ///< of an item in a message
 
 bool IsBlank(int c) {
   return c == ' ' || c == '\t';
@@ -89,6 +90,28 @@ void InputItems::Skip(int items) {
   for (int i = 0; i < items && !Failed(); ++i) Text();
 }
 
+void InputItems::EndRow(int numbers) {
+  if (Failed() || line_ != itemLine_) return;
+  SkipBlanks();
+  if (IsLineEnd(Peek()))
+    TakeLineEnd();
+  else if (Peek() != endOfFile)
+    Fail("more than " + std::to_string(numbers) + " numbers in a row (decimals need a point)");
+}
+
+void InputItems::EndData() {
+  constexpr int dosEndOfFile = 0x1A;
+  if (Failed()) return;
+  while (IsBlank(Peek()) || IsLineEnd(Peek()) || Peek() == dosEndOfFile) {
+    if (IsLineEnd(Peek()))
+      TakeLineEnd();
+    else
+      Take();
+  }
+  itemLine_ = line_;
+  if (Peek() != endOfFile) Fail("there is more than the rows that the file announces");
+}
+
 std::string InputItems::NumberToken() {
   while (IsBlank(Peek()) || IsLineEnd(Peek())) {
     if (IsBlank(Peek()))
@@ -115,7 +138,7 @@ double InputItems::Number() {
   if (token.empty() && (!more || Peek() == endOfFile))
     Fail("the file ends too early");
   else
-    Fail("\"" + token.substr(0, longestQuote) + "\" is not a number");
+    Fail("\"" + Readable(token) + "\" is not a number");
   return 0;
 }
 

@@ -31,10 +31,16 @@ class InputItems {
   /// Passes over items.
   void Skip(int items);
 
+  /// The end of a row of so many numbers: more in its line is a failure, as is a comma for a decimal point, which parts
+  /// a number in two.
+  void EndRow(int numbers);
+  /// The end of the data: anything but blank lines is a failure, for it would be lost.
+  void EndData();
+
   /// Makes the reading fail at the last item's line, unless it has failed before.
   void Fail(std::string_view reason);
   bool Failed() const { return !failure_.empty(); }
-  /// "Line 21: "1.3x" is not a number"; empty while all is well.
+  /// "Line 21: "1.3x" is not a number"; empty while all is well. Quotes are cut and made readable (Readable).
   const std::string& Failure() const { return failure_; }
   /// Line of the last item, from 1.
   int Line() const { return itemLine_; }

@@ -40,12 +40,14 @@ SpectrumFile ReadSpectrumFile(std::istream& stream) {
   items.Skip(2);
   for (int i = 1; i <= file.points && !items.Failed(); ++i) {
     const double wavelength = items.Number(), value = items.Number();
+    items.EndRow(2);
     if (items.Failed()) break;
     if (i == 1 && static_cast<float>(wavelength) != file.minimum) return Fault(SpectrumFileFault::Minimum);
     if (i == file.points && static_cast<float>(wavelength) != file.maximum) return Fault(SpectrumFileFault::Maximum);
     file.wavelength.push_back(wavelength);
     file.value.push_back(value);
   }
+  items.EndData();
   if (items.Failed()) return Fault(SpectrumFileFault::Data, items.Failure());
   return file;
 }

@@ -13,8 +13,9 @@ struct IndexTable {
   std::vector<float> lambda;   ///< ascending (um)
   std::vector<IndexRow> rows;  ///< n and k
   int count = 0;               ///< the last row
+  int endRow = fileEndRow;     ///< the row that stands for exactly the last wavelength (see LookUpFile)
 
-  FileTable View() const { return {lambda, rows, count}; }
+  FileTable View() const { return {lambda, rows, count, endRow}; }
   void Add(float wavelength, float n, float k);
 };
 

@@ -4,8 +4,6 @@ namespace lumivex {
 
 namespace {
 
-constexpr std::size_t endRow = 49;  // see LookUpFile
-
 bool Holds(std::span<const float> lambda, std::size_t i, double wanted) {
   return lambda[i] <= wanted && lambda[i + 1] >= wanted && lambda[i + 1] > lambda[i];
 }
@@ -107,8 +105,9 @@ FileLookup LookUpFile(const FileTable& table, double wavelength, TableRule rule,
     if (top != 0) {
       found.value = Cubic(table.lambda, table.rows, top, wavelength);
     } else if (t >= 1 && i + 1 == count) {
-      found.beyondRows = endRow > count;
-      found.value = found.beyondRows ? std::nullopt : std::optional(Row(table.rows, endRow));
+      const auto end = static_cast<std::size_t>(table.endRow);
+      found.beyondRows = end > count;
+      found.value = found.beyondRows ? std::nullopt : std::optional(Row(table.rows, end));
     } else {
       found.value = Between(table.rows[i], table.rows[i + 1], t);
     }

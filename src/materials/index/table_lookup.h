@@ -50,11 +50,16 @@ EndedLookup LookUpToEnd(std::span<const float> lambda, std::span<const float> va
 std::optional<IndexValue> LookUpMetal(std::span<const float> lambda, std::span<const IndexRow> rows, float wanted,
                                       TableRule rule);
 
+/// Where the straight line of the last interval of a table of the format .rix ends, whatever its length: tables that
+/// the rule was made for have 49 rows, and results saved with other tables rely on it.
+inline constexpr int fileEndRow = 49;
+
 /// A table read from a file, first index 1.
 struct FileTable {
   std::span<const float> lambda;   ///< ascending (um)
   std::span<const IndexRow> rows;  ///< n and k
   int count = 0;                   ///< N, the last row
+  int endRow = fileEndRow;         ///< the row read at exactly the last wavelength
 };
 
 /// Which rows the cubics of a file table may take.
@@ -70,9 +75,8 @@ struct FileLookup {
 
 /// Index from a file table; wavelengths outside hold the end rows' values.
 ///
-/// The search compares in single precision; cubics are evaluated at the wavelength in double. The straight line of the
-/// last interval ends in row 49 whatever N is: tables that the rule was made for have 49 rows, and results saved with
-/// other tables rely on it. A shorter table has no such row: beyondRows.
+/// The search compares in single precision; cubics are evaluated at the wavelength in double. A straight line of the
+/// last interval ends in the table's endRow; a table that is too short has no such row: beyondRows.
 FileLookup LookUpFile(const FileTable& table, double wavelength, TableRule rule, CubicGate gate);
 
 }  // namespace lumivex

@@ -41,9 +41,10 @@ struct MaterialState {
   float FileFirst2 = 0, FileLast2 = 0;  ///< the same of the medium's
   std::string FileName1, FileName2;     ///< the material's name in the file
 
-  std::string LastFile;         ///< path of the last input file chosen
-  std::string CatalogueFolder;  ///< where Dispersion.rxi and DispersionBackup.rxi lie; empty is the working folder
-  int CatalogueIndex = 0;       ///< entry of the catalogue last chosen, from 0
+  std::string LastFile;             ///< path of the last input file chosen
+  std::string CatalogueFolder;      ///< where Dispersion.rxi and DispersionBackup.rxi were delivered; empty: nowhere
+  std::string CatalogueUserFolder;  ///< where the user's own Dispersion.rxi lies or is put; empty: nowhere
+  int CatalogueIndex = 0;           ///< entry of the catalogue last chosen, from 0
 };
 
 template <class Group, class Visitor>
@@ -80,6 +81,7 @@ void ForEachField(Group& g, Visitor&& visit) {
   visit("FileName2", g.FileName2);
   visit("LastFile", g.LastFile);
   visit("CatalogueFolder", g.CatalogueFolder);
+  visit("CatalogueUserFolder", g.CatalogueUserFolder);
   visit("CatalogueIndex", g.CatalogueIndex);
 }
 

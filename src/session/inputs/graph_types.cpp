@@ -22,11 +22,12 @@ void NameVariableSphere(Session& session) {
   session.state.SphereIndexTyped = 0;
 }
 
-/// Label and name of the sphere from before.
+/// Label and name of the sphere from before; a sphere of a fixed index has no other name than that.
 void NameKeptSphere(Session& session) {
   auto& s = session.state;
-  session.form1.lblSphere.Caption = s.KeptSphereLabel;
-  s.SphereName = s.KeptSphereName;
+  const bool fixed = session.form1.mnuRI_Fixed1.Checked;
+  session.form1.lblSphere.Caption = fixed ? "Sphere: Fixed refractive index" : s.KeptSphereLabel;
+  s.SphereName = fixed ? "Sphere of fixed RI" : s.KeptSphereName;
   s.SphereIndexVaries = s.SphereIndexTyped = 0;
 }
 

@@ -9,12 +9,35 @@ namespace lumivex {
 
 namespace {
 
+/// Marks an input that is no number. It is told when the dialog is confirmed, not while somebody is typing.
+bool MarkUnlessNumber(TextInput& field) {
+  const bool number = IsNumber(field.Text);
+  field.BackColour = number ? colours::White : colours::BadInput;
+  return number;
+}
+
+/// Tells of an input of a confirmed dialog that is no number; its mark keeps the dialog open.
+bool RefuseUnlessNumber(Session& session, TextInput& field, const Label& label) {
+  if (MarkUnlessNumber(field)) return false;
+  RefuseInput(session, field, label.Caption + ": a number is needed");
+  return true;
+}
+
+template <class Dialog>
+bool RefuseWater(Session& session, Dialog& dialog) {
+  // A temperature out of range has been told, and keeps its mark.
+  const bool outOfRange = IsNumber(dialog.txtTemp.Text) && dialog.txtTemp.BackColour == colours::BadInput;
+  return (!outOfRange && RefuseUnlessNumber(session, dialog.txtTemp, dialog.lblTemp)) ||
+         RefuseUnlessNumber(session, dialog.txtDensity, dialog.lblDensity);
+}
+
 void FollowTemperature(Session& session, TextInput& txtTemp, TextInput& txtDensity) {
+  if (!MarkUnlessNumber(txtTemp)) return;
   const double temperature = Val(txtTemp.Text);
-  txtTemp.BackColour = colours::White;
   if (temperature < 0) return RefuseInput(session, txtTemp, "Minimum temperature = 0");
   if (temperature > 100) return RefuseInput(session, txtTemp, "Maximum temperature = 100");
   txtDensity.Text = Significant(WaterDensityAt(temperature), 11);
+  txtDensity.BackColour = colours::White;
 }
 
 void PutDefaultsBack(UserMaterialDialog& d) {
@@ -39,6 +62,31 @@ void dlogTemp_txtTemp_Change(Session& session) {
 void dlogTemp2_txtTemp_Change(Session& session) {
   auto& dialog = session.forms.dlogTemp2;
   FollowTemperature(session, dialog.txtTemp, dialog.txtDensity);
+}
+
+void dlogTemp_txtDensity_Change(Session& session) {
+  MarkUnlessNumber(session.forms.dlogTemp.txtDensity);
+}
+
+void dlogTemp2_txtDensity_Change(Session& session) {
+  MarkUnlessNumber(session.forms.dlogTemp2.txtDensity);
+}
+
+void dlogAir_txtAirTemp_Change(Session& session) {
+  MarkUnlessNumber(session.forms.dlogAir.txtAirTemp);
+}
+
+void dlogTemp_OKButton_Click(Session& session) {
+  if (!RefuseWater(session, session.forms.dlogTemp)) dlogTemp_chkRI_Complex_Click(session);
+}
+
+void dlogTemp2_OKButton_Click(Session& session) {
+  RefuseWater(session, session.forms.dlogTemp2);
+}
+
+void dlogAir_OKButton_Click(Session& session) {
+  auto& dialog = session.forms.dlogAir;
+  RefuseUnlessNumber(session, dialog.txtAirTemp, dialog.lblAirTemp);
 }
 
 void dlogTemp_chkRI_Complex_Click(Session& session) {

@@ -4,9 +4,17 @@
 
 namespace lumivex {
 
-/// Density follows the temperature; a temperature outside 0 to 100 marks the field.
+/// Density follows the temperature; a temperature outside 0 to 100, or one that is no number, marks the field.
 void dlogTemp_txtTemp_Change(Session& session);
 void dlogTemp2_txtTemp_Change(Session& session);
+/// What is no number marks the field.
+void dlogTemp_txtDensity_Change(Session& session);
+void dlogTemp2_txtDensity_Change(Session& session);
+void dlogAir_txtAirTemp_Change(Session& session);
+/// OK tells of a temperature or density that is no number: its mark keeps the dialog open.
+void dlogTemp_OKButton_Click(Session& session);
+void dlogTemp2_OKButton_Click(Session& session);
+void dlogAir_OKButton_Click(Session& session);
 
 /// The boxes "Complex values of refractive index?" are kept in step: that of dlogTemp sets Segelstein's, those of Ray
 /// and Segelstein set dlogTemp's; on a click and on OK.

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "axes/polar_coordinates.h"
+#include "materials/files/input_items.h"
 #include "pages/build_page.h"
 #include "record/number_text.h"
 #include "session/inputs/look/read_look.h"
@@ -85,9 +86,9 @@ void read_Diff_file(Session& session) {
   const auto path = session.platform.OpenFileName({"Table of Bessel functions", "Text (*.txt)", "BesselDiff.txt"});
   if (!path) return;
   const auto refuse = [&session] { session.platform.Message("Error", "Error in file: BesselDiff.txt"); };
-  std::ifstream file(*path);
+  std::ifstream file;
   std::string line;
-  if (!file || !std::getline(file, line) || Trim(line) != "Bessel") return refuse();
+  if (!OpenInput(file, *path).empty() || !std::getline(file, line) || Trim(line) != "Bessel") return refuse();
   std::vector<double> table;
   while (table.size() < tableLength && std::getline(file, line)) {
     if (!line.empty() && line.back() == '\r') line.pop_back();

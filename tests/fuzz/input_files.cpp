@@ -1,24 +1,53 @@
 /// Fuzzes the readers of input files: the first byte of the input chooses the reader. Whatever the bytes are, a reader
-/// must end, keep within its rows and hand out a table of consistent length.
+/// must end, keep within its rows and hand out a table of consistent length, and a run with it must end too.
 
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <sstream>
 #include <string>
+#include <utility>
+#include <variant>
 
+#include "fuzz/require.h"
 #include "materials/files/catalogue_file.h"
 #include "materials/files/index_import.h"
 #include "materials/files/spectrum_file.h"
 #include "materials/light/spectrum_weight.h"
 #include "particles/size_file.h"
+#include "runs/run_fixture.h"
 
 namespace {
 
 using namespace lumivex;
 
-void Require(bool condition) {
-  if (!condition) std::abort();
+constexpr double radius = 1;  ///< um
+
+/// Runs a small sphere and holds what comes out to be numbers.
+void CheckRun(RunRequest request) {
+  const RunEnd end = RunSilently(request, 1);
+  if (end.outcome != Outcome::Done) return;
+  Require(end.hasResults);
+  for (const double value : Numbers(end.results).all) Require(std::isfinite(value));
+}
+
+/// The table as the sphere's material in a vacuum, then as the medium around a drop of fixed index, where the table
+/// has rows. Indices and wavelengths that ask for a long series are left out: it is the table that is tested.
+void RunWithIndex(const IndexTable& table) {
+  const auto shared = std::make_shared<const IndexTable>(table);
+  const IndexFromFile material{shared, TableRule::Cubic, {table.count, false}};
+  for (const double lambda : {double{table.lambda[1]}, double{table.lambda.back()}}) {
+    const auto found = IndexAt(material, lambda);
+    const bool small = found.value && std::abs(found.value->n) < 10 && std::abs(found.value->k) < 10;
+    if (!small || lambda < 0.1 * radius) continue;
+    RunRequest request = AngleRequest(radius, 10);
+    request.light.lambda = lambda;
+    request.particle.sphere = material;
+    CheckRun(request);
+    request.particle.sphere = FixedIndex{1.5, 0};
+    request.particle.medium = material;
+    CheckRun(request);
+  }
 }
 
 void CheckIndex(const IndexFileResult& result) {
@@ -28,6 +57,7 @@ void CheckIndex(const IndexFileResult& result) {
   for (const double lambda : {1e-3, 0.5, static_cast<double>(result.table.lambda[1]), 1e6})
     for (const TableRule rule : {TableRule::Linear, TableRule::Cubic})
       LookUpFile(result.table.View(), lambda, rule, {result.table.count, lambda > 0.5});
+  RunWithIndex(result.table);
 }
 
 void CheckSpectrum(const SpectrumFile& file) {

@@ -1,0 +1,39 @@
+#include "materials/files/readable_text.h"
+
+#include <algorithm>
+
+namespace lumivex {
+
+namespace {
+
+constexpr int longestQuote = 40;
+
+/// Bytes of the UTF-8 character at the start of a text; 0 where there is none that can be printed.
+std::size_t PrintableLength(std::string_view text) {
+  const auto byte = [&text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+  const unsigned char first = byte(0);
+  if (first < 0x80) return first >= 0x20 && first != 0x7F ? 1 : 0;
+  const std::size_t length = first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : 2;
+  if (first < 0xC2 || first > 0xF4 || text.size() < length) return 0;
+  for (std::size_t i = 1; i < length; ++i)
+    if ((byte(i) & 0xC0) != 0x80) return 0;
+  const bool control = first == 0xC2 && byte(1) < 0xA0;
+  const bool direction = first == 0xE2 && byte(1) == 0x80 && (byte(2) >= 0xA8 || (byte(2) >= 0x8B && byte(2) <= 0x8F));
+  const bool surrogateOrLong = (first == 0xE0 && byte(1) < 0xA0) || (first == 0xED && byte(1) >= 0xA0) ||
+                               (first == 0xF0 && byte(1) < 0x90) || (first == 0xF4 && byte(1) >= 0x90);
+  return control || direction || surrogateOrLong ? 0 : length;
+}
+
+}  // namespace
+
+std::string Readable(std::string_view text) {
+  std::string readable;
+  for (int count = 0; count < longestQuote && !text.empty(); ++count) {
+    const std::size_t length = PrintableLength(text);
+    readable += length == 0 ? "?" : text.substr(0, length);
+    text.remove_prefix(std::max<std::size_t>(length, 1));
+  }
+  return readable;
+}
+
+}  // namespace lumivex
