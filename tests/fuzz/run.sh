@@ -32,6 +32,6 @@ for program in input_files texts writers; do
   echo "== fuzz $program"
   mkdir -p "$work/$program.kept"
   "$build/fuzz_$program" -dict="$root/tests/fuzz/words" -max_total_time="$seconds" -max_len=65536 -timeout=10 \
-    -rss_limit_mb=1024 -artifact_prefix="$work/" -print_final_stats=0 -verbosity=0 \
+    -rss_limit_mb=1024 -artifact_prefix="$work/" -print_funcs=0 -verbosity=0 \
     "$work/$program.kept" "$work/$program.seeds" "$root/tests/fuzz/findings/$program"
 done
