@@ -151,7 +151,8 @@ std::optional<CatalogueEntry> EntryInFields(DlogRI_Formula& dialog) {
   const auto fields = Fields(dialog);
   bool good = !entry.name.empty();
   for (std::size_t i = 0; i < fields.size(); ++i) {
-    const std::string text(Trim(fields[i]->Text));
+    const std::string typed(Trim(fields[i]->Text));
+    const std::string text = PointForComma(typed).value_or(typed);
     const bool limit = i >= 6;
     good = good && ((limit && text.empty()) || NumberOfItem(text).has_value());
     entry.numbers[i] = text.empty() ? "0" : text;
