@@ -83,7 +83,7 @@ TEST_F(RefractiveIndex, TheNameFollowsThroughGraphsThatVaryTheIndex) {
   for (const auto& c : {Case{"set txtRefractReal 1.5", "Sphere: Fixed refractive index", "Sphere of fixed RI"},
                         Case{"click mnuRI_Fixed1", "Sphere: Fixed refractive index", "Sphere of fixed RI"},
                         Case{"click mnuRI_Au", "Sphere: Gold", "Gold"}}) {
-    Do(std::string("reset\n") + c.chosen + "\nchoose cboGraph Intensity v. refractive index");
+    Do(std::string("reset\nclick mnuKeepParameters\n") + c.chosen + "\nchoose cboGraph Intensity v. refractive index");
     EXPECT_EQ(Get("lblSphere"), "Sphere: Variable refractive index");
     Do("choose cboGraph Intensity v. scattering angle\nclick cmdNewPlot");
     EXPECT_EQ(Get("lblSphere"), c.caption) << c.chosen;

@@ -2,6 +2,7 @@
 
 #include "materials/index/water.h"
 #include "record/number_text.h"
+#include "session/checks/number_input.h"
 #include "session/inputs/dialog_use.h"
 #include "session/inputs/materials/refractive_index.h"
 
@@ -18,6 +19,7 @@ bool MarkUnlessNumber(TextInput& field) {
 
 /// Tells of an input of a confirmed dialog that is no number; its mark keeps the dialog open.
 bool RefuseUnlessNumber(Session& session, TextInput& field, const Label& label) {
+  if (!SettleComma(session, field)) return true;
   if (MarkUnlessNumber(field)) return false;
   RefuseInput(session, field, label.Caption + ": a number is needed");
   return true;
