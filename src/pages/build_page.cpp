@@ -49,6 +49,8 @@ PageRun WordsOf(const RunToDraw& run) {
   const bool disc = run.look.sun.disc && results.asked.graph.AgainstAngle();
   words.marks.emplace_back(disc ? "disc of the sun" : "");
   words.marks.push_back(run.look.averageWidth ? "mean over " + Significant(*run.look.averageWidth, 8) : "");
+  const auto changes = ChangeLinesOf(results, run.look);
+  words.parameters.insert(words.parameters.end(), changes.begin(), changes.end());
   return words;
 }
 
@@ -125,7 +127,7 @@ Page DrawOver(const Page& page, const Results& results, const Look& look) {
 
 Page PlacePage(Page page, const PageGeometry& geometry) {
   page.geometry = geometry;
-  for (PagePanel& panel : page.panels) panel.box = BoxOf(geometry, panel.place);
+  for (PagePanel& panel : page.panels) panel.box = BoxOf(page, panel.place);
   if (page.phasors) page.phasors->place = PlacePhasors(geometry);
   return page;
 }

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "pages/curves/curve_path.h"
+#include "pages/frame/frame.h"
 #include "pages/items/readings.h"
 #include "pages/items/size_histogram.h"
 
@@ -42,7 +43,7 @@ SurfacePoint FreeRoom(const Page& page, double width, double height, double left
   const double taken = page.histogram ? HistogramRight : ReadingsRight;
   if (mostLeft >= taken && edge + height <= stripEnd) return {std::min(std::max(left, taken), mostLeft), edge};
 
-  const GraphBox& box = page.geometry.box;
+  const GraphBox box = BoxOf(page, PanelPlace::Whole);
   if (mostLeft >= box.right + edge) return {mostLeft, box.top};
 
   // The rightmost corners come first: a scattering pattern begins with its peak.

@@ -135,7 +135,7 @@ std::vector<TableColumn> TableOf(const Page& page) {
     columns.push_back(std::move(xs));
     for (const auto& curve : page.curves) {
       if (!SharesX(first, curve)) continue;
-      Column ys{Unused(columns, names.Of(curve)), {}};
+      Column ys{Unused(columns, names.InKey(curve)), {}};
       const SharedValues values = DrawnValues(curve, rows);
       for (std::size_t i = rows.first; i <= rows.last; ++i)
         if (std::isfinite(x[i])) ys.cells.push_back(Cell(values[i]));

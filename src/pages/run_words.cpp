@@ -157,6 +157,19 @@ bool IsTyped(const Material& material) {
   return std::holds_alternative<FixedIndex>(material) || std::holds_alternative<FixedDielectric>(material);
 }
 
+std::string OnOneLine(std::string text) {
+  std::ranges::replace(text, '\n', ' ');
+  return text;
+}
+
+/// The method by its label, which tells p; by its name where that tells more, as of two forms of diffraction, or where
+/// there is no label.
+std::string MethodMark(const RunRequest& asked) {
+  const std::string label = OnOneLine(asked.words.methodLabel);
+  const bool named = asked.method.method != Method::Mie && !asked.words.method.starts_with(label);
+  return named ? label : asked.words.method;
+}
+
 std::string SizeMark(const Results& results) {
   const RunRequest& asked = results.asked;
   if (std::holds_alternative<TwoAngleRun>(asked.run)) return "";
@@ -235,18 +248,29 @@ std::vector<std::string> ParameterLinesOf(const Results& results) {
   return lines;
 }
 
+std::vector<std::string> ChangeLinesOf(const Results& results, const Look& look) {
+  const RunRequest& asked = results.asked;
+  const Drawing drawing = asked.graph.drawing;
+  if (drawing == Drawing::PhasorDiagram || drawing == Drawing::TwoAngleChart) return {};
+  std::vector<std::string> lines;
+  const bool disc = look.sun.disc && RowsOf(asked.run) != nullptr;
+  if (disc) lines.emplace_back(look.sun.rectangular ? "Light: Sun's disc, rectangular" : "Light: Sun's disc");
+  const bool intensities =
+      asked.graph.quantity == Quantity::Intensity && !std::holds_alternative<ConvergenceRun>(asked.run);
+  if (intensities && look.amplitude) lines.emplace_back("Amplitudes in place of intensities");
+  if (intensities && look.invWavelength)
+    lines.emplace_back(look.amplitude ? "Amplitude independent of wavelength" : "Intensity independent of wavelength");
+  if (look.averageWidth) lines.push_back("Running mean over " + Number(*look.averageWidth) + UnitOfAxis(asked.graph));
+  if (look.interpolate) lines.emplace_back("Cubic interpolation");
+  return lines;
+}
+
 std::vector<std::string> MarksOf(const Results& results) {
   const RunRequest& asked = results.asked;
-  const bool named = asked.method.method != Method::Mie && !asked.words.methodLabel.empty();
-  std::string method = named ? asked.words.methodLabel : asked.words.method;
-  std::ranges::replace(method, '\n', ' ');
   const bool oneWavelength = !asked.light.spectrum && !asked.graph.WavelengthAxis();
-  return {method,
-          asked.method.divideBySize ? "divided by x" : "",
-          SizeMark(results),
-          MaterialMark(results, false),
-          MaterialMark(results, true),
-          oneWavelength ? Number(1000 * asked.light.lambda) + " nm" : "",
+  return {MethodMark(asked),           asked.method.divideBySize ? "divided by x" : "",
+          SizeMark(results),           MaterialMark(results, false),
+          MaterialMark(results, true), oneWavelength ? Number(1000 * asked.light.lambda) + " nm" : "",
           AnglesAsked(asked)};
 }
 
@@ -260,7 +284,8 @@ std::vector<std::string> FinerMarksOf(const Results& results) {
   return {sphere.empty() ? "" : "n = " + sphere, medium.empty() ? "" : "medium n = " + medium,
           step == 0  ? ""
           : logSteps ? Number(step) + " steps"
-                     : "step " + Number(step)};
+                     : "step " + Number(step),
+          asked.words.method, OnOneLine(asked.words.methodLabel)};
 }
 
 std::string TimeWords(double seconds) {

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "pages/look.h"
 #include "runs/results.h"
 
 namespace lumivex {
@@ -15,6 +16,9 @@ std::string MethodLabelOf(const Results& results);
 
 /// The parameters of a run in words, a line each.
 std::vector<std::string> ParameterLinesOf(const Results& results);
+
+/// What the look makes of the numbers of a run before they are drawn and saved, a line each.
+std::vector<std::string> ChangeLinesOf(const Results& results, const Look& look);
 
 /// What may tell a run from others on its page, and what tells it from those that agree in all of that: see PageRun.
 std::vector<std::string> MarksOf(const Results& results);

@@ -122,7 +122,7 @@ struct PageCurve {
   std::size_t run = 0;       ///< index of the run that it comes from
   int kind = 1;              ///< 1 perpendicular, 2 parallel, 3 unpolarised; a ratio of the matrix in this order
   std::string name;          ///< polarisation, efficiency or ratio that it is
-  std::string keyName;       ///< what the key prints in place of the name, where it says more; otherwise empty
+  std::string keyName;       ///< what key and tables say in place of the name, where it is more; otherwise empty
   SharedValues x;            ///< in the unit of the x axis; in a polar plot the polar angle (degrees)
   SharedValues y;            ///< after the fold with the solar disc
   SharedValues angle;        ///< what runs along the curve where x does not: the scattering angle (degrees) where x

@@ -54,6 +54,9 @@ QColor NightInk(Colour colour) {
   }
   float hue = 0, saturation = 0, lightness = 0;
   ink.getHslF(&hue, &saturation, &lightness);
+  // A second curve is the darker one of its colour on light paper; here it is the paler one.
+  lightness = std::max(lightness, 1 - 0.8F * lightness);
+  ink.setHslF(hue, saturation, lightness);
   while (!Reads(ink) && lightness < 0.95F) {
     lightness += 0.02F;
     ink.setHslF(hue, saturation, lightness);

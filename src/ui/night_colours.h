@@ -12,8 +12,8 @@ namespace lumivex {
 /// Of an area: the paper takes the colour of the window and the pale ground a darker one, all others stay.
 QColor NightFill(Colour colour);
 
-/// Of a line or a text: grid and logo keep in the background, black is near white, what would be too dark is lighter in
-/// its own hue.
+/// Of a line or a text: grid and logo keep in the background, black is near white, what would be too dark is paler than
+/// the full colour of its hue, so that both can be told apart.
 QColor NightInk(Colour colour);
 
 }  // namespace lumivex

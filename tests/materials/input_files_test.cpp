@@ -57,6 +57,13 @@ TEST_F(InputFiles, DamagedIndexFilesAreToldAndKeepTheTable) {
             opening + "\n\nLine 16: a number from 1 to 32767 is needed");
   EXPECT_EQ(IndexMessage(With(good, "2, 1.02, 0.002", "2, 1.02, 0.002, 7")),
             opening + "\n\nLine 18: more than 3 numbers in a row (decimals need a point)");
+  EXPECT_EQ(IndexMessage(With(good, "2, 1.02, 0.002", "2")), opening + "\n\nLine 18: a row has 3 numbers here");
+  EXPECT_EQ(IndexMessage(With(good, "3, 1.03, 0.003", "3, 1.03\n\n")),
+            opening + "\n\nLine 19: the file ends too early");
+  EXPECT_EQ(IndexMessage("\xFF\xFEL" + std::string(1, '\0')),
+            opening + "\n\nThis file is encoded in UTF-16: please save it as UTF-8");
+  EXPECT_EQ(IndexMessage(std::string("\0L\0u", 4)),
+            opening + "\n\nThis file is encoded in UTF-16: please save it as UTF-8");
   EXPECT_EQ(IndexMessage(good + "\n4, 1.04, 0.004\n"),
             opening + "\n\nLine 21: there is more than the rows that the file announces");
   EXPECT_EQ(IndexMessage("Lumi\x01\xFF" + std::string(60, 'v') + "\n"),
@@ -70,6 +77,26 @@ TEST_F(InputFiles, DamagedIndexFilesAreToldAndKeepTheTable) {
   ASSERT_EQ(mkfifo(Path("pipe.rix").c_str(), 0600), 0);
   EXPECT_FALSE(ReadRefIndex1(Now(), Path("pipe.rix")));  // does not wait for a writer
   EXPECT_EQ(State().FileRows1, 3);
+}
+
+TEST_F(InputFiles, PathsAreToldReadablyAndWhole) {
+  const std::string folders(60, 'v'), path = Path("\x1B[31m" + folders + ".rix");
+  EXPECT_FALSE(ReadRefIndex1(Now(), path));
+  EXPECT_EQ(LastText(),
+            "Error in refractive index data file: " + Path("?[31m" + folders + ".rix") + "\n\nThe file is not there");
+  EXPECT_FALSE(ReadSpectrum(Now(), Path("line\nend.spe")));
+  EXPECT_NE(LastText().find(Path("line?end.spe")), std::string::npos) << LastText();
+}
+
+TEST_F(InputFiles, AMaterialWithoutNameIsCalledSo) {
+  ASSERT_TRUE(ReadDroppedFile(Now(), Write("nameless.rix", With(IndexFileText(3), "Testite", ""))));
+  EXPECT_EQ(Get("lblSphere"), "Sphere: unnamed material");
+  EXPECT_EQ(State().SphereName, "unnamed material");
+  Do("dialog dlogRI_User1 ok txtMaterial1=\nclick mnuRI_User1");
+  EXPECT_EQ(Get("lblSphere"), "Sphere: unnamed material");
+  EXPECT_EQ(State().SphereName, "unnamed material");
+  Do("dialog dlogRI_User2 ok txtMaterial2=\nclick mnuRI_User2");
+  EXPECT_EQ(Get("lblRI_Medium"), "Medium: unnamed material");
 }
 
 TEST_F(InputFiles, SpectraMustAgreeWithTheirHeader) {
@@ -91,6 +118,15 @@ TEST_F(InputFiles, SpectraMustAgreeWithTheirHeader) {
   EXPECT_NE(message(With(good, "390, 2", "390, 2,5")).find("Line 9: more than 2 numbers"), std::string::npos);
   EXPECT_NE(message(good + "410 3\n").find("Line 11: there is more"), std::string::npos);
   EXPECT_TRUE(ReadSpectrum(Now(), Write("good.spe", With(good, "380.0", "380.000001"))));  // the same single
+  EXPECT_TRUE(ReadSpectrum(Now(), exampleFolder + "white_led.spe"));
+  // The steps of a uniform file are counted: a row may be rounded, not stand elsewhere.
+  EXPECT_NE(message(With(good, "390, 2", "385, 2")).find("Line 9: this wavelength is not"), std::string::npos);
+  EXPECT_TRUE(ReadSpectrum(Now(), Write("good.spe", With(good, "390, 2", "391, 2"))));
+  EXPECT_TRUE(ReadSpectrum(Now(), exampleFolder + "white_led.spe"));
+  const std::string lines = "Lumivex\n\nnon-uniform\n\n380, 400, 4\n\n\n380, 1\n384, 2\n385, 3\n400, 4\n";
+  EXPECT_NE(message(With(lines, "385, 3", "383, 3")).find("Line 10: the wavelengths must ascend"), std::string::npos);
+  EXPECT_NE(message(With(lines, "384, 2", "384, -2")).find("Line 9: an intensity must not be"), std::string::npos);
+  EXPECT_TRUE(ReadSpectrum(Now(), Write("good.spe", lines)));
   EXPECT_TRUE(ReadSpectrum(Now(), exampleFolder + "mercury_lamp.spe"));
   EXPECT_EQ(State().SpectrumFileNonUniform, 1);
 }
@@ -192,6 +228,9 @@ TEST(ImportedTables, AreReadInTheWritingsOfManyPrograms) {
       "wavelength(angstrom),k (extinction),n\n5000,.25,+1.5\n",
       "# Wavelength (nm)  n  k\n500 1.5 0.25\n",
       "wavelength (mm) n k\n5e-4 1.5 2.5d-1\n",
+      "wavelength (A),n,k\n5000,1.5,0.25\n",
+      "Wavelength (micrometres in vacuum),refractive index,extinction coefficient\n0.5,1.5,0.25\n",
+      "Wavelength (pm), as a title\nwavelength (nm),n,k\n500,1.5,0.25\n",
       "Energy (eV),n,k\n2.479683968,1.5,0.25\n",
       "Wavenumber (cm^-1),n,k\n20000,1.5,0.25\n",
       "Gold, as measured in nm units by nobody\n0.5,1.5,0.25\n\n,,,\n",
@@ -217,6 +256,13 @@ TEST(ImportedTables, NeverLoseARowInSilence) {
       {"0.4,1.5\nx,y\n0.6,1.3\n", "Line 2: \"x\" is not a number"},
       {"0.4,1.5\nremeasured in nm\n", "Line 2: a row has 2 cells here, not 3"},
       {"0.4\n", "Line 1: a wavelength and its index are needed"},
+      {"wavelength (THz),n\n600,1.5\n", "Line 2: the unit in the heading \"wavelength (THz)\" is not known"},
+      {"# wavelength (pm) n k\n600 1.5 0\n", "Line 2: the unit in the heading \"wavelength (pm)\" is not known"},
+      {"Energy,n\n2,1.5\n", "Line 2: the unit in the heading \"Energy\" is not known"},
+      {"wl,eps1,eps2\n0.6,2.2,0\n", "Line 2: the heading \"eps1\" is neither n nor k"},
+      {"wl;T;R\n0.6;0.9;0.1\n", "Line 2: the heading \"T\" is neither n nor k"},
+      {"wavelength (um),n,k\n0.4,1.5,0\nwavelength (nm),n,k\n500,1.52,0\n",
+       "Line 3: only a block of k may have a heading here"},
       {"0.4,1.5\n0.5,1" + std::string(50, 'x') + "\n", "Line 2: \"1" + std::string(39, 'x') + "\" is not a number"},
   };
   for (const auto& [text, message] : damaged) EXPECT_EQ(Csv(text).detail, message) << text;
@@ -226,6 +272,8 @@ TEST(ImportedTables, NeverLoseARowInSilence) {
   EXPECT_EQ(Yaml("DATA:\n - type: formula 10\n").detail, "Line 2: \"formula 10\" is not a known kind of data");
   EXPECT_EQ(Yaml("DATA:\n - type: formula 1\n   wavelength_range: 0.2 1\n   coefficients: 0 one\n").detail,
             "Line 4: the coefficients of a formula are numbers");
+  EXPECT_EQ(Yaml("DATA:\n - type: formula 2\n   wavelength_range: 0.2 6\n   coefficients: -20 1 0.1\n").detail,
+            "Line 4: the formula gives no index at 0.2 um");
   const auto first = Yaml("DATA:\n  - type: tabulated n\n    data: 0.4 1.5\n      0.5 1.4\nSPECS:\n  n: 3\n");
   EXPECT_EQ(first.detail, "");
   EXPECT_EQ(first.table.count, 2);

@@ -100,6 +100,15 @@ TEST_F(Light, SourcesAreChosenOneAtATime) {
   EXPECT_EQ(Get("mnuSpectrumFile"), "true");
 }
 
+// As one that is dropped: at one wavelength it would be read and change nothing.
+TEST_F(Light, ASpectrumReadByTheMenuIsPutToUse) {
+  Now().form1.cboWave.Text = "1";
+  Do("open " + exampleFolder + "white_led.spe\nclick mnuSpectrumFile");
+  EXPECT_EQ(Get("mnuSpectrumFile"), "true");
+  EXPECT_EQ(Get("cboWave"), "Med.");
+  EXPECT_TRUE(Shown().empty()) << LastText();
+}
+
 TEST_F(Light, TheIncidentPowerIsWrittenOnceItIsGood) {
   Do("dialog dlogIncident ok txtIncidentPD=0");
   AskIncidentLight(Now());

@@ -242,6 +242,8 @@ TEST_F(Curves, TheScatteringMatrixHasItsRatiosBelow) {
     EXPECT_NE(DrawingReader(surface).Text(curve.name), nullptr) << curve.name;
   }
   EXPECT_THAT(names, testing::ElementsAre("S11", "S34/S11", "S33/S11", "S12/S11"));
+  for (std::size_t i = 1; i < page.curves.size(); ++i)
+    EXPECT_NE(page.curves[i].colour, page.curves[0].colour) << page.curves[i].name << " beside S11 in the key";
   std::ranges::sort(colours);
   EXPECT_EQ(std::ranges::unique(colours).size(), 0U) << "three colours";
   EXPECT_THAT(TableAsText(page), testing::StartsWith("Scattering angle (deg.)\tS11\tS34/S11\tS33/S11\tS12/S11\n0\t"));

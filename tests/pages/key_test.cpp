@@ -43,6 +43,8 @@ TEST_F(Key, TellsCurvesByWhatTheirRunsDifferIn) {
       {"click cmdNewPlot\nclick cmdOverPlot", {"", ""}},
       {"click cmdNewPlot\nset txtRadius 5\nclick cmdOverPlot", {"r = 10 \u00B5m", "r = 5 \u00B5m"}},
       {"click cmdNewPlot\nchoose cboType Debye\nchoose cboRays 2\nclick cmdOverPlot", {"Mie", "Debye series (p = 2)"}},
+      {"choose cboType Diffraction\nclick cmdNewPlot\nclick mnuDiffractionNew\nclick cmdOverPlot",
+       {"Diffraction", "Diffraction new"}},
       {"click cmdNewPlot\nset txtLambda 0.45\nset txtRadius 3\nclick cmdOverPlot",
        {"r = 10 \u00B5m, 650 nm", "r = 3 \u00B5m, 450 nm"}},
       {"click mnuRI_Fixed1\nset txtRefractImag 0\nset txtRefractReal 1.4\nclick cmdNewPlot\nset txtRefractReal "
@@ -131,6 +133,54 @@ TEST_F(Key, StandsBelowEveryGraphOfSeveralCurves) {
   }
   Do("reset\nchoose cboPol Unpolarised\nclick cmdNewPlot\ndrawing");
   EXPECT_EQ(Read().Text("Unpolarised"), nullptr) << "one curve needs no key";
+}
+
+TEST_F(Key, NamesWhatOneCurveStandsForInTheTableToo) {
+  Do("choose cboGraph Qext/Qsca/Qabs v. radius\nclick mnuRI_Fixed1\nset txtRefractImag 0\nset cboStep 50\n"
+     "click cmdNewPlot");
+  EXPECT_THAT(Columns(), ElementsAre("Qext = Qsca   Qabs = 0"));
+  // These have no polarisations, with absorption or without.
+  const std::vector<std::pair<std::string, std::string>> graphs = {{"Qback v. radius", "Qback"},
+                                                                   {"Qradar v. radius", "Qradar"},
+                                                                   {"Asymmetry g v. radius", "Asymmetry parameter g"},
+                                                                   {"Albedo v. radius", "Albedo"}};
+  for (const auto& [graph, name] : graphs) {
+    Do("set txtRefractImag 0.1\nchoose cboPol All 3\nchoose cboGraph " + graph + "\nset cboStep 50\nclick cmdNewPlot");
+    EXPECT_THAT(Columns(), ElementsAre(name));
+  }
+}
+
+TEST_F(Key, TellsDegreesOfPolarisationOfSeveralRuns) {
+  Do("choose cboPol Both\nclick mnuIntPol\nclick cmdNewPlot\nclick mnuBlueLine\nset txtRadius 5\nclick cmdOverPlot\n"
+     "drawing");
+  const double below = Drawn().panels.back().box.bottom;
+  for (const char* name : {"r = 10 \u00B5m: Degree of linear polarisation", "r = 5 \u00B5m: Parallel polarisation",
+                           "r = 5 \u00B5m: Degree of linear polarisation"}) {
+    const DrawnOperation* text = Read().Text(name);
+    ASSERT_NE(text, nullptr) << name;
+    EXPECT_GT(text->points[0].y, below) << name;
+  }
+}
+
+// It was printed over the curves of a graph that reached below the window, and through the title of slides.
+TEST_F(Key, StandsBelowTheTitleOfTheAxisOnALowSurface) {
+  for (const char* size : {"click mnuLarge", "click mnuVLarge", "click mnuLarge\nclick mnuSizeSpecial"}) {
+    for (const double px : {560, 660}) {
+      SCOPED_TRACE(size + (" " + std::to_string(px)));
+      Do("reset\nsize 1366x" + Shortest(px));
+      Do(size);
+      Do("choose cboPol All 3\nset cboStep 1\nclick cmdNewPlot\ndrawing");
+      const DrawnOperation* title = Read().Text("Scattering angle (deg.)");
+      ASSERT_NE(title, nullptr);
+      EXPECT_GT(title->points[0].y, Drawn().panels.back().box.bottom);
+      for (const char* name : {"Perpendicular polarisation", "Parallel polarisation", "Unpolarised"}) {
+        const DrawnOperation* text = Read().Text(name);
+        ASSERT_NE(text, nullptr) << name;
+        EXPECT_GE(text->points[0].y, title->points[0].y + title->height) << name;
+        EXPECT_LE(text->points[0].y + text->height, Drawn().geometry.surfaceHeight) << name;
+      }
+    }
+  }
 }
 
 TEST_F(Key, LeavesOutNoCurveWhileThereIsRoom) {

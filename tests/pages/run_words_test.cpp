@@ -51,6 +51,24 @@ TEST_F(RunWordsTest, SizesFromATableAreItsOwn) {
   EXPECT_THAT(Lines(), Each(Not(AnyOf(StartsWith("Radius"), StartsWith("Size parameter")))));
 }
 
+// Numbers that had been changed stood in files under the parameters of those that had not.
+TEST_F(RunWordsTest, WhatTheLookMadeOfTheNumbersIsTold) {
+  Do("set cboStep 0.2\nset cboWave 9\nclick cmdNewPlot");
+  EXPECT_THAT(Lines(), Each(Not(AnyOf(HasSubstr("disc"), HasSubstr("mplitude"), HasSubstr("Cubic"), HasSubstr("mean"),
+                                      HasSubstr("independent")))));
+  Do("dialog dlogAverage ok txtAverage=5\nclick mnuAverage\nclick mnuInterpolate\nclick mnuAmplitude\nclick optSun\n"
+     "click cmdNewPlot");
+  for (const char* line : {"Light: Sun's disc", "Amplitudes in place of intensities", "Running mean over 5\u00B0",
+                           "Cubic interpolation"}) {
+    EXPECT_THAT(Lines(), Contains(line));
+    EXPECT_THAT(TableWithHeader(Drawn()), HasSubstr(std::string("# ") + line + "\n"));
+  }
+  Do("click mnuAmplitude\nclick mnuInvWavelength\nclick mnuSun\nclick cmdNewPlot");
+  EXPECT_THAT(Lines(), Contains("Intensity independent of wavelength"));
+  EXPECT_THAT(Lines(), Contains("Light: Sun's disc, rectangular"));
+  EXPECT_THAT(Lines(), Not(Contains("Amplitudes in place of intensities")));
+}
+
 TEST_F(RunWordsTest, AnglesStandInTablesAsTheyWouldBeTyped) {
   Do("set cboStep 0.1\nclick cmdNewPlot");
   std::istringstream table(TableAsCsv(Drawn()));

@@ -5,7 +5,8 @@
   make_reference.py --check   tells for each table the largest difference, relative to the modulus
 
 The rows (sphere, angle, term) and the comments are those of the table; only the values are calculated. The inputs of the
-Mie tables are the doubles nearest to what is printed, those of the Debye table what is printed. Bessel functions go upward with as many further digits as the recurrence loses, so that nothing here shares a method with the program.
+Mie tables are the doubles nearest to what is printed, those of the Debye table what is printed. Bessel functions go upward
+with as many further digits as the recurrence loses, so that nothing here shares a method with the program.
 """
 import pathlib
 import sys

@@ -36,6 +36,14 @@ TEST_F(InputMarks, GoWhenTheirOwnInputChanges) {
   }
 }
 
+TEST_F(InputMarks, GoWhenAMaterialWritesTheField) {
+  Do("click mnuRI_Fixed1\nset txtRefractReal -1\nclick cmdNewPlot");
+  EXPECT_EQ(Get("txtRefractReal.BackColour"), "255");
+  Do("click mnuRI_IAPWS");
+  EXPECT_EQ(Get("txtRefractReal"), "1.3325704");
+  EXPECT_EQ(Get("txtRefractReal.BackColour"), "16777215");
+}
+
 TEST_F(InputMarks, HiddenInputsNeverRefuseARun) {
   struct HiddenCase {
     const char *typed, *then;
@@ -124,6 +132,11 @@ TEST_F(InputMarks, MenusFollowTheWavelengthsAndTheMethod) {
   EXPECT_EQ(Get("mnuAverage.Visible"), "false");
   Do("set cboWave 7");
   EXPECT_EQ(Get("mnuAverage.Visible"), "true");
+  for (const char* width : {"abc", "-5", "0", ""}) {
+    Do("dialog dlogAverage ok txtAverage=" + std::string(width) + "\nclick mnuAverage");
+    EXPECT_EQ(LastText(), "Value must be positive") << width;
+    EXPECT_EQ(Get("mnuAverage") + Get("dlogAverage.txtAverage"), "false1") << width;
+  }
   Do("click mnuAverage\nset cboWave 1");
   EXPECT_EQ(Get("mnuAverage.Visible"), "true") << "or the average could not be taken away";
   Do("click mnuAverage\nset cboWave 3\nset cboWave 1");

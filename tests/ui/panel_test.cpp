@@ -248,6 +248,10 @@ TEST_F(PanelTest, WhatIsDrawnOnADarkPageReads) {
   for (const Colour ink : {colours::Black, RGB(96, 96, 96), RGB(128, 0, 0), RGB(0, 0, 255), RGB(0, 0, 128)})
     EXPECT_GE(Contrast(NightInk(ink), ground), 3.9) << ink.value;
   EXPECT_EQ(NightInk(RGB(255, 0, 0)), QColor(255, 0, 0)) << "what reads already keeps its colour";
+  for (const Colour full : {RGB(255, 0, 0), RGB(0, 255, 0), RGB(0, 0, 255), RGB(255, 0, 255), RGB(0, 128, 255)}) {
+    const QColor first = NightInk(full), second = NightInk(RGB(full.Red() / 2, full.Green() / 2, full.Blue() / 2));
+    EXPECT_GT(std::abs(first.lightnessF() - second.lightnessF()), 0.09) << full.value << ": two curves of one colour";
+  }
   EXPECT_EQ(NightFill(colours::Black), QColor(Qt::black)) << "the ground of a spectrum";
 }
 

@@ -27,10 +27,23 @@ constexpr SpectralUnit units[] = {
     {"angstroms", 1e-4},
     {"\u00E5", 1e-4},
     {"\u00C5", 1e-4},
+    {"\u212B", 1e-4},
+    {"\xC5", 1e-4},  // as Latin-1 writes it
+    {"\u00E5ngstr\u00F6m", 1e-4},
+    {"\u00C5ngstr\u00F6m", 1e-4},
     {"nm", 1e-3},
+    {"nanometer", 1e-3},
+    {"nanometers", 1e-3},
+    {"nanometre", 1e-3},
+    {"nanometres", 1e-3},
     {"um", 1},
     {"\u00B5m", 1},
     {"\u03BCm", 1},
+    {"\xB5m", 1},
+    {"micrometer", 1},
+    {"micrometers", 1},
+    {"micrometre", 1},
+    {"micrometres", 1},
     {"micron", 1},
     {"microns", 1},
     {"mm", 1e3},
@@ -38,8 +51,18 @@ constexpr SpectralUnit units[] = {
     {"ev", electronVolt, true},
     {"cm-1", 1e4, true},
 };
-constexpr std::string_view spectralWords[] = {"wavelength", "wavelengths", "lambda",     "\u03BB",     "\u039B",
-                                              "wl",         "energy",      "wavenumber", "wavenumbers"};
+constexpr std::string_view spectralWords[] = {"wavelength", "wavelengths", "lambda",     "\u03BB",      "\u039B",
+                                              "wl",         "energy",      "wavenumber", "wavenumbers", "frequency"};
+/// Of these no unit is understood by itself.
+constexpr std::string_view wordsThatNeedUnit[] = {"energy", "wavenumber", "wavenumbers", "frequency"};
+/// What may stand where the unit does without being one.
+constexpr std::string_view remarksBesideUnit[] = {"in", "vacuum", "vac", "air"};
+/// Units that no column is read in, told apart from other words.
+constexpr std::string_view foreignUnits[] = {"fm",  "pm",  "cm",  "km",  "hz",   "khz", "mhz",
+                                             "ghz", "thz", "mev", "kev", "nm-1", "um-1"};
+/// How the columns of an index are called in words. A name of k may hold one of n: "imaginary refractive index".
+constexpr std::string_view wordsOfN[] = {"index", "refractive", "ri", "nr"};
+constexpr std::string_view wordsOfK[] = {"extinction", "kappa", "imaginary", "imag", "im", "ki"};
 constexpr std::string_view writingsOfPerCm[] = {"cm^-1", "cm^{-1}", "cm\u207B\u00B9", "1/cm"};
 
 std::string Lower(std::string_view text) {
@@ -48,11 +71,17 @@ std::string Lower(std::string_view text) {
   return lower;
 }
 
-/// The words of a heading: "Wavelength (cm^-1)" has two, "wavelength" and "cm-1".
-std::vector<std::string> WordsOf(std::string_view heading) {
+/// A heading in small letters, with "cm-1" for all its writings.
+std::string Plain(std::string_view heading) {
   std::string text = Lower(heading);
   for (const auto writing : writingsOfPerCm)
     if (const auto at = text.find(writing); at != std::string::npos) text.replace(at, writing.size(), "cm-1");
+  return text;
+}
+
+/// The words of a heading: "Wavelength (cm^-1)" has two, "wavelength" and "cm-1".
+std::vector<std::string> WordsOf(std::string_view heading) {
+  const std::string text = Plain(heading);
   std::vector<std::string> words(1);
   for (const char c : text) {
     if (std::string_view(" \t()[]{}/_:=,'*").find(c) == std::string_view::npos)
@@ -69,8 +98,31 @@ const SpectralUnit* FindUnit(std::string_view word) {
   return unit == std::end(units) ? nullptr : unit;
 }
 
+template <std::size_t count>
+bool IsOneOf(const std::string_view (&words)[count], std::string_view word) {
+  return std::ranges::find(words, word) != std::end(words);
+}
+
 bool IsSpectral(const std::string& word) {
-  return FindUnit(word) != nullptr || std::ranges::find(spectralWords, word) != std::end(spectralWords);
+  return FindUnit(word) != nullptr || IsOneOf(spectralWords, word);
+}
+
+/// What stands in brackets or behind a slash: the places of a unit.
+std::string PlacesOfUnit(std::string_view heading) {
+  std::string inside;
+  char until = 0;
+  for (const char c : Plain(heading)) {
+    const auto bracket = std::string_view("([{/").find(c);
+    if (until != 0 && c == until) {
+      until = 0;
+      inside += ' ';
+    } else if (until != 0) {
+      inside += c;
+    } else if (bracket != std::string_view::npos) {
+      until = ")]} "[bracket];
+    }
+  }
+  return inside;
 }
 
 enum class CellKind { Spectral, N, K, Other };
@@ -84,6 +136,7 @@ CellKind KindOf(const std::vector<std::string>& words) {
 
 /// The headings of a line, cell by cell.
 struct Headings {
+  std::vector<std::string> texts;
   std::vector<std::vector<std::string>> words;
   std::vector<CellKind> kinds;
 
@@ -93,10 +146,12 @@ struct Headings {
       // "wavelength (um) n k": the unit is no column of its own.
       if (!words.empty() && cell.starts_with('(')) {
         words.back().insert(words.back().end(), ofCell.begin(), ofCell.end());
+        texts.back() += ' ' + cell;
         continue;
       }
       kinds.push_back(KindOf(ofCell));
       words.push_back(std::move(ofCell));
+      texts.push_back(cell);
     }
   }
 
@@ -117,7 +172,34 @@ struct Headings {
   const SpectralUnit* UnitOf(std::size_t column) const {
     for (const auto& word : words[column])
       if (const auto* unit = FindUnit(word)) return unit;
-    return nullptr;
+    // One letter alone is a name, and within a sentence an article; in brackets or behind the name it is the unit.
+    const auto inside = WordsOf(PlacesOfUnit(texts[column]));
+    const bool letter = words[column].size() > 1 && words[column].back() == "a";
+    return letter || (!inside.empty() && inside.front() == "a") ? FindUnit("angstrom") : nullptr;
+  }
+
+  /// Whether a column has a unit that is not known, or lacks one that it needs.
+  bool HasStrangeUnit(std::size_t column) const {
+    const auto strange = [](const std::string& word) {
+      return word != "a" && !IsSpectral(word) && !IsOneOf(remarksBesideUnit, word);
+    };
+    const auto foreign = [](const std::string& word) { return IsOneOf(foreignUnits, word); };
+    const auto needing = [](const std::string& word) { return IsOneOf(wordsThatNeedUnit, word); };
+    return std::ranges::any_of(WordsOf(PlacesOfUnit(texts[column])), strange) ||
+           std::ranges::any_of(words[column], foreign) ||
+           (UnitOf(column) == nullptr && std::ranges::any_of(words[column], needing));
+  }
+
+  /// Whether a column that no letter names may be n, or k, by its place: one without a heading may.
+  bool MayBeN(std::size_t column) const {
+    return words[column].empty() || (!Speaks(column, wordsOfK) && Speaks(column, wordsOfN));
+  }
+  bool MayBeK(std::size_t column) const { return words[column].empty() || Speaks(column, wordsOfK); }
+
+ private:
+  template <std::size_t count>
+  bool Speaks(std::size_t column, const std::string_view (&of)[count]) const {
+    return std::ranges::any_of(words[column], [&of](const std::string& word) { return IsOneOf(of, word); });
   }
 };
 
@@ -128,6 +210,7 @@ struct Columns {
   std::optional<std::size_t> n = 1, k = 2;
   SpectralUnit unit{"um", 1};
   bool named = false;  ///< n or k has a heading
+  std::string fault;   ///< why rows below the heading cannot be told apart; a title that looks like one needs no rows
 
   double Micrometres(double value) const { return unit.inverse ? unit.micrometres / value : value * unit.micrometres; }
 
@@ -149,7 +232,17 @@ struct Columns {
       n = lambda == 0 ? 1 : 0;
       k = count > 2 ? std::optional<std::size_t>(lambda == 2 ? 1 : 2) : std::nullopt;
     }
+    fault = FaultOf(headings);
     return true;
+  }
+
+  std::string FaultOf(const Headings& headings) const {
+    const auto quoted = [&headings](std::size_t column) { return '"' + Readable(headings.texts[column]) + '"'; };
+    if (headings.HasStrangeUnit(lambda)) return "the unit in the heading " + quoted(lambda) + " is not known";
+    if (named) return {};
+    if (!headings.MayBeN(*n)) return "the heading " + quoted(*n) + " is neither n nor k";
+    if (k && !headings.MayBeK(*k)) return "the heading " + quoted(*k) + " is neither n nor k";
+    return {};
   }
 
   /// @return empty, or why a row of so many cells cannot be told apart.
@@ -177,8 +270,9 @@ class CsvReader {
     const bool looksLikeRow = !remark && BeginsAsNumber(std::string_view(line).substr(start));
     if (!looksLikeRow) {
       Columns heading = columns_;
-      // Below the first row only a new block of n or k has one.
-      const bool isHeading = heading.TakeHeading(cells, mayBeSentence) && (!rowsMet_ || (heading.named && !remark));
+      const bool isHeading = heading.TakeHeading(cells, mayBeSentence) && !(rowsMet_ && remark);
+      // Below the first row only a block of k has one: rows of other columns or units would mix with those above.
+      if (isHeading && rowsMet_ && !(heading.k && !heading.n)) return "only a block of k may have a heading here";
       if (isHeading) columns_ = heading;
       if (remark || isHeading || !rowsMet_) return {};
     }
@@ -190,6 +284,7 @@ class CsvReader {
 
  private:
   std::string Row(const std::vector<std::string>& cells) {
+    if (!columns_.fault.empty()) return columns_.fault;
     if (std::string fault = columns_.Expect(cells.size()); !fault.empty()) return fault;
     std::string fault;
     const auto number = [&](std::optional<std::size_t> column) -> std::optional<double> {

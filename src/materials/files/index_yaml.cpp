@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <string>
@@ -33,6 +34,14 @@ std::optional<std::vector<double>> Numbers(std::string_view line) {
     numbers.push_back(*number);
   }
   return numbers;
+}
+
+std::string Short(double value) {
+  constexpr int digits = 6;
+  std::array<char, 32> buffer{};
+  const auto [end, error] =
+      std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::general, digits);
+  return {buffer.data(), end};
 }
 
 /// A line of the file as "key: value"; the dash of a list belongs to neither.
@@ -116,7 +125,9 @@ class YamlReader {
       const double lambda =
           i == formulaSteps ? high_ : low_ * std::pow(high_ / low_, static_cast<double>(i) / formulaSteps);
       const double index = DispersionFormula(formula_, *coefficients, lambda);
-      if (std::isfinite(index)) curves_.Add(lambda, index, std::nullopt);
+      // A table with gaps would be read straight across them.
+      if (!std::isfinite(index) || !curves_.Add(lambda, index, std::nullopt))
+        return "the formula gives no index at " + Short(lambda) + " um";
     }
     return {};
   }

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <limits>
 #include <system_error>
+#include <utility>
 
 #include "materials/files/readable_text.h"
 
@@ -26,6 +27,15 @@ bool IsLineEnd(int c) {
 
 void Append(std::string& text, int c) {
   if (text.size() < longestItem) text += static_cast<char>(c);
+}
+
+/// Whether a file begins as a text in UTF-16 does: with its byte-order mark, or with a plain character of two bytes.
+bool IsUtf16(std::istream& file) {
+  const int first = file.get(), second = file.get();
+  file.clear();
+  file.seekg(0);
+  const bool mark = (first == 0xFF && second == 0xFE) || (first == 0xFE && second == 0xFF);
+  return mark || (first > 0 && second == 0) || (first == 0 && second > 0);
 }
 
 }  // namespace
@@ -70,6 +80,7 @@ std::optional<std::string> InputItems::TextIfAny() {
   SkipBlanks();
   if (Peek() == endOfFile) return std::nullopt;
   itemLine_ = line_;
+  rowLine_ = 0;
   std::string text = Peek() == '"' ? Quoted() : Unquoted();
   if (Peek() == ',')
     Take();
@@ -91,12 +102,17 @@ void InputItems::Skip(int items) {
 }
 
 void InputItems::EndRow(int numbers) {
+  const int begun = std::exchange(rowLine_, 0);
   if (Failed() || line_ != itemLine_) return;
   SkipBlanks();
-  if (IsLineEnd(Peek()))
+  if (IsLineEnd(Peek())) {
     TakeLineEnd();
-  else if (Peek() != endOfFile)
+  } else if (Peek() != endOfFile && begun != itemLine_) {
+    itemLine_ = begun;
+    Fail("a row has " + std::to_string(numbers) + " numbers here");
+  } else if (Peek() != endOfFile) {
     Fail("more than " + std::to_string(numbers) + " numbers in a row (decimals need a point)");
+  }
 }
 
 void InputItems::EndData() {
@@ -134,11 +150,16 @@ double InputItems::Number() {
   if (Failed()) return 0;
   const bool more = Peek() != endOfFile;
   const std::string token = NumberToken();
-  if (const auto number = NumberOfItem(token)) return *number;
-  if (token.empty() && (!more || Peek() == endOfFile))
+  if (const auto number = NumberOfItem(token)) {
+    if (rowLine_ == 0) rowLine_ = itemLine_;
+    return *number;
+  }
+  if (token.empty() && (!more || Peek() == endOfFile)) {
+    if (rowLine_ != 0) itemLine_ = rowLine_;  // the row that lacks numbers, not the empty lines below it
     Fail("the file ends too early");
-  else
+  } else {
     Fail("\"" + Readable(token) + "\" is not a number");
+  }
   return 0;
 }
 
@@ -153,6 +174,7 @@ float InputItems::Single() {
 
 int InputItems::Whole(int lowest, int highest) {
   const double number = std::nearbyint(Number());
+  rowLine_ = 0;
   if (Failed()) return lowest;
   if (number >= lowest && number <= highest) return static_cast<int>(number);
   Fail("a number from " + std::to_string(lowest) + " to " + std::to_string(highest) + " is needed");
@@ -181,7 +203,9 @@ std::string OpenInput(std::ifstream& file, const std::string& path) {
   if (std::filesystem::is_directory(status)) return "This is a folder, not a file";
   if (!std::filesystem::is_regular_file(status)) return "This is not a file that can be read";
   file.open(path, std::ios::binary);
-  return file ? "" : "The file cannot be read";
+  if (!file) return "The file cannot be read";
+  if (IsUtf16(file)) return "This file is encoded in UTF-16: please save it as UTF-8";
+  return {};
 }
 
 }  // namespace lumivex

@@ -32,7 +32,7 @@ class InputItems {
   void Skip(int items);
 
   /// The end of a row of so many numbers: more in its line is a failure, as is a comma for a decimal point, which parts
-  /// a number in two.
+  /// a number in two. A row that lacks numbers takes them from the next line: the failure is told of its own line.
   void EndRow(int numbers);
   /// The end of the data: anything but blank lines is a failure, for it would be lost.
   void EndData();
@@ -57,6 +57,7 @@ class InputItems {
   std::streambuf* buffer_;
   int line_ = 1;      ///< where the next character stands
   int itemLine_ = 1;  ///< where the last item began
+  int rowLine_ = 0;   ///< where the first number since the last text or row stands; 0 without one
   std::string failure_;
 };
 
@@ -64,7 +65,7 @@ class InputItems {
 std::optional<double> NumberOfItem(std::string_view text);
 
 /// Opens a regular file for reading.
-/// @return empty, or in one sentence why not: a directory or a device is not read.
+/// @return empty, or in one sentence why not: a directory, a device or a text in UTF-16 is not read.
 std::string OpenInput(std::ifstream& file, const std::string& path);
 
 }  // namespace lumivex

@@ -6,7 +6,7 @@ namespace lumivex {
 
 namespace {
 
-constexpr int longestQuote = 40;
+constexpr std::size_t longestQuote = 40;
 
 /// Bytes of the UTF-8 character at the start of a text; 0 where there is none that can be printed.
 std::size_t PrintableLength(std::string_view text) {
@@ -24,16 +24,24 @@ std::size_t PrintableLength(std::string_view text) {
   return control || direction || surrogateOrLong ? 0 : length;
 }
 
-}  // namespace
-
-std::string Readable(std::string_view text) {
+std::string FirstReadable(std::string_view text, std::size_t longest) {
   std::string readable;
-  for (int count = 0; count < longestQuote && !text.empty(); ++count) {
+  for (std::size_t count = 0; count < longest && !text.empty(); ++count) {
     const std::size_t length = PrintableLength(text);
     readable += length == 0 ? "?" : text.substr(0, length);
     text.remove_prefix(std::max<std::size_t>(length, 1));
   }
   return readable;
+}
+
+}  // namespace
+
+std::string Readable(std::string_view text) {
+  return FirstReadable(text, longestQuote);
+}
+
+std::string ReadablePath(std::string_view path) {
+  return FirstReadable(path, path.size());
 }
 
 }  // namespace lumivex

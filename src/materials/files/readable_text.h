@@ -9,4 +9,7 @@ namespace lumivex {
 /// printed (control characters, bytes that are no UTF-8).
 std::string Readable(std::string_view text);
 
+/// The same of a path, which is told whole.
+std::string ReadablePath(std::string_view path);
+
 }  // namespace lumivex

@@ -23,6 +23,22 @@ int RowCount(const SpectrumFile& file, float third) {
   return whole >= 1 && whole <= mostTableRows ? static_cast<int>(whole) : 0;
 }
 
+/// What is wrong with a row between the limits; empty where nothing is. Uniform spectra are read by counting steps, so
+/// that a wavelength may be rounded but not stand elsewhere; the others between neighbours, which must ascend.
+std::string RowFault(const SpectrumFile& file, int row, double wavelength, double value) {
+  constexpr double rounding = 0.25;  // of a step
+  if (file.nonUniform) {
+    if (row > 1 && wavelength < file.wavelength.back()) return "the wavelengths must ascend";
+    return value < 0 ? "an intensity must not be negative" : "";
+  }
+  if (row == 1 || row == file.points) return {};
+  const double step = (double{file.maximum} - file.minimum) / (file.points - 1);
+  const double expected = file.minimum + step * (row - 1);
+  return std::abs(wavelength - expected) > rounding * std::abs(step)
+             ? "this wavelength is not the one of the header's start and step"
+             : "";
+}
+
 }  // namespace
 
 SpectrumFile ReadSpectrumFile(std::istream& stream) {
@@ -44,6 +60,7 @@ SpectrumFile ReadSpectrumFile(std::istream& stream) {
     if (items.Failed()) break;
     if (i == 1 && static_cast<float>(wavelength) != file.minimum) return Fault(SpectrumFileFault::Minimum);
     if (i == file.points && static_cast<float>(wavelength) != file.maximum) return Fault(SpectrumFileFault::Maximum);
+    if (const auto fault = RowFault(file, i, wavelength, value); !fault.empty()) items.Fail(fault);
     file.wavelength.push_back(wavelength);
     file.value.push_back(value);
   }

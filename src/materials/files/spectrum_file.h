@@ -22,6 +22,8 @@ struct SpectrumFile {
 /// Reads the format .spe: "Lumivex", a line, "non-uniform" or anything, a line, three numbers (minimum, maximum and
 /// step; the third is the number of rows of a non-uniform file), two lines, the rows (wavelength in nanometres,
 /// relative intensity). The first and last wavelength must be the minimum and maximum, compared in single precision.
+/// The others of a uniform file must stand within a quarter of a step of where they are counted; those of a non-uniform
+/// file must not descend, nor its intensities be negative.
 SpectrumFile ReadSpectrumFile(std::istream& stream);
 
 }  // namespace lumivex

@@ -35,21 +35,30 @@ Colour TextColour(Colour curve) {
   return RGB(factor * curve.Red(), factor * curve.Green(), factor * curve.Blue());
 }
 
-/// The second panel of phases and of polarisation has the pens of the first, and a title.
+/// The second panel of phases has the pens and kinds of the first, and a title. The title of the degree of polarisation
+/// tells its curve as long as there is one.
 bool StandsInKey(const Page& page, const PageCurve& curve) {
   if (curve.panel >= page.panels.size()) return false;
-  return !page.panels[curve.panel].second || page.kind.second == SecondPanel::Ratios;
+  if (!page.panels[curve.panel].second || page.kind.second == SecondPanel::Ratios) return true;
+  return page.kind.second == SecondPanel::Polarisation &&
+         std::ranges::any_of(page.curves, [&](const PageCurve& other) { return other.run != curve.run; });
 }
 
-/// All that the key says, each pen and name once. The line of a curve is its kind; ratios come below the curve above
-/// them.
+/// The line of a curve in the key: its kind. Ratios come below the curve above them, the degree of polarisation below
+/// all kinds.
+int LineOf(const Page& page, const PageCurve& curve) {
+  constexpr int belowKinds = 4;
+  if (!page.panels[curve.panel].second) return curve.kind;
+  return page.kind.second == SecondPanel::Polarisation ? belowKinds : curve.kind + 1;
+}
+
+/// All that the key says, each pen and name once.
 std::vector<Entry> EntriesOf(const Page& page) {
   std::vector<Entry> entries;
   const CurveNames names(page);
   for (const PageCurve& curve : page.curves) {
     if (!StandsInKey(page, curve)) continue;
-    const int ratio = page.panels[curve.panel].second ? 1 : 0;
-    const Entry entry{names.InKey(curve), curve.colour, curve.drawStyle, curve.drawWidth, curve.kind + ratio};
+    const Entry entry{names.InKey(curve), curve.colour, curve.drawStyle, curve.drawWidth, LineOf(page, curve)};
     if (std::ranges::find(entries, entry) == entries.end()) entries.push_back(entry);
   }
   std::ranges::stable_sort(entries, {}, &Entry::line);
@@ -89,7 +98,7 @@ Room RoomOf(DrawingSurface& surface, const Page& page, const TickLabels& polarLa
     return {at.polarX + 1.25 * at.polarRadius, std::min(top, bottom - linesOfKey * line), right, bottom};
   }
   const double below = BottomOfXTitle(surface, page) + 0.25 * line;
-  return {page.panels.back().box.left, std::min(below, bottom - line), right, bottom};
+  return {page.panels.back().box.left, below, right, bottom};
 }
 
 double WidthOf(const DrawingSurface& surface, const Entry& entry) {

@@ -18,9 +18,9 @@ class CurveNames {
 
   /// What tells a run of the page from the others; empty for one that needs no telling.
   const std::string& OfRun(std::size_t run) const;
-  /// A curve as read-outs and tables name it.
+  /// A curve as read-outs name it.
   std::string Of(const PageCurve& curve) const;
-  /// A curve as the key names it.
+  /// A curve as key and tables name it: where one stands for several, all that it is.
   std::string InKey(const PageCurve& curve) const;
 
  private:

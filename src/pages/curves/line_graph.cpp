@@ -41,10 +41,18 @@ LinePair PenColours(const RunToDraw& run) {
   return LineColour(run.look.pen, TrueWavelength(run.results));
 }
 
-/// Graphs of which one curve tells all.
+/// Graphs of which one curve tells all: quantities without polarisation, and all of a sphere without absorption.
 bool HasOneCurve(const Results& results) {
   const Graph& graph = results.asked.graph;
-  return graph.quantity == Quantity::Albedo || (results.last.relativeIm == 0 && graph.OfEfficiencies());
+  switch (graph.quantity) {
+    case Quantity::Qback:
+    case Quantity::Qradar:
+    case Quantity::Asymmetry:
+    case Quantity::Albedo:
+      return true;
+    default:
+      return results.last.relativeIm == 0 && graph.OfEfficiencies();
+  }
 }
 
 /// What the one curve of a sphere without absorption says of all three; empty for other quantities.
@@ -128,12 +136,12 @@ bool LookAlike(Colour a, Colour b) {
   return std::abs(a.Red() - b.Red()) + std::abs(a.Green() - b.Green()) + std::abs(a.Blue() - b.Blue()) < apart;
 }
 
-/// Three colours that can be told apart on every background: the line colour, and two that differ from it.
+/// Three colours that can be told apart on every background, and from the line colour, which the curve above has.
 std::array<Colour, 3> RatioColours(Colour line) {
-  static constexpr std::array others = {Colour{0xE06020}, Colour{0x009000}, Colour{0x0000E0}};
+  static constexpr std::array others = {Colour{0xE06020}, Colour{0x009000}, Colour{0x0000E0}, Colour{0xA000A0}};
   std::array<Colour, 3> chosen;
   chosen.fill(line);
-  std::size_t next = 1;
+  std::size_t next = 0;
   for (const Colour other : others)
     if (next < chosen.size() && !LookAlike(other, line)) chosen[next++] = other;
   return chosen;

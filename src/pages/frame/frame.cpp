@@ -12,6 +12,13 @@ namespace {
 /// Between two panels: numbers of the upper one, title of the lower one, and air.
 constexpr double gapBetweenPanels = 800;
 
+/// Below the plot, for the numbers and the title of the axis and a line of the key: as much as a window that scrolls
+/// has below a graph of fixed size. The large letters of slides take more.
+constexpr double roomBelow = 900, roomBelowSlide = 1200;
+
+/// A plot does not get lower than this, whatever the surface.
+constexpr double leastHeight = 1500;
+
 /// Small, medium, large and very large logos.
 double LogoFontSize(GraphSize size) {
   switch (size) {
@@ -49,8 +56,10 @@ void PaintLogo(FramePaint& paint) {
 
 }  // namespace
 
-GraphBox BoxOf(const PageGeometry& geometry, PanelPlace place) {
-  GraphBox box = geometry.box;
+GraphBox BoxOf(const Page& page, PanelPlace place) {
+  GraphBox box = page.geometry.box;
+  const double lowest = page.geometry.surfaceHeight - (page.style.special ? roomBelowSlide : roomBelow);
+  box.bottom = std::min(box.bottom, std::max(lowest, box.top + leastHeight));
   if (place == PanelPlace::Upper) box.bottom = 0.5 * (box.top + box.bottom - gapBetweenPanels);
   if (place == PanelPlace::Lower) box.top = 0.5 * (box.top + box.bottom + gapBetweenPanels);
   return box;
@@ -81,7 +90,7 @@ PagePanel& Grid(Page& page, PanelPlace place, AxisLimits limits, bool second) {
   if (fromZero) limits.xmin = 0;
   PagePanel panel;
   panel.place = place;
-  panel.box = BoxOf(page.geometry, place);
+  panel.box = BoxOf(page, place);
   panel.second = second;
   panel.logY = kind.logY && !second;
   panel.limits = RepairedLimits(limits, kind.logX, panel.logY);

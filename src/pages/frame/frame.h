@@ -4,9 +4,10 @@
 
 namespace lumivex {
 
-/// The plot box of a geometry, or one of its halves: between them there is room for the numbers of the upper one and
-/// the title of the lower one.
-GraphBox BoxOf(const PageGeometry& geometry, PanelPlace place);
+/// The plot box of a page's geometry, or one of its halves: between them there is room for the numbers of the upper one
+/// and the title of the lower one. On a surface too low for it the box ends higher, so that the axis, its title and the
+/// key are on the surface.
+GraphBox BoxOf(const Page& page, PanelPlace place);
 
 /// Adds a frame to a page. Limits that cannot be drawn are repaired; a small xmin on a linear axis becomes 0.
 /// @param second  phases, polarisation or ratios: a scale of their own, which is never logarithmic.

@@ -13,19 +13,21 @@ namespace lumivex {
 
 namespace {
 
-/// Wavefronts and strips are counted by the angle's input. Small spheres around the rainbow show wavefronts best; an
-/// aperture sends its light forward, and none behind itself.
-void StripStartValues(Session& session) {
-  auto& form = session.form1;
+bool StartsWithStrips(const Session& session) {
   const auto& s = session.state;
   const Graph& graph = ChosenGraph(s);
   const bool counts = TraitsOf(s.CalcMethod).counts != Counted::Nothing;
-  if (!counts || !(graph.OfAngles() || graph.family == Family::Impulse) || s.RestoringSettings != 0) return;
+  return counts && (graph.OfAngles() || graph.family == Family::Impulse) && s.RestoringSettings == 0;
+}
+
+/// Wavefronts and strips are counted by the angle's input. Small spheres around the rainbow show wavefronts best.
+void StripStartValues(Session& session) {
+  auto& form = session.form1;
+  if (!StartsWithStrips(session)) return;
   form.txtRadius.Text = "100";
   form.cboRays.Text = "2";
-  const bool strips = TraitsOf(s.CalcMethod).counts == Counted::Strips;
-  form.txtXmin.Text = strips ? "0" : "120";
-  form.txtXmax.Text = strips ? "90" : "150";
+  form.txtXmin.Text = "120";
+  form.txtXmax.Text = "150";
   form.cboStep.Text = "0.1";
 }
 
@@ -103,6 +105,10 @@ void mnuHuygens_Click(Session& session) {
 
 void mnuAperture_Click(Session& session) {
   ChooseMethod(session, "Aperture");
+  if (!StartsWithStrips(session)) return;
+  // An aperture sends its light forward, and none behind itself.
+  session.form1.txtXmin.Text = "0";
+  session.form1.txtXmax.Text = "90";
 }
 
 void mnuvdh_Click(Session& session) {

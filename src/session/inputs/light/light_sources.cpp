@@ -5,6 +5,7 @@
 #include "record/number_text.h"
 #include "session/inputs/dialog_use.h"
 #include "session/inputs/light/read_spectrum.h"
+#include "session/inputs/methods.h"
 
 namespace lumivex {
 
@@ -73,6 +74,20 @@ void UseSpectrumFile(Session& session) {
   Choose(session, session.form1.mnuSpectrumFile, "Data file");
 }
 
+void LightBySpectrum(Session& session, const std::string& title) {
+  auto& form = session.form1;
+  UseSpectrumFile(session);
+  if (Trim(form.cboWave.Text) != "1") return;
+  if (!TakesWavelengths(ChosenGraph(session.state))) {
+    session.platform.Message(title,
+                             "The spectrum has been read. It takes effect in graphs of several wavelengths,\nfor "
+                             "instance \"Intensity v. scattering angle\" with \"Wavelengths\" above 1.");
+    return;
+  }
+  form.cboWave.Text = "Med.";
+  session.events.Raise("cboWave_Click");
+}
+
 void mnuSpectrumFile_Click(Session& session) {
   auto& dialog = session.forms.dlogSpectrumFile;
   const auto& s = session.state;
@@ -81,7 +96,7 @@ void mnuSpectrumFile_Click(Session& session) {
     if (!AskIn(session, dialog)) return;
     if (dialog.optExisting.Checked) return UseSpectrumFile(session);
   }
-  if (ReadSpectrum(session)) UseSpectrumFile(session);
+  if (ReadSpectrum(session)) LightBySpectrum(session, "Spectrum data");
 }
 
 void mnuSpectrumBand_Click(Session& session) {

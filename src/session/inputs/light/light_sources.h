@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "record/session.h"
 
 namespace lumivex {
@@ -18,6 +20,9 @@ void mnuBlackBody_Click(Session& session);
 void mnuSpectrumFile_Click(Session& session);
 /// The source is the spectrum that was read from a file last.
 void UseSpectrumFile(Session& session);
+/// The same for a file just read, whichever way: it is the light from now on, and one wavelength would go on without
+/// it. Where the graph takes no more than one, the user is told what the spectrum waits for.
+void LightBySpectrum(Session& session, const std::string& title);
 
 /// The band of a calculation with several wavelengths, asked for in its dialog.
 void mnuSpectrumBand_Click(Session& session);

@@ -3,6 +3,7 @@
 #include <fstream>
 
 #include "materials/files/input_items.h"
+#include "materials/files/readable_text.h"
 #include "materials/files/spectrum_file.h"
 
 namespace lumivex {
@@ -19,7 +20,7 @@ std::string MessageOf(const SpectrumFile& file, const std::string& path) {
     case SpectrumFileFault::Maximum:
       return "Error in spectrum data file: maximum wavelength incorrect";
     default:
-      return opening + ": " + path + "\n\n" + file.detail;
+      return opening + ": " + ReadablePath(path) + "\n\n" + file.detail;
   }
 }
 

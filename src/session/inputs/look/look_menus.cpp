@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "record/number_text.h"
+#include "session/inputs/dialog_use.h"
 #include "session/inputs/look/colour_test.h"
 
 namespace lumivex {
@@ -312,10 +313,16 @@ void mnuSun_Click(Session& session) {
   Replot(session);
 }
 
+void dlogAverage_OKButton_Click(Session& session) {
+  auto& width = session.forms.dlogAverage.txtAverage;
+  width.BackColour = colours::White;
+  if (!IsNumber(width.Text) || !(Val(width.Text) > 0)) RefuseInput(session, width, "Value must be positive");
+}
+
 void mnuAverage_Click(Session& session) {
   auto& menu = session.form1.mnuAverage;
   auto& dialog = session.forms.dlogAverage;
-  if (!menu.Checked && session.state.RestoringSettings == 0 && !session.platform.ShowModal(dialog)) return;
+  if (!menu.Checked && !AskIn(session, dialog)) return;
   menu.Checked = !menu.Checked;
   session.form1.lblAverage.Caption = "Average  " + (menu.Checked ? std::string(Trim(dialog.txtAverage.Text)) : "");
   Replot(session);
@@ -376,6 +383,7 @@ std::span<const GraphEvent> LookEvents() {
       GraphEvent{"mnuIntPol_Click", mnuIntPol_Click},
       GraphEvent{"mnuPolarPlot_Click", mnuPolarPlot_Click},
       GraphEvent{"mnuAverage_Click", mnuAverage_Click},
+      GraphEvent{"dlogAverage.OKButton_Click", dlogAverage_OKButton_Click},
       GraphEvent{"mnuInterpolate_Click", mnuInterpolate_Click},
       GraphEvent{"mnuSun_Click", mnuSun_Click},
       GraphEvent{"mnuPhoto_Click", mnuPhoto_Click},

@@ -70,6 +70,8 @@ void mnuInvWavelength_Click(Session& session);
 void mnuSun_Click(Session& session);
 /// Turned on, asks for the width in dlogAverage (not while settings are restored); a cancelled dialog leaves it off.
 void mnuAverage_Click(Session& session);
+/// A width that is not positive is marked and told.
+void dlogAverage_OKButton_Click(Session& session);
 
 void mnuPhoto_Click(Session& session);
 void mnuSaturated_Click(Session& session);

@@ -7,6 +7,7 @@
 #include "record/number_text.h"
 #include "session/inputs/dialog_use.h"
 #include "session/inputs/materials/material_dialogs.h"
+#include "session/inputs/materials/read_material.h"
 #include "session/inputs/materials/read_ref_index.h"
 
 namespace lumivex {
@@ -93,7 +94,7 @@ void ClearMenuRI2(Session& session) {
 void mnuRI_Formula_Click(Session& session) {
   auto& dialog = session.forms.dlogRI_Formula;
   if (!AskIn(session, dialog)) return;
-  const std::string& name = dialog.cboMaterial.Text;
+  const std::string name = NameOfMaterial(dialog.cboMaterial.Text);
   ChooseSphere(session, session.form1.mnuRI_Formula, name, "Sphere: " + name);
 }
 
@@ -118,12 +119,12 @@ void mnuRI_Segelstein_Click(Session& session) {
 }
 
 void UseFileTable1(Session& session) {
-  const std::string& name = session.state.FileName1;
+  const std::string name = NameOfMaterial(session.state.FileName1);
   ChooseSphere(session, session.form1.mnuRI_File1, name, "Sphere: " + name);
 }
 
 void UseFileTable2(Session& session) {
-  const std::string& name = session.state.FileName2;
+  const std::string name = NameOfMaterial(session.state.FileName2);
   ChooseMedium(session, session.form1.mnuRI_File2, name, "Medium: " + name);
 }
 
@@ -190,7 +191,8 @@ void mnuRI_Perm1_Click(Session& session) {
 void mnuRI_User1_Click(Session& session) {
   auto& dialog = session.forms.dlogRI_User1;
   if (!AskIn(session, dialog)) return dlogRI_User1_CancelButton_Click(session);
-  ChooseSphere(session, session.form1.mnuRI_User1, dialog.txtMaterial1.Text, "Sphere: " + dialog.txtMaterial1.Text);
+  const std::string name = NameOfMaterial(dialog.txtMaterial1.Text);
+  ChooseSphere(session, session.form1.mnuRI_User1, name, "Sphere: " + name);
 }
 
 void mnuRI_Air2_Click(Session& session) {
@@ -222,7 +224,8 @@ void mnuRI_IAPWS2_Click(Session& session) {
 void mnuRI_User2_Click(Session& session) {
   auto& dialog = session.forms.dlogRI_User2;
   if (!AskIn(session, dialog)) return dlogRI_User2_cmdCancel_Click(session);
-  ChooseMedium(session, session.form1.mnuRI_User2, dialog.txtMaterial2.Text, "Medium: " + dialog.txtMaterial2.Text);
+  const std::string name = NameOfMaterial(dialog.txtMaterial2.Text);
+  ChooseMedium(session, session.form1.mnuRI_User2, name, "Medium: " + name);
 }
 
 void mnuRI_Segelstein2_Click(Session& session) {

@@ -149,12 +149,16 @@ Material MediumMaterial(const Session& session) {
   return LastChosen(session, mediumModels, session.state.MediumIndexTyped != 0);
 }
 
+std::string NameOfMaterial(const std::string& given) {
+  return Trim(given).empty() ? "unnamed material" : given;
+}
+
 MaterialWords SphereWords(const Session& session) {
   const auto& form = session.form1;
   MaterialWords words{session.state.SphereName, form.lblSphere.Caption};
   if (form.mnuRI_Perm1.Checked) words.caption = "Sphere: Fixed dielectric function";
   if (form.mnuRI_User1.Checked) {
-    words.name = session.forms.dlogRI_User1.txtMaterial.Text;
+    words.name = NameOfMaterial(session.forms.dlogRI_User1.txtMaterial.Text);
     words.caption = "Sphere: " + words.name;
   }
   return words;
@@ -165,7 +169,7 @@ MaterialWords MediumWords(const Session& session) {
   MaterialWords words{session.state.MediumName, form.lblRI_Medium.Caption};
   if (form.mnuRI_Fixed2.Checked) words.caption = "Medium: Fixed refractive index";
   if (form.mnuRI_User2.Checked) {
-    words.name = session.forms.dlogRI_User2.txtMaterial.Text;
+    words.name = NameOfMaterial(session.forms.dlogRI_User2.txtMaterial.Text);
     words.caption = "Medium: " + words.name;
   }
   if (form.mnuRI_Perm2.Checked) words.caption = "Medium: Fixed dielectric function";

@@ -24,6 +24,10 @@ Material MediumMaterial(const Session& session);
 /// Whether tables are read by cubics.
 TableRule RuleTicked(const Form1& form);
 
+/// The name that a user or a file gave a material, or a word for one that has none: labels and titles would end in the
+/// air.
+std::string NameOfMaterial(const std::string& given);
+
 /// How a material is called in titles ("Water") and on its label ("Sphere: Water (IAPWS 5C Complex)").
 struct MaterialWords {
   std::string name, caption;

@@ -5,7 +5,9 @@
 
 #include "materials/files/index_import.h"
 #include "materials/files/input_items.h"
+#include "materials/files/readable_text.h"
 #include "session/inputs/dialog_use.h"
+#include "session/inputs/materials/read_material.h"
 
 namespace lumivex {
 
@@ -20,7 +22,8 @@ const FileDialog indexFiles = {"Refractive index data",
 /// Only the sphere's reader quotes a wrong first line.
 enum class Reader { Sphere, Medium };
 
-std::string MessageOf(const IndexFileResult& result, const std::string& path, Reader reader) {
+std::string MessageOf(const IndexFileResult& result, const std::string& file, Reader reader) {
+  const std::string path = ReadablePath(file);
   switch (result.fault) {
     case IndexFileFault::FirstLine:
       if (reader == Reader::Medium) return opening + path;
@@ -58,6 +61,7 @@ bool Read(Session& session, const std::string& path, Reader reader) {
     session.platform.Message("Error", MessageOf(result, path, reader));
     return false;
   }
+  result.table.name = NameOfMaterial(result.table.name);
   MaterialState& s = session.state;
   const auto table = std::make_shared<const IndexTable>(std::move(result.table));
   const bool sphere = reader == Reader::Sphere;

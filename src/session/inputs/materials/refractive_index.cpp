@@ -103,15 +103,21 @@ std::string WordsFor(IndexFailure failure) {
   return {};
 }
 
+/// A mark tells of the text that stood there before.
+void Show(TextInput& field, const std::string& text) {
+  if (field.Text != text) field.BackColour = colours::White;
+  field.Text = text;
+}
+
 /// Fields that were typed or fixed keep the user's own text.
 void ShowIndices(Session& session) {
   auto& form = session.form1;
   const auto& s = session.state;
   if (!form.mnuRI_Fixed1.Checked && s.SphereIndexTyped == 0) {
-    form.txtRefractReal.Text = IndexText(s.RefractReal);
-    form.txtRefractImag.Text = s.RefractImag == 0 ? "0" : IndexText(s.RefractImag);
+    Show(form.txtRefractReal, IndexText(s.RefractReal));
+    Show(form.txtRefractImag, s.RefractImag == 0 ? "0" : IndexText(s.RefractImag));
   }
-  if (!form.mnuRI_Fixed2.Checked && s.MediumIndexTyped == 0) form.txtRefractMedium.Text = IndexText(s.RefractMedium);
+  if (!form.mnuRI_Fixed2.Checked && s.MediumIndexTyped == 0) Show(form.txtRefractMedium, IndexText(s.RefractMedium));
 }
 
 double TypedRatio(const Form1& form) {

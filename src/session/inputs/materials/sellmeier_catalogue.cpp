@@ -12,6 +12,7 @@
 
 #include "materials/files/catalogue_file.h"
 #include "materials/files/input_items.h"
+#include "materials/files/readable_text.h"
 #include "record/file_lock.h"
 #include "record/number_text.h"
 #include "record/text_file.h"
@@ -54,7 +55,7 @@ std::optional<Entries> ReadEntries(Session& session, const std::string& path) {
   catalogue.failure = OpenInput(file, path);
   if (catalogue.failure.empty()) catalogue = ReadCatalogueFile(file);
   if (catalogue.failure.empty()) return std::move(catalogue.entries);
-  session.platform.Message("Error", "Error in data file: " + path + "\n" + catalogue.failure);
+  session.platform.Message("Error", "Error in data file: " + ReadablePath(path) + "\n" + catalogue.failure);
   session.forms.dlogRI_Formula.cmdSave.Enabled = false;
   return std::nullopt;
 }
