@@ -5,7 +5,7 @@
 namespace lumivex {
 
 /// The folder of the user's own data of this program: "lumivex" in $XDG_DATA_HOME, or in ".local/share" of the home
-/// folder where that is not set (XDG Base Directory Specification). Empty where the system names no home. It need not
+/// folder where that is not set, as desktops on Linux have it. Empty where the system names no home. It need not
 /// be there yet.
 std::string UserDataFolder();
 

@@ -62,4 +62,16 @@ class ImportedCurves {
 /// A fault of the data: "Line 12: " and what is wrong.
 IndexFileResult ImportFault(int line, std::string_view what);
 
+/// Reads a table line by line, until it is full or a line is at fault.
+/// @tparam Reader  has Take(line), which returns what is wrong with it or nothing, and Curves(), the rows so far.
+template <class Reader>
+IndexFileResult ReadImport(std::istream& stream) {
+  Reader reader;
+  ImportLines lines(stream);
+  for (std::string line; lines.Next(line) && !reader.Curves().Full();)
+    if (const std::string fault = lines.Cut() ? "the line is too long" : reader.Take(line); !fault.empty())
+      return ImportFault(lines.Number(), fault);
+  return reader.Curves().Table();
+}
+
 }  // namespace lumivex

@@ -308,12 +308,7 @@ class CsvReader {
 }  // namespace
 
 IndexFileResult ReadIndexCsv(std::istream& stream) {
-  CsvReader reader;
-  ImportLines lines(stream);
-  for (std::string line; lines.Next(line) && !reader.Curves().Full();)
-    if (const std::string fault = lines.Cut() ? "the line is too long" : reader.Take(line); !fault.empty())
-      return ImportFault(lines.Number(), fault);
-  return reader.Curves().Table();
+  return ReadImport<CsvReader>(stream);
 }
 
 }  // namespace lumivex

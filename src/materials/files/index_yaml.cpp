@@ -142,12 +142,7 @@ class YamlReader {
 }  // namespace
 
 IndexFileResult ReadIndexYaml(std::istream& stream) {
-  YamlReader reader;
-  ImportLines lines(stream);
-  for (std::string line; lines.Next(line) && !reader.Curves().Full();)
-    if (const std::string fault = lines.Cut() ? "the line is too long" : reader.Take(line); !fault.empty())
-      return ImportFault(lines.Number(), fault);
-  return reader.Curves().Table();
+  return ReadImport<YamlReader>(stream);
 }
 
 }  // namespace lumivex

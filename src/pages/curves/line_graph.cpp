@@ -44,15 +44,8 @@ LinePair PenColours(const RunToDraw& run) {
 /// Graphs of which one curve tells all: quantities without polarisation, and all of a sphere without absorption.
 bool HasOneCurve(const Results& results) {
   const Graph& graph = results.asked.graph;
-  switch (graph.quantity) {
-    case Quantity::Qback:
-    case Quantity::Qradar:
-    case Quantity::Asymmetry:
-    case Quantity::Albedo:
-      return true;
-    default:
-      return results.last.relativeIm == 0 && graph.OfEfficiencies();
-  }
+  const bool ofThree = graph.quantity == Quantity::Efficiencies || graph.quantity == Quantity::CrossSections;
+  return graph.OfEfficiencies() && (!ofThree || results.last.relativeIm == 0);
 }
 
 /// What the one curve of a sphere without absorption says of all three; empty for other quantities.
