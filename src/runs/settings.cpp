@@ -227,11 +227,14 @@ SettingsEnd DispCalc(const SettingsPlan& plan, TaskPool& pool) {
     sums.Begin(plan.window, plan.wantsCross);
     return true;
   };
-  tasks.place = [&](std::size_t task, RunProgress& progress) {
+  // The slot of a task that is done belongs to whoever works in it next; so the place has samples of its own.
+  tasks.place = [&, told = SamplesCache()](std::size_t task, RunProgress& progress) mutable {
     const Setting& setting = plan.settings[task / perCloud];
+    const std::size_t sample = task % perCloud + 1;
+    const CloudSamples& samples = told.At(plan.request, setting.radius);
     progress.lambda = setting.lambda;
-    progress.radius = slots[task % slots.size()].radius;
-    progress.sample = static_cast<int>(task % perCloud) + 1;
+    if (samples.failure == SizeFailure::None) progress.radius = samples.radius[sample];
+    progress.sample = static_cast<int>(sample);
     if (plan.place) plan.place(task / perCloud, progress);
   };
   const std::size_t taken = pool.Do(tasks);
