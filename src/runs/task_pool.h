@@ -23,8 +23,8 @@ struct TaskList {
   /// @return false to end with this task.
   std::function<bool(std::size_t task, std::size_t slot)> take;
 
-  /// Tells where a task stands in the run; may be empty. Runs on the thread that called Do, also after the task is done:
-  /// its slot may be in other hands by then, so nothing is read from slots.
+  /// Tells where a task stands in the run; may be empty. Runs on the thread that called Do, also after the task is
+  /// done: its slot may be in other hands by then, so nothing is read from slots.
   std::function<void(std::size_t task, RunProgress& progress)> place;
 
   double shareBefore = 0, shareOfRun = 1;  ///< of the whole run that these tasks are
