@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "pages/colours/cell_colours.h"
 #include "record/page.h"
 
 namespace lumivex {
@@ -36,6 +37,23 @@ struct ScaleLook {
   std::optional<double> ymin, ymax;  ///< nothing: chosen for the curves
 };
 
+/// What a series of maps is held against.
+struct MapSeries {
+  double scaleMaximum = 0;  ///< reference of the maps of the series; 0 before the first, whose own it then is
+};
+
+/// Colours of bars, Lee diagrams and maps.
+struct ColourLook {
+  ColourRules rules;
+  bool absolute = false;              ///< one reference for the whole picture; otherwise each column has its own
+  bool falseColours = false;          ///< a ramp over the values in place of their own colours
+  bool greyScale = false;             ///< of the ramp: greys in place of the rainbow
+  bool paleEnd = false;               ///< of the ramp: its dark end is pale, for a grey surround
+  bool normaliseUnpolarised = false;  ///< of bars: the unpolarised one by its own maximum
+  std::optional<double> reference;    ///< of bars: set before, so that several runs can be compared
+  std::optional<MapSeries> series;    ///< of maps: all on the scale of the first
+};
+
 struct SunLook {
   bool disc = false;  ///< a source 0.5 degrees wide
   bool rectangular = false;
@@ -55,6 +73,7 @@ struct Look {
   SecondPanel second = SecondPanel::None;
   bool amplitude = false, invWavelength = false, fourier = false;
   SunLook sun;
+  ColourLook colours;
   bool components = false;  ///< red, green and blue apart
   std::string logo;         ///< empty where it is hidden
   LogoPlace logoPlace = LogoPlace::BottomLeft;

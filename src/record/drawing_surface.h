@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -30,10 +31,19 @@ struct SurfacePoint {
   double y = 0;
 };
 
-/// A block of equal cells, row by row from the top left.
+/// A part of a block of cells, in cells from its left and its top edge; ends lie anywhere within cells.
+struct CellPart {
+  double left = 0, top = 0, right = 0, bottom = 0;
+};
+
+/// A block of equal cells, row by row from the top left, in a box. Where samples stand on the ends of an axis, the
+/// first and last cells are cut in half: the part from 0.5 to columns - 0.5 fills the box.
 struct CellBlock {
   double left = 0, top = 0, right = 0, bottom = 0;
   int columns = 0, rows = 0;
+  std::optional<CellPart> part = std::nullopt;  ///< what of the block fills the box; all of it without
+
+  CellPart Part() const { return part.value_or(CellPart{0, 0, double(columns), double(rows)}); }
 };
 
 /// What every picture is drawn on: a window, a picture file, a page, or a list of operations.

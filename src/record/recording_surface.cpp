@@ -103,6 +103,7 @@ void RecordingSurface::Image(const CellBlock& block, std::span<const Colour> cel
   operation.points = {{block.left, block.top}, {block.right, block.bottom}};
   operation.columns = block.columns;
   operation.rows = block.rows;
+  operation.part = block.Part();
   operation.cells.assign(cells.begin(), cells.end());
 }
 

@@ -22,6 +22,7 @@ struct DrawnOperation {
   bool fontBold = false;
   double width = 0, height = 0;  ///< of a text
   int columns = 0, rows = 0;     ///< of an image
+  CellPart part;                 ///< of an image, what of it is shown
   std::vector<Colour> cells;     ///< of an image, row by row from the top left
 
   /// One line of text: the operation's name, its numbers, its colour, its text; of an image the size and a checksum of

@@ -111,6 +111,36 @@ struct TwoAngleRun {
   std::vector<double> index;   ///< of the sphere in vacuo, by column, first index 0
   std::vector<double> radius;  ///< um, by row, first index 0
 };
+/// What a map varies along one of its sides.
+enum class Swept {
+  Radius,            ///< um
+  SphereIndex,       ///< real part
+  SphereAbsorption,  ///< imaginary part
+  MediumIndex,
+  Wavelength,     ///< nm
+  SizeParameter,  ///< of the sphere in its medium
+};
+/// Samples of what a map varies: the first at `low`, the last at `high`.
+struct Sweep {
+  Swept quantity = Swept::Radius;
+  double low = 1, high = 20;  ///< in the unit of the quantity
+  int steps = 4;              ///< one less than the samples
+  bool geometric = false;     ///< equal ratios in place of equal differences
+  int Count() const { return steps + 1; }
+  double At(int sample) const;  ///< first index 0
+};
+/// Columns of scattering angles: Lee diagrams and maps over angle. A column is a sphere, or a cloud, in the light of
+/// the request: of one wavelength, or of a spectrum whose colours are summed up in each cell.
+struct AngleMapRun {
+  AngleRows rows;
+  Sweep columns;
+  bool invWavelength = false;  ///< intensities are freed of the square of the wave number before they are summed
+};
+/// Efficiencies, or intensities at one angle, over two quantities.
+struct EfficiencyMapRun {
+  Sweep columns, rows;
+  double angle = 0;  ///< radians
+};
 using FamilyRun = std::variant<AngleRun, SpectrumRun, AxisRun, ConvergenceRun, DebyeAnalysisRun, TwoAngleRun>;
 
 /// The request in the words of whoever made it: titles, keys, headers and files are written with them; no calculation

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <variant>
 #include <vector>
@@ -101,6 +102,27 @@ struct TwoAngleFound {
   Table2D first, second;
   PartialWaves waves;  ///< of the last sphere
   int done = 0;        ///< spheres
+};
+
+/// Cells of one panel of a map: element column * rows + row, first indices 0, the lowest row first. Cells have either a
+/// value or, where a spectrum was summed up, three channels.
+struct MapPanel {
+  std::vector<float> value;
+  std::vector<float> red, green, blue;
+};
+
+/// What a map holds, column by column.
+struct MapFound {
+  int rows = 0, columns = 0;
+  int firstRow = 1;  ///< of a map over angle the row of the grid that the lowest row of the cells is
+  /// Of intensities perpendicular and parallel (the unpolarised one is their mean); otherwise Qext, Qsca and Qabs.
+  std::vector<MapPanel> panels;
+  /// Of a spectrum: the wavelength (from 1) that gives most to a cell, of each panel.
+  std::vector<std::vector<std::uint16_t>> strongest;
+  int done = 0;  ///< columns, from the first
+  std::size_t At(int column, int row) const {
+    return static_cast<std::size_t>(column) * static_cast<std::size_t>(rows) + static_cast<std::size_t>(row);
+  }
 };
 
 using FamilyFound =

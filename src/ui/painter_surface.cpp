@@ -34,6 +34,25 @@ QString FromText(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+/// The part of an image as an image of its own, in pixels so small that its ends lie between them: vector files know
+/// whole images only, and what shows them smooths few pixels over a large box.
+QImage WholePixels(const QImage& image, const CellPart& part) {
+  constexpr double enough = 800;
+  const auto pixelsEach = [](double cells) { return std::max(2, 2 * static_cast<int>(std::ceil(enough / cells / 2))); };
+  const int across = pixelsEach(part.right - part.left), down = pixelsEach(part.bottom - part.top);
+  const auto pixel = [](double cell, int each) { return static_cast<int>(std::lround(cell * each)); };
+  const int left = pixel(part.left, across), top = pixel(part.top, down);
+  QImage whole(std::max(1, pixel(part.right, across) - left), std::max(1, pixel(part.bottom, down) - top),
+               QImage::Format_RGB32);
+  for (int y = 0; y < whole.height(); ++y) {
+    const int row = std::clamp((top + y) / down, 0, image.height() - 1);
+    const auto* from = reinterpret_cast<const QRgb*>(image.constScanLine(row));
+    auto* to = reinterpret_cast<QRgb*>(whole.scanLine(y));
+    for (int x = 0; x < whole.width(); ++x) to[x] = from[std::clamp((left + x) / across, 0, image.width() - 1)];
+  }
+  return whole;
+}
+
 }  // namespace
 
 QColor ToQColor(Colour colour) {
@@ -228,7 +247,11 @@ void PainterSurface::Circle(double x, double y, double radius, Colour colour) {
 void PainterSurface::Image(const CellBlock& block, std::span<const Colour> cells) {
   if (!painter_.isActive() || block.columns <= 0 || block.rows <= 0) return;
   const auto columns = static_cast<std::size_t>(block.columns), rows = static_cast<std::size_t>(block.rows);
-  if (cells.size() < columns * rows || !AllFinite({block.left, block.top, block.right, block.bottom})) return;
+  const CellPart part = block.Part();
+  if (cells.size() < columns * rows || !AllFinite({block.left, block.top, block.right, block.bottom}) ||
+      !AllFinite({part.left, part.top, part.right, part.bottom}) || !(part.right > part.left) ||
+      !(part.bottom > part.top))
+    return;
   changed_ = true;
   QImage image(block.columns, block.rows, QImage::Format_RGB32);
   for (std::size_t row = 0; row < rows; ++row) {
@@ -239,9 +262,14 @@ void PainterSurface::Image(const CellBlock& block, std::span<const Colour> cells
     }
   }
   QRectF target(QPointF(Dots(block.left), Dots(block.top)), QPointF(Dots(block.right), Dots(block.bottom)));
-  if (scale_.dots) target = QRectF(target.toRect());
   painter_.setRenderHint(QPainter::SmoothPixmapTransform, false);
-  painter_.drawImage(target, image);
+  if (scale_.dots) {
+    target = QRectF(target.toRect());
+    painter_.drawImage(target, image, QRectF(QPointF(part.left, part.top), QPointF(part.right, part.bottom)));
+  } else {
+    painter_.setRenderHint(QPainter::LosslessImageRendering, true);
+    painter_.drawImage(target, WholePixels(image, part));
+  }
 }
 
 const PainterSurface::Face& PainterSurface::CurrentFace() const {

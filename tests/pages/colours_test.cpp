@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "pages/colours/cell_colours.h"
 #include "pages/drawing_reader.h"
 #include "pages/graph_fixture.h"
 #include "session/inputs/look/colour_test.h"
@@ -52,6 +53,31 @@ TEST(WavelengthColour, OtherRulesFollowTheirPiecesToo) {
                          Point{-1.8, 127.5, 0, 255}, Point{-2.2, 127.5, 0, 127.5}, Point{-2.4, 0, 0, 0}})
     ExpectColour(LogarithmColour(p.at, false), p.r, p.g, p.b, "logarithm " + std::to_string(p.at));
   ExpectColour(LogarithmColour(-2.2, true), 250, 122.5, 250, "half way to the pale end");
+}
+
+/// Sums of one rainbow at 137 degrees: scale, transfer curve and rounding in their order.
+TEST(CellColours, GoThroughScaleSaturationAndTransferInThisOrder) {
+  const ColourTriple sums{25213.72, 32582.90, 27520.17};
+  constexpr double P = 378793.366;
+  EXPECT_EQ(CellColours(ColourRules{}, P).Of(sums.r, sums.g, sums.b), RGB(57.548, 67.674, 60.874));
+  ColourRules plain{1, false, SaturationRule::Photo, GammaRule::None};
+  EXPECT_EQ(CellColours(plain, P).Of(sums.r, sums.g, sums.b), RGB(16.9736, 21.9345, 18.5263));
+  plain.brightness = -2;
+  EXPECT_EQ(CellColours(plain, 100).Of(100, 20, 0), RGB(255, 102, 0)) << "a brightness counts by its magnitude";
+  plain.saturation = SaturationRule::Freeze;
+  EXPECT_EQ(CellColours(plain, 100).Of(100, 20, 0), RGB(255, 51, 0)) << "the hue is held";
+  plain.saturated = true;
+  EXPECT_EQ(CellColours(plain, 0).Of(4e-9, 1e-9, 0), RGB(255, 64, 0)) << "saturated colours need no reference";
+  EXPECT_EQ(CellColours(plain, 0).Of(0, 0, 0), colours::Black) << "a black cell has no colour to be saturated";
+  EXPECT_EQ(CellColours(ColourRules{}, 0).Of(1, 1, 1), colours::Black);
+}
+
+TEST(CellColours, RoundTheTransferCurveAsItself) {
+  const CellColours colours(ColourRules{}, 255);
+  for (int i = 0; i <= 51000; ++i) {
+    const double c = i / 200.0, t = TransferCurve(c);
+    ASSERT_EQ(colours.Of(c, 0, 255), RGB(t, 0, 255)) << c;
+  }
 }
 
 TEST(Saturation, TreatsACellThatIsTooBright) {

@@ -101,5 +101,14 @@ TEST_F(PainterSurfaceTest, ABlockOfCellsFillsItsBoxInReadingOrder) {
   EXPECT_EQ(DotsOf(qRgb(255, 255, 255)), 200 * 100 - 180 * 80);
 }
 
+TEST_F(PainterSurfaceTest, SamplesOnTheEndsOfAnAxisHaveHalfACell) {
+  const std::array<Colour, 3> cells = {RGB(255, 0, 0), RGB(0, 255, 0), RGB(0, 0, 255)};
+  surface.Image({0, 0, 2000, 1000, 3, 1, CellPart{0.5, 0, 2.5, 1}}, cells);
+  EXPECT_EQ(At(48, 50), QColor(255, 0, 0)) << "a quarter of the width";
+  EXPECT_EQ(At(52, 50), QColor(0, 255, 0));
+  EXPECT_EQ(At(148, 50), QColor(0, 255, 0));
+  EXPECT_EQ(At(152, 50), QColor(0, 0, 255));
+}
+
 }  // namespace
 }  // namespace lumivex

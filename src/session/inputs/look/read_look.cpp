@@ -102,6 +102,28 @@ LogoPlace LogoPlaceTicked(const Form1& form) {
   return form.mnuLogoPositionBR.Checked ? LogoPlace::BottomRight : LogoPlace::BottomLeft;
 }
 
+SaturationRule SaturationTicked(const Form1& form) {
+  if (form.mnuFreeze.Checked) return SaturationRule::Freeze;
+  return form.mnuPeakWhite.Checked ? SaturationRule::PeakWhite : SaturationRule::Photo;
+}
+
+GammaRule GammaTicked(const Form1& form) {
+  if (form.mnuGammaNone.Checked) return GammaRule::None;
+  return form.mnuGammaB.Checked ? GammaRule::GroupRGB : GammaRule::IndividualRGB;
+}
+
+ColourLook ReadColours(const Form1& form) {
+  ColourLook colours;
+  const double brightness = Val(form.cboBright.Text);
+  colours.rules = {brightness, form.mnuSaturated.Checked, SaturationTicked(form), GammaTicked(form)};
+  colours.absolute = form.cboLee.Text == "Absolute";
+  colours.falseColours = form.mnuFalseColours.Checked;
+  colours.greyScale = brightness <= 0;
+  colours.paleEnd = form.mnuGrey.Checked;
+  colours.normaliseUnpolarised = form.mnuNormalised.Checked;
+  return colours;
+}
+
 DotLabels LabelsAsked(const DlogDebyeSeq& dialog) {
   if (!dialog.chkLabels.Checked) return {};
   const int number = ToWhole(std::clamp(Val(dialog.txtTerms.Text), 0.0, 1e6));
@@ -130,6 +152,7 @@ Look ReadLook(const Session& session) {
   look.invWavelength = form.mnuInvWavelength.Checked;
   look.fourier = form.mnuFFT.Checked;
   look.sun = {form.optSun.Checked, form.mnuSun.Checked};
+  look.colours = ReadColours(form);
   look.components = form.chkComponents.Checked;
   look.logo = form.mnuHideLogo.Checked ? "" : form.lblLogo.Caption;
   look.logoPlace = LogoPlaceTicked(form);
