@@ -263,6 +263,10 @@ TEST(ImportedTables, NeverLoseARowInSilence) {
       {"wl;T;R\n0.6;0.9;0.1\n", "Line 2: the heading \"T\" is neither n nor k"},
       {"wavelength (um),n,k\n0.4,1.5,0\nwavelength (nm),n,k\n500,1.52,0\n",
        "Line 3: only a block of k may have a heading here"},
+      {"0.4,1.5\n1e31,1.4\n", "Line 2: a wavelength and its index are needed"},
+      {"0.4,1.5\n0.5,-1e31\n", "Line 2: a wavelength and its index are needed"},
+      {"0.4,1.5,0\n0.5,1.5,1e31\n", "Line 2: a wavelength and its index are needed"},
+      {"0.4,1.5\n0,1.4\n", "Line 2: a wavelength and its index are needed"},
       {"0.4,1.5\n0.5,1" + std::string(50, 'x') + "\n", "Line 2: \"1" + std::string(39, 'x') + "\" is not a number"},
   };
   for (const auto& [text, message] : damaged) EXPECT_EQ(Csv(text).detail, message) << text;
@@ -274,6 +278,30 @@ TEST(ImportedTables, NeverLoseARowInSilence) {
             "Line 4: the coefficients of a formula are numbers");
   EXPECT_EQ(Yaml("DATA:\n - type: formula 2\n   wavelength_range: 0.2 6\n   coefficients: -20 1 0.1\n").detail,
             "Line 4: the formula gives no index at 0.2 um");
+  for (const char* range : {"1", "0.2 0.5 1", "0.2 x"})
+    EXPECT_EQ(Yaml(std::string("DATA:\n - type: formula 1\n   wavelength_range: ") + range).detail,
+              "Line 3: a range is two wavelengths")
+        << range;
+  for (const char* range : {"0 1", "-1 1", "1 0.2", "1 1", "0.2 1e31"})
+    EXPECT_EQ(
+        Yaml(std::string("DATA:\n - type: formula 1\n   wavelength_range: ") + range + "\n   coefficients: 0 1 0.1\n")
+            .detail,
+        "Line 4: a formula needs its range of wavelengths")
+        << range;
+  // Formulas and tables follow each other, and each has its own range.
+  const auto both = Yaml(
+      "DATA:\n - type: formula 1\n   range: 0.4 0.8\n   coefficients: 0.25 1 0\n - type: tabulated k\n   data: |\n"
+      "     0.4 0.1\n     0.8 0.3\n");
+  EXPECT_EQ(both.detail, "");
+  EXPECT_EQ(both.table.count, 1001);
+  EXPECT_FLOAT_EQ(both.table.lambda[1], 0.4F);
+  EXPECT_FLOAT_EQ(both.table.lambda[1001], 0.8F);
+  EXPECT_FLOAT_EQ(both.table.rows[1][0], 1.5F);
+  EXPECT_FLOAT_EQ(both.table.rows[1001][1], 0.3F);
+  EXPECT_EQ(Yaml("DATA:\n - type: formula 1\n   range: 0.4 0.8\n   coefficients: 0 1 0\n - type: formula 1\n   "
+                 "coefficients: 0 1 0\n")
+                .detail,
+            "Line 6: a formula needs its range of wavelengths");
   const auto first = Yaml("DATA:\n  - type: tabulated n\n    data: 0.4 1.5\n      0.5 1.4\nSPECS:\n  n: 3\n");
   EXPECT_EQ(first.detail, "");
   EXPECT_EQ(first.table.count, 2);

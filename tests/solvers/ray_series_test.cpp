@@ -458,19 +458,5 @@ TEST(Huygens, WaveletsGiveRaysAndRainbow) {
   }
 }
 
-TEST(Huygens, TracesRaysThroughTheSphere) {
-  const HuygensWave wave = TraceHuygens(1000, 4.0 / 3.0, 1, 50);
-  ASSERT_EQ(wave.impact.size(), 51U);
-  EXPECT_DOUBLE_EQ(wave.amplitudePerpendicular[0] / (1 - 1.0 / 49.0), 2000.0);
-  EXPECT_NEAR(wave.exitX[0], 1, 1e-12);
-  EXPECT_NEAR(wave.exitY[0], 0, 1e-12);
-  // The axial wave stands half a radius behind the exit; next to it the wavefront converges.
-  EXPECT_NEAR(wave.waveX[0], 0.5, 1e-12);
-  EXPECT_GT(wave.deviation[10], 0);
-  for (std::size_t k = 1; k < 50; ++k) EXPECT_NEAR(std::hypot(wave.exitX[k], wave.exitY[k]), 1, 1e-12);
-  // Rays that are totally reflected do not enter.
-  EXPECT_EQ(TraceHuygens(1000, 0.75, 1, 100).impact.size(), 76U);
-}
-
 }  // namespace
 }  // namespace lumivex

@@ -119,6 +119,36 @@ TEST(SpecialFunctions, BesselFunctionsOfNothingAndOfHighOrder) {
   EXPECT_EQ(std::fetestexcept(watched), 0);
 }
 
+// Wronskian J_(k+1) Y_k - J_k Y_(k+1) = 2/(pi x) (Abramowitz and Stegun 1964, 9.1.16): every order of both kinds
+// against its neighbour, upward and downward, up to where Y leaves the range of a double.
+TEST(SpecialFunctions, BesselFunctionsOfBothKindsHaveOneScale) {
+  RealBessel bessel;
+  for (const double x : {1e-8, 1e-3, 0.5, 1.0, 3.0, 7.9, 8.1, 29.9, 30.1, 47.0, 300.0, 5000.0})
+    for (const int n : {1, 2, 7, 40, 200, 400}) {
+      BesselJY(x, n, bessel);
+      int held = 0;
+      for (std::size_t k = 0; k + 1 < bessel.RealBesselJ.size(); ++k) {
+        const auto& J = bessel.RealBesselJ;
+        const auto& Y = bessel.RealBesselY;
+        if (std::fabs(Y[k + 1]) > 1e290 || std::fabs(J[k + 1]) < 1e-290) break;
+        ++held;
+        ASSERT_NEAR(pi * x / 2 * (J[k + 1] * Y[k] - J[k] * Y[k + 1]), 1, 1e-9) << "x " << x << ", order " << k;
+        // 9.1.27: 2 J_k' = J_(k-1) - J_(k+1).
+        if (k == 0) continue;
+        const double size = std::fabs(J[k - 1]) + std::fabs(J[k + 1]),
+                     sizeY = std::fabs(Y[k - 1]) + std::fabs(Y[k + 1]);
+        ASSERT_NEAR(bessel.derivativeJ[k], (J[k - 1] - J[k + 1]) / 2, 1e-10 * size) << "x " << x << ", order " << k;
+        ASSERT_NEAR(bessel.derivativeY[k], (Y[k - 1] - Y[k + 1]) / 2, 1e-10 * sizeY) << "x " << x << ", order " << k;
+      }
+      EXPECT_GT(held, 0) << "x " << x << ", n " << n;
+      if (n == 1 && x < 1000) {
+        const BesselPair pair = BesselSeries(x, 1);
+        EXPECT_NEAR(pi * x / 2 * (pair.J1 * pair.Y0 - pair.J0 * pair.Y1), 1, 1e-7) << x;
+        EXPECT_NEAR(BesselJ1(x), bessel.RealBesselJ[1], 1e-14) << x;
+      }
+    }
+}
+
 struct ComplexCase {
   int n;
   double re, im, valueRe, valueIm;

@@ -12,7 +12,6 @@ namespace {
 
 constexpr double EulerGamma = 0.577215664901532861;
 constexpr double TwoOverPi = 0.636619772367581343;
-constexpr double pi = 3.14159265358979324;
 constexpr double VanishingArgument = 1e-100;
 constexpr double LargestY = 1e300;
 /// From here the asymptotic expansion of the orders 0 and 1 has terms below 1e-17.
