@@ -229,6 +229,7 @@ TEST(ImportedTables, AreReadInTheWritingsOfManyPrograms) {
       "# Wavelength (nm)  n  k\n500 1.5 0.25\n",
       "wavelength (mm) n k\n5e-4 1.5 2.5d-1\n",
       "wavelength (A),n,k\n5000,1.5,0.25\n",
+      "a,n,k\n0.5,1.5,0.25\n",
       "Wavelength (micrometres in vacuum),refractive index,extinction coefficient\n0.5,1.5,0.25\n",
       "Wavelength (pm), as a title\nwavelength (nm),n,k\n500,1.5,0.25\n",
       "Energy (eV),n,k\n2.479683968,1.5,0.25\n",

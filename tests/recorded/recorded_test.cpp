@@ -18,6 +18,29 @@ bool IsText(const DrawnOperation& operation) {
   return operation.kind == DrawnOperation::Kind::Text;
 }
 
+/// The fields of the record as lines that are compared: numbers and texts, and how long each array is. Clocks, places
+/// of files and what rounding alone leaves are others on every machine.
+struct FieldLines {
+  std::vector<std::string> lines;
+
+  template <class Field>
+  void operator()(std::string_view name, const Field& field) {
+    const auto tells = [&](std::string_view part) { return name.find(part) != std::string_view::npos; };
+    if (tells("Seconds") || tells("Time") || tells("Folder") || tells("LastFile")) return;
+    if constexpr (std::is_arithmetic_v<Field>) {
+      const auto value = static_cast<double>(field);
+      Add(name, "=" + Digits(std::abs(value) < 1e-9 ? 0.0 : value));
+    } else if constexpr (std::is_same_v<Field, std::string>) {
+      Add(name, "='" + field + "'");
+    } else if constexpr (requires { field.Rows(); }) {
+      Add(name, " of " + std::to_string(field.Rows()) + " rows");
+    } else if constexpr (requires { field.size(); }) {
+      Add(name, " of " + std::to_string(field.size()));
+    }
+  }
+  void Add(std::string_view name, const std::string& value) { lines.push_back(std::string(name) + value); }
+};
+
 /// A drawing without the lines of its curves but for a few points of each.
 /// @param wanted  which of its operations.
 template <class Wanted>
@@ -133,6 +156,17 @@ class Recorded : public ScriptedSession {
     return text;
   }
 
+  /// What is another in the record than when it was looked at before, as it is now.
+  std::string FieldsSince(std::vector<std::string>& before) {
+    FieldLines now;
+    ForEachStateField(std::as_const(State()), now);
+    std::string text;
+    for (const auto& line : now.lines)
+      if (std::ranges::find(before, line) == before.end()) text += "  " + line + "\n";
+    before = now.lines;
+    return text;
+  }
+
   std::string Messages() {
     std::string text;
     for (const auto& shown : Shown()) text += "  message " + shown.title + ": " + shown.text + "\n";
@@ -210,32 +244,40 @@ TEST_F(Recorded, NumbersOfEveryMethodInOtherRegimes) {
       {"the second bow", "set txtRefractImag 0\nset txtRadius 50\nset cboRays 3"},
       {"a haze", "set txtRefractImag 0\nset txtRadius 0.05\nset cboRays 0"},
       {"a cloud", "click optDisp\nset cboN 5\nset txtRadius 4\nset cboRays 2"},
+      {"stopped half way", "set txtRefractImag 0\nset txtRadius 30\nset cboRays 2\nset cboStep 0.2\nstop-at 50"},
       {"three wavelengths", "set cboWave 3\nset txtRadius 4\nset cboRays 2"},
   };
-  std::string text;
+  std::string text, fields;
+  std::vector<std::string> before;
   for (const auto& row : MethodTable()) {
     if (!IsAvailable(row.feature)) continue;
     for (const auto& [regime, lines] : regimes) {
-      Do("reset\nchoose cboType " + std::string(row.text) + "\n" + lines + "\nset cboStep 2");
+      Do("reset\nchoose cboType " + std::string(row.text) + "\nset cboStep 2\n" + lines);
       runner.World().messages.clear();
-      text += std::string(row.text) + ", " + regime + "\n" + NumbersOfARun();
+      const std::string heading = std::string(row.text) + ", " + regime + "\n";
+      text += heading + NumbersOfARun();
+      fields += heading + FieldsSince(before);
     }
   }
   HoldAgainstRecord("regimes", text);
+  HoldAgainstRecord("fields_of_methods", fields);
 }
 
 /// Titles, units and numbers of the axes, in every letter and place.
 TEST_F(Recorded, TextsOfEveryGraph) {
-  std::string text;
+  std::string text, fields;
+  std::vector<std::string> before;
   for (const auto& graph : OfferedGraphs())
     for (const char* look : {"click OptLog", "click mnuSizeSpecial\nclick optLinear"}) {
       Do("reset\ndialog dlogIncident ok\nchoose cboGraph " + graph);
       runner.World().messages.clear();
       TakeFewPoints();
       Do(std::string(look) + "\nset txtRefractImag 0.001\nclick cmdNewPlot");
+      fields += graph + "\n" + FieldsSince(before);
       text += graph + "\n" + Messages() + Painted(0, 0, IsText);
     }
   HoldAgainstRecord("texts", text);
+  HoldAgainstRecord("fields_of_graphs", fields);
 }
 
 TEST_F(Recorded, Pages) {

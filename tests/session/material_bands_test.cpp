@@ -98,6 +98,18 @@ TEST_F(MaterialBands, HoldForFilesOnAxesAndInSpectra) {
   EXPECT_EQ(Shown().size(), 1U) << LastText();
 }
 
+TEST_F(MaterialBands, HoldForTheEquationUpToItsVeryEnds) {
+  Do("choose cboGraph Intensity v. wavelength\nset cboStep 10\n"
+     "dialog dlogRI_Formula ok txtLambdaMin=0.4 txtLambdaMax=0.7\nclick mnuRI_Formula\nclick cmdNewPlot");
+  EXPECT_TRUE(Shown().empty()) << LastText();
+  for (const char* beyond : {"set txtXmax 701", "set txtXmax 700\nset txtXmin 399"}) {
+    runner.World().messages.clear();
+    Do(std::string(beyond) + "\nclick cmdNewPlot");
+    ASSERT_EQ(Shown().size(), 1U) << beyond;
+    EXPECT_EQ(LastTitle(), "Refractive index calculations");
+  }
+}
+
 TEST_F(MaterialBands, TheStatusLineOffersTheWayOutOfStartValuesThatAreRefused) {
   for (const char* graph : {"Albedo v. wavelength", "Asymmetry g v. wavelength"}) {
     Do(std::string("choose cboGraph ") + graph);
