@@ -63,11 +63,11 @@ constexpr std::array rows = {
     Graph{{23, 1}, F::AngleMap, A::RefractiveIndex, Q::Intensity, D::ColourImage, M::Any},
     Graph{{24, 1}, F::AngleMap, A::Radius, Q::Intensity, D::ColourImage, M::Any},
     Graph{{25, 1}, F::AngleMap, A::Wavelength, Q::Intensity, D::ColourImage, M::Any},
-    Graph{{26, 1}, F::EfficiencyMap, A::RefractiveIndex, Q::Efficiencies, D::ColourImage, M::Any},
-    Graph{{26, 2}, F::EfficiencyMap, A::RefractiveIndex, Q::Efficiencies, D::ColourImage, M::Any},
+    Graph{{26, 1}, F::EfficiencyMap, A::RefractiveIndex, Q::Efficiencies, D::ColourImage, M::Series},
+    Graph{{26, 2}, F::EfficiencyMap, A::RefractiveIndex, Q::Efficiencies, D::ColourImage, M::Series},
     Graph{{26, 4}, F::EfficiencyMap, A::RefractiveIndex, Q::Intensity, D::ColourImage, M::Any},
-    Graph{{27, 1}, F::EfficiencyMap, A::RefractiveIndex, Q::Efficiencies, D::ColourImage, M::Any},
-    Graph{{28, 1}, F::EfficiencyMap, A::RefractiveIndex, Q::Efficiencies, D::ColourImage, M::Any},
+    Graph{{27, 1}, F::EfficiencyMap, A::RefractiveIndex, Q::Efficiencies, D::ColourImage, M::Series},
+    Graph{{28, 1}, F::EfficiencyMap, A::RefractiveIndex, Q::Efficiencies, D::ColourImage, M::Series},
     Graph{{28, 3}, F::EfficiencyMap, A::RefractiveIndex, Q::Intensity, D::ColourImage, M::Any},
     Graph{{30, 0}, F::Volume, A::Place, Q::Intensity, D::Curves, M::Any},
     Graph{{31, 0}, F::Volume, A::Number, Q::Intensity, D::Curves, M::Any},
@@ -75,7 +75,42 @@ constexpr std::array rows = {
     Graph{{33, 0}, F::Volume, A::Radius, Q::Intensity, D::Curves, M::Any},
 };
 
+constexpr std::array sweptRows = {
+    SweptQuantities{{20, 1}, Swept::Radius, std::nullopt, true},
+    SweptQuantities{{20, 2}, Swept::SphereIndex, std::nullopt},
+    SweptQuantities{{22, 1}, Swept::SphereIndex, std::nullopt},
+    SweptQuantities{{22, 2}, Swept::MediumIndex, std::nullopt},
+    SweptQuantities{{23, 1}, Swept::SphereAbsorption, std::nullopt},
+    SweptQuantities{{24, 1}, Swept::Radius, std::nullopt},
+    SweptQuantities{{25, 1}, Swept::Wavelength, std::nullopt},
+    SweptQuantities{{26, 1}, Swept::SphereIndex, Swept::SizeParameter},
+    SweptQuantities{{26, 2}, Swept::SphereIndex, Swept::SizeParameter},
+    SweptQuantities{{26, 4}, Swept::SphereIndex, Swept::SizeParameter},
+    SweptQuantities{{27, 1}, Swept::SphereAbsorption, Swept::SizeParameter},
+    SweptQuantities{{28, 1}, Swept::SphereIndex, Swept::SphereAbsorption},
+    SweptQuantities{{28, 3}, Swept::SphereIndex, Swept::SphereAbsorption},
+};
+
+bool Sweeps(const Graph& graph, Swept quantity) {
+  const SweptQuantities* swept = FindSwept(graph);
+  return swept != nullptr && (swept->columns == quantity || swept->rows == quantity);
+}
+
 }  // namespace
+
+bool Graph::VariesIndex() const {
+  const bool alongAxis = family == Family::Axis && axis == AxisVariable::RefractiveIndex;
+  return alongAxis || Sweeps(*this, Swept::SphereIndex) || Sweeps(*this, Swept::SphereAbsorption);
+}
+
+bool Graph::VariesMedium() const {
+  return Sweeps(*this, Swept::MediumIndex);
+}
+
+const SweptQuantities* FindSwept(const Graph& graph) {
+  const auto row = std::ranges::find(sweptRows, graph.code, &SweptQuantities::code);
+  return row == sweptRows.end() ? nullptr : &*row;
+}
 
 std::span<const Graph> GraphTraitsTable() {
   return rows;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <span>
 
 namespace lumivex {
@@ -130,10 +131,13 @@ struct Graph {
   }
   /// Calculated at one wavelength only.
   bool OneWavelengthOnly() const {
-    return (OfAngles() && quantity != Quantity::Intensity) || AgainstAxis() || family == Family::Impulse;
+    return (OfAngles() && quantity != Quantity::Intensity) || AgainstAxis() || family == Family::Impulse ||
+           family == Family::EfficiencyMap || (family == Family::AngleMap && axis == AxisVariable::Wavelength);
   }
   /// Whether its index of the sphere is one of its own, and no material's.
-  bool VariesIndex() const { return family == Family::Axis && axis == AxisVariable::RefractiveIndex; }
+  bool VariesIndex() const;
+  /// Whether its index of the medium is.
+  bool VariesMedium() const;
   /// A map over real index and size parameter.
   bool MapsIndexAndSize() const { return code.type == 26; }
   /// Graphs of one type have their ranges in common: a change between them keeps what was typed.
@@ -144,10 +148,33 @@ struct Graph {
                               quantity == Quantity::CumulativeProbability);
   }
   bool IsMap() const { return family == Family::AngleMap || family == Family::EfficiencyMap; }
+  /// Columns of scattering angles.
+  bool ColumnsOfAngles() const { return family == Family::Lee || family == Family::AngleMap; }
   /// Colours of cells: Lee diagrams and maps.
   bool InColour() const { return family == Family::Lee || IsMap(); }
   bool operator==(const Graph&) const = default;
 };
+
+/// What a map varies along one of its sides.
+enum class Swept {
+  Radius,            ///< um
+  SphereIndex,       ///< real part
+  SphereAbsorption,  ///< imaginary part
+  MediumIndex,
+  Wavelength,     ///< nm
+  SizeParameter,  ///< of the sphere in its medium
+};
+
+/// What a Lee diagram or a map varies from column to column, and from row to row where these are no angles.
+struct SweptQuantities {
+  GraphCode code;
+  Swept columns = Swept::Radius;
+  std::optional<Swept> rows;
+  bool geometric = false;  ///< columns of equal ratios
+};
+
+/// The row of a Lee diagram or a map; null for any other graph.
+const SweptQuantities* FindSwept(const Graph& graph);
 
 /// All graphs, by code.
 std::span<const Graph> GraphTraitsTable();

@@ -51,7 +51,7 @@ FamilyEnd RunOneSphere(const RunRequest& request, const AngleRows& rows, const S
 FamilyEnd RunOneCloud(const RunRequest& request, const AngleRows& rows, const Setting& setting, TaskPool& pool,
                       Results& results) {
   AngleFound found;
-  SettingsPlan plan{request, {setting}, AngleGrid(rows.NANG), rows.window, true, true, {}, {}};
+  SettingsPlan plan{request, std::vector{setting}, AngleGrid(rows.NANG), rows.window, true, true, {}, {}};
   plan.keep = [&](std::size_t, SettingFound&& cloud) {
     TellSphere(cloud.sphere, results.last);
     results.last.samples = cloud.samples;
@@ -85,12 +85,13 @@ FamilyEnd RunAngles(const RunRequest& request, const AngleRun& run, TaskPool& po
 FamilyEnd RunSpectrum(const RunRequest& request, const SpectrumRun& run, TaskPool& pool, Results& results) {
   const SpectrumOfLight& light = *request.light.spectrum;
   const RowWindow window = run.rows.window;
-  SettingsPlan plan{request, {}, AngleGrid(run.rows.NANG), window, false, false, {}, {}};
+  std::vector<Setting> settings;
   for (int i = 1; i <= light.Count(); ++i) {
     const SettingResult at = SettingAt(request, double{light.wavelength[static_cast<std::size_t>(i)]});
     if (!at.Good()) return {false, at.refusal};
-    plan.settings.push_back(at.setting);
+    settings.push_back(at.setting);
   }
+  SettingsPlan plan{request, settings, AngleGrid(run.rows.NANG), window, false, false, {}, {}};
   SpectrumFound found;
   const auto rows = static_cast<std::size_t>(window.high - window.low + 1);
   const auto count = static_cast<std::size_t>(light.Count());
@@ -100,7 +101,7 @@ FamilyEnd RunSpectrum(const RunRequest& request, const SpectrumRun& run, TaskPoo
   plan.keep = [&](std::size_t i, SettingFound&& sphere) {
     AppendIntensities(sphere.sphere.S1, window, found.perpendicular);
     AppendIntensities(sphere.sphere.S2, window, found.parallel);
-    found.waveNumber[static_cast<std::size_t>(++found.done)] = plan.settings[i].WaveNumber();
+    found.waveNumber[static_cast<std::size_t>(++found.done)] = settings[i].WaveNumber();
     TellSphere(sphere.sphere, results.last);
     results.last.samples = sphere.samples;
     found.S1 = std::move(sphere.sphere.S1);
@@ -110,7 +111,7 @@ FamilyEnd RunSpectrum(const RunRequest& request, const SpectrumRun& run, TaskPoo
   SettingsEnd end = RunSettings(plan, pool);
   if (!end.refusal.text.empty() || found.done == 0) return {false, std::move(end.refusal)};
   // One wavelength stands for all where only one can be told.
-  TellSetting(plan.settings[static_cast<std::size_t>(light.Middle() - 1)], results.last);
+  TellSetting(settings[static_cast<std::size_t>(light.Middle() - 1)], results.last);
   results.last.NANG = run.rows.NANG;
   results.found = std::move(found);
   return {true, {}};

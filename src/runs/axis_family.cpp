@@ -128,8 +128,9 @@ Refusal SolvePoints(const RunRequest& request, const AxisRun& axis, std::vector<
     found.Cext[i] = at.Cext;
     found.Csca[i] = at.Csca;
     if (power) {
-      const double x2 = SphereOptions(request).divideBySize ? plan.settings[index].x * plan.settings[index].x : 1;
-      const double k = plan.settings[index].WaveNumber();
+      const Setting setting = plan.settings[index];
+      const double x2 = SphereOptions(request).divideBySize ? setting.x * setting.x : 1;
+      const double k = setting.WaveNumber();
       const double scale = request.light.incidentDensity * 2 * pi / (k * k) * x2;
       found.powerPerp[i] = scale * rows.Integral(at.sphere.S1);
       found.powerPar[i] = scale * rows.Integral(at.sphere.S2);

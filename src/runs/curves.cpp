@@ -341,8 +341,11 @@ Curves CurvesOfFound(const Results&, const CurveLook&, const DebyeAnalysisFound&
   return curves;
 }
 
-/// A chart of two cross-sections has no x of its own: it is drawn from the tables.
+/// A chart of two cross-sections has no x of its own, and a map no curves: they are drawn from their tables.
 Curves CurvesOfFound(const Results&, const CurveLook&, const TwoAngleFound&) {
+  return {};
+}
+Curves CurvesOfFound(const Results&, const CurveLook&, const MapFound&) {
   return {};
 }
 
@@ -403,6 +406,7 @@ Curves CurvesOfWavelength(const Results& results, const CurveLook& look, int wav
 const AngleRows* RowsOf(const FamilyRun& run) {
   if (const auto* angles = std::get_if<AngleRun>(&run)) return &angles->rows;
   if (const auto* spectrum = std::get_if<SpectrumRun>(&run)) return &spectrum->rows;
+  if (const auto* map = std::get_if<AngleMapRun>(&run)) return &map->rows;
   return nullptr;
 }
 

@@ -19,9 +19,19 @@ FamilyEnd RunAxis(const RunRequest& request, const AxisRun& run, TaskPool& pool,
 FamilyEnd RunConvergence(const RunRequest& request, const ConvergenceRun& run, TaskPool& pool, Results& results);
 FamilyEnd RunDebyeAnalysis(const RunRequest& request, const DebyeAnalysisRun& run, TaskPool& pool, Results& results);
 FamilyEnd RunTwoAngle(const RunRequest& request, const TwoAngleRun& run, TaskPool& pool, Results& results);
+FamilyEnd RunAngleMap(const RunRequest& request, const AngleMapRun& run, TaskPool& pool, Results& results);
+FamilyEnd RunEfficiencyMap(const RunRequest& request, const EfficiencyMapRun& run, TaskPool& pool, Results& results);
 
 /// Wavelength, size and index at a point of an axis; what the axis does not vary is that of `base`.
 SettingResult SettingAtPoint(const RunRequest& request, AxisVariable axis, double x, const Setting& base);
+
+/// Setting of a column (from 0) of a map over angle at a wavelength (um); of a column that is a wavelength at that one.
+SettingResult SettingOfColumn(const RunRequest& request, const AngleMapRun& run, int column, double lambda);
+/// Setting of a cell of a map without angles; first indices 0.
+SettingResult SettingOfCell(const RunRequest& request, const EfficiencyMapRun& run, int column, int row);
+
+/// The work of each column in the unit of PairTermsOf; 0 by a method without a series.
+std::vector<double> WorkOfColumns(const RunRequest& request, const AngleMapRun& run);
 
 /// Power scattered into a range of angles: the incident density times 2 pi/k^2 times the integral of |S|^2 sin(theta).
 struct PowerRows {

@@ -111,15 +111,6 @@ struct TwoAngleRun {
   std::vector<double> index;   ///< of the sphere in vacuo, by column, first index 0
   std::vector<double> radius;  ///< um, by row, first index 0
 };
-/// What a map varies along one of its sides.
-enum class Swept {
-  Radius,            ///< um
-  SphereIndex,       ///< real part
-  SphereAbsorption,  ///< imaginary part
-  MediumIndex,
-  Wavelength,     ///< nm
-  SizeParameter,  ///< of the sphere in its medium
-};
 /// Samples of what a map varies: the first at `low`, the last at `high`.
 struct Sweep {
   Swept quantity = Swept::Radius;
@@ -141,7 +132,8 @@ struct EfficiencyMapRun {
   Sweep columns, rows;
   double angle = 0;  ///< radians
 };
-using FamilyRun = std::variant<AngleRun, SpectrumRun, AxisRun, ConvergenceRun, DebyeAnalysisRun, TwoAngleRun>;
+using FamilyRun = std::variant<AngleRun, SpectrumRun, AxisRun, ConvergenceRun, DebyeAnalysisRun, TwoAngleRun,
+                               AngleMapRun, EfficiencyMapRun>;
 
 /// The request in the words of whoever made it: titles, keys, headers and files are written with them; no calculation
 /// reads them.

@@ -104,14 +104,15 @@ struct TwoAngleFound {
   int done = 0;        ///< spheres
 };
 
-/// Cells of one panel of a map: element column * rows + row, first indices 0, the lowest row first. Cells have either a
-/// value or, where a spectrum was summed up, three channels.
+/// Cells of one panel of a map, in single precision, since it is colours that they become: element column * rows + row,
+/// first indices 0, the lowest row first. Cells have either a value or, where a spectrum was summed up, three channels.
 struct MapPanel {
   std::vector<float> value;
   std::vector<float> red, green, blue;
 };
 
-/// What a map holds, column by column.
+/// What a map holds, column by column; cells of columns that were not done are 0. A cell takes 8 bytes of one
+/// wavelength, 28 of a spectrum, and 12 where efficiencies are mapped: 200 MB of the largest spectrum.
 struct MapFound {
   int rows = 0, columns = 0;
   int firstRow = 1;  ///< of a map over angle the row of the grid that the lowest row of the cells is
@@ -120,13 +121,15 @@ struct MapFound {
   /// Of a spectrum: the wavelength (from 1) that gives most to a cell, of each panel.
   std::vector<std::vector<std::uint16_t>> strongest;
   int done = 0;  ///< columns, from the first
+  /// Whether cells have channels in place of a value.
+  bool OfSpectrum() const { return !panels.empty() && !panels.front().red.empty(); }
   std::size_t At(int column, int row) const {
     return static_cast<std::size_t>(column) * static_cast<std::size_t>(rows) + static_cast<std::size_t>(row);
   }
 };
 
 using FamilyFound =
-    std::variant<AngleFound, SpectrumFound, AxisFound, ConvergenceFound, DebyeAnalysisFound, TwoAngleFound>;
+    std::variant<AngleFound, SpectrumFound, AxisFound, ConvergenceFound, DebyeAnalysisFound, TwoAngleFound, MapFound>;
 
 /// What a run found, with what it was asked: whoever holds results knows what they are results of.
 struct Results {

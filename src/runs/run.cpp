@@ -20,9 +20,19 @@ struct RunFamily {
   FamilyEnd operator()(const ConvergenceRun& run) const { return RunConvergence(request, run, pool, results); }
   FamilyEnd operator()(const DebyeAnalysisRun& run) const { return RunDebyeAnalysis(request, run, pool, results); }
   FamilyEnd operator()(const TwoAngleRun& run) const { return RunTwoAngle(request, run, pool, results); }
+  FamilyEnd operator()(const AngleMapRun& run) const { return RunAngleMap(request, run, pool, results); }
+  FamilyEnd operator()(const EfficiencyMapRun& run) const { return RunEfficiencyMap(request, run, pool, results); }
 };
 
 }  // namespace
+
+void TellPlace(const Setting& setting, RunProgress& progress) {
+  progress.lambda = setting.lambda;
+  progress.radius = setting.radius;
+  progress.sphereN = setting.indices.sphereN;
+  progress.sphereK = setting.indices.sphereK;
+  progress.relative = setting.mRe;
+}
 
 void TellSetting(const Setting& setting, LastSphere& last) {
   last.lambda = setting.lambda;

@@ -24,6 +24,12 @@ inline constexpr int mostPoints = 18001;
 /// Most intensities of one polarisation that a spectrum may leave, wavelengths times rows: 160 MB.
 inline constexpr double mostSpectrumValues = 20e6;
 
+/// Most cells of a map: as many as fit into 230 MB with three channels and their wavelength in two panels.
+inline constexpr double mostMapCells = 8e6;
+
+/// Cells of a map; 0 for any other run.
+double MapCells(const FamilyRun& run);
+
 /// Rows from 0 to 90 degrees of a two-angle run: steps of 0.1 degrees.
 inline constexpr int twoAngleRowsTo90 = 901;
 

@@ -2,6 +2,8 @@
 
 namespace lumivex {
 
+struct MapFound;
+
 /// Where a run stands: the piece that was begun last, and the share of all the work that is done.
 struct RunProgress {
   double share = 0;    ///< 0 to 1; never falls
@@ -10,8 +12,14 @@ struct RunProgress {
   int point = 0;       ///< running point of an axis, from 1
   int column = 0;      ///< running cell of a table, from 0
   int row = 0;
-  double lambda = 0;  ///< um
-  double radius = 0;  ///< um
+  double lambda = 0;                ///< um
+  double radius = 0;                ///< um
+  double sphereN = 0, sphereK = 0;  ///< indices of the sphere
+  double relative = 0;              ///< real part, relative to the medium
+  /// Of a map the cells that it has so far: columns before `columnsDone` are whole and stand, the others are in the
+  /// hands of other threads. Valid during the look.
+  const MapFound* map = nullptr;
+  int columnsDone = 0;
 };
 
 /// Who watches a run: shows how far it is, and may stop it.

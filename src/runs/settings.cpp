@@ -1,6 +1,7 @@
 #include "runs/settings.h"
 
 #include <algorithm>
+#include <map>
 #include <mutex>
 #include <numbers>
 #include <utility>
@@ -29,28 +30,79 @@ class FirstRefusal {
   Refusal refusal_;
 };
 
+using PiecesByIndex = std::map<std::pair<double, double>, std::shared_ptr<const RayPieces>>;
+
+/// Fills the pieces of all indices; after a Stop some stay empty, and no sphere asks for them any more.
+void FindPieces(const MethodOptions& options, PiecesByIndex& pieces, TaskPool& pool) {
+  std::vector<PiecesByIndex::value_type*> all;
+  for (auto& one : pieces) all.push_back(&one);
+  TaskList tasks;
+  tasks.count = all.size();
+  tasks.shareOfRun = 0;
+  tasks.work = [&](std::size_t task, std::size_t, RunMonitor& monitor) {
+    all[task]->second = PiecesOf(options, all[task]->first.first, all[task]->first.second, monitor);
+    return true;
+  };
+  tasks.take = [](std::size_t, std::size_t) { return true; };
+  pool.Do(tasks);
+}
+
 std::shared_ptr<const AngleCosines> CosinesOf(const SettingsPlan& plan) {
   return plan.grid.NANG > 1 ? std::make_shared<const AngleCosines>(plan.grid, plan.window) : nullptr;
 }
 
-/// What the spheres of a plan have in common.
+/// What the spheres of a plan have in common: of rays the pieces by relative index.
 struct Shared {
   std::shared_ptr<const AngleCosines> cosines;
-  std::shared_ptr<const RayPieces> pieces;
+  PiecesByIndex pieces;
 };
 
 Shared SharedOf(const SettingsPlan& plan, TaskPool& pool) {
-  Shared shared{CosinesOf(plan), nullptr};
-  const auto sameIndex = [&](const Setting& setting) {
-    return setting.mRe == plan.settings.front().mRe && setting.mIm == plan.settings.front().mIm;
-  };
-  if (!plan.settings.empty() && std::ranges::all_of(plan.settings, sameIndex))
-    shared.pieces = PiecesInPool(plan.request.method, plan.settings.front().mRe, plan.settings.front().mIm, pool);
+  Shared shared{CosinesOf(plan), {}};
+  if (!TracesRays(plan.request.method)) return shared;
+  // Pieces are found for all spheres that share them first; where each has an index of its own, it finds its own.
+  constexpr std::size_t leastSharing = 2;
+  const std::size_t mostIndices = std::max<std::size_t>(plan.settings.size() / leastSharing, 1);
+  for (std::size_t i = 0; i < plan.settings.size() && shared.pieces.size() <= mostIndices; ++i) {
+    const Setting setting = plan.settings[i];
+    shared.pieces.try_emplace({setting.mRe, setting.mIm});
+  }
+  if (shared.pieces.size() > mostIndices)
+    shared.pieces.clear();
+  else
+    FindPieces(plan.request.method, shared.pieces, pool);
   return shared;
 }
 
 SphereAsked AskedAt(const SettingsPlan& plan, const Setting& setting, double x, const Shared& shared) {
-  return {x, setting.mRe, setting.mIm, plan.grid, plan.window, shared.cosines, shared.pieces};
+  const auto pieces = shared.pieces.find({setting.mRe, setting.mIm});
+  return {x,
+          setting.mRe,
+          setting.mIm,
+          plan.grid,
+          plan.window,
+          shared.cosines,
+          pieces == shared.pieces.end() ? nullptr : pieces->second};
+}
+
+/// How much comes before each task, of a plan that knows it.
+std::function<double(std::size_t)> WorkBeforeTasks(const SettingsPlan& plan, std::size_t tasksPerSetting) {
+  if (!plan.workBefore) return {};
+  return [&plan, tasksPerSetting](std::size_t task) {
+    const std::size_t setting = task / tasksPerSetting;
+    const double before = plan.workBefore(setting), part = static_cast<double>(task % tasksPerSetting);
+    return before + (plan.workBefore(setting + 1) - before) * part / static_cast<double>(tasksPerSetting);
+  };
+}
+
+/// Refuses what lies beyond the limits of the method.
+Refusal BeyondLimits(const SettingsPlan& plan) {
+  for (std::size_t i = 0; i < plan.settings.size(); ++i) {
+    const Setting setting = plan.settings[i];
+    if (Refusal beyond = BeyondLimits(plan.request.method, setting.x, setting.mRe, setting.mIm); !beyond.text.empty())
+      return beyond;
+  }
+  return {};
 }
 
 Refusal RefusalOf(SizeFailure failure) {
@@ -95,6 +147,9 @@ double SizeParameterOf(double radius, double medium, double lambda) {
   return twoPi * radius * medium / lambda;
 }
 
+SettingList::SettingList(std::vector<Setting> settings)
+    : count_(settings.size()), make_([all = std::move(settings)](std::size_t place) { return all[place]; }) {}
+
 SettingResult SettingAt(const RunRequest& request, double lambda) {
   SettingResult result;
   const IndicesFound found = IndicesAt(request.particle.sphere, request.particle.medium, lambda);
@@ -132,22 +187,20 @@ MethodOptions SphereOptions(const RunRequest& request) {
 
 SettingsEnd RunSettings(const SettingsPlan& plan, TaskPool& pool) {
   if (plan.request.Cloud()) return DispCalc(plan, pool);
-  for (const Setting& setting : plan.settings)
-    if (Refusal beyond = BeyondLimits(plan.request.method, setting.x, setting.mRe, setting.mIm); !beyond.text.empty())
-      return {0, std::move(beyond)};
+  if (Refusal beyond = BeyondLimits(plan); !beyond.text.empty()) return {0, std::move(beyond)};
   const Shared shared = SharedOf(plan, pool);
   std::vector<SphereSolution> slots(pool.Slots());
   FirstRefusal refusals;
   TaskList tasks;
   tasks.count = plan.settings.size();
   tasks.work = [&](std::size_t task, std::size_t slot, RunMonitor& monitor) {
-    const Setting& setting = plan.settings[task];
+    const Setting setting = plan.settings[task];
     slots[slot] = SolveSphere(plan.request.method, AskedAt(plan, setting, setting.x, shared), monitor);
     if (slots[slot].Refused()) refusals.Note(task, slots[slot].refusal);
     return slots[slot].finished && !slots[slot].Refused();
   };
   tasks.take = [&](std::size_t task, std::size_t slot) {
-    const double area = std::numbers::pi * plan.settings[task].radius * plan.settings[task].radius;
+    const double radius = plan.settings[task].radius, area = std::numbers::pi * radius * radius;
     SettingFound found;
     found.sphere = std::move(slots[slot]);
     found.Cext = found.sphere.efficiencies.Qext * area;
@@ -156,10 +209,10 @@ SettingsEnd RunSettings(const SettingsPlan& plan, TaskPool& pool) {
     return true;
   };
   tasks.place = [&](std::size_t task, RunProgress& progress) {
-    progress.lambda = plan.settings[task].lambda;
-    progress.radius = plan.settings[task].radius;
+    TellPlace(plan.settings[task], progress);
     if (plan.place) plan.place(task, progress);
   };
+  tasks.before = WorkBeforeTasks(plan, 1);
   SettingsEnd end;
   end.kept = pool.Do(tasks);
   if (end.kept < tasks.count) end.refusal = refusals.Of(end.kept);
@@ -169,16 +222,18 @@ SettingsEnd RunSettings(const SettingsPlan& plan, TaskPool& pool) {
 SettingsEnd DispCalc(const SettingsPlan& plan, TaskPool& pool) {
   SettingsEnd end;
   if (plan.settings.empty()) return end;
-  const CloudSamples first = SamplesOf(plan.request.sizes, plan.settings.front().radius);
+  double radiusOfLargest = plan.settings.front().radius;
+  const CloudSamples first = SamplesOf(plan.request.sizes, radiusOfLargest);
   if (first.failure != SizeFailure::None) {
     end.refusal = RefusalOf(first.failure);
     return end;
   }
-  for (const Setting& setting : plan.settings) {
+  double largest = LargestOf(first);
+  for (std::size_t i = 0; i < plan.settings.size(); ++i) {
+    const Setting setting = plan.settings[i];
     // The largest sphere of a cloud decides; of models and files it is the same everywhere.
-    const double largest = setting.radius == plan.settings.front().radius
-                               ? LargestOf(first)
-                               : LargestOf(SamplesOf(plan.request.sizes, setting.radius));
+    if (setting.radius != radiusOfLargest) largest = LargestOf(SamplesOf(plan.request.sizes, setting.radius));
+    radiusOfLargest = setting.radius;
     const double x = SizeParameterOf(largest, setting.indices.MediumInUse(), setting.lambda);
     if (Refusal beyond = BeyondLimits(plan.request.method, x, setting.mRe, setting.mIm); !beyond.text.empty())
       return {0, std::move(beyond)};
@@ -200,8 +255,9 @@ SettingsEnd DispCalc(const SettingsPlan& plan, TaskPool& pool) {
   const int tableRows = plan.grid.RowCount();
   TaskList tasks;
   tasks.count = plan.settings.size() * perCloud;
+  tasks.before = WorkBeforeTasks(plan, perCloud);
   tasks.work = [&](std::size_t task, std::size_t slotIndex, RunMonitor& monitor) {
-    const Setting& setting = plan.settings[task / perCloud];
+    const Setting setting = plan.settings[task / perCloud];
     Slot& slot = slots[slotIndex];
     const CloudSamples& samples = slot.samples.At(plan.request, setting.radius);
     if (samples.failure != SizeFailure::None) {
@@ -229,10 +285,10 @@ SettingsEnd DispCalc(const SettingsPlan& plan, TaskPool& pool) {
   };
   // The slot of a task that is done belongs to whoever works in it next; so the place has samples of its own.
   tasks.place = [&, told = SamplesCache()](std::size_t task, RunProgress& progress) mutable {
-    const Setting& setting = plan.settings[task / perCloud];
+    const Setting setting = plan.settings[task / perCloud];
     const std::size_t sample = task % perCloud + 1;
     const CloudSamples& samples = told.At(plan.request, setting.radius);
-    progress.lambda = setting.lambda;
+    TellPlace(setting, progress);
     if (samples.failure == SizeFailure::None) progress.radius = samples.radius[sample];
     progress.sample = static_cast<int>(sample);
     if (plan.place) plan.place(task / perCloud, progress);

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "runs/cloud_sums.h"
@@ -32,10 +33,28 @@ struct SettingResult {
 };
 SettingResult SettingAt(const RunRequest& request, double lambda);
 
+/// Settings by their place, from 0. A map has more of them than memory is for: they are made when they are asked for,
+/// by a pure function that any thread may call.
+class SettingList {
+ public:
+  SettingList() = default;
+  SettingList(std::vector<Setting> settings);
+  SettingList(std::size_t count, std::function<Setting(std::size_t)> make) : count_(count), make_(std::move(make)) {}
+
+  std::size_t size() const { return count_; }
+  bool empty() const { return count_ == 0; }
+  Setting operator[](std::size_t place) const { return make_(place); }
+  Setting front() const { return make_(0); }
+
+ private:
+  std::size_t count_ = 0;
+  std::function<Setting(std::size_t)> make_;
+};
+
 /// A run over settings: at each the sphere, or the cloud about it.
 struct SettingsPlan {
   const RunRequest& request;
-  std::vector<Setting> settings;
+  SettingList settings;
   AngleGrid grid;  ///< the same at all of them
   RowWindow window{1, 1};
   bool keepsPartOfCloud = false;  ///< after a Stop the means over the sizes that were done are kept
@@ -44,6 +63,8 @@ struct SettingsPlan {
   std::function<void(std::size_t setting, SettingFound&& found)> keep;
   /// Tells where a setting stands.
   std::function<void(std::size_t setting, RunProgress& progress)> place;
+  /// The share of all work, 0 to 1, that comes before a setting; without it all settings take alike.
+  std::function<double(std::size_t setting)> workBefore = {};
 };
 
 /// @return the settings that were kept and why the run ended before its end, where that was a refusal.
@@ -60,6 +81,9 @@ MethodOptions SphereOptions(const RunRequest& request);
 /// DispCalc: the sizes of the plan's cloud at each setting, in place of one solver call. Means are sums over numbers
 /// of particles; for a size file and "actual" results they stay sums.
 SettingsEnd DispCalc(const SettingsPlan& plan, TaskPool& pool);
+
+/// What a setting tells whoever watches.
+void TellPlace(const Setting& setting, RunProgress& progress);
 
 /// PiecesOf as a task of the pool; empty for a method that traces no rays.
 std::shared_ptr<const RayPieces> PiecesInPool(const MethodOptions& options, double mRe, double mIm, TaskPool& pool);

@@ -62,6 +62,7 @@ struct Board {
 
   bool Over() const { return ended || taken == tasks.count; }
 
+  /// Tasks that are done, those under way in part.
   double Done() const {
     double done = static_cast<double>(taken);
     for (const Slot& slot : slots) {
@@ -157,12 +158,12 @@ class OwnerMonitor final : public RunMonitor {
   void Look() {
     RunProgress progress;
     const TaskList& tasks = board_.tasks;
+    double done = 0;
     {
       const std::lock_guard lock(board_.mutex);
-      if (tasks.count > 0)
-        share_ =
-            std::max(share_, tasks.shareBefore + tasks.shareOfRun * board_.Done() / static_cast<double>(tasks.count));
+      done = board_.Done();
     }
+    if (tasks.count > 0) share_ = std::max(share_, tasks.shareBefore + tasks.shareOfRun * ShareOf(done));
     if (tasks.place) tasks.place(task, progress);
     progress.share = std::min(share_, 1.0);
     // What the outside world does meanwhile is not the task's arithmetic.
@@ -181,6 +182,15 @@ class OwnerMonitor final : public RunMonitor {
   bool stopped = false;
 
  private:
+  /// The share of all tasks that so many of them are.
+  double ShareOf(double done) const {
+    const TaskList& tasks = board_.tasks;
+    if (!tasks.before) return done / static_cast<double>(tasks.count);
+    const std::size_t whole = std::min(static_cast<std::size_t>(done), tasks.count - 1);
+    const double before = tasks.before(whole), next = tasks.before(whole + 1);
+    return before + (next - before) * (done - static_cast<double>(whole));
+  }
+
   Board& board_;
   RunWatch& watch_;
   double& share_;

@@ -27,6 +27,10 @@ struct TaskList {
   /// done: its slot may be in other hands by then, so nothing is read from slots.
   std::function<void(std::size_t task, RunProgress& progress)> place;
 
+  /// Of tasks that do not take alike: the share of their work, 0 to 1, that comes before a task; asked for task `count`
+  /// too. Runs on the thread that called Do.
+  std::function<double(std::size_t task)> before = {};
+
   double shareBefore = 0, shareOfRun = 1;  ///< of the whole run that these tasks are
 };
 

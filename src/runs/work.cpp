@@ -23,10 +23,10 @@ constexpr double ratioTerm = 100;  // times x: continued fractions of an absorbi
 /// Most settings, and most sizes of a cloud, that are looked at one by one.
 constexpr int mostLooks = 100;
 
-/// Sums f(1) to f(count); of more than mostLooks some, evenly spread, stand for the others.
+/// Sums f(1) to f(count); of more than `most` some, evenly spread, stand for the others.
 template <class Function>
-double SumOver(int count, const Function& f) {
-  const int looks = std::min(count, mostLooks);
+double SumOver(int count, const Function& f, int most = mostLooks) {
+  const int looks = std::min(count, most);
   double sum = 0;
   for (int i = 0; i < looks; ++i) sum += f(1 + static_cast<int>((i + 0.5) * count / looks));
   return looks > 0 ? sum * count / looks : 0;
@@ -132,7 +132,40 @@ double WorkOf(const RunRequest& request, const TwoAngleRun& run) {
   return column * static_cast<double>(run.index.size());
 }
 
+double WorkOf(const RunRequest& request, const AngleMapRun& run) {
+  double sum = 0;
+  for (const double column : WorkOfColumns(request, run)) sum += column;
+  return sum;
+}
+
+double WorkOf(const RunRequest& request, const EfficiencyMapRun& run) {
+  const bool lanes = request.method.method == Method::Mie && !request.Cloud();
+  const double pairs = lanes ? mieTermInLanes - mieTerm : 1;
+  return SumOver(run.columns.Count(), [&](int column) {
+    return SumOver(run.rows.Count(), [&](int row) {
+      const SettingResult at = SettingOfCell(request, run, column - 1, row - 1);
+      return at.Good() ? SettingWork(request, request.method, at.setting, pairs) : 0;
+    });
+  });
+}
+
 }  // namespace
+
+std::vector<double> WorkOfColumns(const RunRequest& request, const AngleMapRun& run) {
+  constexpr int wavelengthLooks = 8;
+  const double pairs = PairsOf(AngleGrid(run.rows.NANG), run.rows.window);
+  std::vector<double> work;
+  for (int column = 0; column < run.columns.Count(); ++column) {
+    const auto workAt = [&](double lambda) {
+      const SettingResult at = SettingOfColumn(request, run, column, lambda);
+      return at.Good() ? SettingWork(request, request.method, at.setting, pairs) : 0;
+    };
+    const auto& light = request.light.spectrum;
+    const auto ofSpectrum = [&](int i) { return workAt(double{light->wavelength[static_cast<std::size_t>(i)]}); };
+    work.push_back(light ? SumOver(light->Count(), ofSpectrum, wavelengthLooks) : workAt(request.light.lambda));
+  }
+  return work;
+}
 
 double PairTermsOf(const RunRequest& request) {
   return std::visit([&](const auto& run) { return WorkOf(request, run); }, request.run);

@@ -69,6 +69,28 @@ inline RunRequest AxisRequest(GraphCode code, double xmin, double xmax, int step
   return request;
 }
 
+/// A sweep of so many steps.
+inline Sweep SweepOf(Swept quantity, double low, double high, int steps, bool geometric = false) {
+  return {quantity, low, high, steps, geometric};
+}
+
+/// Columns of angles from 137 to 145 degrees, at one wavelength or several.
+inline RunRequest AngleMapRequest(GraphCode code, const Sweep& columns, int wavelengths = 1,
+                                  Method method = Method::Mie) {
+  RunRequest request = wavelengths > 1 ? SpectrumRequest(10, 0.5, wavelengths) : AngleRequest(10, 0.5);
+  request.method = AngleRequest(10, 0.5, method).method;
+  request.graph = GraphOf(code);
+  request.run = AngleMapRun{RowsFor(137, 145, 0.5), columns, false};
+  return request;
+}
+
+inline RunRequest CellMapRequest(GraphCode code, const Sweep& columns, const Sweep& rows, Method method = Method::Mie) {
+  RunRequest request = AngleRequest(3, 1, method);
+  request.graph = GraphOf(code);
+  request.run = EfficiencyMapRun{columns, rows, 2.4};
+  return request;
+}
+
 /// Stops once the share is reached.
 class StopAt final : public RunWatch {
  public:
@@ -125,6 +147,13 @@ class Numbers {
   void Add(const ConvergenceFound& f) { Add(f.perpendicular), Add(f.parallel); }
   void Add(const DebyeAnalysisFound& f) { Add(f.dots1), Add(f.dots2); }
   void Add(const TwoAngleFound& f) { Add(f.first.cells), Add(f.second.cells); }
+  void Add(const MapFound& f) {
+    for (const MapPanel& panel : f.panels)
+      for (const auto* list : {&panel.value, &panel.red, &panel.green, &panel.blue})
+        all.insert(all.end(), list->begin(), list->end());
+    for (const auto& list : f.strongest) all.insert(all.end(), list.begin(), list.end());
+    all.push_back(f.done);
+  }
 };
 
 /// Run, for tests: they have a function of that name.

@@ -51,6 +51,20 @@ std::vector<std::pair<const char*, RunRequest>> EveryKind() {
   chart.graph = GraphOf({1, 5});
   chart.run = TwoAngleRun{5, 10, 60, 120, {1.3, 1.35, 1.4}, {1, 2, 3, 4, 5, 6}};
   kinds.emplace_back("two angles", chart);
+  kinds.emplace_back("Lee diagram", AngleMapRequest({20, 1}, SweepOf(Swept::Radius, 5, 40, 6, true), 5));
+  kinds.emplace_back("Lee diagram of the index by Debye",
+                     AngleMapRequest({20, 2}, SweepOf(Swept::SphereIndex, 1.2, 1.5, 4), 3, Method::Debye));
+  kinds.emplace_back("map by rays", AngleMapRequest({24, 1}, SweepOf(Swept::Radius, 5, 20, 8), 1, Method::YoungMod));
+  kinds.emplace_back("map over wavelength", AngleMapRequest({25, 1}, SweepOf(Swept::Wavelength, 400, 700, 7)));
+  RunRequest clouds = AngleMapRequest({24, 1}, SweepOf(Swept::Radius, 5, 10, 4), 2);
+  clouds.sizes = LogNormal();
+  kinds.emplace_back("map of clouds", clouds);
+  kinds.emplace_back("efficiency map", CellMapRequest({26, 1}, SweepOf(Swept::SphereIndex, 1.2, 1.5, 12),
+                                                      SweepOf(Swept::SizeParameter, 0.5, 60, 40)));
+  kinds.emplace_back("intensity map", CellMapRequest({28, 3}, SweepOf(Swept::SphereIndex, 1.2, 1.5, 10),
+                                                     SweepOf(Swept::SphereAbsorption, 1e-12, 0.1, 9)));
+  kinds.emplace_back("intensity map by Debye", CellMapRequest({26, 4}, SweepOf(Swept::SphereIndex, 1.2, 1.5, 5),
+                                                              SweepOf(Swept::SizeParameter, 5, 20, 4), Method::Debye));
   return kinds;
 }
 
@@ -99,6 +113,16 @@ TEST(Runs, AStopLeavesOnlyWhatIsWhole) {
           ASSERT_EQ(axis->Qext[i], all.Qext[i]) << name << " point " << point;
           if (point > all.S1.Rows()) continue;
           ASSERT_EQ(axis->S1.Re(point), all.S1.Re(point)) << name << " point " << point;
+        }
+      } else if (const auto* map = part.results.Find<MapFound>()) {
+        const auto& all = *whole.results.Find<MapFound>();
+        ASSERT_GT(map->done, 0) << name;
+        const std::size_t cells = map->At(map->done, 0);
+        for (std::size_t panel = 0; panel < map->panels.size(); ++panel) {
+          const auto& cellsFound = map->OfSpectrum() ? map->panels[panel].green : map->panels[panel].value;
+          const auto& expected = map->OfSpectrum() ? all.panels[panel].green : all.panels[panel].value;
+          for (std::size_t i = 0; i < cellsFound.size(); ++i)
+            ASSERT_EQ(cellsFound[i], i < cells ? expected[i] : 0) << name;
         }
       } else if (const auto* chart = part.results.Find<TwoAngleFound>()) {
         const auto& all = whole.results.Find<TwoAngleFound>()->first.cells;

@@ -84,7 +84,9 @@ void KeepLight(MainFormState& s, const Results& results) {
   s.WavelengthsDone = 0;
   if (!results.asked.light.spectrum) return;
   const SpectrumOfLight& light = *results.asked.light.spectrum;
-  s.WavelengthsDone = results.Find<SpectrumFound>()->done;
+  // Columns of a map are there at all wavelengths or not at all.
+  const auto* spectrum = results.Find<SpectrumFound>();
+  s.WavelengthsDone = spectrum != nullptr ? spectrum->done : count;
   StoreSpectrum(s, light);
 }
 
@@ -172,6 +174,9 @@ struct KeepFound {
   void operator()(const TwoAngleFound& found) const {
     session.state.MapPerp = found.first;
     session.state.MapPar = found.second;
+  }
+  void operator()(const MapFound&) const {
+    if (const AngleRows* rows = RowsOf(results.asked.run)) KeepRows(session.state, *rows);
   }
 };
 
