@@ -299,6 +299,34 @@ TEST(IndexFormulas, AgreeWithPublishedIndices) {
   // Air by the two-term formula of Ciddor (1996): 1.00027717 at 0.5876 um.
   EXPECT_NEAR(DispersionFormula(6, std::vector<double>{0, 0.05792105, 238.0185, 0.00167917, 57.362}, 0.5876),
               1.00027717, 1e-8);
+  // The same resonances told with powers: Malitson's first two, beside each other in formulas 1 and 4.
+  for (const double lambda : {0.3, 0.7, 2.0})
+    EXPECT_NEAR(
+        DispersionFormula(4, std::vector<double>{1, 0.6961663, 2, 0.0684043, 2, 0.4079426, 2, 0.1162414, 2}, lambda),
+        DispersionFormula(1, std::vector<double>(silica.begin(), silica.begin() + 5), lambda), 1e-12);
+  struct Published {
+    const char* what;
+    int number;
+    std::vector<double> coefficients;
+    double lambda, n;
+  };
+  const Published published[] = {
+      {"glass BK7, polynomial of its maker",
+       3,
+       {2.2718929, -1.0108077e-2, 2, 1.0592509e-2, -2, 2.0816965e-4, -4, -7.6472538e-6, -6, 4.9240991e-7, -8},
+       0.5876,
+       1.51680},
+      {"barium borate, ordinary (Eimerl 1987)",
+       4,
+       {2.7405, 0.0184, 0, 0.0179, 1, 0, 0, 0, 1, -0.0155, 2},
+       1.0642,
+       1.65513},
+      {"silicon (Edwards and Ochoa 1980)", 7, {3.41696, 0.138497, 0.013924, -2.09e-5, 1.48e-7}, 4, 3.42539},
+      {"silver bromide (Schroeter 1931)", 8, {0.452505, 0.09939, 0.070537, -0.00150}, 0.6, 2.25131},
+      {"urea, extraordinary (Rosker 1985)", 9, {2.51527, 0.0240, 0.0300, 0.020, 1.52, 0.8771}, 1.0642, 1.59017},
+  };
+  for (const auto& row : published)
+    EXPECT_NEAR(DispersionFormula(row.number, row.coefficients, row.lambda), row.n, 1e-5) << row.what;
   EXPECT_TRUE(std::isnan(DispersionFormula(10, silica, 0.5)));
   EXPECT_NEAR(AirIndex(0.5893, 15), 1.0002765, 1e-6);
   EXPECT_NEAR(AbsorptionOfDielectric(1.775744, 4.6906e-8), 4.6906e-8 / (2 * 1.332570), 1e-14);

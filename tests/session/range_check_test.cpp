@@ -365,6 +365,21 @@ TEST_F(RangeRules, EachMarksTitlesTellsAndEndsOrGoesOn) {
   }
 }
 
+// A rule that speaks and lets the run go on would leave numbers of other inputs than those that stand there.
+TEST_F(RangeRules, NothingIsCalculatedWithNumbersThatAreRefused) {
+  for (const char* lines :
+       {"choose cboType Debye\nset cboRays 1e9", "choose cboType Debye\nset cboRays -1e9",
+        "choose cboType Debye\nset cboRays 2.5", "click optDisp\nset cboSD -1", "click mnuHuygens\nset txtAngle 0",
+        "click mnuHuygens\nset txtAngle 1e6", "set cboYmax x", "set cboYmin x", "set txtXmin -1", "set cboStep 0",
+        "set cboWave 0", "set txtLambda 0", "set txtXmin 90\nset txtXmax 80", "set cboYmin 5\nset cboYmax 4"}) {
+    Do("reset");
+    runner.World().messages.clear();
+    Do(std::string(lines) + "\nset txtRadius 3\nclick cmdNewPlot");
+    EXPECT_EQ(Shown().size(), 1U) << lines;
+    EXPECT_EQ(Number("Radius"), 10) << lines;
+  }
+}
+
 TEST_F(RangeRules, TheFirstRuleOfTheOrderSpeaks) {
   Do("set txtRadius x\nset cboStep 7\nset cboYmin 10\nset cboYmax 10\nclick cmdNewPlot");
   ASSERT_EQ(Shown().size(), 1U);
