@@ -90,7 +90,7 @@ struct Graph {
   /// Points along an axis, those of the families of one point included.
   bool AgainstAxis() const {
     return family == Family::Axis || family == Family::Convergence || family == Family::DebyeAnalysis ||
-           family == Family::EfficiencyPulse;
+           family == Family::EfficiencyPulse || family == Family::Volume;
   }
   bool WavelengthAxis() const {
     return axis == AxisVariable::Wavelength && (family == Family::Axis || family == Family::EfficiencyPulse);

@@ -1,8 +1,10 @@
 #include "pages/run_words.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "materials/index/material.h"
+#include "particles/random_places.h"
 #include "record/catalogue/graph_texts.h"
 #include "record/number_text.h"
 #include "runs/curves.h"
@@ -61,7 +63,7 @@ std::string AnglesAsked(const RunRequest& asked) {
   if (const auto* analysis = std::get_if<DebyeAnalysisRun>(&asked.run))
     return Number(analysis->angle * degreesPerRadian) + "\u00B0";
   if (const auto* convergence = std::get_if<ConvergenceRun>(&asked.run)) return Number(convergence->angle) + "\u00B0";
-  const auto* axis = std::get_if<AxisRun>(&asked.run);
+  const AxisRun* axis = AxisOf(asked.run);
   if (axis == nullptr) return "";
   if (asked.graph.AtOneAngle()) return Number(axis->angle * degreesPerRadian) + "\u00B0";
   if (asked.graph.quantity != Quantity::Power) return "";
@@ -78,7 +80,7 @@ void AddAxis(const Results& results, std::vector<std::string>& lines) {
   const std::string start = asked.words.scale + ": ", unit = UnitOfAxis(asked.graph);
   if (const AngleRows* rows = RowsOf(asked.run))
     lines.push_back(start + AxisRange(rows->xmin, rows->xmax, rows->step, false, unit));
-  else if (const auto* axis = std::get_if<AxisRun>(&asked.run))
+  else if (const AxisRun* axis = AxisOf(asked.run))
     lines.push_back(start + AxisRange(axis->xmin, axis->xmax, axis->step, axis->logSteps, unit));
   else if (std::holds_alternative<ConvergenceRun>(asked.run))
     lines.push_back(start + AxisRange(1, results.last.NSTOP, 1, false, ""));
@@ -152,6 +154,29 @@ void AddSphere(const Results& results, const std::string& middle, std::vector<st
   AddIndex(results, false, middle, lines);
 }
 
+/// The cube of spheres: how many, how full it is, how they move.
+void AddVolume(const Results& results, std::vector<std::string>& lines) {
+  const RunRequest& asked = results.asked;
+  const auto* volume = std::get_if<VolumeRun>(&asked.run);
+  if (volume == nullptr) return;
+  const AxisVariable axis = asked.graph.axis;
+  const bool numbers = axis == AxisVariable::Number;
+  const std::string spheres = numbers              ? "Spheres at random places"
+                              : volume->count == 1 ? "1 sphere at a random place"
+                                                   : std::to_string(volume->count) + " spheres at random places";
+  lines.push_back(spheres + " in a cube of " + Number(volume->side) + " \u00B5m, seed " + std::to_string(volume->seed));
+  const double radius = results.last.radius;
+  if (asked.Cloud() || axis == AxisVariable::Radius) {
+    if (axis == AxisVariable::Time) lines.emplace_back("Brownian motion in water at 20 \u00B0C");
+    return;
+  }
+  const double filled = volume->count * 4.0 / 3 * 3.14159265358979324 * std::pow(radius / volume->side, 3);
+  lines.push_back("   filled to " + Significant(100 * filled, 3) + " %" + (numbers ? " by all of them" : ""));
+  if (axis == AxisVariable::Time)
+    lines.push_back("Brownian motion in water at 20 \u00B0C: D = " + Significant(DiffusionCoefficient(radius), 4) +
+                    " \u00B5m\u00B2/s");
+}
+
 /// Whether a material is a number that was typed.
 bool IsTyped(const Material& material) {
   return std::holds_alternative<FixedIndex>(material) || std::holds_alternative<FixedDielectric>(material);
@@ -188,6 +213,24 @@ std::string MaterialMark(const Results& results, bool medium) {
   const std::string name(Trim(medium ? asked.words.mediumName : asked.words.sphereName));
   if (varied || !IsTyped(material)) return varied ? "" : (medium ? "in " : "") + name;
   return (medium ? "medium n = " : "n = ") + IndexOf(results, medium);
+}
+
+// What tells the volumes of runs from each other.
+
+std::string CountMark(const RunRequest& asked) {
+  const auto* volume = std::get_if<VolumeRun>(&asked.run);
+  const bool told = volume != nullptr && asked.graph.axis != AxisVariable::Number;
+  return told ? "N = " + std::to_string(volume->count) : "";
+}
+
+std::string SideMark(const RunRequest& asked) {
+  const auto* volume = std::get_if<VolumeRun>(&asked.run);
+  return volume != nullptr ? "side " + Number(volume->side) + " \u00B5m" : "";
+}
+
+std::string SeedMark(const RunRequest& asked) {
+  const auto* volume = std::get_if<VolumeRun>(&asked.run);
+  return volume != nullptr ? "seed " + std::to_string(volume->seed) : "";
 }
 
 }  // namespace
@@ -241,6 +284,7 @@ std::vector<std::string> ParameterLinesOf(const Results& results) {
     lines.push_back("Spheres: " + std::to_string(angles->radius.size() * angles->index.size()) + ", " + time);
     return lines;
   }
+  AddVolume(results, lines);
   AddAxis(results, lines);
   const bool terms = !spectrum && SumsSeries(asked.method);
   lines.push_back(terms ? "Series: " + std::to_string(results.last.NSTOP) + " terms, " + time
@@ -268,10 +312,16 @@ std::vector<std::string> ChangeLinesOf(const Results& results, const Look& look)
 std::vector<std::string> MarksOf(const Results& results) {
   const RunRequest& asked = results.asked;
   const bool oneWavelength = !asked.light.spectrum && !asked.graph.WavelengthAxis();
-  return {MethodMark(asked),           asked.method.divideBySize ? "divided by x" : "",
-          SizeMark(results),           MaterialMark(results, false),
-          MaterialMark(results, true), oneWavelength ? Number(1000 * asked.light.lambda) + " nm" : "",
-          AnglesAsked(asked)};
+  return {MethodMark(asked),
+          asked.method.divideBySize ? "divided by x" : "",
+          SizeMark(results),
+          MaterialMark(results, false),
+          MaterialMark(results, true),
+          oneWavelength ? Number(1000 * asked.light.lambda) + " nm" : "",
+          AnglesAsked(asked),
+          CountMark(asked),
+          SideMark(asked),
+          SeedMark(asked)};
 }
 
 std::vector<std::string> FinerMarksOf(const Results& results) {
@@ -279,8 +329,9 @@ std::vector<std::string> FinerMarksOf(const Results& results) {
   const std::string sphere = IndexOf(results, false), medium = IndexOf(results, true);
   double step = 0;
   if (const AngleRows* rows = RowsOf(asked.run)) step = rows->step;
-  if (const auto* axis = std::get_if<AxisRun>(&asked.run)) step = axis->step;
-  const bool logSteps = std::holds_alternative<AxisRun>(asked.run) && std::get<AxisRun>(asked.run).logSteps;
+  const AxisRun* axis = AxisOf(asked.run);
+  if (axis != nullptr) step = axis->step;
+  const bool logSteps = axis != nullptr && axis->logSteps;
   return {sphere.empty() ? "" : "n = " + sphere, medium.empty() ? "" : "medium n = " + medium,
           step == 0  ? ""
           : logSteps ? Number(step) + " steps"

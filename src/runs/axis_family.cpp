@@ -15,7 +15,6 @@ namespace lumivex {
 namespace {
 
 constexpr double pi = std::numbers::pi;
-constexpr int fineRowsTo90 = 9001;  // 0.01 degrees
 
 /// Points whose spheres share vector lanes in one task: whole groups of lanes, so that no neighbour changes.
 constexpr std::size_t pointsPerTask = 64;
@@ -217,11 +216,7 @@ FamilyEnd RunAxis(const RunRequest& request, const AxisRun& run, TaskPool& pool,
   LastSphere& last = results.last;
   last.efficiencies = {found.Qext[i], found.Qsca[i], found.Qback[i], found.g[i]};
   if (request.method.method == Method::Mie) last.NSTOP = NStopEstimate(all[i - 1].x);
-  if (request.graph.AtOneAngle()) {
-    const AngleGrid grid(fineRowsTo90);
-    last.NANG = fineRowsTo90;
-    last.selectedRow = std::clamp(static_cast<int>(std::nearbyint(run.angle / grid.DANG)) + 1, 1, grid.RowCount());
-  }
+  if (request.graph.AtOneAngle()) TellAngle(run.angle, last);
   results.found = std::move(found);
   return {true, {}};
 }

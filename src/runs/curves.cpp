@@ -4,9 +4,9 @@
 #include <cmath>
 #include <limits>
 #include <numbers>
-#include <optional>
 #include <span>
 
+#include "axes/typed_values.h"
 #include "runs/settings.h"
 #include "solvers/angles/scattering_pattern.h"
 #include "solvers/functions/phase_degrees.h"
@@ -35,33 +35,6 @@ void Size(Curves& curves, std::size_t size, double value) {
     if (size > 0) list->front() = 0;
   }
 }
-
-/// Decimals of a number as it was typed; nothing where no typed number gives it.
-std::optional<int> DecimalsOf(double value) {
-  constexpr int most = 10;
-  constexpr double rounding = 1e-14;
-  double scaled = std::abs(value);
-  for (int decimals = 0; decimals <= most; ++decimals, scaled *= 10)
-    if (std::abs(scaled - std::nearbyint(scaled)) <= rounding * scaled) return decimals;
-  return std::nullopt;
-}
-
-/// Multiples of a step as a person would type them: three steps of 0.1 are 0.3, and not 0.30000000000000004.
-class TypedValues {
- public:
-  TypedValues(double start, double step) {
-    const auto ofStart = DecimalsOf(start), ofStep = DecimalsOf(step);
-    if (ofStart && ofStep) scale_ = std::pow(10.0, std::max(*ofStart, *ofStep));
-  }
-  double operator()(double value) const {
-    constexpr double largestWhole = 9007199254740992.0;  // beyond it every double is whole
-    if (scale_ == 0 || !(std::abs(value) * scale_ < largestWhole)) return value;
-    return std::nearbyint(value * scale_) / scale_;
-  }
-
- private:
-  double scale_ = 0;
-};
 
 /// x of the rows of a window, the others not a number.
 std::vector<double> AnglesOf(const AngleRows& rows) {
@@ -341,6 +314,29 @@ Curves CurvesOfFound(const Results&, const CurveLook&, const DebyeAnalysisFound&
   return curves;
 }
 
+Curves CurvesOfFound(const Results& results, const CurveLook& look, const VolumeFound& found) {
+  const AxisRun& axis = std::get<VolumeRun>(results.asked.run).axis;
+  Curves curves;
+  curves.x = found.x;
+  if (!axis.logSteps) std::ranges::transform(curves.x, curves.x.begin(), TypedValues(axis.xmin, axis.step));
+  curves.lastRow = std::max(static_cast<int>(found.x.size()) - 1, 0);
+  curves.intensityNorm = NormOf(look, results.last.waveNumber);
+  Size(curves, found.x.size(), notComputed);
+  for (auto* list : {&curves.alonePerpendicular, &curves.aloneParallel, &curves.aloneUnpolarised})
+    list->assign(found.x.size(), 0);
+  const auto alone = [&](double intensity) {
+    return (look.amplitude ? std::sqrt(intensity) : intensity) / curves.intensityNorm;
+  };
+  for (int point = 1; point <= curves.lastRow; ++point) {
+    const std::size_t i = At(point);
+    FillPoint(curves, i, {found.S1.Value(point), found.S2.Value(point)}, look.amplitude, curves.intensityNorm);
+    curves.alonePerpendicular[i] = alone(found.alonePerp[i]);
+    curves.aloneParallel[i] = alone(found.alonePar[i]);
+    curves.aloneUnpolarised[i] = (curves.alonePerpendicular[i] + curves.aloneParallel[i]) / 2;
+  }
+  return curves;
+}
+
 /// A chart of two cross-sections has no x of its own, and a map no curves: they are drawn from their tables.
 Curves CurvesOfFound(const Results&, const CurveLook&, const TwoAngleFound&) {
   return {};
@@ -407,6 +403,12 @@ const AngleRows* RowsOf(const FamilyRun& run) {
   if (const auto* angles = std::get_if<AngleRun>(&run)) return &angles->rows;
   if (const auto* spectrum = std::get_if<SpectrumRun>(&run)) return &spectrum->rows;
   if (const auto* map = std::get_if<AngleMapRun>(&run)) return &map->rows;
+  return nullptr;
+}
+
+const AxisRun* AxisOf(const FamilyRun& run) {
+  if (const auto* axis = std::get_if<AxisRun>(&run)) return axis;
+  if (const auto* volume = std::get_if<VolumeRun>(&run)) return &volume->axis;
   return nullptr;
 }
 

@@ -16,8 +16,10 @@ struct CurveLook {
 struct Curves {
   std::vector<double> x;  ///< in the unit of the axis
   std::vector<double> perpendicular, parallel, unpolarised;
-  std::vector<double> extra1;                         ///< degree of polarisation, or S12/S11
-  std::vector<double> extra2, extra3;                 ///< phases of S1 and S2 (degrees), or S33/S11 and S34/S11
+  std::vector<double> extra1;          ///< degree of polarisation, or S12/S11
+  std::vector<double> extra2, extra3;  ///< phases of S1 and S2 (degrees), or S33/S11 and S34/S11
+  /// Of many spheres what they would send each for itself; empty for other graphs.
+  std::vector<double> alonePerpendicular, aloneParallel, aloneUnpolarised;
   int firstRow = 1, lastRow = 0;                      ///< that hold results
   double scatteredPower = 0, backscatteredPower = 0;  ///< of a graph in Watts (W)
   double intensityNorm = 1;                           ///< what the last intensities were divided by
@@ -46,5 +48,8 @@ double InverseWavelength(double nm);
 
 /// The rows of an angle request; null for a family without.
 const AngleRows* RowsOf(const FamilyRun& run);
+
+/// The axis of points of a request; null for a family without.
+const AxisRun* AxisOf(const FamilyRun& run);
 
 }  // namespace lumivex

@@ -21,6 +21,8 @@ FamilyEnd RunDebyeAnalysis(const RunRequest& request, const DebyeAnalysisRun& ru
 FamilyEnd RunTwoAngle(const RunRequest& request, const TwoAngleRun& run, TaskPool& pool, Results& results);
 FamilyEnd RunAngleMap(const RunRequest& request, const AngleMapRun& run, TaskPool& pool, Results& results);
 FamilyEnd RunEfficiencyMap(const RunRequest& request, const EfficiencyMapRun& run, TaskPool& pool, Results& results);
+/// A run that is stopped finds nothing: sums over some of the spheres would be those of another cloud.
+FamilyEnd RunVolume(const RunRequest& request, const VolumeRun& run, TaskPool& pool, Results& results);
 
 /// Wavelength, size and index at a point of an axis; what the axis does not vary is that of `base`.
 SettingResult SettingAtPoint(const RunRequest& request, AxisVariable axis, double x, const Setting& base);
@@ -44,6 +46,8 @@ struct PowerRows {
 
 /// What a setting tells of the last sphere.
 void TellSetting(const Setting& setting, LastSphere& last);
+/// The row of a grid of 0.01 degrees that is nearest to the one angle (radians) of a run.
+void TellAngle(double angle, LastSphere& last);
 /// What a solution tells of it; leaves the setting's part.
 void TellSphere(const SphereSolution& sphere, LastSphere& last);
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -132,8 +133,15 @@ struct EfficiencyMapRun {
   Sweep columns, rows;
   double angle = 0;  ///< radians
 };
+/// Many spheres at random places in a cube, whose fields at one angle are added with their phases.
+struct VolumeRun {
+  AxisRun axis;            ///< of positions (um), numbers of spheres, times (s) or radii (um)
+  int count = 100;         ///< spheres; along an axis of numbers the largest
+  double side = 1000;      ///< of the cube (um)
+  std::uint64_t seed = 1;  ///< of places, sizes and motion
+};
 using FamilyRun = std::variant<AngleRun, SpectrumRun, AxisRun, ConvergenceRun, DebyeAnalysisRun, TwoAngleRun,
-                               AngleMapRun, EfficiencyMapRun>;
+                               AngleMapRun, EfficiencyMapRun, VolumeRun>;
 
 /// The request in the words of whoever made it: titles, keys, headers and files are written with them; no calculation
 /// reads them.

@@ -128,8 +128,15 @@ struct MapFound {
   }
 };
 
-using FamilyFound =
-    std::variant<AngleFound, SpectrumFound, AxisFound, ConvergenceFound, DebyeAnalysisFound, TwoAngleFound, MapFound>;
+/// Many spheres at each point of an axis, first index 1.
+struct VolumeFound {
+  std::vector<double> x;                    ///< in the unit of the axis
+  AmplitudeTable S1, S2;                    ///< sums of the fields, a row a point
+  std::vector<double> alonePerp, alonePar;  ///< sums of |S1|^2 and |S2|^2 of the spheres, each for itself
+};
+
+using FamilyFound = std::variant<AngleFound, SpectrumFound, AxisFound, ConvergenceFound, DebyeAnalysisFound,
+                                 TwoAngleFound, MapFound, VolumeFound>;
 
 /// What a run found, with what it was asked: whoever holds results knows what they are results of.
 struct Results {

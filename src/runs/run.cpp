@@ -1,6 +1,8 @@
 #include "runs/run.h"
 
+#include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <utility>
 
 #include "runs/families.h"
@@ -22,6 +24,7 @@ struct RunFamily {
   FamilyEnd operator()(const TwoAngleRun& run) const { return RunTwoAngle(request, run, pool, results); }
   FamilyEnd operator()(const AngleMapRun& run) const { return RunAngleMap(request, run, pool, results); }
   FamilyEnd operator()(const EfficiencyMapRun& run) const { return RunEfficiencyMap(request, run, pool, results); }
+  FamilyEnd operator()(const VolumeRun& run) const { return RunVolume(request, run, pool, results); }
 };
 
 }  // namespace
@@ -42,6 +45,13 @@ void TellSetting(const Setting& setting, LastSphere& last) {
   last.indices = setting.indices;
   last.relativeRe = setting.mRe;
   last.relativeIm = setting.mIm;
+}
+
+void TellAngle(double angle, LastSphere& last) {
+  constexpr int fineRowsTo90 = 9001;  // 0.01 degrees
+  const AngleGrid grid(fineRowsTo90);
+  last.NANG = fineRowsTo90;
+  last.selectedRow = std::clamp(static_cast<int>(std::nearbyint(angle / grid.DANG)) + 1, 1, grid.RowCount());
 }
 
 void TellSphere(const SphereSolution& sphere, LastSphere& last) {

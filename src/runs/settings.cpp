@@ -105,12 +105,6 @@ Refusal BeyondLimits(const SettingsPlan& plan) {
   return {};
 }
 
-Refusal RefusalOf(SizeFailure failure) {
-  return {"Input error", WordsFor(failure),
-          failure == SizeFailure::NegativeRadius || failure == SizeFailure::BadGamma ? InputAtFault::StandardDeviation
-                                                                                     : InputAtFault::Distribution};
-}
-
 /// The samples of a setting; those of the setting before where its radius is the same.
 class SamplesCache {
  public:
@@ -138,6 +132,12 @@ bool IsActual(const SizeDistribution& sizes) {
 }
 
 }  // namespace
+
+Refusal RefusalOf(SizeFailure failure) {
+  return {"Input error", WordsFor(failure),
+          failure == SizeFailure::NegativeRadius || failure == SizeFailure::BadGamma ? InputAtFault::StandardDeviation
+                                                                                     : InputAtFault::Distribution};
+}
 
 double Setting::WaveNumber() const {
   return twoPi * indices.MediumInUse() / (lambda * 1e-6);
@@ -193,6 +193,8 @@ SettingsEnd RunSettings(const SettingsPlan& plan, TaskPool& pool) {
   FirstRefusal refusals;
   TaskList tasks;
   tasks.count = plan.settings.size();
+  tasks.shareBefore = plan.shareBefore;
+  tasks.shareOfRun = plan.shareOfRun;
   tasks.work = [&](std::size_t task, std::size_t slot, RunMonitor& monitor) {
     const Setting setting = plan.settings[task];
     slots[slot] = SolveSphere(plan.request.method, AskedAt(plan, setting, setting.x, shared), monitor);
@@ -256,6 +258,8 @@ SettingsEnd DispCalc(const SettingsPlan& plan, TaskPool& pool) {
   TaskList tasks;
   tasks.count = plan.settings.size() * perCloud;
   tasks.before = WorkBeforeTasks(plan, perCloud);
+  tasks.shareBefore = plan.shareBefore;
+  tasks.shareOfRun = plan.shareOfRun;
   tasks.work = [&](std::size_t task, std::size_t slotIndex, RunMonitor& monitor) {
     const Setting setting = plan.settings[task / perCloud];
     Slot& slot = slots[slotIndex];

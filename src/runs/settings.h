@@ -33,6 +33,9 @@ struct SettingResult {
 };
 SettingResult SettingAt(const RunRequest& request, double lambda);
 
+/// What a run is refused with whose sizes cannot be used.
+Refusal RefusalOf(SizeFailure failure);
+
 /// Settings by their place, from 0. A map has more of them than memory is for: they are made when they are asked for,
 /// by a pure function that any thread may call.
 class SettingList {
@@ -65,6 +68,7 @@ struct SettingsPlan {
   std::function<void(std::size_t setting, RunProgress& progress)> place;
   /// The share of all work, 0 to 1, that comes before a setting; without it all settings take alike.
   std::function<double(std::size_t setting)> workBefore = {};
+  double shareBefore = 0, shareOfRun = 1;  ///< of the whole run that these settings are
 };
 
 /// @return the settings that were kept and why the run ended before its end, where that was a refusal.

@@ -5,6 +5,7 @@
 
 #include "runs/families.h"
 #include "runs/run.h"
+#include "runs/volume_sums.h"
 #include "solvers/angles/angle_cosines.h"
 #include "solvers/angles/angle_window.h"
 #include "solvers/series/mie_coefficients.h"
@@ -92,6 +93,19 @@ double WorkOf(const RunRequest& request, const AxisRun& run) {
     const SettingResult at = SettingAtPoint(request, request.graph.axis, position, base.setting);
     return at.Good() ? SettingWork(request, request.method, at.setting, pairs) : 0;
   });
+}
+
+double WorkOf(const RunRequest& request, const VolumeRun& run) {
+  const double sums = SumsWork(request.graph.axis, run);
+  const SettingResult at = SettingAt(request, request.light.lambda);
+  if (!at.Good()) return sums;
+  if (request.graph.axis != AxisVariable::Radius) return sums + SettingWork(request, request.method, at.setting, 1);
+  const double ratio = StepRatio(run.axis);
+  return sums + SumOver(run.axis.points, [&](int point) {
+           const double radius = AxisPosition(run.axis, ratio, point);
+           const Setting setting = SettingAtPoint(request, AxisVariable::Radius, radius, at.setting).setting;
+           return SettingWork(request, request.method, setting, 1);
+         });
 }
 
 double WorkOf(const RunRequest& request, const ConvergenceRun&) {

@@ -13,6 +13,7 @@
 #include "session/inputs/methods.h"
 #include "session/inputs/methods/debye_menus.h"
 #include "session/inputs/two_angle_inputs.h"
+#include "session/inputs/volume_inputs.h"
 #include "session/start_up.h"
 #include "session/undo.h"
 #include "session/window_events.h"
@@ -53,6 +54,12 @@ constexpr EventRow eventRows[] = {
     {"mnuConvergence_Click", mnuConvergence_Click},
     {"dlogTwoAngle.Show", AskTwoAngle},
     {"dlogTwoAngle.OKButton_Click", dlogTwoAngle_OKButton_Click},
+    {"mnuVolumePlace_Click", mnuVolumePlace_Click},
+    {"mnuVolumeNumber_Click", mnuVolumeNumber_Click},
+    {"mnuVolumeTime_Click", mnuVolumeTime_Click},
+    {"mnuVolumeRadius_Click", mnuVolumeRadius_Click},
+    {"dlogVolume.Show", AskVolume},
+    {"dlogVolume.OKButton_Click", dlogVolume_OKButton_Click},
 
     // Inputs.
     {"Inputs_Changed", Inputs_Changed},

@@ -17,6 +17,7 @@
 #include "session/inputs/look/look_menus.h"
 #include "session/inputs/materials/sellmeier_catalogue.h"
 #include "session/inputs/methods.h"
+#include "session/inputs/volume_inputs.h"
 #include "session/undo.h"
 #include "session/user_folder.h"
 #include "session/window_events.h"
@@ -265,6 +266,7 @@ void cmdDefault_Click(Session& session) {
   if (!f.mnuRadius.Checked) session.events.Raise("mnuRadius_Click");
   f.txtRadius.Text = "10";
   session.events.Raise("txtRadius_Change");
+  RestoreVolume(session);
   for (const std::string_view event : {"mnuTrueColour_Click", "mnuPhoto_Click"}) session.events.Raise(event);
   for (MenuEntry* entry : {&f.mnuNormalised, &f.mnuInterpolate, &f.mnuAverage})
     if (entry->Checked) session.events.Raise(std::string(entry->Name()) + "_Click");

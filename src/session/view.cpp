@@ -55,10 +55,13 @@ std::optional<ViewRun> RunOfView(const Session& session) {
   }
   double step = RoundStepBelow((view.xmax - view.xmin) / wantedPoints);
   if (page.kind.graph.OfAngles()) step = std::max(step, finestAngle);
+  const bool ofSpheres = page.kind.graph.axis == AxisVariable::Number;
+  if (ofSpheres) step = std::max(step, 1.0);
   // Steps that are as fine as they can be show nothing more.
   if (run.complete && (view.xmax - view.xmin) / step < 1.5 * run.points) return std::nullopt;
   XRange range = RoundedRange(OnSteps(view, step));
   if (page.kind.graph.AgainstAngle()) range.xmax = std::min(range.xmax, 180.0);
+  if (ofSpheres) range = {std::max(std::floor(range.xmin), 1.0), std::ceil(range.xmax)};
   run.xmin = Shortest(range.xmin);
   run.xmax = Shortest(range.xmax);
   run.step = Shortest(step);

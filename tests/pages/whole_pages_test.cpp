@@ -78,6 +78,7 @@ const std::vector<std::pair<const char*, const char*>> kinds = {
     {"matrix", "choose cboGraph Scattering matrix\nclick cmdNewPlot"},
     {"efficiencies", "choose cboGraph Qext/Qsca/Qabs v. radius\nset cboStep 50\nclick cmdNewPlot"},
     {"two angles", "dialog dlogIncident ok\ndialog dlogTwoAngle ok\nclick mnuTwoAngle\nclick cmdNewPlot"},
+    {"volume", "dialog dlogVolume ok\nclick mnuVolumeNumber\nclick cmdNewPlot"},
     {"terms", "choose cboType Debye\nclick mnuDebyeSequence\nclick cmdNewPlot"},
     {"convergence", "click mnuConvergence\nclick cmdNewPlot"},
     {"three wavelengths", "set cboWave 3\nset cboStep 1\nclick cmdNewPlot"},

@@ -91,6 +91,18 @@ inline RunRequest CellMapRequest(GraphCode code, const Sweep& columns, const Swe
   return request;
 }
 
+/// Spheres of 5 um in a cube of 200 um; `type` is the graph's, 30 to 33.
+inline RunRequest VolumeRequest(int type, int count, double xmin, double xmax, int steps) {
+  RunRequest request = AxisRequest({type, 0}, xmin, xmax, steps);
+  if (steps == 0) std::get<AxisRun>(request.run).step = 1;
+  VolumeRun volume;
+  volume.axis = std::get<AxisRun>(request.run);
+  volume.count = count;
+  volume.side = 200;
+  request.run = volume;
+  return request;
+}
+
 /// Stops once the share is reached.
 class StopAt final : public RunWatch {
  public:
@@ -153,6 +165,10 @@ class Numbers {
         all.insert(all.end(), list->begin(), list->end());
     for (const auto& list : f.strongest) all.insert(all.end(), list.begin(), list.end());
     all.push_back(f.done);
+  }
+  void Add(const VolumeFound& f) {
+    for (const auto* list : {&f.x, &f.alonePerp, &f.alonePar}) Add(*list);
+    Add(f.S1), Add(f.S2);
   }
 };
 

@@ -65,6 +65,14 @@ std::vector<std::pair<const char*, RunRequest>> EveryKind() {
                                                      SweepOf(Swept::SphereAbsorption, 1e-12, 0.1, 9)));
   kinds.emplace_back("intensity map by Debye", CellMapRequest({26, 4}, SweepOf(Swept::SphereIndex, 1.2, 1.5, 5),
                                                               SweepOf(Swept::SizeParameter, 5, 20, 4), Method::Debye));
+  kinds.emplace_back("volume, a sphere moves", VolumeRequest(30, 20000, 0, 20, 100));
+  kinds.emplace_back("volume v. number", VolumeRequest(31, 20000, 1, 20000, 300));
+  RunRequest walking = VolumeRequest(32, 120, 0, 10, 200);
+  walking.sizes = LogNormal();
+  kinds.emplace_back("volume v. time", walking);
+  RunRequest radii = VolumeRequest(33, 20000, 1, 5, 30);
+  radii.sizes = LogNormal();
+  kinds.emplace_back("volume v. radius", radii);
   return kinds;
 }
 

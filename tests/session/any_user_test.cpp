@@ -213,6 +213,8 @@ class AnyUser : public ScriptedSession, public ::testing::WithParamInterface<uns
       UserTypes(Now(), form.txtXmin, "0");
       UserTypes(Now(), form.txtXmax, "180");
     }
+    // Half of all graphs take one method alone.
+    if (OneIn(4)) UserChooses(Now(), form.cboType, "Mie");
     UserTypes(Now(), form.cboStep, angles || logSteps ? "10" : OneIn(2) ? "20" : "0.05");
     return "heal";
   }

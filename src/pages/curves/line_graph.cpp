@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <cstdlib>
+#include <functional>
 #include <limits>
 #include <string>
 #include <utility>
@@ -28,7 +29,7 @@ constexpr int perpendicularKind = 1, parallelKind = 2, unpolarisedKind = 3;
 /// Degrees, or units of the axis, from row to row.
 double StepOf(const RunRequest& asked) {
   if (const AngleRows* rows = RowsOf(asked.run)) return rows->step;
-  if (const auto* axis = std::get_if<AxisRun>(&asked.run)) return axis->step;
+  if (const AxisRun* axis = AxisOf(asked.run)) return axis->step;
   return 1;
 }
 
@@ -90,6 +91,25 @@ void TakeComplexAmplitude(const AngleFound& found, PageCurve& curve) {
   curve.y = std::move(y);
 }
 
+/// What the spheres of a volume would send without interference: the pens of their curves in another style.
+void DrawAlone(Page& page, const RunToDraw& run, const Curves& curves) {
+  const std::size_t own = page.runs.empty() ? 0 : page.runs.size() - 1;
+  const std::size_t count = page.curves.size();
+  for (std::size_t i = 0; i < count; ++i) {
+    if (page.curves[i].run != own) continue;
+    const int kind = page.curves[i].kind;
+    const std::vector<double>& y = kind == parallelKind      ? curves.aloneParallel
+                                   : kind == unpolarisedKind ? curves.aloneUnpolarised
+                                                             : curves.alonePerpendicular;
+    PageCurve alone = Plot(page, run, curves.x, y, {upperPanel, kind}, page.curves[i].colour);
+    alone.name += page.kind.amplitude ? ": root of N|S|\u00B2" : ": N|S|\u00B2";
+    constexpr int solid = 0, dashed = 1;
+    alone.drawStyle = alone.drawStyle == dashed ? solid : dashed;
+    alone.markers = false;
+    page.curves.push_back(std::move(alone));
+  }
+}
+
 void DrawCurves(Page& page, const RunToDraw& run, const Curves& curves) {
   const LinePair colours = PenColours(run);
   const bool shaded = run.look.WantsSeveral();
@@ -109,6 +129,7 @@ void DrawCurves(Page& page, const RunToDraw& run, const Curves& curves) {
     if (kind == unpolarisedKind) add(kind, curves.unpolarised, shaded ? third : colours.first);
     if (kind == perpendicularKind) add(kind, curves.perpendicular, colours.first);
   }
+  if (!curves.alonePerpendicular.empty()) DrawAlone(page, run, curves);
 }
 
 // Second panels.
@@ -160,6 +181,17 @@ void DrawLowerPanel(Page& page, const RunToDraw& run, const Curves& curves) {
   if (second == SecondPanel::Phases) return DrawPhases(page, run, curves);
   page.curves.push_back(
       Plot(page, run, curves.x, curves.extra1, {lowerPanel, perpendicularKind}, PenColours(run).first));
+}
+
+/// A curve for the scale; of the spheres of a volume, which have further ones, the furthest of all at each point.
+template <class Further>
+std::vector<double> OfAll(const std::vector<double>& curve, const Curves& curves, Further further) {
+  if (curves.alonePerpendicular.empty()) return curve;
+  std::vector<double> all = curve;
+  for (const auto* list : {&curves.perpendicular, &curves.parallel, &curves.alonePerpendicular, &curves.aloneParallel})
+    for (std::size_t i = 1; i < all.size(); ++i)
+      if (further((*list)[i], all[i])) all[i] = (*list)[i];
+  return all;
 }
 
 bool InvertsX(const PageKind& kind) {
@@ -215,8 +247,9 @@ void Display(Page& page, const RunToDraw& run, const Curves& found) {
   const Curves curves = Rising(page.kind, found);
   const bool twoPanels = page.kind.second != SecondPanel::None && !page.kind.polar;
   if (page.panels.empty())
-    DrawFrame(page, run, twoPanels ? PanelPlace::Upper : PanelPlace::Whole, curves.x, curves.perpendicular,
-              curves.parallel);
+    DrawFrame(page, run, twoPanels ? PanelPlace::Upper : PanelPlace::Whole, curves.x,
+              OfAll(curves.perpendicular, curves, std::greater<double>()),
+              OfAll(curves.parallel, curves, std::less<double>()));
   if (page.kind.IsMatrix())
     page.curves.push_back(Plot(page, run, curves.x, curves.perpendicular, {}, PenColours(run).first));
   else

@@ -90,6 +90,8 @@ constexpr std::array axisStarts = {
     AxisStart{{17, 1}, true, "0.01", "100", "1000"},  AxisStart{{17, 2}, true, "0.1", "1000", "1000"},
     AxisStart{{17, 3}, true, "10", "10000", "2000"},  AxisStart{{18, 1}, false, "1", "20", "0.1"},
     AxisStart{{18, 2}, false, "2", "40", "0.2"},      AxisStart{{18, 3}, false, "400", "700", "2"},
+    AxisStart{{30, 0}, false, "0", "20", "0.02"},     AxisStart{{31, 0}, false, "1", "100", "1"},
+    AxisStart{{32, 0}, false, "0", "10", "0.01"},     AxisStart{{33, 0}, false, "1", "5", "0.01"},
 };
 
 /// What an axis is called.
@@ -108,6 +110,10 @@ constexpr std::array axisTexts = {
     AxisText{AxisVariable::RefractiveIndex, "Refractive index", "Refractive index", "Refractive index scale", ""},
     AxisText{AxisVariable::Terms, "Convergence", "Convergence", "Iterations", ""},
     AxisText{AxisVariable::CrossSection, "", "", "Horizontal scale", "sq \u00B5m"},
+    AxisText{AxisVariable::Time, "Time (s)", "Frequency (1/s)", "Time", "s"},
+    AxisText{AxisVariable::Number, "Number of spheres N", "Number of spheres N", "Number of spheres N", ""},
+    AxisText{AxisVariable::Place, "Position x of one sphere (\u00B5m)", "Frequency (1/\u00B5m)",
+             "Position of one sphere", micrometres},
 };
 
 const AxisText& TextOf(AxisVariable axis) {

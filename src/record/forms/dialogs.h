@@ -10,6 +10,7 @@
 #include "record/forms/material_dialogs.h"
 #include "record/forms/ray_dialogs.h"
 #include "record/forms/size_dialogs.h"
+#include "record/forms/volume_dialog.h"
 
 namespace lumivex {
 
@@ -61,10 +62,12 @@ struct Forms : MaterialDialogs, LightDialogs, SizeDialogs, RayDialogs, AngleDial
   DlogAverage dlogAverage;
   DlogPlotColour dlogPlotColour;
   DlogCoatedSphere dlogCoatedSphere;
+  DlogVolume dlogVolume;
 
   /// All of them, the main window first.
   std::vector<Form*> All() {
-    std::vector<Form*> all = {&form1, &dlogTemp, &dlogSpectrumBand, &dlogAverage, &dlogPlotColour, &dlogCoatedSphere};
+    std::vector<Form*> all = {&form1,          &dlogTemp,         &dlogSpectrumBand, &dlogAverage,
+                              &dlogPlotColour, &dlogCoatedSphere, &dlogVolume};
     for (const auto& more : {MaterialForms(), LightForms(), SizeForms(), RayForms(), AngleForms()})
       all.insert(all.end(), more.begin(), more.end());
     return all;

@@ -139,6 +139,16 @@ struct Form1Menus : Form1Inputs {
   MenuEntry mnuMieGConv2{*this, "mnuMieGConv2", "Convergence against M"};
   MenuEntry mnuSizeDist{*this, "mnuSizeDist", "Size distribution from file ..."};
 
+  // Advanced: many spheres in a volume.
+  MenuEntry mnuVolumePlace{*this, "mnuVolumePlace", "Intensity v. position of one ...", false,
+                           "Light of many spheres at random places while one of them moves across the cube"};
+  MenuEntry mnuVolumeNumber{*this, "mnuVolumeNumber", "Intensity v. number ...", false,
+                            "Light of more and more spheres at random places, beside that of each for itself"};
+  MenuEntry mnuVolumeTime{*this, "mnuVolumeTime", "Intensity v. time ...", false,
+                          "Light of many spheres in Brownian motion in water"};
+  MenuEntry mnuVolumeRadius{*this, "mnuVolumeRadius", "Intensity v. radius ...", false,
+                            "Light of many spheres at random places for each radius"};
+
   // Advanced: refractive index.
   MenuEntry mnuRI{*this, "mnuRI", "Refractive index"};
   MenuEntry mnuSphere{*this, "mnuSphere", "Sphere"};

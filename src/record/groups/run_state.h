@@ -50,7 +50,9 @@ inline const Graph& ChosenGraph(const RunState& s) {
 /// The same where it has an axis of points; null for graphs against angle and all others.
 inline const Graph* ChosenAxisGraph(const RunState& s) {
   const Graph& graph = ChosenGraph(s);
-  return graph.family == Family::Axis || graph.family == Family::Convergence ? &graph : nullptr;
+  const bool axis =
+      graph.family == Family::Axis || graph.family == Family::Convergence || graph.family == Family::Volume;
+  return axis ? &graph : nullptr;
 }
 
 /// Chooses a graph. A sub-code of 0 leaves GraphSubType as it was.

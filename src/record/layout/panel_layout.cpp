@@ -7,6 +7,7 @@
 #include "record/layout/material_dialog_lines.h"
 #include "record/layout/ray_dialog_lines.h"
 #include "record/layout/size_dialog_lines.h"
+#include "record/layout/volume_dialog_lines.h"
 
 namespace lumivex {
 
@@ -105,6 +106,7 @@ std::span<const DialogLayout> Dialogs() {
     add(sizeDialogLayouts);
     add(rayDialogLayouts);
     add(angleDialogLayouts);
+    add(volumeDialogLayouts);
     return layouts;
   }();
   return all;

@@ -70,6 +70,8 @@ Verdict SunOnlyAgainstAngle(Check& check);
 Verdict LeeSteps(Check& check);
 Verdict LeeSpecialDistribution(Check& check);
 Verdict AxisStepCount(Check& check);
+Verdict VolumeAxis(Check& check);
+Verdict VolumeSpheres(Check& check);
 Verdict SunResolution(Check& check);
 Verdict RayleighSize(Check& check);
 Verdict AngularStep(Check& check);

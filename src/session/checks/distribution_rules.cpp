@@ -24,7 +24,8 @@ Verdict DistributionWidth(Check& check) {
   constexpr double deviations = 3;
   if (kind == "Normal" && deviations * s.RelativeSD >= 1) return refuse("Reduce the standard deviation");
   const bool wide = (kind == "Log-normal" || kind == "Special") && form.cboSD.Visible;
-  if (!wide || !form.mnuXStepLog.Checked || !IsAxisGraph(s)) return Verdict::GoOn;
+  const bool volume = ChosenGraph(s).family == Family::Volume;
+  if (!wide || !form.mnuXStepLog.Checked || !IsAxisGraph(s) || volume) return Verdict::GoOn;
   const double steps = Val(form.cboStep.Text);
   const double ratio = std::pow(Val(form.txtXmax.Text) / Val(form.txtXmin.Text), 1 / steps);
   // Without a ratio no deviation would do; the rules on the axis say what is wrong with it.

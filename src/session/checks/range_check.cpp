@@ -41,6 +41,8 @@ constexpr std::array rules = {
     LeeSteps,
     LeeSpecialDistribution,
     AxisStepCount,
+    VolumeSpheres,  // the cube, and then the axis that lies in it
+    VolumeAxis,
     SunResolution,
     RayleighSize,
     AngularStep,

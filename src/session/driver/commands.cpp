@@ -40,10 +40,10 @@ bool InputsHold(Session& session) {
   return s.CommandAborted == 0;
 }
 
-/// A series can take long; what needs no series never does.
+/// A series can take long, and so can very many spheres; nothing else does.
 bool LeaveGiven(Session& session, const RunRequest& request) {
   auto& s = session.state;
-  if (TraitsOf(s.CalcMethod).series) Duration(session, request);
+  if (TraitsOf(s.CalcMethod).series || request.graph.family == Family::Volume) Duration(session, request);
   return s.CommandAborted == 0;
 }
 

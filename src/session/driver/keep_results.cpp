@@ -98,6 +98,7 @@ void KeepLoops(MainFormState& s, const Results& results) {
   s.PointIndex = 0;
   if (const auto* axis = results.Find<AxisFound>()) s.PointIndex = axis->done;
   if (const auto* analysis = results.Find<DebyeAnalysisFound>()) s.PointIndex = analysis->done;
+  if (const auto* volume = results.Find<VolumeFound>()) s.PointIndex = static_cast<double>(volume->x.size() - 1);
   s.AngleLoopIndex = static_cast<int>(double{s.ProgressFraction} * s.NN);
   s.SeriesLoopIndex = static_cast<int>(double{s.ProgressFraction} * s.NSTOP);
 }
@@ -149,6 +150,14 @@ struct KeepFound {
     auto& s = session.state;
     const auto& axis = std::get<AxisRun>(results.asked.run);
     KeepPoints(s, axis.xmin, axis.xmax, axis.step, axis.points);
+    if (axis.logSteps) s.LogStepRatio = StepRatio(axis);
+    s.S1ofPoint = found.S1;
+    s.S2ofPoint = found.S2;
+  }
+  void operator()(const VolumeFound& found) const {
+    auto& s = session.state;
+    const AxisRun& axis = std::get<VolumeRun>(results.asked.run).axis;
+    KeepPoints(s, axis.xmin, axis.xmax, axis.step, static_cast<int>(found.x.size()) - 1);
     if (axis.logSteps) s.LogStepRatio = StepRatio(axis);
     s.S1ofPoint = found.S1;
     s.S2ofPoint = found.S2;

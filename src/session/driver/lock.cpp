@@ -26,7 +26,7 @@ void LockOFF(Session& session) {
   const auto& s = session.state;
   EnableInputs(form, true);
   const Graph& graph = ChosenGraph(s);
-  const bool coloured = s.NumberWavelengths > 1 || graph.InColour() || graph.family == Family::Volume;
+  const bool coloured = s.NumberWavelengths > 1 || graph.InColour();
   form.cboLee.Enabled = graph.InColour();
   form.cboBright.Enabled = coloured;
 }

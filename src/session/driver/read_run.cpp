@@ -16,6 +16,7 @@
 #include "session/inputs/sizes/read_sizes.h"
 #include "session/inputs/sizes/size_menus.h"
 #include "session/inputs/two_angle_inputs.h"
+#include "session/inputs/volume_inputs.h"
 
 namespace lumivex {
 
@@ -108,6 +109,8 @@ std::optional<FamilyRun> ReadFamily(Session& session, const RunRequest& request)
     }
     case Family::Axis:
       return ReadAxis(session, graph);
+    case Family::Volume:
+      return ReadVolume(session, ReadAxis(session, graph));
     case Family::Convergence:
       return ConvergenceRun{angle};
     case Family::DebyeAnalysis: {

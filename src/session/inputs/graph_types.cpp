@@ -261,6 +261,7 @@ void cboGraph_Click(Session& session) {
   form.cmdReplot.Enabled = form.cmdOverPlot.Enabled = false;
   form.cmdNewPlot.Enabled = true;
   AskForDistance(session);
+  if (chosen.family == Family::Volume) session.events.Raise("dlogVolume.Show");
 }
 
 void ChooseGraph(Session& session, std::string_view text) {

@@ -19,6 +19,12 @@ std::string AxisWords(AxisVariable axis) {
       return "size parameter x of the sphere";
     case AxisVariable::RefractiveIndex:
       return "refractive index of the sphere";
+    case AxisVariable::Place:
+      return "position x of the sphere that moves, in micrometres from a face of the cube";
+    case AxisVariable::Number:
+      return "number of spheres, 1 to 1000000";
+    case AxisVariable::Time:
+      return "time since the spheres began to move, in seconds";
     case AxisVariable::Terms:
       return "number of terms of the series";
     case AxisVariable::Angle:
@@ -34,7 +40,12 @@ std::string UnitOfStep(AxisVariable axis) {
       return " in nanometres";
     case AxisVariable::Radius:
     case AxisVariable::Diameter:
+    case AxisVariable::Place:
       return " in micrometres";
+    case AxisVariable::Number:
+      return ", a whole number of spheres";
+    case AxisVariable::Time:
+      return " in seconds";
     case AxisVariable::Angle:
       return " in degrees";
     default:

@@ -132,8 +132,7 @@ void AskDebyeSequence(Session& session) {
 
 bool TakesWavelengths(const Graph& graph) {
   // Only intensity against angle is a matter of several wavelengths.
-  return (graph.AgainstAngle() && graph.quantity == Quantity::Intensity) || graph.InColour() ||
-         graph.family == Family::Volume;
+  return (graph.AgainstAngle() && graph.quantity == Quantity::Intensity) || graph.InColour();
 }
 
 void NumberWavelengths(Session& session) {
@@ -158,8 +157,7 @@ void ShowWavelengthInputs(Session& session) {
   form.lblSpectrumBand.Visible = !one && form.cboWave.Text != "RGB";
   // One that was ticked can be taken away whatever the wavelengths.
   form.mnuAverage.Visible = !one || form.mnuAverage.Checked;
-  form.Label18.Visible = form.cboBright.Visible =
-      IsAvailable(Feature::ColourBars) && (!one || graph.InColour() || graph.family == Family::Volume);
+  form.Label18.Visible = form.cboBright.Visible = IsAvailable(Feature::ColourBars) && (!one || graph.InColour());
   form.chkComponents.Visible = form.cboWave.Text == "RGB";
   // A size parameter belongs to one wavelength.
   form.mnuRadiusX.Enabled = one && graph.OfAngles();
