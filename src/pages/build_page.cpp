@@ -1,5 +1,7 @@
 #include "pages/build_page.h"
 
+#include "pages/bars/bar_colours.h"
+#include "pages/bars/bar_light.h"
 #include "pages/curves/curve_path.h"
 #include "pages/curves/spectrum_graph.h"
 #include "pages/frame/frame.h"
@@ -75,6 +77,7 @@ void LeaveOutOldestRuns(Page& page) {
 void AddRun(Page& page, const RunToDraw& run) {
   const Results& results = run.results;
   page.runs.push_back(WordsOf(run));
+  page.bars = HasBars(page.kind) ? PlotN(run) : std::nullopt;
   switch (results.asked.graph.drawing) {
     case Drawing::PhasorDiagram:
       page.phasors = PlotDots(run, page.geometry);
@@ -89,6 +92,8 @@ void AddRun(Page& page, const RunToDraw& run) {
         Display(page, run, CurvesOf(results, run.Curves()));
   }
   LeaveOutOldestRuns(page);
+  if (page.bars) page.bars->run = page.runs.size() - 1;
+  ColourBars(page, run.look.colours);
   page.readings = VisibleData(results);
   page.histogram = DistDisplay(results.asked.sizes, results.asked.particle.radius, NameOfSizes(results.asked.words),
                                run.look.histogramLog, results.asked.graph);
@@ -114,7 +119,8 @@ Page BuildPage(const Results& results, const Look& look, const PageGeometry& geo
   page.geometry = geometry;
   page.scale = memory;
   AddRun(page, run);
-  return page;
+  // Curves have come to the key since the frame was placed.
+  return PlacePage(std::move(page), geometry);
 }
 
 Page DrawOver(const Page& page, const Results& results, const Look& look) {
@@ -122,7 +128,8 @@ Page DrawOver(const Page& page, const Results& results, const Look& look) {
   if (page.Empty() || !SharesAxes(page.kind, KindOf(run))) return BuildPage(results, look, page.geometry, page.scale);
   Page both = WithLook(page, look);
   AddRun(both, run);
-  return both;
+  const PageGeometry geometry = both.geometry;
+  return PlacePage(std::move(both), geometry);
 }
 
 Page PlacePage(Page page, const PageGeometry& geometry) {
@@ -134,6 +141,7 @@ Page PlacePage(Page page, const PageGeometry& geometry) {
 
 Page WithLook(Page page, const Look& look) {
   page.style = StyleOf(page.kind, look);
+  ColourBars(page, look.colours);
   return page;
 }
 

@@ -18,7 +18,8 @@ Page DrawOver(const Page& page, const Results& results, const Look& look);
 /// The page on a surface of another size.
 Page PlacePage(Page page, const PageGeometry& geometry);
 
-/// The page in other colours, with other grid lines, logo and readings; its curves and limits stay.
+/// The page in other colours, those of its bars included, with other grid lines, logo and readings; its curves and
+/// limits stay.
 Page WithLook(Page page, const Look& look);
 
 /// Paints a page on a surface, which is cleared first. The page is the same afterwards, whatever the surface.

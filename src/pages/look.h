@@ -42,6 +42,12 @@ struct MapSeries {
   double scaleMaximum = 0;  ///< reference of the maps of the series; 0 before the first, whose own it then is
 };
 
+/// Full brightness of bars as it was set before, so that several runs can be compared.
+struct BarScale {
+  double reference = 0;        ///< sum that has full brightness
+  bool invWavelength = false;  ///< of intensities freed of the square of the wave number
+};
+
 /// Colours of bars, Lee diagrams and maps.
 struct ColourLook {
   ColourRules rules;
@@ -50,7 +56,7 @@ struct ColourLook {
   bool greyScale = false;             ///< of the ramp: greys in place of the rainbow
   bool paleEnd = false;               ///< of the ramp: its dark end is pale, for a grey surround
   bool normaliseUnpolarised = false;  ///< of bars: the unpolarised one by its own maximum
-  std::optional<double> reference;    ///< of bars: set before, so that several runs can be compared
+  std::optional<BarScale> barScale;   ///< of bars: set before
   std::optional<MapSeries> series;    ///< of maps: all on the scale of the first
 };
 

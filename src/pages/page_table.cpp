@@ -1,11 +1,13 @@
 #include "pages/page_table.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <iterator>
 #include <optional>
 #include <utility>
 
+#include "pages/bars/bar_place.h"
 #include "pages/curves/curve_names.h"
 #include "pages/curves/curve_path.h"
 #include "pages/items/phasor_diagram.h"
@@ -27,14 +29,18 @@ const SharedValues& TableX(const PageCurve& curve) {
   return curve.angle.empty() ? curve.x : curve.angle;
 }
 
+bool SameValues(const SharedValues& a, const SharedValues& b) {
+  if (a.SharesWith(b)) return true;
+  return a.size() == b.size() && std::equal(a.begin() + 1, a.end(), b.begin() + 1, [](double p, double q) {
+           return p == q || (std::isnan(p) && std::isnan(q));
+         });
+}
+
 /// Two curves stand under one x where their points do; rows that were not computed count as the same.
 bool SharesX(const PageCurve& a, const PageCurve& b) {
   const auto& xa = TableX(a);
   const auto& xb = TableX(b);
-  if (xa.SharesWith(xb)) return true;
-  return xa.size() == xb.size() && std::equal(xa.begin() + 1, xa.end(), xb.begin() + 1, [](double p, double q) {
-           return p == q || (std::isnan(p) && std::isnan(q));
-         });
+  return SameValues(xa, xb);
 }
 
 /// A name that no column has yet.
@@ -113,6 +119,23 @@ std::vector<std::string> HeaderLines(const Page& page) {
   return lines;
 }
 
+/// The sums that bars are coloured from. Those of one wavelength are its intensities once more.
+bool HasBarColumns(const Page& page) {
+  return page.bars && page.kind.wavelengths > 1;
+}
+
+/// Three columns a bar, for rows that have an angle.
+void AddBarColumns(const PageBars& bars, RowSpan rows, std::vector<Column>& columns) {
+  static constexpr std::array channels = {"red", "green", "blue"};
+  for (std::size_t k = 0; k < bars.light.size(); ++k)
+    for (std::size_t c = 0; c < channels.size(); ++c) {
+      Column column{Unused(columns, std::string(BarTitle(k)) + " bar: " + channels[c]), {}};
+      for (std::size_t j = rows.first; j <= rows.last; ++j)
+        if (std::isfinite(bars.angle[j])) column.cells.push_back(Cell(bars.light[k].channels[c][j]));
+      columns.push_back(std::move(column));
+    }
+}
+
 }  // namespace
 
 std::vector<TableColumn> TableOf(const Page& page) {
@@ -122,6 +145,7 @@ std::vector<TableColumn> TableOf(const Page& page) {
   const CurveNames names(page);
   const std::string xName(XTitleOf(page.kind.graph, {page.kind.fourier, page.kind.invWavelength}));
   std::vector<std::pair<const PageCurve*, RowSpan>> groups;
+  bool barsStand = !HasBarColumns(page);
   for (const auto& first : page.curves) {
     const auto known = [&](const auto& group) { return SharesX(*group.first, first); };
     if (first.y.size() < 2 || std::ranges::any_of(groups, known)) continue;
@@ -141,6 +165,9 @@ std::vector<TableColumn> TableOf(const Page& page) {
         if (std::isfinite(x[i])) ys.cells.push_back(Cell(values[i]));
       columns.push_back(std::move(ys));
     }
+    if (barsStand || !SameValues(x, page.bars->angle)) continue;
+    AddBarColumns(*page.bars, rows, columns);
+    barsStand = true;
   }
   return columns;
 }

@@ -14,7 +14,8 @@ struct TableColumn {
   std::vector<std::string> cells;
 };
 
-/// x once for curves that share it, then a column a curve, by the names that the key has. Of a two-angle chart the
+/// x once for curves that share it, then a column a curve, by the names that the key has, and of several wavelengths
+/// the sums of red, green and blue of each bar. Of a two-angle chart the
 /// radii of a run and both cross-sections of each index; of a phasor diagram the moduli and phases of what is left, by
 /// number of terms taken away.
 std::vector<TableColumn> TableOf(const Page& page);

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "pages/bars/bar_place.h"
 #include "pages/build_page.h"
 #include "pages/curves/curve_key.h"
 #include "pages/curves/curve_path.h"
@@ -109,6 +110,7 @@ void Paint(const Page& page, DrawingSurface& surface) {
   PaintSheet(surface, page.sheet);
   if (page.phasors) PaintPhasors(surface, *page.phasors, page.style.ground);
   PaintTwoAngleNotes(surface, page);
+  PaintBars(surface, page);
   PaintKey(surface, page, polarLabels);
   PrintTitle(surface, page);
   PaintStrip(surface, page);

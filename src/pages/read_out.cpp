@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "axes/polar_coordinates.h"
+#include "pages/bars/bar_place.h"
 #include "pages/curves/curve_names.h"
 #include "pages/curves/curve_path.h"
 #include "pages/items/phasor_diagram.h"
@@ -39,6 +40,16 @@ bool ReadPolar(const Page& page, double surfaceX, double surfaceY, GraphReading&
   const double part = r / map.radius;
   reading.y = map.logarithmic ? map.inner * std::pow(map.outer / map.inner, part) : map.outer * part;
   return true;
+}
+
+/// A column of a bar under the cursor.
+std::optional<GraphReading> ReadBar(const Page& page, double surfaceX, double surfaceY) {
+  const auto column = BarColumnAt(page, surfaceX, surfaceY);
+  if (!column) return std::nullopt;
+  GraphReading reading;
+  reading.x = page.bars->angle[column->row];
+  reading.text = WordsOf(*page.bars, *column);
+  return reading;
 }
 
 bool ReadPanels(const Page& page, double surfaceX, double surfaceY, GraphReading& reading) {
@@ -113,7 +124,7 @@ std::optional<GraphReading> ReadAt(const Page& page, double surfaceX, double sur
   if (page.panels.empty()) return std::nullopt;
   const bool inside =
       page.kind.polar ? ReadPolar(page, surfaceX, surfaceY, reading) : ReadPanels(page, surfaceX, surfaceY, reading);
-  if (!inside) return std::nullopt;
+  if (!inside) return ReadBar(page, surfaceX, surfaceY);
   FindNearest(page, surfaceX, surfaceY, reading);
 
   const PagePanel& panel = page.panels[reading.panel];

@@ -19,7 +19,8 @@ struct GraphReading {
   std::string text;               ///< all of it in one line for the status bar, with units
 };
 
-/// Reads a page at a place of its surface; nothing outside its panels and circles.
+/// Reads a page at a place of its surface; nothing outside its panels, circles and bars. Of a bar these are the angle
+/// and the light of the column.
 std::optional<GraphReading> ReadAt(const Page& page, double surfaceX, double surfaceY);
 
 /// The x range after a zoom at a place of the surface: `factor` below 1 shows less, the value under the place stays

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <optional>
 
+#include "pages/bars/bar_colours.h"
 #include "pages/curves/curve_path.h"
 #include "pages/frame/scale.h"
 #include "pages/read_out.h"
@@ -180,6 +181,7 @@ Page WithView(Page page, const PageView& view, const Look& look) {
     panel.limits = RepairedLimits(panel.limits, page.kind.logX, panel.logY);
     if (!page.zoomedY && !panel.second) ChooseLimitsInView(page, i, look);
   }
+  ColourBars(page, look.colours);
   return page;
 }
 

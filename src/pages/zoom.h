@@ -26,7 +26,8 @@ PageView HomeOf(const Page& page);
 bool IsZoomed(const Page& page);
 
 /// The page with another view: x limits of every panel, and y limits of the main one as the view has them or as the
-/// look has them for what is now in view of all the curves. A second panel keeps its scale.
+/// look has them for what is now in view of all the curves. A second panel keeps its scale; bars have the columns in
+/// view, on the scale of these.
 Page WithView(Page page, const PageView& view, const Look& look);
 
 /// The view of one page for the next page of the window: nothing where that one has another axis or range, and the y

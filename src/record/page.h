@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <memory>
 #include <optional>
@@ -10,6 +11,7 @@
 #include "axes/panel_map.h"
 #include "catalogue/graph.h"
 #include "record/colour.h"
+#include "record/drawing_surface.h"
 #include "solvers/angles/amplitude_table.h"
 #include "solvers/rays/huygens_wave.h"
 
@@ -199,6 +201,37 @@ struct PageLine {
   Colour colour;
 };
 
+/// Light of one polarisation along the angle, by row (first index 1); not a number where nothing was calculated.
+struct BarLight {
+  std::array<SharedValues, 3> channels;  ///< red, green, blue, as SpectrumSums has them, seen with the sun's disc
+  SharedValues strongest;                ///< wavelength (nm) that gives most; empty for a run of one
+};
+
+/// The bars below a graph of intensity against angle, in the order perpendicular, parallel, unpolarised: the light that
+/// they are coloured from, and their colours for the angles in view. A column is a sample, and reaches half a step to
+/// both sides of it.
+struct PageBars {
+  std::size_t run = 0;              ///< index of the run that they are of
+  SharedValues angle;               ///< degrees, by row; not a number outside what was calculated
+  double step = 1;                  ///< degrees from row to row; row j stands at (j - 1) steps
+  std::size_t first = 1, last = 0;  ///< rows that were calculated
+  std::array<BarLight, 3> light;
+
+  // In view.
+  double reference = 0;                        ///< sum that has full brightness
+  bool referenceIsSet = false;                 ///< it was set before, and is not that of the rows in view
+  bool otherUnit = false;                      ///< one was set before, in another unit: it could not be taken
+  bool ownUnpolarised = false;                 ///< the third bar is held against its own greatest sum
+  std::array<double, 3> greatest{};            ///< channel of the rows in view
+  std::size_t firstShown = 1, lastShown = 0;   ///< rows in view; none when last < first
+  XRange covered;                              ///< angles that these columns cover (degrees)
+  CellPart part;                               ///< of the columns of the picture, what is in view
+  std::array<std::vector<Colour>, 3> painted;  ///< colour of each row in view
+  /// Columns of the picture: the rows in view; on a logarithmic axis, where rows have unequal widths, colours at equal
+  /// steps of the logarithm.
+  std::array<std::vector<Colour>, 3> columns;
+};
+
 /// A page: everything that is on a drawing, as plain data. Overplots stand beside what was there, so that a resize, a
 /// zoom, the read-out and an export show them all.
 struct Page {
@@ -212,6 +245,7 @@ struct Page {
   bool zoomedY = false;                ///< the vertical range is the user's, not that of the curves in view
   double autoBottom = 0, autoTop = 0;  ///< smallest and largest value of the curves that the frame was chosen for
   std::optional<PagePhasors> phasors;
+  std::optional<PageBars> bars;         ///< of the last run
   std::vector<HuygensWave> wavefronts;  ///< in the strip over the graph
   std::vector<PageLine> readings;       ///< of the last run
   std::optional<PageHistogram> histogram;

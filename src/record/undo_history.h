@@ -10,12 +10,14 @@
 
 namespace lumivex {
 
-/// Fields of the record that an accepted dialog sets from its inputs.
+/// Fields of the record that an accepted dialog, or a menu, sets from what it finds.
 struct DialogSettings {
   float spectrumMin = 0, spectrumMax = 0;
   double blackBodyTemp = 0, incidentDensity = 0, distance = 0;
   int indexUserEdited = 0, sphereIndexTyped = 0, sphereIndexVaries = 0, mediumIndexTyped = 0, catalogueIndex = 0;
   Colour pickedLineColour;
+  double barReference = 0;
+  int barReferencePerWaveNumber = 0;
   bool operator==(const DialogSettings&) const = default;
 };
 

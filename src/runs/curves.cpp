@@ -36,15 +36,6 @@ void Size(Curves& curves, std::size_t size, double value) {
   }
 }
 
-/// x of the rows of a window, the others not a number.
-std::vector<double> AnglesOf(const AngleRows& rows) {
-  std::vector<double> x(At(2 * rows.NANG), notComputed);
-  const TypedValues typed(0, rows.step);
-  for (int row = std::max(rows.window.low, 1); row <= rows.window.high && At(row) < x.size(); ++row)
-    x[At(row)] = typed((row - 1) * rows.step);
-  return x;
-}
-
 /// What an intensity, or a modulus, is divided by.
 double NormOf(const CurveLook& look, double waveNumber) {
   if (!look.invWavelength) return 1;
@@ -365,13 +356,21 @@ SpectrumSums SumsOf(const Results& results, const CurveLook& look) {
   for (Table2D* table : {&sums.perpendicular, &sums.parallel, &sums.mean}) table->Resize(At(2 * rows.NANG), columns);
   const std::size_t first = At(rows.window.low);
   for (int i = 1; i <= found->done; ++i) {
-    const double weight = WeightOf(results, *found, look, i);
-    AddWavelength(sums.perpendicular, first, RowsOfWavelength(found->perpendicular, rows, i), weight, *light, At(i));
-    AddWavelength(sums.parallel, first, RowsOfWavelength(found->parallel, rows, i), weight, *light, At(i));
+    const WavelengthLight one = LightOfWavelength(results, look, i);
+    AddWavelength(sums.perpendicular, first, one.perpendicular, one.weight, *light, At(i));
+    AddWavelength(sums.parallel, first, one.parallel, one.weight, *light, At(i));
   }
   for (std::size_t cell = 0; cell < sums.mean.cells.size(); ++cell)
     sums.mean.cells[cell] = (sums.perpendicular.cells[cell] + sums.parallel.cells[cell]) / 2;
   return sums;
+}
+
+WavelengthLight LightOfWavelength(const Results& results, const CurveLook& look, int wavelength) {
+  const auto* found = results.Find<SpectrumFound>();
+  if (found == nullptr) return {};
+  const AngleRows& rows = std::get<SpectrumRun>(results.asked.run).rows;
+  return {RowsOfWavelength(found->perpendicular, rows, wavelength), RowsOfWavelength(found->parallel, rows, wavelength),
+          WeightOf(results, *found, look, wavelength)};
 }
 
 Curves CurvesOfWavelength(const Results& results, const CurveLook& look, int wavelength) {
@@ -383,12 +382,10 @@ Curves CurvesOfWavelength(const Results& results, const CurveLook& look, int wav
   curves.firstRow = rows.window.low;
   curves.lastRow = rows.window.high;
   Size(curves, curves.x.size(), notComputed);
-  const double weight = WeightOf(results, *found, look, wavelength);
-  const auto shown = [&](double intensity) {
+  const auto [perpendicular, parallel, weight] = LightOfWavelength(results, look, wavelength);
+  const auto shown = [&look, weight = weight](double intensity) {
     return look.amplitude ? std::sqrt(weight * intensity) : weight * intensity;
   };
-  const auto perpendicular = RowsOfWavelength(found->perpendicular, rows, wavelength);
-  const auto parallel = RowsOfWavelength(found->parallel, rows, wavelength);
   for (std::size_t i = 0; i < perpendicular.size(); ++i) {
     const std::size_t j = At(rows.window.low) + i;
     curves.perpendicular[j] = shown(perpendicular[i]);
@@ -397,6 +394,14 @@ Curves CurvesOfWavelength(const Results& results, const CurveLook& look, int wav
     curves.extra1[j] = Contrast(perpendicular[i], parallel[i]);
   }
   return curves;
+}
+
+std::vector<double> AnglesOf(const AngleRows& rows) {
+  std::vector<double> x(At(2 * rows.NANG), notComputed);
+  const TypedValues typed(0, rows.step);
+  for (int row = std::max(rows.window.low, 1); row <= rows.window.high && At(row) < x.size(); ++row)
+    x[At(row)] = typed((row - 1) * rows.step);
+  return x;
 }
 
 const AngleRows* RowsOf(const FamilyRun& run) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <vector>
 
 #include "runs/results.h"
@@ -40,11 +41,22 @@ struct SpectrumSums {
 };
 SpectrumSums SumsOf(const Results& results, const CurveLook& look);
 
+/// The intensities of one wavelength (from 1) as a run of a spectrum has them, from the first row of its window on, and
+/// the weight that they have in the sums. The results own them.
+struct WavelengthLight {
+  std::span<const double> perpendicular, parallel;
+  double weight = 1;
+};
+WavelengthLight LightOfWavelength(const Results& results, const CurveLook& look, int wavelength);
+
 /// One wavelength of a spectrum (from 1), weighed as in the sums.
 Curves CurvesOfWavelength(const Results& results, const CurveLook& look, int wavelength);
 
 /// The inverse of a wavelength (nm) as an axis shows it: in 1/um.
 double InverseWavelength(double nm);
+
+/// Angles of the rows (degrees), first index 1; not a number outside their window.
+std::vector<double> AnglesOf(const AngleRows& rows);
 
 /// The rows of an angle request; null for a family without.
 const AngleRows* RowsOf(const FamilyRun& run);

@@ -34,7 +34,39 @@ void KeepScale(MainFormState& s, const Page& page) {
   s.YAutoMax = page.autoTop;
 }
 
+/// What scripts, and the next page, know of the bars. The first bars after a normalisation was set without any on show
+/// set it.
+void KeepBars(Session& session) {
+  auto& s = session.state;
+  const auto& bars = session.page.bars;
+  s.BarScale = bars ? bars->reference : 0;
+  s.BarMaximumPerp = bars ? bars->greatest[0] : 0;
+  s.BarMaximumPar = bars ? bars->greatest[1] : 0;
+  s.BarMaximumUnpol = bars ? bars->greatest[2] : 0;
+  s.SimColourTable.Resize(0, simColourColumns);
+  if (!bars) return;
+  if (session.form1.mnuSetNormal.Checked && s.BarReference == 0) TakeBarReference(session);
+  const std::size_t count = bars->painted[0].size();
+  s.SimColourTable.Resize(count + 1, simColourColumns);
+  for (std::size_t i = 0; i < count; ++i) {
+    s.SimColourTable.At(i + 1, 0) = bars->angle[bars->firstShown + i];
+    for (std::size_t k = 0; k < bars->painted.size(); ++k) {
+      const Colour cell = bars->painted[k][i];
+      s.SimColourTable.At(i + 1, 3 * k + 1) = cell.Red();
+      s.SimColourTable.At(i + 1, 3 * k + 2) = cell.Green();
+      s.SimColourTable.At(i + 1, 3 * k + 3) = cell.Blue();
+    }
+  }
+}
+
 }  // namespace
+
+void TakeBarReference(Session& session) {
+  auto& s = session.state;
+  const auto& bars = session.page.bars;
+  s.BarReference = bars ? bars->reference : 0;
+  s.BarReferencePerWaveNumber = bars && session.page.kind.invWavelength ? 1 : 0;
+}
 
 void DrawPage(Session& session) {
   session.page = PlacePage(std::move(session.page), GeometryOf(session));
@@ -45,11 +77,16 @@ void ShowPage(Session& session, Page page) {
   session.page = std::move(page);
   KeepScale(session.state, session.page);
   KeepLogo(session, session.page);
+  KeepBars(session);
   DrawPage(session);
 }
 
 void RenewLook(Session& session) {
   ShowPage(session, WithLook(session.page, ReadLook(session)));
+}
+
+void RecolourBars(Session& session) {
+  if (session.page.bars && session.state.Busy == 0) RenewLook(session);
 }
 
 void ShowView(Session& session, const PageView& view) {

@@ -10,12 +10,20 @@ namespace lumivex {
 void DrawPage(Session& session);
 
 /// Shows a page in the main window. Limits, extremes and what the scales remember go to the record (Ymin, Ymax,
-/// YAutoMin, YAutoMax, StoredTop ...), place and colour of the logo to its label.
+/// YAutoMin, YAutoMax, StoredTop ...), what its bars show too (BarScale, SimColourTable ...), place and colour of the
+/// logo to its label.
 void ShowPage(Session& session, Page page);
 
 /// Shows the page in the colours, with the grid lines and the readings that the menus ask for now; its curves and
 /// limits stay.
 void RenewLook(Session& session);
+
+/// Draws the bars of the page anew, with the brightness, the saturation, the gamma and the scale that are set now; a
+/// page without bars stays as it is.
+void RecolourBars(Session& session);
+
+/// Keeps the reference of the bars on show, and its unit, for later ones (BarReference); without bars none.
+void TakeBarReference(Session& session);
 
 /// Makes a part of the page's axes the one on the screen. The inputs stay as they are.
 void ShowView(Session& session, const PageView& view);

@@ -23,9 +23,19 @@ void ForEachCaption(Form1& form, Visitor&& visit) {
 InputState Present(Session& session) {
   const auto& s = session.state;
   InputState state{{}, {s.GraphType, s.GraphSubType}, s.CalcMethod, s.SphereName, s.MediumName, {}, {}};
-  state.settings = {s.SpectrumMin,      s.SpectrumMax,    s.BlackBodyTemp,    s.IncidentDensity,
-                    s.Distance,         s.RIUserEdited,   s.SphereIndexTyped, s.SphereIndexVaries,
-                    s.MediumIndexTyped, s.CatalogueIndex, s.PickedLineColour};
+  state.settings = {s.SpectrumMin,
+                    s.SpectrumMax,
+                    s.BlackBodyTemp,
+                    s.IncidentDensity,
+                    s.Distance,
+                    s.RIUserEdited,
+                    s.SphereIndexTyped,
+                    s.SphereIndexVaries,
+                    s.MediumIndexTyped,
+                    s.CatalogueIndex,
+                    s.PickedLineColour,
+                    s.BarReference,
+                    s.BarReferencePerWaveNumber};
   for (const Form* form : session.forms.All()) state.forms.push_back(form->Snapshot());
   ForEachCaption(session.form1, [&](const std::string& caption) { state.captions.push_back(caption); });
   return state;
@@ -43,6 +53,8 @@ void RestoreSettings(MainFormState& s, const DialogSettings& settings) {
   s.MediumIndexTyped = settings.mediumIndexTyped;
   s.CatalogueIndex = settings.catalogueIndex;
   s.PickedLineColour = settings.pickedLineColour;
+  s.BarReference = settings.barReference;
+  s.BarReferencePerWaveNumber = settings.barReferencePerWaveNumber;
 }
 
 void Restore(Session& session, const InputState& state) {

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "pages/bars/bar_place.h"
 #include "pages/read_out.h"
 #include "session/page.h"
 #include "session/view.h"
@@ -74,7 +75,9 @@ GraphPointer::Zone GraphPointer::ZoneAt(SurfacePoint place) const {
   const GraphBox &main = panels.front().box, &last = panels.back().box;
   const bool besides = place.x >= 0 && place.x < main.left && place.y >= main.top && place.y <= main.bottom;
   if (besides) return Zone::YAxis;
-  const bool below = place.y > last.bottom && place.y <= last.bottom + numbersX;
+  const auto bars = BarBoxes(session_->page);
+  const double foot = bars ? bars->back().bottom : last.bottom + numbersX;
+  const bool below = place.y > last.bottom && place.y <= foot;
   return below && place.x >= last.left && place.x <= last.right ? Zone::XAxis : Zone::None;
 }
 

@@ -39,7 +39,9 @@ QString FromText(std::string_view text) {
 QImage WholePixels(const QImage& image, const CellPart& part) {
   constexpr double enough = 800;
   const auto pixelsEach = [](double cells) { return std::max(2, 2 * static_cast<int>(std::ceil(enough / cells / 2))); };
-  const int across = pixelsEach(part.right - part.left), down = pixelsEach(part.bottom - part.top);
+  const int across = pixelsEach(part.right - part.left);
+  // One row above another smooths nothing.
+  const int down = image.height() == 1 ? pixelsEach(enough) : pixelsEach(part.bottom - part.top);
   const auto pixel = [](double cell, int each) { return static_cast<int>(std::lround(cell * each)); };
   const int left = pixel(part.left, across), top = pixel(part.top, down);
   QImage whole(std::max(1, pixel(part.right, across) - left), std::max(1, pixel(part.bottom, down) - top),

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "pages/bars/bar_place.h"
 #include "pages/curves/curve_names.h"
 
 namespace lumivex {
@@ -82,7 +83,7 @@ struct Room {
   double left = 0, top = 0, right = 0, bottom = 0;
 };
 
-/// Below the title of the horizontal axis, in a polar plot below the scale's text.
+/// Below the title of the horizontal axis and the bars, in a polar plot below the scale's text.
 Room RoomOf(DrawingSurface& surface, const Page& page, const TickLabels& polarLabels) {
   const double right = surface.ScaleWidth() - margin, bottom = surface.ScaleHeight() - margin;
   const double line = surface.TextHeight("X");
@@ -97,7 +98,8 @@ Room RoomOf(DrawingSurface& surface, const Page& page, const TickLabels& polarLa
     const double top = at.polarY + 0.25 * at.polarRadius;
     return {at.polarX + 1.25 * at.polarRadius, std::min(top, bottom - linesOfKey * line), right, bottom};
   }
-  const double below = BottomOfXTitle(surface, page) + 0.25 * line;
+  const double title = BottomOfXTitle(surface, page);
+  const double below = std::max(title, BottomOfBars(surface, page).value_or(title)) + 0.25 * line;
   return {page.panels.back().box.left, below, right, bottom};
 }
 

@@ -1,11 +1,11 @@
 #include "pages/curves/spectrum_graph.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <utility>
 
 #include "axes/scale_rules.h"
+#include "pages/bars/bar_light.h"
 #include "pages/frame/colours.h"
 #include "record/number_text.h"
 
@@ -37,20 +37,9 @@ Curves Envelope(const std::vector<Curves>& all) {
   return envelope;
 }
 
-/// A channel of the sums by row, as a source of the sun's width shows it.
-std::vector<double> Channel(const RunToDraw& run, const Table2D& table, std::size_t column) {
-  std::vector<double> values(table.rows, 0.0);
-  const RowWindow window = RowsOf(run.results.asked.run)->window;
-  for (int row = window.low; row <= window.high; ++row) {
-    const auto j = static_cast<std::size_t>(row);
-    values[j] = table.At(j, column);
-  }
-  return SeenUnderSun(run, values);
-}
-
 /// Colour of each row, as bright as it can be. Sixteen steps a channel: more pieces of a curve cannot be seen.
-std::vector<Colour> RowColours(const RunToDraw& run, const Table2D& table, double brightness) {
-  const std::array channels = {Channel(run, table, 1), Channel(run, table, 2), Channel(run, table, 3)};
+std::vector<Colour> RowColours(const BarLight& light, double brightness) {
+  const auto& channels = light.channels;
   constexpr double steps = 15;
   std::vector<Colour> colours(channels[0].size(), Colour{0x808080});
   for (std::size_t j = 1; j < colours.size(); ++j) {
@@ -71,16 +60,13 @@ double FullBrightness(Colour ground) {
 }
 
 void PlotTotal(Page& page, const RunToDraw& run, const Curves& curves) {
-  const SpectrumSums sums = SumsOf(run.results, run.Curves());
+  const auto bars = page.bars ? page.bars : PlotN(run);
   for (const int kind : KindsWanted(run.look)) {
-    const Table2D& table = kind == perpendicularKind ? sums.perpendicular
-                           : kind == parallelKind    ? sums.parallel
-                                                     : sums.mean;
     const double shade = kind == perpendicularKind ? 1 : kind == parallelKind ? 0.5 : 0.75;
     const double brightness = shade * FullBrightness(page.style.ground);
     const Colour grey = RGB(160 * brightness, 160 * brightness, 160 * brightness);
     PageCurve curve = Plot(page, run, curves.x, CurveOfKind(curves, kind), {0, kind}, grey);
-    curve.colours = RowColours(run, table, brightness);
+    curve.colours = RowColours(bars->light[static_cast<std::size_t>(kind) - 1], brightness);
     page.curves.push_back(std::move(curve));
   }
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "pages/bars/bar_place.h"
 #include "pages/curves/curve_path.h"
 #include "pages/frame/polar_plot.h"
 
@@ -58,7 +59,8 @@ void PaintLogo(FramePaint& paint) {
 
 GraphBox BoxOf(const Page& page, PanelPlace place) {
   GraphBox box = page.geometry.box;
-  const double lowest = page.geometry.surfaceHeight - (page.style.special ? roomBelowSlide : roomBelow);
+  const double below = (page.style.special ? roomBelowSlide : roomBelow) + RoomForBars(page);
+  const double lowest = page.geometry.surfaceHeight - below;
   box.bottom = std::min(box.bottom, std::max(lowest, box.top + leastHeight));
   if (place == PanelPlace::Upper) box.bottom = 0.5 * (box.top + box.bottom - gapBetweenPanels);
   if (place == PanelPlace::Lower) box.top = 0.5 * (box.top + box.bottom + gapBetweenPanels);

@@ -5,8 +5,8 @@
 namespace lumivex {
 
 /// The plot box of a page's geometry, or one of its halves: between them there is room for the numbers of the upper one
-/// and the title of the lower one. On a surface too low for it the box ends higher, so that the axis, its title and the
-/// key are on the surface.
+/// and the title of the lower one. On a surface too low for it the box ends higher, so that the axis, its title, the
+/// bars and the key are on the surface.
 GraphBox BoxOf(const Page& page, PanelPlace place);
 
 /// Adds a frame to a page. Limits that cannot be drawn are repaired; a small xmin on a linear axis becomes 0.

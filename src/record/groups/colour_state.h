@@ -20,6 +20,8 @@ struct ColourState {
   float CellRed = 0;              ///< channels of the present cell, 0 to 255
   float CellGreen = 0;
   float CellBlue = 0;
+  double BarReference = 0;            ///< BarScale kept for later bars; 0 for none
+  int BarReferencePerWaveNumber = 0;  ///< 1: it is of intensities freed of the square of the wave number
 };
 
 template <class Group, class Visitor>
@@ -35,6 +37,8 @@ void ForEachField(Group& g, Visitor&& visit) {
   visit("CellRed", g.CellRed);
   visit("CellGreen", g.CellGreen);
   visit("CellBlue", g.CellBlue);
+  visit("BarReference", g.BarReference);
+  visit("BarReferencePerWaveNumber", g.BarReferencePerWaveNumber);
 }
 
 }  // namespace lumivex

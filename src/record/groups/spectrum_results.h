@@ -17,7 +17,18 @@ struct SpectrumResults {
   Table2D ColourPerp;  ///< perpendicular polarisation
   Table2D ColourPar;   ///< parallel
   Table2D ColourMain;  ///< their mean: unpolarised light
+
+  /// Colours of the bars as they are painted, a row an angle in view, first row 1: column 0 is the angle (degrees),
+  /// columns 1 to 3 are red, green and blue (0 to 255) of perpendicular, 4 to 6 of parallel, 7 to 9 of unpolarised
+  /// light.
+  Table2D SimColourTable;
+  double BarScale = 0;         ///< sum that the bars on show paint with full brightness; 0 without bars
+  double BarMaximumPerp = 0;   ///< greatest channel in view of the perpendicular bar
+  double BarMaximumPar = 0;    ///< of the parallel one
+  double BarMaximumUnpol = 0;  ///< of the unpolarised one
 };
+
+inline constexpr std::size_t simColourColumns = 10;
 
 /// Columns and rows of the three tables: 0 to 180 degrees in steps of 0.01.
 inline constexpr std::size_t colourColumns = 8;
@@ -37,6 +48,11 @@ void ForEachField(Group& g, Visitor&& visit) {
   visit("ColourPerp", g.ColourPerp);
   visit("ColourPar", g.ColourPar);
   visit("ColourMain", g.ColourMain);
+  visit("SimColourTable", g.SimColourTable);
+  visit("BarScale", g.BarScale);
+  visit("BarMaximumPerp", g.BarMaximumPerp);
+  visit("BarMaximumPar", g.BarMaximumPar);
+  visit("BarMaximumUnpol", g.BarMaximumUnpol);
 }
 
 }  // namespace lumivex

@@ -135,7 +135,8 @@ Verdict NumericInputs(Check& check) {
         Number{&form.txtRefractImag, largestIndex, NumberSign::PositiveOrZero},
         Number{&form.txtRefractMedium, largestIndex, NumberSign::PositiveOrZero},
         Number{&form.txtF9_min, largestInput, NumberSign::Any}, Number{&form.txtF9_max, largestInput, NumberSign::Any},
-        Number{&form.txtF9_step, largestInput, NumberSign::Any}})
+        Number{&form.txtF9_step, largestInput, NumberSign::Any},
+        Number{&form.cboBright, largestInput, NumberSign::Any}})
     if (number.control->Visible && !getval(session, *number.control, number.upperLimit, number.sign))
       return Verdict::End;
   if (!MethodNumbers(check)) return Verdict::End;

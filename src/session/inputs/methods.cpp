@@ -158,6 +158,8 @@ void ShowWavelengthInputs(Session& session) {
   // One that was ticked can be taken away whatever the wavelengths.
   form.mnuAverage.Visible = !one || form.mnuAverage.Checked;
   form.Label18.Visible = form.cboBright.Visible = IsAvailable(Feature::ColourBars) && (!one || graph.InColour());
+  // A run of one wavelength leaves it locked.
+  form.cboBright.Enabled = form.cboBright.Visible;
   form.chkComponents.Visible = form.cboWave.Text == "RGB";
   // A size parameter belongs to one wavelength.
   form.mnuRadiusX.Enabled = one && graph.OfAngles();

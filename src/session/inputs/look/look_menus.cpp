@@ -7,6 +7,7 @@
 #include "record/number_text.h"
 #include "session/inputs/dialog_use.h"
 #include "session/inputs/look/colour_test.h"
+#include "session/page.h"
 
 namespace lumivex {
 
@@ -163,11 +164,13 @@ template <Entry entry>
 void PickSaturation(Session& session) {
   TickOnly(session, saturations, entry);
   if (session.state.Busy == 0) EnableReplot(session);
+  RecolourBars(session);
 }
 
-/// Gamma changes colours, and one wavelength has none to change.
+/// Gamma changes colours, and the curves of one wavelength have none to change.
 void mnuGamma_Click(Session& session) {
   if (session.form1.cboWave.Text != "1") EnableReplot(session);
+  RecolourBars(session);
 }
 
 template <Entry entry>
@@ -336,7 +339,28 @@ void mnuSaturated_Click(Session& session) {
   auto& form = session.form1;
   Toggle(session, &M::mnuSaturated);
   if (form.mnuSaturated.Checked && form.cboBright.Text != "1") form.cboBright.Text = "1";
+  form.cboBright.BackColour = IsNumber(form.cboBright.Text) ? colours::White : colours::BadInput;
   EnableReplot(session);
+  RecolourBars(session);
+}
+
+void mnuNormalised_Click(Session& session) {
+  Toggle(session, &M::mnuNormalised);
+  RecolourBars(session);
+}
+
+void mnuSetNormal_Click(Session& session) {
+  Toggle(session, &M::mnuSetNormal);
+  if (session.form1.mnuSetNormal.Checked) TakeBarReference(session);
+  RecolourBars(session);
+}
+
+void cboBright_Change(Session& session) {
+  auto& list = session.form1.cboBright;
+  if (session.state.LoadingFlag != 0) return;
+  const bool good = IsNumber(list.Text);
+  list.BackColour = good ? colours::White : colours::BadInput;
+  if (good) RecolourBars(session);
 }
 
 std::span<const GraphEvent> LookEvents() {
@@ -394,6 +418,9 @@ std::span<const GraphEvent> LookEvents() {
       GraphEvent{"mnuGammaA_Click", PickGamma<&M::mnuGammaA>},
       GraphEvent{"mnuGammaB_Click", PickGamma<&M::mnuGammaB>},
       GraphEvent{"mnuSaturated_Click", mnuSaturated_Click},
+      GraphEvent{"mnuNormalised_Click", mnuNormalised_Click},
+      GraphEvent{"mnuSetNormal_Click", mnuSetNormal_Click},
+      GraphEvent{"cboBright_Change", cboBright_Change},
       GraphEvent{"cmdColourTest_Click", cmdColourTest_Click},
   };
   return events;

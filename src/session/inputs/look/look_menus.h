@@ -76,4 +76,11 @@ void dlogAverage_OKButton_Click(Session& session);
 void mnuPhoto_Click(Session& session);
 void mnuSaturated_Click(Session& session);
 
+/// The scale of bars: the unpolarised one by itself, or all by the reference of the page on show, which later pages
+/// keep until the entry is clicked again.
+void mnuNormalised_Click(Session& session);
+void mnuSetNormal_Click(Session& session);
+/// Another brightness: a number draws the bars anew, any other text is marked.
+void cboBright_Change(Session& session);
+
 }  // namespace lumivex

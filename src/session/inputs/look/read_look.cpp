@@ -112,15 +112,20 @@ GammaRule GammaTicked(const Form1& form) {
   return form.mnuGammaB.Checked ? GammaRule::GroupRGB : GammaRule::IndividualRGB;
 }
 
-ColourLook ReadColours(const Form1& form) {
+ColourLook ReadColours(const Session& session) {
+  const Form1& form = session.form1;
+  const MainFormState& s = session.state;
   ColourLook colours;
-  const double brightness = Val(form.cboBright.Text);
+  // A text that is no number is marked, and counts for nothing until it is mended.
+  const double brightness = IsNumber(form.cboBright.Text) ? Val(form.cboBright.Text) : 1;
   colours.rules = {brightness, form.mnuSaturated.Checked, SaturationTicked(form), GammaTicked(form)};
   colours.absolute = form.cboLee.Text == "Absolute";
   colours.falseColours = form.mnuFalseColours.Checked;
   colours.greyScale = brightness <= 0;
   colours.paleEnd = form.mnuGrey.Checked;
   colours.normaliseUnpolarised = form.mnuNormalised.Checked;
+  if (form.mnuSetNormal.Checked && s.BarReference > 0)
+    colours.barScale = BarScale{s.BarReference, s.BarReferencePerWaveNumber == 1};
   return colours;
 }
 
@@ -152,7 +157,7 @@ Look ReadLook(const Session& session) {
   look.invWavelength = form.mnuInvWavelength.Checked;
   look.fourier = form.mnuFFT.Checked;
   look.sun = {form.optSun.Checked, form.mnuSun.Checked};
-  look.colours = ReadColours(form);
+  look.colours = ReadColours(session);
   look.components = form.chkComponents.Checked;
   look.logo = form.mnuHideLogo.Checked ? "" : form.lblLogo.Caption;
   look.logoPlace = LogoPlaceTicked(form);
