@@ -9,6 +9,7 @@
 #include "pages/items/readings.h"
 #include "pages/items/size_histogram.h"
 #include "pages/items/two_angle_chart.h"
+#include "pages/maps/plot_lee.h"
 #include "pages/run_words.h"
 #include "record/number_text.h"
 
@@ -17,7 +18,7 @@ namespace lumivex {
 namespace {
 
 bool HasLogo(const Graph& graph) {
-  return !graph.InColour() && graph.family != Family::Impulse && graph.family != Family::Volume;
+  return graph.family != Family::Impulse && graph.family != Family::Volume;
 }
 
 PageStyle StyleOf(const PageKind& kind, const Look& look) {
@@ -34,6 +35,7 @@ PageStyle StyleOf(const PageKind& kind, const Look& look) {
   style.logo = HasLogo(kind.graph) ? look.logo : "";
   style.logoPlace = look.logoPlace;
   style.logoColour = mono && background.pale ? RGB(200, 200, 200) : RGB(100, 100, 100);
+  style.narrowScreen = look.narrowScreen;
   style.readingsVisible = look.readingsVisible;
   return style;
 }
@@ -74,6 +76,31 @@ void LeaveOutOldestRuns(Page& page) {
   }
 }
 
+/// The cells found: the results' own where these are shared, otherwise a copy.
+std::shared_ptr<const MapFound> CellsOf(const Results& results, const MapFound& found) {
+  if (auto held = results.weak_from_this().lock()) return {std::move(held), &found};
+  return std::make_shared<const MapFound>(found);
+}
+
+void AddMap(Page& page, const RunToDraw& run) {
+  const auto* found = run.results.Find<MapFound>();
+  if (found == nullptr) return;
+  const RunRequest& asked = run.results.asked;
+  const auto* angles = std::get_if<AngleMapRun>(&asked.run);
+  const auto* quantities = std::get_if<EfficiencyMapRun>(&asked.run);
+  if (angles == nullptr && quantities == nullptr) return;
+  MapToDraw map{asked, run.look, CellsOf(run.results, *found), {}, {}};
+  map.columns = angles != nullptr ? angles->columns : quantities->columns;
+  if (angles != nullptr)
+    map.rows = angles->rows;
+  else
+    map.rows = quantities->rows;
+  if (run.look.special)
+    PlotLeeSpecial(page, map);
+  else
+    PlotLee(page, map);
+}
+
 void AddRun(Page& page, const RunToDraw& run) {
   const Results& results = run.results;
   page.runs.push_back(WordsOf(run));
@@ -84,6 +111,9 @@ void AddRun(Page& page, const RunToDraw& run) {
       break;
     case Drawing::TwoAngleChart:
       DisplayTwoAngle(page, run);
+      break;
+    case Drawing::ColourImage:
+      AddMap(page, run);
       break;
     default:
       if (results.Find<SpectrumFound>() != nullptr)
@@ -103,10 +133,11 @@ void AddRun(Page& page, const RunToDraw& run) {
 
 /// Whether curves of one kind may be drawn on the axes of the other.
 bool SharesAxes(const PageKind& page, const PageKind& run) {
-  return page.graph == run.graph && page.graph.drawing != Drawing::PhasorDiagram && page.wavelengths == 1 &&
-         run.wavelengths == 1 && page.second == run.second && page.amplitude == run.amplitude &&
-         page.invWavelength == run.invWavelength && page.perVolume == run.perVolume && page.fourier == run.fourier &&
-         page.xTitle == run.xTitle && page.yTitle == run.yTitle;
+  return page.graph == run.graph && page.graph.drawing != Drawing::PhasorDiagram &&
+         page.graph.drawing != Drawing::ColourImage && page.wavelengths == 1 && run.wavelengths == 1 &&
+         page.second == run.second && page.amplitude == run.amplitude && page.invWavelength == run.invWavelength &&
+         page.perVolume == run.perVolume && page.fourier == run.fourier && page.xTitle == run.xTitle &&
+         page.yTitle == run.yTitle;
 }
 
 }  // namespace

@@ -83,6 +83,7 @@ struct Look {
   bool components = false;  ///< red, green and blue apart
   std::string logo;         ///< empty where it is hidden
   LogoPlace logoPlace = LogoPlace::BottomLeft;
+  bool narrowScreen = false;  ///< fewer than 1025 pixels wide
   bool readingsVisible = true;
   DotLabels dotLabels;
   bool histogramLog = true;  ///< the radius of a size distribution on a logarithmic axis

@@ -11,6 +11,7 @@
 #include "pages/curves/curve_names.h"
 #include "pages/curves/curve_path.h"
 #include "pages/items/phasor_diagram.h"
+#include "pages/maps/map_table.h"
 #include "record/catalogue/graph_texts.h"
 #include "record/number_text.h"
 
@@ -109,6 +110,17 @@ std::string Table(const std::vector<Column>& columns, char separator) {
   return text;
 }
 
+/// The tables of a map under each other, each below its name and parted by a line.
+std::string MapTables(const PageMap& map, char separator, std::string_view beforeName) {
+  std::string text;
+  for (std::size_t number = 0; number < MapTableCount(map); ++number) {
+    const MapTable table = MapTableOf(map, number);
+    if (number > 0) text += '\n';
+    text += std::string(beforeName) + table.name + "\n" + Table(table.columns, separator);
+  }
+  return text;
+}
+
 /// The parameters of the runs on a page; of several each under its number.
 std::vector<std::string> HeaderLines(const Page& page) {
   std::vector<std::string> lines;
@@ -141,6 +153,7 @@ void AddBarColumns(const PageBars& bars, RowSpan rows, std::vector<Column>& colu
 std::vector<TableColumn> TableOf(const Page& page) {
   if (page.phasors) return PhasorColumns(*page.phasors);
   if (page.kind.IsTwoAngle()) return TwoAngleColumns(page);
+  if (page.map) return MapTableCount(*page.map) > 0 ? MapTableOf(*page.map, 0).columns : std::vector<Column>();
   std::vector<Column> columns;
   const CurveNames names(page);
   const std::string xName(XTitleOf(page.kind.graph, {page.kind.fourier, page.kind.invWavelength}));
@@ -194,11 +207,11 @@ std::vector<std::string> HeaderInShort(const Page& page) {
 }
 
 std::string TableAsText(const Page& page) {
-  return Table(TableOf(page), '\t');
+  return page.map ? MapTables(*page.map, '\t', "") : Table(TableOf(page), '\t');
 }
 
 std::string TableAsCsv(const Page& page) {
-  return Table(TableOf(page), ',');
+  return page.map ? MapTables(*page.map, ',', "# ") : Table(TableOf(page), ',');
 }
 
 std::string TableWithHeader(const Page& page) {

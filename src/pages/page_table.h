@@ -17,7 +17,7 @@ struct TableColumn {
 /// x once for curves that share it, then a column a curve, by the names that the key has, and of several wavelengths
 /// the sums of red, green and blue of each bar. Of a two-angle chart the
 /// radii of a run and both cross-sections of each index; of a phasor diagram the moduli and phases of what is left, by
-/// number of terms taken away.
+/// number of terms taken away; of a map the first of its tables (pages/maps/map_table.h).
 std::vector<TableColumn> TableOf(const Page& page);
 
 /// The parameters of the runs for a picture: of one run its lines; of several first the lines that all have, then a
@@ -25,7 +25,7 @@ std::vector<TableColumn> TableOf(const Page& page);
 std::vector<std::string> HeaderInShort(const Page& page);
 
 /// The table with a line of names above, parted by tabs, as a spreadsheet takes it from the clipboard; empty for an
-/// empty page.
+/// empty page. A map has several under each other, with a name over each.
 std::string TableAsText(const Page& page);
 
 /// The same parted by commas.

@@ -12,6 +12,7 @@
 #include "pages/items/readings.h"
 #include "pages/items/size_histogram.h"
 #include "pages/items/two_angle_chart.h"
+#include "pages/maps/paint_lee.h"
 
 namespace lumivex {
 
@@ -56,26 +57,29 @@ void PaintSheet(DrawingSurface& surface, const std::vector<std::string>& lines) 
 /// The title of the last run and the label of its method over the graph.
 void PrintTitle(DrawingSurface& surface, const Page& page) {
   if (page.runs.empty()) return;
-  constexpr double titleTop = 520, titleSize = 10, labelSize = 8, smallestSize = 6, between = 200;
-  const GraphBox& box = page.geometry.box;
+  constexpr double titleTop = 520, titleTopOfMap = 660, titleSize = 10, labelSize = 8, smallestSize = 6, between = 200;
+  const GraphBox box = page.map ? GraphBox{page.geometry.box.left, BoxOf(page, PanelPlace::Middle).right,
+                                           page.geometry.box.top, page.geometry.box.bottom}
+                                : page.geometry.box;
   const PageRun& run = page.runs.back();
-  const double top = box.top - titleTop;
+  const double top = box.top - (page.map ? titleTopOfMap : titleTop);
   surface.ForeColour = colours::Black;
   surface.FontSize = labelSize;
   const double labelWidth = surface.TextWidth(run.methodLabel);
   surface.FontSize = titleSize;
   surface.FontBold = true;
   // Both in one line, over a small graph as far as the surface goes.
-  const double room = surface.ScaleWidth() - box.left - labelWidth - 2 * between;
+  const double end = page.map ? box.right : surface.ScaleWidth();
+  const double room = end - box.left - labelWidth - 2 * between;
   while (surface.TextWidth(run.title) > room && surface.FontSize > smallestSize) surface.FontSize -= 0.5;
   surface.CurrentX = box.left;
   surface.CurrentY = top + 80;
   surface.Print(run.title, false);
-  const double end = box.left + surface.TextWidth(run.title) + between;
+  const double endOfTitle = box.left + surface.TextWidth(run.title) + between;
   surface.FontSize = labelSize;
   surface.FontBold = false;
   surface.ForeColour = RGB(96, 96, 96);
-  surface.CurrentX = std::max(box.right - labelWidth, end);
+  surface.CurrentX = std::max(box.right - labelWidth, endOfTitle);
   surface.CurrentY = top + 120;
   surface.Print(run.methodLabel);
 }
@@ -106,7 +110,10 @@ void Paint(const Page& page, DrawingSurface& surface) {
   surface.FontSize = 8;
   surface.FontBold = false;
   TickLabels polarLabels(surface);
-  for (std::size_t i = 0; i < page.panels.size(); ++i) PaintPanel(surface, page, i, polarLabels);
+  if (page.map)
+    PaintLee(surface, page);
+  else
+    for (std::size_t i = 0; i < page.panels.size(); ++i) PaintPanel(surface, page, i, polarLabels);
   PaintSheet(surface, page.sheet);
   if (page.phasors) PaintPhasors(surface, *page.phasors, page.style.ground);
   PaintTwoAngleNotes(surface, page);

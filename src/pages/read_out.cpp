@@ -9,6 +9,7 @@
 #include "pages/curves/curve_names.h"
 #include "pages/curves/curve_path.h"
 #include "pages/items/phasor_diagram.h"
+#include "pages/maps/map_reading.h"
 #include "record/catalogue/graph_texts.h"
 #include "record/number_text.h"
 
@@ -103,6 +104,20 @@ XRange Bounds(const Page& page) {
   return bounds;
 }
 
+/// The panel under or over a place: those of a map stand side by side.
+const PagePanel& PanelAt(const Page& page, double surfaceX) {
+  const auto reaches = [surfaceX](const PagePanel& panel) { return surfaceX <= panel.box.right; };
+  const auto panel = std::ranges::find_if(page.panels, reaches);
+  return panel == page.panels.end() ? page.panels.back() : *panel;
+}
+
+/// Fewer cells side by side show nothing more.
+constexpr double fewestCells = 2;
+
+double CellsAcross(const PageMap& map, XRange range) {
+  return map.across.samples.PlaceOf(range.xmax) - map.across.samples.PlaceOf(range.xmin);
+}
+
 bool CanZoom(const Page& page) {
   return !page.panels.empty() && !page.kind.polar;
 }
@@ -122,6 +137,7 @@ std::optional<GraphReading> ReadAt(const Page& page, double surfaceX, double sur
   if (page.phasors) return ReadPhasors(*page.phasors, surfaceX, surfaceY);
   GraphReading reading;
   if (page.panels.empty()) return std::nullopt;
+  if (page.map) return ReadMap(page, surfaceX, surfaceY);
   const bool inside =
       page.kind.polar ? ReadPolar(page, surfaceX, surfaceY, reading) : ReadPanels(page, surfaceX, surfaceY, reading);
   if (!inside) return ReadBar(page, surfaceX, surfaceY);
@@ -151,9 +167,10 @@ XRange RangeShown(const Page& page) {
 XRange ZoomAt(const Page& page, double surfaceX, double factor) {
   const XRange shown = RangeShown(page);
   if (!CanZoom(page)) return shown;
-  const PagePanel& panel = page.panels.front();
+  const PagePanel& panel = page.map ? PanelAt(page, surfaceX) : page.panels.front();
   const PanelMap map{panel.box, panel.limits, page.kind.logX, panel.logY};
-  return ZoomedRange(shown, factor, map.XAt(surfaceX), Bounds(page), page.kind.logX);
+  const XRange zoomed = ZoomedRange(shown, factor, map.XAt(surfaceX), Bounds(page), page.kind.logX);
+  return factor < 1 && page.map && CellsAcross(*page.map, zoomed) < fewestCells ? shown : zoomed;
 }
 
 XRange PanBy(const Page& page, double surfaceUnits) {

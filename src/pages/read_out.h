@@ -12,9 +12,9 @@ namespace lumivex {
 struct GraphReading {
   std::size_t panel = 0;
   double x = 0, y = 0;            ///< values at the cursor, in the units of the axes (in a polar plot angle and value)
-  bool onCurve = false;           ///< whether the panel has a curve
+  bool onCurve = false;           ///< whether the panel has a curve, or a map a cell that was calculated
   std::size_t curve = 0;          ///< nearest curve, index into the kept ones
-  double curveX = 0, curveY = 0;  ///< its nearest computed point, as drawn
+  double curveX = 0, curveY = 0;  ///< its nearest computed point, as drawn; of a map where the nearest cell stands
   SurfacePoint place;             ///< where that point lies on the surface
   std::string text;               ///< all of it in one line for the status bar, with units
 };

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "materials/index/material.h"
+#include "pages/maps/map_sides.h"
 #include "particles/random_places.h"
 #include "record/catalogue/graph_texts.h"
 #include "record/number_text.h"
@@ -63,6 +64,8 @@ std::string AnglesAsked(const RunRequest& asked) {
   if (const auto* analysis = std::get_if<DebyeAnalysisRun>(&asked.run))
     return Number(analysis->angle * degreesPerRadian) + "\u00B0";
   if (const auto* convergence = std::get_if<ConvergenceRun>(&asked.run)) return Number(convergence->angle) + "\u00B0";
+  if (const auto* map = std::get_if<EfficiencyMapRun>(&asked.run))
+    return asked.graph.quantity == Quantity::Intensity ? Number(map->angle * degreesPerRadian) + "\u00B0" : "";
   const AxisRun* axis = AxisOf(asked.run);
   if (axis == nullptr) return "";
   if (asked.graph.AtOneAngle()) return Number(axis->angle * degreesPerRadian) + "\u00B0";
@@ -77,6 +80,16 @@ void AddAxis(const Results& results, std::vector<std::string>& lines) {
     return;
   }
   if (const std::string angles = AnglesAsked(asked); !angles.empty()) lines.push_back("Scattering angle: " + angles);
+  if (const auto* map = std::get_if<EfficiencyMapRun>(&asked.run)) {
+    lines.push_back(SweepWords(map->columns));
+    lines.push_back(SweepWords(map->rows));
+    return;
+  }
+  if (const auto* map = std::get_if<AngleMapRun>(&asked.run)) {
+    lines.push_back(SweepWords(map->columns));
+    lines.push_back("Scattering angle: " + AxisRange(map->rows.xmin, map->rows.xmax, map->rows.step, false, "\u00B0"));
+    return;
+  }
   const std::string start = asked.words.scale + ": ", unit = UnitOfAxis(asked.graph);
   if (const AngleRows* rows = RowsOf(asked.run))
     lines.push_back(start + AxisRange(rows->xmin, rows->xmax, rows->step, false, unit));
@@ -95,13 +108,14 @@ void AddMethod(const Results& results, std::vector<std::string>& lines) {
   if (asked.light.spectrum) {
     lines.push_back(std::to_string(asked.Wavelengths()) + " wavelengths, " + SpectrumRange(*asked.light.spectrum));
     lines.push_back("Light: " + asked.words.light);
-  } else if (!asked.graph.WavelengthAxis()) {
+  } else if (!asked.graph.WavelengthAxis() && !Sweeps(asked.run, Swept::Wavelength)) {
     lines.push_back("Wavelength: " + Number(results.last.lambda) + " \u00B5m in vacuo");
   }
 }
 
 /// Sizes that a table or a model has by itself are those of no radius.
 bool HasRadius(const RunRequest& asked) {
+  if (Sweeps(asked.run, Swept::Radius) || Sweeps(asked.run, Swept::SizeParameter)) return false;
   if (asked.graph.SizeAxis() || std::holds_alternative<FileSizes>(asked.sizes)) return false;
   const auto* model = std::get_if<ModelSizes>(&asked.sizes);
   return model == nullptr || std::holds_alternative<GammaShape>(model->model);
@@ -114,9 +128,9 @@ std::string SizesWords(const RunRequest& asked) {
   return name + ", " + std::to_string(SamplesOf(asked.sizes, asked.particle.radius).Count()) + " sizes";
 }
 
-/// The index along an axis of wavelengths: of the first and of the last one, in its words for one where they are the
-/// same; empty where the material has none at an end.
-std::string IndexAlong(const AxisRun& axis, const Material& material, bool medium) {
+/// The index along an axis of wavelengths (nm): of the first and of the last one, in its words for one where they are
+/// the same; empty where the material has none at an end.
+std::string IndexAlong(XRange axis, const Material& material, bool medium) {
   std::string words[2];
   for (const int end : {0, 1}) {
     const double lambda = (end == 0 ? axis.xmin : axis.xmax) / 1000;
@@ -127,14 +141,28 @@ std::string IndexAlong(const AxisRun& axis, const Material& material, bool mediu
   return words[0] == words[1] ? words[0] : words[0] + " to " + words[1];
 }
 
+/// The wavelengths (nm) that an axis or a map goes through; nothing at one wavelength.
+std::optional<XRange> WavelengthRange(const RunRequest& asked) {
+  if (asked.graph.WavelengthAxis()) {
+    const auto& axis = std::get<AxisRun>(asked.run);
+    return XRange{axis.xmin, axis.xmax};
+  }
+  if (!Sweeps(asked.run, Swept::Wavelength)) return std::nullopt;
+  const Sweep& sweep = std::get<AngleMapRun>(asked.run).columns;
+  return XRange{sweep.low, sweep.high};
+}
+
 /// Refractive index of the sphere, or of the medium, as far as it is one of the run; empty where the axis has it.
 std::string IndexOf(const Results& results, bool medium) {
   const RunRequest& asked = results.asked;
   const OpticalIndices& indices = results.last.indices;
-  if (asked.graph.WavelengthAxis())
-    return IndexAlong(std::get<AxisRun>(asked.run), medium ? asked.particle.medium : asked.particle.sphere, medium);
-  if (medium) return Number(indices.MediumInUse());
-  if (!asked.graph.VariesIndex()) return IndexWords(indices.sphereN, indices.sphereK);
+  if (const auto range = WavelengthRange(asked))
+    return IndexAlong(*range, medium ? asked.particle.medium : asked.particle.sphere, medium);
+  if (medium) return Sweeps(asked.run, Swept::MediumIndex) ? "" : Number(indices.MediumInUse());
+  if (Sweeps(asked.run, Swept::SphereAbsorption))
+    return Sweeps(asked.run, Swept::SphereIndex) ? "" : Number(indices.sphereN) + " + that of the axis i";
+  if (!asked.graph.VariesIndex() && !Sweeps(asked.run, Swept::SphereIndex))
+    return IndexWords(indices.sphereN, indices.sphereK);
   return indices.sphereK == 0 ? "" : "that of the axis + " + Number(indices.sphereK) + " i";
 }
 
@@ -147,7 +175,7 @@ void AddSphere(const Results& results, const std::string& middle, std::vector<st
   const RunRequest& asked = results.asked;
   if (HasRadius(asked)) {
     lines.push_back("Radius: " + Number(results.last.radius) + " \u00B5m");
-    if (!asked.graph.WavelengthAxis())
+    if (!WavelengthRange(asked) && !Sweeps(asked.run, Swept::MediumIndex))
       lines.push_back("Size parameter x: " + Number(results.last.sizeParameter) + middle);
   }
   if (asked.Cloud()) lines.push_back("Sizes: " + SizesWords(asked));
@@ -286,7 +314,7 @@ std::vector<std::string> ParameterLinesOf(const Results& results) {
   }
   AddVolume(results, lines);
   AddAxis(results, lines);
-  const bool terms = !spectrum && SumsSeries(asked.method);
+  const bool terms = !spectrum && !asked.graph.InColour() && SumsSeries(asked.method);
   lines.push_back(terms ? "Series: " + std::to_string(results.last.NSTOP) + " terms, " + time
                         : "Calculated in " + time);
   return lines;
@@ -299,6 +327,11 @@ std::vector<std::string> ChangeLinesOf(const Results& results, const Look& look)
   std::vector<std::string> lines;
   const bool disc = look.sun.disc && RowsOf(asked.run) != nullptr;
   if (disc) lines.emplace_back(look.sun.rectangular ? "Light: Sun's disc, rectangular" : "Light: Sun's disc");
+  if (asked.graph.InColour()) {
+    const auto* map = std::get_if<AngleMapRun>(&asked.run);
+    if (map != nullptr && map->invWavelength) lines.emplace_back("Intensity independent of wavelength");
+    return lines;
+  }
   const bool intensities =
       asked.graph.quantity == Quantity::Intensity && !std::holds_alternative<ConvergenceRun>(asked.run);
   if (intensities && look.amplitude) lines.emplace_back("Amplitudes in place of intensities");

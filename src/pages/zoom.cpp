@@ -67,8 +67,12 @@ const PagePanel& MainPanel(const Page& page) {
 constexpr double leastRatio = 2, leastShare = 0.01;
 constexpr int digitsOfY = 3;
 
-bool IsWideEnough(XRange y, bool logarithmic) {
-  if (logarithmic) return y.xmin > 0 && y.xmax / y.xmin >= leastRatio;
+bool IsWideEnough(const Page& page, XRange y) {
+  // Fewer cells of a map show nothing more.
+  constexpr double fewestCells = 4;
+  if (page.map)
+    return std::abs(page.map->up.samples.PlaceOf(y.xmax) - page.map->up.samples.PlaceOf(y.xmin)) > fewestCells;
+  if (MainPanel(page).logY) return y.xmin > 0 && y.xmax / y.xmin >= leastRatio;
   return y.xmax - y.xmin >= leastShare * std::max(std::abs(y.xmin), std::abs(y.xmax));
 }
 
@@ -132,7 +136,7 @@ XRange ZoomYAt(const Page& page, double surfaceY, double factor) {
   const PanelMap map{panel.box, panel.limits, page.kind.logX, panel.logY};
   const double at = map.YAt(std::clamp(surfaceY, panel.box.top, panel.box.bottom));
   const XRange zoomed = RoundedY(ZoomedRange(now, factor, at, BoundsOfY(page), panel.logY), page);
-  return factor > 1 || IsWideEnough(zoomed, panel.logY) ? zoomed : now;
+  return factor > 1 || IsWideEnough(page, zoomed) ? zoomed : now;
 }
 
 XRange PanYBy(const Page& page, double surfaceUnits) {
@@ -178,6 +182,7 @@ Page WithView(Page page, const PageView& view, const Look& look) {
       panel.limits.ymin = view.y->xmin;
       panel.limits.ymax = view.y->xmax;
     }
+    if (page.map && !page.zoomedY) panel.limits.ymin = page.homeY.xmin, panel.limits.ymax = page.homeY.xmax;
     panel.limits = RepairedLimits(panel.limits, page.kind.logX, panel.logY);
     if (!page.zoomedY && !panel.second) ChooseLimitsInView(page, i, look);
   }

@@ -12,6 +12,7 @@
 #include "catalogue/graph.h"
 #include "record/colour.h"
 #include "record/drawing_surface.h"
+#include "record/page_map.h"
 #include "solvers/angles/amplitude_table.h"
 #include "solvers/rays/huygens_wave.h"
 
@@ -31,6 +32,7 @@ struct PageGeometry {
   GraphBox box{1000, 15000, 3400, 9800};  ///< of the plot
   double polarX = 5200, polarY = 6600;    ///< centre of the polar plot
   double polarRadius = 3200;              ///< its radius
+  double panelWidth = 5000;               ///< of a map: from one panel to the next
   double surfaceWidth = 19200, surfaceHeight = 15360;
   bool operator==(const PageGeometry&) const = default;
 };
@@ -55,6 +57,7 @@ struct PageStyle {
   std::string logo;      ///< empty where it is hidden
   LogoPlace logoPlace = LogoPlace::BottomLeft;
   Colour logoColour;
+  bool narrowScreen = false;  ///< on which logos at the right of a map begin a little further right
   bool readingsVisible = true;
 };
 
@@ -84,7 +87,7 @@ struct PageKind {
 };
 
 /// Where a panel stands, so that it finds its place again when the graph changes its size.
-enum class PanelPlace { Whole, Upper, Lower };
+enum class PanelPlace { Whole, Upper, Lower, Left, Middle, Right };
 
 /// One frame with its axes.
 struct PagePanel {
@@ -249,6 +252,7 @@ struct Page {
   std::vector<HuygensWave> wavefronts;  ///< in the strip over the graph
   std::vector<PageLine> readings;       ///< of the last run
   std::optional<PageHistogram> histogram;
+  std::optional<PageMap> map;      ///< a Lee diagram or a map, a panel a picture
   std::vector<PageRun> runs;       ///< in the order drawn
   std::size_t runsLeftOut = 0;     ///< oldest ones that gave way to others
   std::vector<std::string> sheet;  ///< lines of text that stand in place of a graph

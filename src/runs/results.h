@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <variant>
 #include <vector>
@@ -138,8 +139,11 @@ struct VolumeFound {
 using FamilyFound = std::variant<AngleFound, SpectrumFound, AxisFound, ConvergenceFound, DebyeAnalysisFound,
                                  TwoAngleFound, MapFound, VolumeFound>;
 
-/// What a run found, with what it was asked: whoever holds results knows what they are results of.
-struct Results {
+/// What a run found, with what it was asked: whoever holds results knows what they are results of. Where they are held
+/// by a shared pointer, a page may share their cells.
+struct Results : std::enable_shared_from_this<Results> {
+  Results() = default;
+
   RunRequest asked;
   FamilyFound found;  ///< the alternative of asked.run
   LastSphere last;

@@ -72,7 +72,8 @@ RunEnd Run(const RunRequest& request, RunWatch& watch, unsigned threads) {
   const auto start = std::chrono::steady_clock::now();
   TaskPool pool(watch, threads);
   RunEnd end;
-  Results results{request, {}, {}, 0};
+  Results results;
+  results.asked = request;
   FamilyEnd family = std::visit(RunFamily{request, pool, results}, request.run);
   if (pool.Overflowed()) {
     end.outcome = Outcome::Overflow;

@@ -153,8 +153,9 @@ std::optional<std::string> ReadValue(Session& session, std::string_view name) {
 
 std::string CurveTable(const Session& session) {
   const auto& s = session.state;
-  // A chart of two signals has as many curves as indices.
-  if (s.LastResults && s.LastResults->asked.graph.drawing == Drawing::TwoAngleChart) return TableAsCsv(session.page);
+  // A chart of two signals has as many curves as indices, a map tables of cells.
+  const Drawing drawing = s.LastResults ? s.LastResults->asked.graph.drawing : Drawing::Curves;
+  if (drawing == Drawing::TwoAngleChart || drawing == Drawing::ColourImage) return TableAsCsv(session.page);
   std::string text = "x,perpendicular,parallel,unpolarised,extra1,extra2,extra3\n";
   const RowRange rows = DisplayedRows(s);
   for (int row = rows.first; row <= rows.last; ++row) {

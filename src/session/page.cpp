@@ -17,7 +17,7 @@ void KeepLogo(Session& session, const Page& page) {
   logo.Left = placed.left;
   logo.Top = placed.top;
   logo.FontSize = placed.fontSize;
-  logo.Visible = placed.visible;
+  logo.Visible = placed.visible && !page.map;
   logo.ForeColour = session.state.LogoColour = page.style.logoColour;
 }
 
@@ -26,6 +26,12 @@ void KeepScale(MainFormState& s, const Page& page) {
   if (page.phasors) {
     s.Ymin = page.phasors->ymin;
     s.Ymax = page.phasors->ymax;
+  }
+  if (page.map) {
+    s.LeeOverallMaximum = page.map->scaleMaximum;
+    s.LeeCurrentMaximum = page.map->currentMaximum;
+    s.LeePanelWidth = static_cast<float>(page.geometry.panelWidth);
+    return;
   }
   if (page.panels.empty()) return;
   s.Ymin = page.panels.front().limits.ymin;

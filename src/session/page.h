@@ -10,8 +10,8 @@ namespace lumivex {
 void DrawPage(Session& session);
 
 /// Shows a page in the main window. Limits, extremes and what the scales remember go to the record (Ymin, Ymax,
-/// YAutoMin, YAutoMax, StoredTop ...), what its bars show too (BarScale, SimColourTable ...), place and colour of the
-/// logo to its label.
+/// YAutoMin, YAutoMax, StoredTop ...), what its bars show too (BarScale, SimColourTable ...), of a map
+/// LeeOverallMaximum and LeeCurrentMaximum, place and colour of the logo to its label.
 void ShowPage(Session& session, Page page);
 
 /// Shows the page in the colours, with the grid lines and the readings that the menus ask for now; its curves and

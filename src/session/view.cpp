@@ -26,7 +26,7 @@ double RoundStepBelow(double value) {
 
 bool IsToldByLimits(const Session& session) {
   const PageKind& kind = session.page.kind;
-  return ChosenGraph(session.state) == kind.graph && !kind.fourier && !kind.IsTwoAngle() &&
+  return ChosenGraph(session.state) == kind.graph && !kind.fourier && !kind.IsTwoAngle() && !session.page.map &&
          kind.graph.family != Family::Convergence && session.form1.txtXmin.Visible;
 }
 

@@ -78,7 +78,7 @@ GraphPointer::Zone GraphPointer::ZoneAt(SurfacePoint place) const {
   const auto bars = BarBoxes(session_->page);
   const double foot = bars ? bars->back().bottom : last.bottom + numbersX;
   const bool below = place.y > last.bottom && place.y <= foot;
-  return below && place.x >= last.left && place.x <= last.right ? Zone::XAxis : Zone::None;
+  return below && place.x >= main.left && place.x <= last.right ? Zone::XAxis : Zone::None;
 }
 
 void GraphPointer::Press(SurfacePoint place) {
@@ -94,7 +94,7 @@ bool GraphPointer::Wheel(const CanvasWheel& wheel) {
   PageView view = ViewOf(page);
   if (zone != Zone::YAxis) view.x = ZoomAt(page, at.x, factor);
   // A second panel has a scale of its own.
-  const bool onMain = page.panels.front().box.Holds(at.x, at.y);
+  const bool onMain = page.map || page.panels.front().box.Holds(at.x, at.y);
   if (zone == Zone::YAxis || (zone == Zone::Plot && onMain && !wheel.one)) view.y = ZoomYAt(page, at.y, factor);
   place_ = at;
   Show(Settled(page, view));

@@ -32,6 +32,7 @@ PageGeometry GeometryOn(const Page& page, const DrawingSurface& surface) {
   PageGeometry geometry = page.geometry;
   if (page.style.size == GraphSize::VeryLarge) {
     geometry.box.right *= surface.ScaleWidth() / geometry.surfaceWidth;
+    geometry.panelWidth *= surface.ScaleWidth() / geometry.surfaceWidth;
     geometry.box.bottom *= surface.ScaleHeight() / geometry.surfaceHeight;
   }
   geometry.surfaceWidth = surface.ScaleWidth();

@@ -6,6 +6,7 @@
 
 #include "pages/curves/curve_names.h"
 #include "pages/curves/curve_path.h"
+#include "pages/maps/map_reading.h"
 
 namespace lumivex {
 
@@ -40,9 +41,21 @@ bool IsOnCurve(const Page& page, const GraphReading& reading) {
   return reading.onCurve && reading.curve < page.curves.size();
 }
 
+/// The cell so many columns and pictures on, as far as there is one.
+GraphReading OtherCell(const Page& page, const GraphReading& reading, int columns, int pictures) {
+  const PageMap& map = *page.map;
+  MapCell cell = CellOf(page, reading);
+  cell.column = std::clamp(cell.column + columns, 0, std::max(map.across.samples.count - 1, 0));
+  const auto count = static_cast<int>(page.panels.size());
+  cell.picture = static_cast<std::size_t>((static_cast<int>(cell.picture) + pictures + count) % count);
+  const GraphReading other = ReadCell(page, cell);
+  return other.onCurve ? other : reading;
+}
+
 }  // namespace
 
 GraphReading StepAlongCurve(const Page& page, const GraphReading& reading, int direction) {
+  if (page.map && reading.onCurve) return OtherCell(page, reading, direction > 0 ? 1 : -1, 0);
   if (!IsOnCurve(page, reading)) return reading;
   const auto rows = SeenRows(page, reading.curve);
   const auto here = std::ranges::min_element(rows, {}, [&](const PlacedRow& placed) {
@@ -54,6 +67,7 @@ GraphReading StepAlongCurve(const Page& page, const GraphReading& reading, int d
 }
 
 std::optional<GraphReading> NeighbourCurve(const Page& page, const GraphReading& reading, int direction) {
+  if (page.map && reading.onCurve) return OtherCell(page, reading, 0, direction > 0 ? 1 : -1);
   const std::size_t count = page.curves.size();
   if (count < 2 || !IsOnCurve(page, reading)) return {};
   for (std::size_t step = 1; step < count; ++step) {

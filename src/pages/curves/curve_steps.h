@@ -6,7 +6,8 @@
 
 namespace lumivex {
 
-/// A reading goes from point to point without a pointer, for hands on the keyboard.
+/// A reading goes from point to point without a pointer, for hands on the keyboard. On a map it goes from column to
+/// column, and from picture to picture.
 
 /// The next point in view of the curve that is read, forward (1) or backward (-1); at the end the reading stays.
 GraphReading StepAlongCurve(const Page& page, const GraphReading& reading, int direction);

@@ -51,12 +51,12 @@ void AddEfficiencies(const Efficiencies& e, Lines& lines) {
 }
 
 /// Wavelengths of a sum over a spectrum: the efficiencies belong to one wavelength and say nothing about it.
-void AddSpectrum(const Results& results, const SpectrumFound& found, Lines& lines) {
+void AddSpectrum(const Results& results, int done, Lines& lines) {
   const RunRequest& asked = results.asked;
   const SpectrumOfLight& light = *asked.light.spectrum;
   const int count = light.Count();
   std::string words = std::to_string(count) + " wavelengths";
-  if (found.done < count) words = std::to_string(found.done) + " of " + words;
+  if (done < count) words = std::to_string(done) + " of " + words;
   if (const int sizes = SamplesOf(asked.sizes, asked.particle.radius).Count(); sizes > 1)
     words += ", " + std::to_string(sizes) + " sizes";
   Add(lines, words);
@@ -64,7 +64,7 @@ void AddSpectrum(const Results& results, const SpectrumFound& found, Lines& line
   constexpr int mostNamed = 7;
   if (count <= mostNamed) {
     // The key of the curves, which have these colours.
-    for (int i = 1; i <= found.done; ++i) {
+    for (int i = 1; i <= done; ++i) {
       const ColourTriple c = colRGB2(double{light.wavelength[static_cast<std::size_t>(i)]});
       Add(lines, WavelengthWords(light, i), TextColour(RGB(c.r, c.g, c.b)));
     }
@@ -122,7 +122,12 @@ std::vector<PageLine> VisibleData(const Results& results) {
   const RunRequest& asked = results.asked;
   Lines lines;
   if (const auto* spectrum = results.Find<SpectrumFound>(); spectrum != nullptr && asked.light.spectrum) {
-    AddSpectrum(results, *spectrum, lines);
+    AddSpectrum(results, spectrum->done, lines);
+    return lines;
+  }
+  // What is told of one sphere would be that of the last column.
+  if (asked.graph.InColour()) {
+    if (asked.light.spectrum) AddSpectrum(results, asked.light.spectrum->Count(), lines);
     return lines;
   }
   if (!HasEfficiencies(asked.method)) return lines;

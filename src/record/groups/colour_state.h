@@ -17,6 +17,8 @@ struct ColourState {
   std::vector<Colour> WavelengthColours =
       std::vector<Colour>(2002);  ///< one colour a wavelength of the run, index 1 up
   double ColourValue = 0;         ///< input of the false-colour ramp
+  double LeeOverallMaximum = 0;   ///< of the map on show the value of full brightness, which holds for its series
+  double LeeCurrentMaximum = 0;   ///< its greatest value
   float CellRed = 0;              ///< channels of the present cell, 0 to 255
   float CellGreen = 0;
   float CellBlue = 0;
@@ -34,6 +36,8 @@ void ForEachField(Group& g, Visitor&& visit) {
   visit("PickedLineColour", g.PickedLineColour);
   visit("WavelengthColours", g.WavelengthColours);
   visit("ColourValue", g.ColourValue);
+  visit("LeeOverallMaximum", g.LeeOverallMaximum);
+  visit("LeeCurrentMaximum", g.LeeCurrentMaximum);
   visit("CellRed", g.CellRed);
   visit("CellGreen", g.CellGreen);
   visit("CellBlue", g.CellBlue);

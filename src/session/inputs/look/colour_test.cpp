@@ -1,7 +1,7 @@
 #include "session/inputs/look/colour_test.h"
 
-#include "pages/frame/colours.h"
-#include "record/number_text.h"
+#include "pages/maps/map_colours.h"
+#include "session/inputs/look/read_look.h"
 
 namespace lumivex {
 
@@ -10,18 +10,10 @@ namespace {
 constexpr int darkestOfKey = -7;
 constexpr int stepsOfKey = 100;  ///< lines of the key to a unit
 
-/// The maps of Q show a ratio rather than a logarithm.
-bool ShowsRatio(const Graph& graph) {
-  return graph.family == Family::EfficiencyMap && graph.quantity == Quantity::Efficiencies;
-}
-
 }  // namespace
 
 Colour FalseColourOf(const Session& session, double value) {
-  const Form1& form = session.form1;
-  if (Val(form.cboBright.Text) <= 0) return ColourScale(value, FalseColours::Greys);
-  if (ShowsRatio(ChosenGraph(session.state))) return ColourScale(value, FalseColours::Ratio);
-  return ColourScale(value, form.mnuGrey.Checked ? FalseColours::RainbowPale : FalseColours::Rainbow);
+  return ColourScale(value, FalseColoursFor(ReadLook(session).colours, ChosenGraph(session.state)).ramp);
 }
 
 void cmdColourTest_Click(Session& session) {
@@ -29,10 +21,11 @@ void cmdColourTest_Click(Session& session) {
   auto& surface = *session.surface;
   const double slope = (double{state.LeePanelWidth} - double{state.GraphLeft}) / 7;
   const double top = state.GraphTop - 700, bottom = state.GraphTop - 400;
+  const FalseColours ramp = FalseColoursFor(ReadLook(session).colours, ChosenGraph(state)).ramp;
   const auto place = [&](double x) { return 2 * double{state.LeePanelWidth} + state.GraphLeft - slope * x; };
   for (int i = 0; i >= darkestOfKey * stepsOfKey; --i) {
     state.ColourValue = static_cast<double>(i) / stepsOfKey;
-    surface.ForeColour = FalseColourOf(session, state.ColourValue);
+    surface.ForeColour = ColourScale(state.ColourValue, ramp);
     surface.Line(place(state.ColourValue), bottom, place(state.ColourValue), top);
   }
   surface.ForeColour = colours::Black;

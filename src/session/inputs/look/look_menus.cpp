@@ -363,6 +363,13 @@ void cboBright_Change(Session& session) {
   if (good) RecolourBars(session);
 }
 
+void mnuMapNormalise_Click(Session& session) {
+  Toggle(session, &M::mnuMapNormalise);
+  if (session.form1.mnuMapNormalise.Checked)
+    session.state.LeeOverallMaximum = session.page.map ? session.page.map->currentMaximum : 0;
+  EnableReplot(session);
+}
+
 std::span<const GraphEvent> LookEvents() {
   static constexpr std::array events = {
       GraphEvent{"mnuVLarge_Click", mnuVLarge_Click},
@@ -421,6 +428,7 @@ std::span<const GraphEvent> LookEvents() {
       GraphEvent{"mnuNormalised_Click", mnuNormalised_Click},
       GraphEvent{"mnuSetNormal_Click", mnuSetNormal_Click},
       GraphEvent{"cboBright_Change", cboBright_Change},
+      GraphEvent{"mnuMapNormalise_Click", mnuMapNormalise_Click},
       GraphEvent{"cmdColourTest_Click", cmdColourTest_Click},
   };
   return events;

@@ -29,6 +29,8 @@ void mnuSizeSpecial_Click(Session& session);
 void mnuSizeVariable_Click(Session& session);
 /// Plot box and polar circle of the size that is ticked.
 void SetTickedGeometry(Session& session);
+/// Distance of the panels of a map in the size that is ticked; a third of the surface in the very large one, with air.
+double TickedPanelWidth(const Session& session);
 /// The size and the colours that are ticked, where the ticks were not clicked but taken back.
 void TakeTickedLook(Session& session);
 
@@ -75,6 +77,8 @@ void dlogAverage_OKButton_Click(Session& session);
 
 void mnuPhoto_Click(Session& session);
 void mnuSaturated_Click(Session& session);
+/// Turned on, the map on show becomes the scale of all that follow; without one the next becomes it.
+void mnuMapNormalise_Click(Session& session);
 
 /// The scale of bars: the unpolarised one by itself, or all by the reference of the page on show, which later pages
 /// keep until the entry is clicked again.

@@ -5,12 +5,14 @@
 
 #include "pages/frame/colours.h"
 #include "record/number_text.h"
+#include "session/inputs/look/look_menus.h"
 
 namespace lumivex {
 
 namespace {
 
 constexpr int narrowScreenPx = 800;  // on which readings have no room
+constexpr int narrowForLogosPx = 1025;
 
 /// A line colour of the menu with the shade of its second curve.
 struct LineColourRow {
@@ -126,6 +128,7 @@ ColourLook ReadColours(const Session& session) {
   colours.normaliseUnpolarised = form.mnuNormalised.Checked;
   if (form.mnuSetNormal.Checked && s.BarReference > 0)
     colours.barScale = BarScale{s.BarReference, s.BarReferencePerWaveNumber == 1};
+  if (form.mnuMapNormalise.Checked) colours.series = MapSeries{s.LeeOverallMaximum};
   return colours;
 }
 
@@ -161,6 +164,7 @@ Look ReadLook(const Session& session) {
   look.components = form.chkComponents.Checked;
   look.logo = form.mnuHideLogo.Checked ? "" : form.lblLogo.Caption;
   look.logoPlace = LogoPlaceTicked(form);
+  look.narrowScreen = session.state.ScreenWidthPx < narrowForLogosPx;
   look.readingsVisible = form.mnuDataVisible.Checked && session.state.ScreenWidthPx > narrowScreenPx;
   look.dotLabels = LabelsAsked(forms.dlogDebyeSeq);
   look.histogramLog = forms.dlogDistDisplay.optLogX.Checked;
@@ -174,6 +178,7 @@ PageGeometry GeometryOf(const Session& session) {
   geometry.polarX = s.PolarCentreX;
   geometry.polarY = s.PolarCentreY;
   geometry.polarRadius = s.PolarRadius;
+  geometry.panelWidth = TickedPanelWidth(session);
   geometry.surfaceWidth = session.surface->ScaleWidth();
   geometry.surfaceHeight = session.surface->ScaleHeight();
   return geometry;

@@ -80,6 +80,14 @@ void SetSpecialSize(MainFormState& s) {
 
 }  // namespace
 
+double TickedPanelWidth(const Session& session) {
+  constexpr double panelsOnSurface = 3.1;
+  const auto& form = session.form1;
+  if (form.mnuVLarge.Checked) return session.surface->ScaleWidth() / panelsOnSurface;
+  if (form.mnuMedium.Checked) return double{mediumRow.leePanelWidth};
+  return double{form.mnuSmall.Checked ? smallRow.leePanelWidth : largeRow.leePanelWidth};
+}
+
 void SetTickedGeometry(Session& session) {
   SetTickedSize(session);
   if (session.form1.mnuSizeSpecial.Checked) SetSpecialSize(session.state);

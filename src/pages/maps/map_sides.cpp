@@ -1,0 +1,63 @@
+#include "pages/maps/map_sides.h"
+
+#include <algorithm>
+#include <array>
+
+#include "record/number_text.h"
+
+namespace lumivex {
+
+namespace {
+
+/// A swept quantity in words.
+struct SideText {
+  Swept quantity;
+  std::string_view title, firstLine, secondLine, name, unit;
+};
+
+constexpr std::array sideTexts = {
+    SideText{Swept::Radius, "Radius (\u00B5m)", "Radius", "(\u00B5m)", "Radius", "\u00B5m"},
+    SideText{Swept::SphereIndex, "Refractive index", "Refractive", "index", "Refractive index", ""},
+    SideText{Swept::SphereAbsorption, "Imaginary refractive index", "Imaginary", "ref. index",
+             "Imaginary refractive index", ""},
+    SideText{Swept::MediumIndex, "Refractive index", "Refractive", "index", "Refractive index of medium", ""},
+    SideText{Swept::Wavelength, "Wavelength (nm)", "Wavelength", "(nm)", "Wavelength", "nm"},
+    SideText{Swept::SizeParameter, "Size parameter x", "Size", "parameter x", "Size parameter x", ""},
+};
+
+}  // namespace
+
+MapSide SideOf(const Sweep& sweep) {
+  const auto text = std::ranges::find(sideTexts, sweep.quantity, &SideText::quantity);
+  return {{sweep.low, sweep.high, sweep.Count(), sweep.geometric},
+          std::string(text->title),
+          std::string(text->firstLine),
+          std::string(text->secondLine),
+          std::string(text->name),
+          std::string(text->unit)};
+}
+
+MapSide SideOf(const AngleRows& rows, int firstRow, int count) {
+  return {{(firstRow - 1) * rows.step, (firstRow + count - 2) * rows.step, count, false},
+          "Scattering angle (deg.)",
+          "Scattering",
+          "angle (deg.)",
+          "Scattering angle",
+          "deg"};
+}
+
+bool Sweeps(const FamilyRun& run, Swept quantity) {
+  if (const auto* angles = std::get_if<AngleMapRun>(&run)) return angles->columns.quantity == quantity;
+  const auto* map = std::get_if<EfficiencyMapRun>(&run);
+  return map != nullptr && (map->columns.quantity == quantity || map->rows.quantity == quantity);
+}
+
+std::string SweepWords(const Sweep& sweep) {
+  const MapSide side = SideOf(sweep);
+  const auto number = [](double value) { return Significant(value, 8); };
+  return side.name + ": " + number(sweep.low) + " to " + number(sweep.high) +
+         (side.unit.empty() ? "" : " " + side.unit) + " in " + std::to_string(sweep.steps) +
+         (sweep.geometric ? " steps of equal ratio" : " steps");
+}
+
+}  // namespace lumivex

@@ -1,0 +1,118 @@
+#include "pages/maps/paint_lee.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "pages/maps/lee_frame.h"
+
+namespace lumivex {
+
+namespace {
+
+/// An interval of cells with the interval of the surface that it fills.
+struct Span {
+  double first = 0, last = 0;  ///< cells from the first one's outer edge
+  double from = 0, to = 0;     ///< surface units
+};
+
+/// The cells of an axis between two limits; nothing where there are none.
+std::optional<Span> CellsBetween(const SampleAxis& samples, double low, double high, double from, double to) {
+  if (samples.count < 1) return std::nullopt;
+  if (samples.count == 1) return Span{0, 1, from, to};
+  Span all{samples.PlaceOf(low) + 0.5, samples.PlaceOf(high) + 0.5, from, to};
+  Span span = all;
+  span.first = std::clamp(all.first, 0.0, static_cast<double>(samples.count));
+  span.last = std::clamp(all.last, 0.0, static_cast<double>(samples.count));
+  if (!(span.last > span.first)) return std::nullopt;
+  const double unit = (to - from) / (all.last - all.first);
+  span.from = from + (span.first - all.first) * unit;
+  span.to = from + (span.last - all.first) * unit;
+  return span;
+}
+
+void PaintGround(DrawingSurface& surface, const GraphBox& box, Colour ground) {
+  surface.ForeColour = ground;
+  surface.Line(box.left, box.top, box.right, box.bottom, LineKind::FilledBox);
+  surface.ForeColour = colours::Black;
+}
+
+void PaintLines(DrawingSurface& surface, const Page& page) {
+  using Place = MapLine::Place;
+  // The third panel, wherever the pictures end.
+  const GraphBox third = LeePanelBox(page.geometry, page.style, 2);
+  PrepareSurface(surface, page.style);
+  if (page.style.special) surface.FontSize = 19;
+  const double top = std::max(third.bottom + 600, BottomOfLeeTitle(surface, page) + 10);
+  surface.FontSize = 8;
+  surface.FontBold = false;
+  for (const MapLine& line : page.map->lines) {
+    const bool diagnostics = line.place == Place::Diagnostics || line.place == Place::Diagnostics3;
+    if (diagnostics && !page.style.readingsVisible) continue;
+    const double below = line.place == Place::ScaleMaximum ? 0 : line.place == Place::Diagnostics3 ? 400 : 200;
+    const double end = third.right - surface.TextWidth(line.text);
+    const double at = line.place == Place::ScaleMaximum ? end : std::min(third.left, end);
+    surface.ForeColour = line.colour;
+    surface.CurrentX = diagnostics ? std::min(2000.0, page.panels.front().box.left + 1000) : at;
+    surface.CurrentY = top + below;
+    surface.Print(line.text, false);
+  }
+  surface.ForeColour = colours::Black;
+}
+
+void PaintColourKey(DrawingSurface& surface, const Page& page) {
+  const ColourKey& key = *page.map->key;
+  const GraphBox box = KeyBox(LeePanelBox(page.geometry, page.style, 2));
+  surface.Image({box.left, box.top, box.right, box.bottom, static_cast<int>(key.cells.size()), 1}, key.cells);
+  surface.ForeColour = colours::Black;
+  surface.Line(box.left, box.top, box.right, box.bottom, LineKind::Box);
+  PrepareSurface(surface, page.style);
+  surface.FontBold = false;
+  surface.FontSize = 6;
+  TickLabels labels(surface);
+  const double height = surface.TextHeight("X");
+  // The titles of slides reach up to the key.
+  const double y = page.style.special ? box.top - height - 5 : box.bottom + 3;
+  const double first = box.left - 0.5 * surface.TextWidth(key.numbers.front().text);
+  labels.Print(key.words, first - surface.TextWidth(key.words) - 60, y);
+  for (const ColourKey::Number& number : key.numbers) {
+    const double x = box.left + number.part * box.Width(), width = surface.TextWidth(number.text);
+    labels.Print(number.text, std::min(x - 0.5 * width, surface.ScaleWidth() - width - 30), y);
+  }
+}
+
+}  // namespace
+
+GraphBox KeyBox(const GraphBox& thirdPanel) {
+  return {thirdPanel.left, thirdPanel.right, thirdPanel.top - 700, thirdPanel.top - 400};
+}
+
+std::optional<CellBlock> CellsIn(const Page& page, const PagePanel& panel) {
+  const PageMap& map = *page.map;
+  const GraphBox& box = panel.box;
+  const AxisLimits& limits = panel.limits;
+  const auto across = CellsBetween(map.across.samples, limits.xmin, limits.xmax, box.left, box.right);
+  const auto up = CellsBetween(map.up.samples, limits.ymin, limits.ymax, box.bottom, box.top);
+  if (!across || !up) return std::nullopt;
+  const int rows = map.up.samples.count;
+  CellBlock block{across->from, up->to, across->to, up->from, map.across.samples.count, rows};
+  block.part = CellPart{across->first, rows - up->last, across->last, rows - up->first};
+  return block;
+}
+
+void PaintLee(DrawingSurface& surface, const Page& page) {
+  const PageMap& map = *page.map;
+  for (std::size_t i = 0; i < page.panels.size(); ++i) {
+    const PagePanel& panel = page.panels[i];
+    FramePaint paint(page, panel, surface);
+    PaintGround(surface, panel.box, page.style.ground);
+    if (const auto block = CellsIn(page, panel)) surface.Image(*block, *map.pictures[i].cells);
+    LeeFrame(paint);
+    PaintLeeTitles(paint, i);
+  }
+  if (page.panels.empty()) return;
+  LogoLee(surface, page);
+  PaintLines(surface, page);
+  if (map.key) PaintColourKey(surface, page);
+}
+
+}  // namespace lumivex
