@@ -119,7 +119,7 @@ struct MapFound {
   int firstRow = 1;  ///< of a map over angle the row of the grid that the lowest row of the cells is
   /// Of intensities perpendicular and parallel (the unpolarised one is their mean); otherwise Qext, Qsca and Qabs.
   std::vector<MapPanel> panels;
-  /// Of a spectrum: the wavelength (from 1) that gives most to a cell, of each panel.
+  /// Of a spectrum: the wavelength (from 1) that gives most to a cell, of each panel; 0 in the dark.
   std::vector<std::vector<std::uint16_t>> strongest;
   int done = 0;  ///< columns, from the first
   /// Whether cells have channels in place of a value.

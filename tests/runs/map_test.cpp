@@ -56,7 +56,7 @@ TEST(Maps, AColumnOfALeeDiagramIsTheSumsOfASpectrumRunAtThatRadius) {
           ExpectCell(map.panels[0].red[cell], sums.perpendicular.At(j, 1), which);
           ExpectCell(map.panels[0].green[cell], sums.perpendicular.At(j, 2), which);
           ExpectCell(map.panels[1].blue[cell], sums.parallel.At(j, 3), which);
-          int strongest = 1;
+          int strongest = 0;  // none in the dark
           double most = 0;
           for (int i = 1; i <= 4; ++i) {
             const CurveLook look{.amplitude = false, .invWavelength = invWavelength};
@@ -164,8 +164,8 @@ TEST(Maps, ACellAtOneAngleIsAPointOfAnAxisToo) {
     const RunEnd line = RunSilently(axis);
     const auto& points = *line.results.Find<AxisFound>();
     for (int column = 0; column < map.columns; ++column)
-      EXPECT_NEAR(map.panels[0].value[map.At(column, 1)] / points.S1.Intensity(column + 1), 1, 1e-6)
-          << static_cast<int>(method) << " column " << column;
+      ExpectCell(map.panels[0].value[map.At(column, 1)], points.S1.Intensity(column + 1),
+                 std::to_string(static_cast<int>(method)) + " column " + std::to_string(column));
   }
 }
 
@@ -173,7 +173,7 @@ TEST(Maps, RowsThatAreNotAskedForCostNothing) {
   const RunRequest narrow = AngleMapRequest({20, 1}, SweepOf(Swept::Radius, 5, 500, 10, true), 4);
   RunRequest wide = narrow;
   std::get<AngleMapRun>(wide.run).rows = RowsFor(0, 180, 0.5);
-  EXPECT_LT(PairTermsOf(narrow), 0.3 * PairTermsOf(wide));
+  EXPECT_LT(PairTermsOf(narrow), 0.4 * PairTermsOf(wide));
   EXPECT_EQ(MapCells(narrow.run), 17 * 11);
 }
 
