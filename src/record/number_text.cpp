@@ -1,5 +1,6 @@
 #include "record/number_text.h"
 
+#include <algorithm>
 #include <array>
 #include <cctype>
 #include <charconv>
@@ -88,6 +89,22 @@ Pattern ReadPattern(std::string_view pattern) {
   return result;
 }
 
+/// Whether a decimal number that double cannot hold is too small for it, not too large: its first digit that counts
+/// stands behind the point once the exponent has moved it.
+/// @param text  [sign] digits [point digits] [e exponent].
+bool IsTiny(std::string_view text) {
+  const std::size_t e = std::min(text.find_first_of("eE"), text.size());
+  const std::string_view mantissa = text.substr(0, e);
+  const std::size_t counts = mantissa.find_first_of("123456789"), point = std::min(mantissa.find('.'), mantissa.size());
+  if (counts == std::string_view::npos) return true;
+  double exponent = 0;
+  for (const char c : text.substr(e))
+    if (IsDigit(c)) exponent = 10 * exponent + (c - '0');
+  if (e + 1 < text.size() && text[e + 1] == '-') exponent = -exponent;
+  const double place = static_cast<double>(point) - static_cast<double>(counts);
+  return place + exponent < 0;
+}
+
 /// Whether the whole text is one finite number with a point for its decimal mark.
 bool IsPlainNumber(std::string_view text) {
   text = Trim(text);
@@ -95,7 +112,9 @@ bool IsPlainNumber(std::string_view text) {
   if (text.empty() || !(IsDigit(text.back()) || text.back() == '.')) return false;
   double value = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-  return error == std::errc{} && end == text.data() + text.size() && std::isfinite(value);
+  const bool held =
+      error == std::errc{} ? std::isfinite(value) : error == std::errc::result_out_of_range && IsTiny(text);
+  return held && end == text.data() + text.size();
 }
 
 /// A text with one comma that would be a number with a point in its place.
@@ -162,8 +181,7 @@ double Val(std::string_view text) {
   double value = 0;
   const auto [end, error] = std::from_chars(clean.data(), clean.data() + clean.size(), value);
   if (error != std::errc::result_out_of_range) return value;
-  const bool tiny = clean.find("e-") != std::string::npos;
-  const double limit = tiny ? 0.0 : std::numeric_limits<double>::max();
+  const double limit = IsTiny(clean) ? 0.0 : std::numeric_limits<double>::max();
   return clean.front() == '-' ? -limit : limit;
 }
 

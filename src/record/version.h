@@ -4,7 +4,7 @@
 
 namespace lumivex {
 
-/// Version of the program, as it tells it; the same as that of the project in CMakeLists.txt.
+/// Version of the program, as it tells it; CMakeLists.txt takes it from here for what is installed.
 inline constexpr std::string_view programVersion = "1.0";
 
 }  // namespace lumivex

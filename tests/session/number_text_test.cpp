@@ -21,6 +21,21 @@ TEST(NumberText, ValTakesTheNumberThatATextBeginsWith) {
   EXPECT_EQ(Val("-1e999"), -std::numeric_limits<double>::max());
 }
 
+// A long row of zeros counted as the largest number.
+TEST(NumberText, WhatIsTooSmallForDoubleIsZeroHoweverItIsWritten) {
+  const std::string zeros(400, '0');
+  for (const std::string& text :
+       {"0." + zeros + "1", "-." + zeros + "5", "1" + zeros + "e-900", std::string("1E-999"), "0." + zeros + "1e+2"}) {
+    EXPECT_EQ(Val(text), 0) << text;
+    EXPECT_TRUE(IsNumber(text)) << text;
+  }
+  EXPECT_EQ(Val("0." + zeros + "1e+401"), 1);
+  for (const std::string& text : {"1" + zeros, "1" + zeros + "e-20", "0." + zeros + "1e+900"}) {
+    EXPECT_EQ(Val(text), std::numeric_limits<double>::max()) << text;
+    EXPECT_FALSE(IsNumber(text)) << text;
+  }
+}
+
 TEST(NumberText, IsNumberRefusesWhatValWouldGuessAt) {
   for (const char* good : {"0", " 1.5 ", "+2", "-3e-4", "5.", "1,5", "0,6500", "2,"})
     EXPECT_TRUE(IsNumber(good)) << good;
