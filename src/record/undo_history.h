@@ -1,14 +1,19 @@
 #pragma once
 
+#include <memory>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "catalogue/graph.h"
 #include "catalogue/method.h"
 #include "record/colour.h"
 #include "record/form.h"
+#include "record/groups/material_state.h"
 
 namespace lumivex {
+
+struct Results;
 
 /// Fields of the record that an accepted dialog, or a menu, sets from what it finds.
 struct DialogSettings {
@@ -18,6 +23,7 @@ struct DialogSettings {
   Colour pickedLineColour;
   double barReference = 0;
   int barReferencePerWaveNumber = 0;
+  SellmeierChoice sellmeier;
   bool operator==(const DialogSettings&) const = default;
 };
 
@@ -29,7 +35,12 @@ struct InputState {
   std::string sphereName, mediumName;
   std::vector<std::string> captions;  ///< of the main window's labels and frames, in their order
   DialogSettings settings;
-  bool operator==(const InputState&) const = default;
+  /// The results that Replot was offered for: while they are the last ones, it is offered with these inputs again.
+  /// Two states of the same inputs are the same, whatever was calculated.
+  std::weak_ptr<const Results> replots;
+
+  auto Inputs() const { return std::tie(forms, graph, method, sphereName, mediumName, captions, settings); }
+  bool operator==(const InputState& other) const { return Inputs() == other.Inputs(); }
 };
 
 /// A dialog that is open: its states before each of the user's actions in it, and those that were undone.

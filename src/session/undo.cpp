@@ -22,7 +22,12 @@ void ForEachCaption(Form1& form, Visitor&& visit) {
 
 InputState Present(Session& session) {
   const auto& s = session.state;
-  InputState state{{}, {s.GraphType, s.GraphSubType}, s.CalcMethod, s.SphereName, s.MediumName, {}, {}};
+  InputState state;
+  state.graph = {s.GraphType, s.GraphSubType};
+  state.method = s.CalcMethod;
+  state.sphereName = s.SphereName;
+  state.mediumName = s.MediumName;
+  if (session.form1.cmdReplot.Enabled) state.replots = s.LastResults;
   state.settings = {s.SpectrumMin,
                     s.SpectrumMax,
                     s.BlackBodyTemp,
@@ -35,7 +40,8 @@ InputState Present(Session& session) {
                     s.CatalogueIndex,
                     s.PickedLineColour,
                     s.BarReference,
-                    s.BarReferencePerWaveNumber};
+                    s.BarReferencePerWaveNumber,
+                    s.Sellmeier};
   for (const Form* form : session.forms.All()) state.forms.push_back(form->Snapshot());
   ForEachCaption(session.form1, [&](const std::string& caption) { state.captions.push_back(caption); });
   return state;
@@ -55,6 +61,13 @@ void RestoreSettings(MainFormState& s, const DialogSettings& settings) {
   s.PickedLineColour = settings.pickedLineColour;
   s.BarReference = settings.barReference;
   s.BarReferencePerWaveNumber = settings.barReferencePerWaveNumber;
+  s.Sellmeier = settings.sellmeier;
+}
+
+/// Replot draws the last results: it is there again once the inputs are those for which it was.
+void OfferReplot(Session& session, const InputState& state) {
+  const auto results = state.replots.lock();
+  if (results && results == session.state.LastResults) session.form1.cmdReplot.Enabled = true;
 }
 
 void Restore(Session& session, const InputState& state) {
@@ -75,6 +88,7 @@ void Restore(Session& session, const InputState& state) {
   for (Control* control : session.form1.Controls()) control->BackColour = colours::White;
   s.LoadingFlag = 0;
   Inputs_Changed(session);
+  OfferReplot(session, state);
 }
 
 /// Moves one state over: the present one onto `to`, the last of `from` into the inputs.

@@ -87,6 +87,35 @@ TEST_F(SellmeierCatalogue, AChoiceInADialogLoadsTheCoefficients) {
   EXPECT_EQ(Get("lblSphere"), "Sphere: Fused silica");
 }
 
+// The boxes of the dialog went into runs that went on under the name of the material before.
+TEST_F(SellmeierCatalogue, RunsTakeWhatWasAccepted) {
+  Do("dialog dlogRI_Formula ok cboMaterial=Schott BK7\nclick mnuRI_Formula\nset cboStep 10\nclick cmdNewPlot");
+  const std::string Qext = Get("Qext"), index = Get("txtRefractReal");
+  Do("choose dlogRI_Formula.cboMaterial Diamond\nset txtLambda 0.6\nset txtLambda 0.65\nclick cmdNewPlot");
+  EXPECT_EQ(Get("Qext"), Qext);
+  EXPECT_EQ(Get("txtRefractReal"), index);
+  EXPECT_EQ(Get("lblSphere"), "Sphere: Schott BK7");
+  EXPECT_EQ(Get("SellmeierName"), "Schott BK7");
+  Do("dialog dlogRI_Formula cancel cboMaterial=Fused silica\nclick mnuRI_Formula\nclick cmdNewPlot");
+  EXPECT_EQ(Get("Qext"), Qext);
+  Do("dialog dlogRI_Formula ok cboMaterial=Diamond\nclick mnuRI_Formula\nclick cmdNewPlot");
+  EXPECT_NE(Get("Qext"), Qext);
+  EXPECT_EQ(Get("lblSphere"), "Sphere: Diamond");
+  Do("click mnuUndo\nclick cmdNewPlot");
+  EXPECT_EQ(Get("Qext"), Qext) << "undo takes the acceptance back";
+}
+
+// The dialog that a range beyond the limits shows changed the limits, not the name.
+TEST_F(SellmeierCatalogue, WhatIsAcceptedOverAWarningIsUsedWhole) {
+  Do("choose cboGraph Qext/Qsca/Qabs v. wavelength\n"
+     "dialog dlogRI_Formula ok txtLambdaMin=0.5 txtLambdaMax=0.6\nclick mnuRI_Formula\nset txtXmin 400\nset txtXmax "
+     "700\nset cboStep 30\n"
+     "dialog dlogRI_Formula ok cboMaterial=Diamond txtLambdaMin=0.3 txtLambdaMax=1\nclick cmdNewPlot");
+  EXPECT_EQ(LastTitle(), "Refractive index calculations");
+  EXPECT_EQ(Get("lblSphere"), "Sphere: Diamond");
+  EXPECT_EQ(State().LastResults->asked.words.sphereName, "Diamond");
+}
+
 TEST_F(SellmeierCatalogue, GoesToTheUsersFolderWhereTheProgramsCannotBeWritten) {
   const auto before = std::filesystem::directory_iterator(std::filesystem::current_path());
   const long files = std::distance(before, {});

@@ -269,7 +269,7 @@ TEST_F(RefractiveIndex, SellmeierWarnsOfOneWavelengthOutsideItsRange) {
   State().NumberWavelengths = 3;
   EXPECT_TRUE(RefRel(Now(), 0.8));
   State().NumberWavelengths = 1;
-  Now().forms.dlogRI_Formula.chkIgnore.Checked = true;
+  Do("dialog dlogRI_Formula ok chkIgnore=true\nclick mnuRI_Formula");
   EXPECT_TRUE(RefRel(Now(), 0.8));
   EXPECT_EQ(Shown().size(), told);
 }

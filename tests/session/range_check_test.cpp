@@ -146,6 +146,8 @@ const RuleCase ruleCases[] = {
        s.form1.mnuRI_Formula.Checked = true;
        s.forms.dlogRI_Formula.txtLambdaMin.Text = "0.3";
        s.forms.dlogRI_Formula.txtLambdaMax.Text = "2.5";
+       s.state.Sellmeier.lowest = 0.3;
+       s.state.Sellmeier.highest = 2.5;
        s.form1.txtXmin.Text = "200";
        s.form1.txtXmax.Text = "900";
      },

@@ -117,5 +117,20 @@ TEST_F(Undo, ALookThatIsTakenBackIsDrawnAtOnce) {
   EXPECT_EQ(runner.Current().page.style.ground, ground);
 }
 
+// Replot stayed grey with the very inputs of the results.
+TEST_F(Undo, OffersReplotWhereTheInputsAreThoseOfTheResults) {
+  Do("set cboStep 1\nset txtRadius 12\nclick cmdNewPlot\nclick mnuUndo");
+  EXPECT_EQ(Get("cmdReplot.Enabled"), "false") << "the results are those of the other radius";
+  Do("click mnuRedo");
+  EXPECT_EQ(Get("txtRadius"), "12");
+  EXPECT_EQ(Get("cmdReplot.Enabled"), "true");
+  Do("set txtRadius 14");
+  EXPECT_EQ(Get("cmdReplot.Enabled"), "false");
+  Do("click mnuUndo");
+  EXPECT_EQ(Get("cmdReplot.Enabled"), "true");
+  Do("set txtRadius 14\nclick cmdNewPlot\nclick mnuUndo");
+  EXPECT_EQ(Get("cmdReplot.Enabled"), "false") << "the results of then are gone";
+}
+
 }  // namespace
 }  // namespace lumivex

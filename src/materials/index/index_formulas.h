@@ -5,6 +5,7 @@ namespace lumivex {
 /// Coefficients of a three-term Sellmeier equation: B without unit, C in um^2.
 struct SellmeierTerms {
   double B1 = 0, B2 = 0, B3 = 0, C1 = 0, C2 = 0, C3 = 0;
+  bool operator==(const SellmeierTerms&) const = default;
 };
 
 /// n from n^2 = 1 + sum of B_i L^2/(L^2 - C_i), L the wavelength in vacuum (um) (Sellmeier 1871). Not a number where

@@ -6,9 +6,20 @@
 #include <type_traits>
 #include <vector>
 
+#include "materials/index/index_formulas.h"
 #include "materials/index/index_table.h"
 
 namespace lumivex {
+
+/// The material of the Sellmeier equation as the user accepted it. Runs read this and not the inputs of the dialog, in
+/// which the user may be looking at other entries of the catalogue.
+struct SellmeierChoice {
+  std::string name = "Schott BK7";
+  SellmeierTerms terms = CrownGlass;
+  double lowest = 0, highest = 0;  ///< wavelengths that the equation holds for (um); 0 is none
+  bool quiet = false;              ///< nothing is said of wavelengths beyond them
+  bool operator==(const SellmeierChoice&) const = default;
+};
 
 /// Refractive indices at the last wavelength looked up, the parameters of their models and the tables read from files.
 struct MaterialState {
@@ -40,6 +51,8 @@ struct MaterialState {
   float FileFirst1 = 0, FileLast1 = 0;  ///< first and last wavelength of the sphere's table (um)
   float FileFirst2 = 0, FileLast2 = 0;  ///< the same of the medium's
   std::string FileName1, FileName2;     ///< the material's name in the file
+
+  SellmeierChoice Sellmeier;
 
   std::string LastFile;             ///< path of the last input file chosen
   std::string CatalogueFolder;      ///< where Dispersion.rxi and DispersionBackup.rxi were delivered; empty: nowhere
@@ -79,6 +92,10 @@ void ForEachField(Group& g, Visitor&& visit) {
   visit("FileFirst2", g.FileFirst2);
   visit("FileLast2", g.FileLast2);
   visit("FileName2", g.FileName2);
+  visit("SellmeierName", g.Sellmeier.name);
+  visit("SellmeierTerms", g.Sellmeier.terms);
+  visit("SellmeierMin", g.Sellmeier.lowest);
+  visit("SellmeierMax", g.Sellmeier.highest);
   visit("LastFile", g.LastFile);
   visit("CatalogueFolder", g.CatalogueFolder);
   visit("CatalogueUserFolder", g.CatalogueUserFolder);

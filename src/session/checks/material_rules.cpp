@@ -40,17 +40,18 @@ Verdict SellmeierLimits(Check& check) {
   if (!check.form.mnuRI_Formula.Checked) return Verdict::GoOn;
   const WavelengthRange range = RangeOfRun(check.session);
   if (!range.Any()) return Verdict::GoOn;  // a single wavelength is told when its index is looked up
-  auto& dialog = check.session.forms.dlogRI_Formula;
+  const SellmeierChoice& chosen = check.state.Sellmeier;
   const auto exceeds = [&] {
-    const double low = Val(dialog.txtLambdaMin.Text), high = Val(dialog.txtLambdaMax.Text);
-    return low > 0 && high > 0 && !dialog.chkIgnore.Checked && (range.low < low || range.high > high);
+    const bool limited = chosen.lowest > 0 && chosen.highest > 0 && !chosen.quiet;
+    return limited && (range.low < chosen.lowest || range.high > chosen.highest);
   };
   if (!exceeds()) return Verdict::GoOn;
   Warn(check,
-       "Wavelength range is beyond the specified limits for mthe Sellmeier equation for " + dialog.cboMaterial.Text +
+       "Wavelength range is beyond the specified limits for mthe Sellmeier equation for " + chosen.name +
            "\nChange the range of wavelengths or select \"Ignore warnings\" in next dialog box",
        "Refractive index calculations");
-  if (check.state.RestoringSettings == 0) check.session.platform.ShowModal(dialog);
+  // The menu entry shows the dialog and takes what is accepted in it.
+  if (check.state.RestoringSettings == 0) check.session.events.Raise("mnuRI_Formula_Click");
   return exceeds() ? Verdict::End : Verdict::GoOn;
 }
 

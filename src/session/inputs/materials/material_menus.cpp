@@ -92,9 +92,15 @@ void ClearMenuRI2(Session& session) {
 }
 
 void mnuRI_Formula_Click(Session& session) {
-  auto& dialog = session.forms.dlogRI_Formula;
-  if (!AskIn(session, dialog)) return;
-  const std::string name = NameOfMaterial(dialog.cboMaterial.Text);
+  const auto& d = session.forms.dlogRI_Formula;
+  if (!AskIn(session, session.forms.dlogRI_Formula)) return;
+  const std::string name = NameOfMaterial(d.cboMaterial.Text);
+  session.state.Sellmeier = {name,
+                             {Val(d.txtB1.Text), Val(d.txtB2.Text), Val(d.txtB3.Text), Val(d.txtC1.Text),
+                              Val(d.txtC2.Text), Val(d.txtC3.Text)},
+                             Val(d.txtLambdaMin.Text),
+                             Val(d.txtLambdaMax.Text),
+                             d.chkIgnore.Checked};
   ChooseSphere(session, session.form1.mnuRI_Formula, name, "Sphere: " + name);
 }
 

@@ -7,9 +7,7 @@ namespace lumivex {
 namespace {
 
 Material Formula(const Session& session) {
-  const auto& d = session.forms.dlogRI_Formula;
-  return SellmeierGlass{{Val(d.txtB1.Text), Val(d.txtB2.Text), Val(d.txtB3.Text), Val(d.txtC1.Text), Val(d.txtC2.Text),
-                         Val(d.txtC3.Text)}};
+  return SellmeierGlass{session.state.Sellmeier.terms};
 }
 
 Material Ray(const Session& session) {

@@ -31,13 +31,12 @@ struct Lookup {
 
 /// A single wavelength beyond the limits that the user gave for the equation is told; its index is used all the same.
 void WarnOfRange(const Lookup& lookup) {
-  const auto& dialog = lookup.session.forms.dlogRI_Formula;
-  const double low = Val(dialog.txtLambdaMin.Text), high = Val(dialog.txtLambdaMax.Text);
-  const bool limited = low > 0 && high > 0 && lookup.session.state.NumberWavelengths == 1;
-  const bool beyond = lookup.wavelength < low || lookup.wavelength > high;
-  if (limited && beyond && !dialog.chkIgnore.Checked)
+  const SellmeierChoice& chosen = lookup.session.state.Sellmeier;
+  const bool limited = chosen.lowest > 0 && chosen.highest > 0 && lookup.session.state.NumberWavelengths == 1;
+  const bool beyond = lookup.wavelength < chosen.lowest || lookup.wavelength > chosen.highest;
+  if (limited && beyond && !chosen.quiet)
     lookup.Tell("Refractive index calculations",
-                "Wavelength is beyond the specified limits for\nthe Sellmeier equation for " + dialog.cboMaterial.Text);
+                "Wavelength is beyond the specified limits for\nthe Sellmeier equation for " + chosen.name);
 }
 
 void StoreWater(MaterialState& s, const WaterFormula& water, const TextInput& txtTemp) {
