@@ -1,5 +1,6 @@
 #include "session/dropped_files.h"
 
+#include "materials/files/readable_text.h"
 #include "session/inputs/dialog_use.h"
 #include "session/inputs/dropped_file.h"
 #include "session/undo.h"
@@ -18,7 +19,7 @@ void DropFiles(Session& session, std::span<const std::string> paths) {
     OfferHistory(session);
     return;
   }
-  session.platform.Message("Dropped files", FileNameOf(paths.front()) +
+  session.platform.Message("Dropped files", ReadablePath(FileNameOf(paths.front())) +
                                                 " is none of the files that can be dropped here:\n"
                                                 "refractive indices (.rix, .csv, .yml, .yaml)\n"
                                                 "spectrum (.spe)\n"

@@ -400,10 +400,37 @@ TEST_F(SizeDistribution, TheStripShowsTheSamples) {
 TEST_F(SizeDistribution, ANumberOutsideTheTableKeepsTheSamplesBefore) {
   Do("click optDisp\nset cboN 10\nset cboN 7\nset txtRadius 1\nset cboStep 10\nclick cmdNewPlot");
   EXPECT_EQ(State().NumberSamples, 10);
-  Do("reset\nclick optDisp\nset cboN abc\nset cboStep 10\nclick cmdNewPlot");
-  EXPECT_EQ(State().NumberSamples, 20);
+  EXPECT_EQ(State().LastResults->asked.words.sizes, "Log-normal, Std Dev % 5, 10 samples") << "those that were taken";
   Do("set cboSD 3\nchoose cboDistrib Multimodal\nset cboN 10\nclick cmdNewPlot");
   EXPECT_EQ(State().RelativeSD, 0.03);
+}
+
+// Words counted as one sample, a million as 32767.
+TEST_F(SizeDistribution, ANumberOfSamplesThatIsNoneIsMarkedAndTold) {
+  const std::string incorrect = "    The red highlighted data entry is incorrect.    ";
+  for (const char* kind : {"Log-normal", "Haze"})
+    for (const auto& [samples, text] :
+         std::vector<std::pair<std::string, std::string>>{{"abc", incorrect},
+                                                          {"", incorrect},
+                                                          {"2.5", incorrect},
+                                                          {"0", "Value must be positive"},
+                                                          {"-5", "Value must be positive"},
+                                                          {"1000000", "Value must not be greater than 32767"}}) {
+      SCOPED_TRACE(std::string(kind) + " " + samples);
+      Do("reset\nclick optDisp\nchoose cboDistrib " + std::string(kind) + "\nset cboStep 10\nset cboN " + samples);
+      const auto told = Shown().size();
+      const auto before = State().LastResults;
+      Do("click cmdNewPlot");
+      ASSERT_EQ(Shown().size(), told + 1);
+      EXPECT_EQ(LastText(), text);
+      EXPECT_EQ(Now().form1.cboN.BackColour, colours::BadInput);
+      EXPECT_EQ(State().LastResults, before);
+      Do("set cboN 5\nclick cmdNewPlot");
+      EXPECT_EQ(Shown().size(), told + 1);
+      EXPECT_NE(State().LastResults, before);
+      Do("set cboN abc\nclick optMono\nclick cmdNewPlot");
+      EXPECT_EQ(Shown().size(), told + 1) << "a hidden input is no reason";
+    }
 }
 
 }  // namespace

@@ -116,5 +116,23 @@ TEST_F(BadInput, ATemperatureOutsideTheModelIsRefused) {
   EXPECT_NEAR(Number("dlogTemp.txtDensity"), 0.99821, 1e-4);
 }
 
+// Some of them ended in an overflow, those above and below in nothing.
+TEST_F(BadInput, SpheresTooSmallForNumbersAreToldOneWay) {
+  for (const char* method : {"Mie", "Debye", "Rayleigh", "Diffraction"})
+    for (const char* radius : {"1e-42", "1e-60", "1e-78", "1e-90", "1e-120", "1e-200", "1e-300"}) {
+      SCOPED_TRACE(std::string(method) + " " + radius);
+      Do(std::string("reset\nset txtRefractImag 0\nchoose cboType ") + method + "\nset cboStep 10\nset txtRadius " +
+         radius + "\nclick cmdNewPlot");
+      EXPECT_EQ(LastText(), "Radius (\u00B5m): the size parameter x must be at least 1E-40");
+      EXPECT_EQ(runner.Current().form1.txtRadius.BackColour, colours::BadInput);
+      const auto told = Shown().size();
+      Do("set txtRadius 1e-40\nclick cmdNewPlot");
+      EXPECT_EQ(Shown().size(), told) << LastText();
+    }
+  Do("reset\nchoose cboGraph Qext/Qsca/Qabs v. radius\nset txtXmin 1e-90\nclick cmdNewPlot");
+  EXPECT_NE(LastText().find("the size parameter x must be at least 1E-40"), std::string::npos) << LastText();
+  EXPECT_EQ(runner.Current().form1.txtXmin.BackColour, colours::BadInput);
+}
+
 }  // namespace
 }  // namespace lumivex

@@ -11,6 +11,7 @@
 #include "session/checks/number_input.h"
 #include "session/driver/array_size.h"
 #include "session/inputs/methods/rays_check.h"
+#include "session/inputs/sizes/read_sizes.h"
 
 namespace lumivex {
 
@@ -84,7 +85,24 @@ Verdict MapRange(Check& check) {
 
 namespace {
 
-/// The number p of the methods that have one, how many rays or strips there are, and the width of a distribution.
+constexpr std::string_view incorrect = "    The red highlighted data entry is incorrect.    ";
+
+/// The width of a distribution and its number of samples, as far as it has them.
+bool DistributionNumbers(Check& check) {
+  auto& form = check.form;
+  if (!form.optDisp.Checked) return true;
+  const std::string& kind = form.cboDistrib.Text;
+  const bool hasWidth = kind == "Normal" || kind == "Log-normal" || kind == "Gamma";
+  if (hasWidth && !getval(check.session, form.cboSD, largestInput, NumberSign::PositiveOrZero)) return false;
+  if (!form.cboN.Visible) return true;
+  if (!getval(check.session, form.cboN, MostSamples, NumberSign::Positive)) return false;
+  const double samples = Val(form.cboN.Text);
+  if (samples == Int(samples)) return true;
+  Refuse(check, {&form.cboN}, incorrect);
+  return false;
+}
+
+/// The number p of the methods that have one, how many rays or strips there are, and the numbers of a distribution.
 bool MethodNumbers(Check& check) {
   auto& form = check.form;
   auto& session = check.session;
@@ -94,16 +112,14 @@ bool MethodNumbers(Check& check) {
     if (!getval(session, form.cboRays, HighestRay, NumberSign::Any)) return false;
     const double p = Val(form.cboRays.Text);
     if (p != Int(p) || p < -HighestRay) {
-      Refuse(check, {&form.cboRays}, "    The red highlighted data entry is incorrect.    ");
+      Refuse(check, {&form.cboRays}, incorrect);
       return false;
     }
   }
   const bool counts = method.counts != Counted::Nothing && ChosenGraph(check.state).OfAngles();
   constexpr double mostRaysOrStrips = 100000;
   if (counts && !getval(session, form.txtAngle, mostRaysOrStrips, NumberSign::Positive)) return false;
-  const std::string& sizes = form.cboDistrib.Text;
-  const bool hasWidth = sizes == "Normal" || sizes == "Log-normal" || sizes == "Gamma";
-  return !form.optDisp.Checked || !hasWidth || getval(session, form.cboSD, largestInput, NumberSign::PositiveOrZero);
+  return DistributionNumbers(check);
 }
 
 }  // namespace

@@ -74,6 +74,7 @@ Verdict VolumeAxis(Check& check);
 Verdict VolumeSpheres(Check& check);
 Verdict SunResolution(Check& check);
 Verdict RayleighSize(Check& check);
+Verdict SphereNotTooSmall(Check& check);
 Verdict AngularStep(Check& check);
 Verdict AngleScale(Check& check);
 Verdict AmplitudeScale(Check& check);

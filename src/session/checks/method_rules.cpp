@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "record/layout/input_name.h"
 #include "record/number_text.h"
 #include "session/checks/check.h"
 #include "session/checks/sphere_of_run.h"
@@ -198,6 +199,29 @@ Verdict RayleighSize(Check& check) {
   constexpr double wavelengthsPerRadius = 13;
   if (BoundsOfRun(check.session).wavelengthsPerRadius >= wavelengthsPerRadius) return Verdict::GoOn;
   return Warn(check, "Rayleigh approximation is valid only when r << wavelength");
+}
+
+namespace {
+
+/// The input that says how small the spheres of the run are; null where a dialog does.
+Control* SizeMark(Check& check) {
+  auto& form = check.form;
+  const Graph& graph = ChosenGraph(check.state);
+  if (form.txtRadius.Visible) return &form.txtRadius;
+  if (graph.AgainstAxis() && graph.SizeAxis()) return &form.txtXmin;
+  return form.optDisp.Checked ? &form.cboDistrib : nullptr;
+}
+
+}  // namespace
+
+Verdict SphereNotTooSmall(Check& check) {
+  // What such a sphere scatters goes with the sixth power of x: further down it leaves the range of numbers, in some
+  // methods as an overflow, in others as nothing.
+  constexpr double leastParameter = 1e-40;
+  Control* mark = SizeMark(check);
+  const double parameter = mark == nullptr ? 0 : BoundsOfRun(check.session).leastParameter;
+  if (!(parameter > 0) || parameter >= leastParameter) return Verdict::GoOn;
+  return Refuse(check, {mark}, NameOfInput(*mark) + ": the size parameter x must be at least 1E-40");
 }
 
 }  // namespace lumivex

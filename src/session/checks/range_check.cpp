@@ -45,6 +45,7 @@ constexpr std::array rules = {
     VolumeAxis,
     SunResolution,
     RayleighSize,
+    SphereNotTooSmall,
     AngularStep,
     AngleScale,
     AmplitudeScale,

@@ -64,14 +64,15 @@ SphereOfRun BoundsOfRun(const Session& session) {
   for (const double lambda : WavelengthsOfRun(session)) {
     IndexValue index{Val(form.txtRefractReal.Text), Val(form.txtRefractImag.Text)};
     if (!shown) index = IndexAt(material, lambda).value.value_or(IndexValue{0, 0});
-    const double absorption = index.k * sizes.Parameter(sizes.smallest, lambda);
+    const double parameter = sizes.Parameter(sizes.smallest, lambda), absorption = index.k * parameter;
     const double ratio = sizes.parameters ? twoPi / sizes.largest : lambda / sizes.largest;
-    if (std::exchange(first, false)) bounds = {index.n, index.k, index.k, absorption, ratio};
+    if (std::exchange(first, false)) bounds = {index.n, index.k, index.k, absorption, ratio, parameter};
     bounds.lowestN = std::min(bounds.lowestN, index.n);
     bounds.lowestK = std::min(bounds.lowestK, index.k);
     bounds.highestK = std::max(bounds.highestK, index.k);
     bounds.leastAbsorption = std::min(bounds.leastAbsorption, absorption);
     bounds.wavelengthsPerRadius = std::min(bounds.wavelengthsPerRadius, ratio);
+    bounds.leastParameter = std::min(bounds.leastParameter, parameter);
   }
   return bounds;
 }

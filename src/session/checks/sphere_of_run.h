@@ -12,6 +12,7 @@ struct SphereOfRun {
   double highestK = 0;
   double leastAbsorption = 0;       ///< k x, the medium left out, where the sphere is smallest and clearest
   double wavelengthsPerRadius = 0;  ///< shortest wavelength over largest radius
+  double leastParameter = 0;        ///< size parameter in vacuo of the smallest sphere at the longest wavelength
 };
 
 SphereOfRun BoundsOfRun(const Session& session);

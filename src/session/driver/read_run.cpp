@@ -141,7 +141,7 @@ RunWords ReadWords(const Session& session, const RunRequest& request) {
   words.sphere = std::move(sphere.caption);
   words.medium = std::move(medium.caption);
   words.light = form.lblSpectrum.Caption;
-  if (request.Cloud()) words.sizes = WordsForSizes(form);
+  if (request.Cloud()) words.sizes = WordsForSizes(session);
   words.scale = form.Frame2.Caption;
   return words;
 }

@@ -3,6 +3,7 @@
 #include <fstream>
 
 #include "materials/files/input_items.h"
+#include "materials/files/readable_text.h"
 #include "particles/size_file.h"
 #include "session/inputs/dialog_use.h"
 
@@ -22,9 +23,9 @@ bool ReadFrom(Session& session, const std::string& path) {
   file.fault = SizeFileFault::Data;
   if (file.detail.empty()) file = ReadSizeFile(stream, {options.optNormalise.Checked, options.chkNormalise.Checked});
   if (file.sizeWordMissing)
-    session.platform.Message("Error", opening + path + "\nSpecify radius or diameter in line 14");
+    session.platform.Message("Error", opening + ReadablePath(path) + "\nSpecify radius or diameter in line 14");
   if (file.fault != SizeFileFault::None) {
-    session.platform.Message("Error", opening + path + (file.detail.empty() ? "" : "\n\n" + file.detail));
+    session.platform.Message("Error", opening + ReadablePath(path) + (file.detail.empty() ? "" : "\n\n" + file.detail));
     return false;
   }
   s.SizeTableUniform = std::move(file.size);

@@ -12,8 +12,6 @@ namespace lumivex {
 
 namespace {
 
-constexpr int mostSamples = 32767;
-
 NormalSizes Normal(const Session& session, bool logarithmic) {
   const auto& form = session.form1;
   std::vector<float> z = NormalSamples(ToWhole(Val(form.cboN.Text)));
@@ -64,7 +62,7 @@ SizeDistribution ChosenSizes(const Session& session) {
   if (name == "Special") return File(session);
   if (name == "Normal" || name == "Log-normal") return Normal(session, name == "Log-normal");
   const bool equal = session.forms.dlogDistDisplay.optLinearX.Checked;
-  return ModelSizes{ModelNamed(session, name), std::clamp(ToWhole(Val(form.cboN.Text)), 1, mostSamples),
+  return ModelSizes{ModelNamed(session, name), std::clamp(ToWhole(Val(form.cboN.Text)), 1, MostSamples),
                     equal ? SizeSteps::Equal : SizeSteps::Ratio};
 }
 
@@ -74,10 +72,15 @@ std::optional<double> RadiusOfSizeFile(const SizeDistribution& sizes) {
   return (file->radius[1] + file->radius.back()) / 2;
 }
 
-std::string WordsForSizes(const Form1& form) {
+std::string WordsForSizes(const Session& session) {
+  const Form1& form = session.form1;
+  std::string samples = form.cboN.Text;
+  const SizeDistribution sizes = ChosenSizes(session);
+  if (const auto* normal = std::get_if<NormalSizes>(&sizes); normal != nullptr && !normal->z.empty())
+    samples = std::to_string(normal->z.size() - 1);
   std::string words = form.cboDistrib.Text;
   if (form.cboSD.Visible) words += ", " + form.Label11.Caption + " " + form.cboSD.Text;
-  return words + ", " + form.cboN.Text + " samples";
+  return words + ", " + samples + " samples";
 }
 
 }  // namespace lumivex

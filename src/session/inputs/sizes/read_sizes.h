@@ -8,6 +8,9 @@
 
 namespace lumivex {
 
+/// Most samples of a distribution: more sizes than any sum over a model needs.
+inline constexpr int MostSamples = 32767;
+
 /// The distribution of sizes in cboDistrib with its numbers; OneSize with "Mono". A cboN that is not 5, 10, 20 or 50
 /// leaves the samples of a normal distribution as they were last.
 SizeDistribution ChosenSizes(const Session& session);
@@ -16,7 +19,7 @@ SizeDistribution ChosenSizes(const Session& session);
 /// before a file was read.
 std::optional<double> RadiusOfSizeFile(const SizeDistribution& sizes);
 
-/// The sizes in words: "Log-normal, Std Dev % 5, 20 samples".
-std::string WordsForSizes(const Form1& form);
+/// The sizes in words, with the samples that are taken: "Log-normal, Std Dev % 5, 20 samples".
+std::string WordsForSizes(const Session& session);
 
 }  // namespace lumivex
