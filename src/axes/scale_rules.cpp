@@ -125,4 +125,12 @@ DecadeRange DecadesBetween(double ymin, double ymax) {
           static_cast<int>(std::floor(RuleLog10(ymax) - 0.999)) + 1};
 }
 
+double RoundStepAbove(double value) {
+  const double unit = std::pow(10.0, std::floor(std::log10(value)));
+  constexpr double rounding = 1e-9;
+  for (const double factor : {1.0, 2.0, 5.0})
+    if (factor * unit >= value * (1 - rounding)) return factor * unit;
+  return 10 * unit;
+}
+
 }  // namespace lumivex

@@ -49,4 +49,7 @@ struct DecadeRange {
 };
 DecadeRange DecadesBetween(double ymin, double ymax);
 
+/// The smallest of 1, 2, 5 times a power of ten that is not below a positive value.
+double RoundStepAbove(double value);
+
 }  // namespace lumivex

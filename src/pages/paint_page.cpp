@@ -94,7 +94,7 @@ void PaintGroundOfStrip(DrawingSurface& surface, const PageStyle& style) {
 /// What stands in the strip over the graph.
 void PaintStrip(DrawingSurface& surface, const Page& page) {
   const bool readings = page.style.readingsVisible && !page.readings.empty();
-  if (readings) PaintReadings(surface, page.readings);
+  if (readings) PaintReadings(surface, page);
   const bool powers = page.kind.graph.quantity == Quantity::Irradiance;
   if (page.histogram) PaintHistogram(surface, *page.histogram, {readings, powers}, false);
   PaintHuygens(surface, page.wavefronts);

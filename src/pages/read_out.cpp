@@ -72,17 +72,16 @@ void FindNearest(const Page& page, double surfaceX, double surfaceY, GraphReadin
   for (std::size_t c = 0; c < page.curves.size(); ++c) {
     const PageCurve& curve = page.curves[c];
     if (curve.panel != reading.panel) continue;
-    const SharedValues values = DrawnValues(curve, RowsWithin(curve.x, {panel.limits.xmin, panel.limits.xmax}));
-    for (const auto& [row, p] : PlacedRows(page, panel, curve)) {
-      const double distance = std::hypot(p.x - surfaceX, p.y - surfaceY);
-      if (!(distance < nearest)) continue;
-      nearest = distance;
-      reading.onCurve = true;
-      reading.curve = c;
-      reading.curveX = curve.angle.empty() ? curve.x[row] : curve.angle[row];
-      reading.curveY = values[row];
-      reading.place = p;
-    }
+    const auto row = NearestRow(page, panel, curve, {surfaceX, surfaceY});
+    if (!row) continue;
+    const double distance = std::hypot(row->point.x - surfaceX, row->point.y - surfaceY);
+    if (!(distance < nearest)) continue;
+    nearest = distance;
+    reading.onCurve = true;
+    reading.curve = c;
+    reading.curveX = curve.angle.empty() ? curve.x[row->row] : curve.angle[row->row];
+    reading.curveY = row->value;
+    reading.place = row->point;
   }
 }
 

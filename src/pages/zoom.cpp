@@ -37,6 +37,7 @@ void ChooseLimitsInView(Page& page, std::size_t index, const Look& look) {
   page.autoBottom = bottom;
   panel.limits.ymax = GridYmax(scale, top, page.scale);
   panel.limits.ymin = GridYmin(scale, bottom, panel.limits.ymax, page.scale);
+  FitFlatAlbedo(page.kind, scale, bottom, top, panel.limits);
   panel.limits = RepairedLimits(panel.limits, page.kind.logX, panel.logY);
 }
 

@@ -104,7 +104,8 @@ struct PagePanel {
 class SharedValues {
  public:
   SharedValues() : SharedValues(std::vector<double>()) {}
-  SharedValues(std::vector<double> values) : values_(std::make_shared<const std::vector<double>>(std::move(values))) {}
+  SharedValues(std::vector<double> values)
+      : values_(std::make_shared<const std::vector<double>>(std::move(values))), rises_(RisesFromFirst(*values_)) {}
 
   const std::vector<double>& All() const { return *values_; }
   operator const std::vector<double>&() const { return *values_; }
@@ -114,10 +115,19 @@ class SharedValues {
   const double* data() const { return values_->data(); }
   const double* begin() const { return values_->data(); }
   const double* end() const { return values_->data() + values_->size(); }
+  /// Whether each number from index 1 on is above the one before, so that places are found by halves.
+  bool Rise() const { return rises_; }
   bool SharesWith(const SharedValues& other) const { return values_ == other.values_; }
 
  private:
+  static bool RisesFromFirst(const std::vector<double>& values) {
+    for (std::size_t i = 2; i < values.size(); ++i)
+      if (!(values[i] > values[i - 1])) return false;
+    return true;
+  }
+
   std::shared_ptr<const std::vector<double>> values_;
+  bool rises_;
 };
 
 /// One curve. Arrays have first index 1; element 0 is unused. Values that are not numbers were not computed: they lift

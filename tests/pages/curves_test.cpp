@@ -83,13 +83,15 @@ TEST_F(Curves, AreCutAtTheEdgeOfTheBox) {
   Draw();
   EXPECT_NEAR(XAt(Drawn()[0], Drawn()[0].points.size() - 1), 40.5, 1e-4);
 
-  // On a logarithmic axis what is above runs along the top, zero along the bottom.
+  // On a logarithmic axis what is above runs along the top; zero would run along the bottom, where the line of the box
+  // is, and is left out.
   form.OptLog.Select();
   form.cboYmin.Text = "1";
   StoreAngles(1, [](double a) { return a < 90 ? 0 : 1e6; });
   Draw();
-  EXPECT_NEAR(YAt(Drawn()[0], 10), 1, 1e-6);
-  EXPECT_NEAR(YAt(Drawn()[0], 120), 50.5, 1e-3);
+  EXPECT_NEAR(XAt(Drawn()[0], 0), 89, 1e-6);
+  EXPECT_NEAR(Drawn()[0].points[0].y, state.GraphBottom, 1e-3);
+  EXPECT_NEAR(Drawn()[0].points.back().y, state.GraphTop, 1e-3);
 }
 
 TEST_F(Curves, AValueThatWasNotComputedLiftsThePenAndDoesNotCount) {

@@ -7,6 +7,8 @@
 
 #include "pages/bars/bar_place.h"
 #include "pages/curves/curve_names.h"
+#include "pages/curves/curve_rows.h"
+#include "pages/items/readings.h"
 
 namespace lumivex {
 
@@ -85,18 +87,22 @@ struct Room {
 
 /// Below the title of the horizontal axis and the bars, in a polar plot below the scale's text.
 Room RoomOf(DrawingSurface& surface, const Page& page, const TickLabels& polarLabels) {
-  const double right = surface.ScaleWidth() - margin, bottom = surface.ScaleHeight() - margin;
+  const double right = surface.ScaleWidth() - margin,
+               bottom = std::min(TopOfFoot(surface, page), surface.ScaleHeight() - margin);
   const double line = surface.TextHeight("X");
   if (page.kind.polar) {
     constexpr double linesOfKey = 3;
-    const PageGeometry& at = page.geometry;
-    double below = at.polarY + at.polarRadius;
+    const PolarMap at = PolarMapOf(page);
+    double below = at.centreY + at.radius;
     for (const GraphBox& text : polarLabels.Taken()) below = std::max(below, text.bottom);
     below += 150;
-    if (below + linesOfKey * line <= bottom) return {std::max(100.0, at.polarX - at.polarRadius), below, right, bottom};
-    // A very large circle leaves room only at its side.
-    const double top = at.polarY + 0.25 * at.polarRadius;
-    return {at.polarX + 1.25 * at.polarRadius, std::min(top, bottom - linesOfKey * line), right, bottom};
+    if (below + linesOfKey * line <= bottom) return {std::max(100.0, at.centreX - at.radius), below, right, bottom};
+    // A very large circle leaves room only at its side, below the scale's text where that stands there.
+    const double side = at.centreX + 1.25 * at.radius;
+    double top = at.centreY;
+    for (const GraphBox& text : polarLabels.Taken())
+      if (text.left >= side) top = std::max(top, text.bottom);
+    return {side, std::min(top + line, bottom - linesOfKey * line), right, bottom};
   }
   const double title = BottomOfXTitle(surface, page);
   const double below = std::max(title, BottomOfBars(surface, page).value_or(title)) + 0.25 * line;

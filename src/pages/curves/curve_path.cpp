@@ -9,21 +9,15 @@
 #include <utility>
 
 #include "axes/curve_smoothing.h"
-#include "axes/polar_coordinates.h"
-#include "axes/scale_rules.h"
 
 namespace lumivex {
 
 namespace {
 
-constexpr double degree = 3.14159265358979 / 180;
 constexpr double notThere = std::numeric_limits<double>::quiet_NaN();
 
 /// Half the size of a mark (surface units).
 constexpr double markSize = 70;
-
-/// Values at or below it count as nothing on a logarithmic axis.
-constexpr double logFloor = 1e-300;
 
 /// Parts of the way from one point to the next with cubic interpolation.
 constexpr int piecesPerPoint = 10;
@@ -32,15 +26,6 @@ using Runs = std::vector<std::vector<SurfacePoint>>;
 
 bool IsFinite(const SurfacePoint& p) {
   return std::isfinite(p.x) && std::isfinite(p.y);
-}
-
-PanelMap MapOf(const Page& page, const PagePanel& panel) {
-  return {panel.box, panel.limits, page.kind.logX, panel.logY};
-}
-
-SurfacePoint Placed(const PanelMap& map, double x, double value) {
-  if (map.logY && std::isfinite(value)) value = value <= logFloor ? map.limits.ymin : std::min(value, map.limits.ymax);
-  return {map.X(x), map.Y(value)};
 }
 
 /// The part of a segment inside the box, as parameters from 0 to 1; false where there is none.
@@ -96,6 +81,23 @@ Runs ClippedRuns(const std::vector<SurfacePoint>& points, const GraphBox& edges)
   return runs;
 }
 
+/// Without the pieces along the lower edge. On a logarithmic axis what is nothing lies there, under the line of the
+/// box, and would only show beside it, as far as the numbers of a falling curve reach.
+Runs WithoutFloor(const Runs& runs, const GraphBox& box) {
+  Runs kept;
+  for (const auto& run : runs) {
+    bool open = false;
+    for (std::size_t i = 1; i < run.size(); ++i) {
+      const bool onFloor = run[i - 1].y >= box.bottom && run[i].y >= box.bottom;
+      if (!onFloor && !open) kept.push_back({run[i - 1]});
+      if (!onFloor) kept.back().push_back(run[i]);
+      open = !onFloor;
+    }
+    if (run.size() == 1) kept.push_back(run);
+  }
+  return kept;
+}
+
 Runs UnclippedRuns(const std::vector<SurfacePoint>& points) {
   Runs runs;
   bool open = false;
@@ -138,89 +140,10 @@ std::vector<SurfacePoint> InterpolatedPoints(const std::vector<SurfacePoint>& po
   return all;
 }
 
-/// Far more points than any picture has dots side by side.
-bool IsDense(std::size_t points, const GraphBox& box) {
-  constexpr double pointsPerUnit = 3;
-  return static_cast<double>(points) > pointsPerUnit * box.Width();
-}
-
-/// Rows in one unit of the surface, as they come along a curve: of each unit the first, the lowest, the highest and the
-/// last are kept.
-class UnitOfRows {
- public:
-  explicit UnitOfRows(std::vector<std::size_t>& kept) : kept_(kept) {}
-
-  void Add(std::size_t row, double unit, double value) {
-    if (!std::isfinite(value) || unit != unit_) Close();
-    if (!std::isfinite(value)) return kept_.push_back(row);
-    if (!open_ || value > highestValue_) highest_ = row, highestValue_ = value;
-    if (!open_ || value < lowestValue_) lowest_ = row, lowestValue_ = value;
-    if (!open_) first_ = row;
-    last_ = row;
-    unit_ = unit;
-    open_ = true;
-  }
-  void Close() {
-    if (!open_) return;
-    open_ = false;
-    std::size_t before = 0;
-    for (const std::size_t row : {first_, std::min(highest_, lowest_), std::max(highest_, lowest_), last_})
-      if (row != before) kept_.push_back(before = row);
-  }
-
- private:
-  std::vector<std::size_t>& kept_;
-  std::size_t first_ = 0, last_ = 0, highest_ = 0, lowest_ = 0;
-  double unit_ = 0, highestValue_ = 0, lowestValue_ = 0;
-  bool open_ = false;
-};
-
-/// The rows from first to last that are drawn; all of them but where they are dense.
-std::vector<std::size_t> DrawnRows(const PanelMap& map, const PageCurve& curve, const SharedValues& values,
-                                   RowSpan rows) {
-  std::vector<std::size_t> kept;
-  const bool dense = IsDense(rows.last - rows.first + 1, map.box);
-  UnitOfRows unit(kept);
-  for (std::size_t i = rows.first; i <= rows.last; ++i) {
-    if (dense)
-      unit.Add(i, std::floor(map.X(curve.x[i])), values[i]);
-    else
-      kept.push_back(i);
-  }
-  unit.Close();
-  return kept;
-}
-
-/// @param thinned  whether rows that would fall on others may be left out.
-std::vector<PlacedRow> Place(const Page& page, const PagePanel& panel, const PageCurve& curve, bool thinned) {
-  std::vector<PlacedRow> placed;
-  const std::size_t size = std::min(curve.x.size(), curve.y.size());
-  if (page.kind.polar) {
-    const PolarMap map = PolarMapOf(page);
-    const SharedValues values = DrawnValues(curve, {1, size > 0 ? size - 1 : 0});
-    for (std::size_t i = 1; i < size; ++i) placed.push_back({i, map.Point(curve.x[i], values[i])});
-    return placed;
-  }
-  const RowSpan shown = RowsWithin(curve.x, {panel.limits.xmin, panel.limits.xmax});
-  if (shown.Empty()) return placed;
-  const PanelMap map = MapOf(page, panel);
-  // One row beyond each end, so that a zoomed curve runs on to the edge of the box.
-  const std::size_t first = std::max<std::size_t>(1, shown.first - 1), last = std::min(size - 1, shown.last + 1);
-  const SharedValues values = DrawnValues(curve, shown);
-  const auto place = [&](std::size_t i) { placed.push_back({i, Placed(map, curve.x[i], values[i])}); };
-  if (thinned) {
-    for (const std::size_t i : DrawnRows(map, curve, values, {first, last})) place(i);
-  } else {
-    placed.reserve(last - first + 1);
-    for (std::size_t i = first; i <= last; ++i) place(i);
-  }
-  return placed;
-}
-
 void DrawMarks(DrawingSurface& surface, const Page& page, const PagePanel& panel, const PageCurve& curve) {
   const bool polar = page.kind.polar, matrix = page.kind.IsMatrix();
   const GraphBox box = WithRounding(panel.box);
-  for (const auto& [row, p] : PlacedRows(page, panel, curve)) {
+  for (const auto& [row, p, value] : PlacedRows(page, panel, curve)) {
     if (!IsFinite(p) || (!polar && !box.Holds(p.x, p.y))) continue;
     surface.ForeColour = row < curve.colours.size() ? curve.colours[row] : curve.colour;
     if (curve.kind == 1) surface.Circle(p.x, p.y, markSize, surface.ForeColour);
@@ -273,56 +196,8 @@ void DrawColoured(DrawingSurface& surface, const Page& page, const PagePanel& pa
 
 }  // namespace
 
-RowSpan RowsWithin(std::span<const double> x, XRange range) {
-  const double beyond = 1e-6 * (range.xmax - range.xmin);
-  const auto within = [&](double value) { return value >= range.xmin - beyond && value <= range.xmax + beyond; };
-  RowSpan rows;
-  for (std::size_t i = 1; i < x.size(); ++i) {
-    if (!within(x[i])) continue;
-    if (rows.Empty()) rows.first = i;
-    rows.last = i;
-  }
-  return rows;
-}
-
-SharedValues DrawnValues(const PageCurve& curve, RowSpan shown) {
-  if (!(curve.averageRows > 0) || shown.Empty()) return curve.y;
-  return RunningMeans(curve.y.All(), curve.averageRows, shown.first, shown.last);
-}
-
-double PolarMap::Distance(double value) const {
-  if (!std::isfinite(value)) return notThere;
-  if (!logarithmic) return radius * std::clamp(value / outer, 0.0, 1.0);
-  const double shown = value > 0 ? value : inner / 10;
-  return radius * std::clamp(LogOfRatio(shown, inner) / LogOfRatio(outer, inner), 0.0, 1.0);
-}
-
-SurfacePoint PolarMap::Point(double angleDegrees, double value) const {
-  const double r = Distance(value);
-  SurfacePoint p;
-  PolarRectangular(r, angleDegrees * degree, p.x, p.y);
-  return {centreX + p.x, centreY + p.y};
-}
-
-PolarMap PolarMapOf(const Page& page) {
-  const AxisLimits limits = page.panels.empty() ? AxisLimits{} : page.panels.front().limits;
-  const PageGeometry& at = page.geometry;
-  PolarMap map{at.polarX, at.polarY, at.polarRadius, limits.ymin, limits.ymax, page.kind.logY};
-  // The curve is the modulus of the amplitude, the limits were chosen for its square.
-  if (page.kind.IsComplexPolar() && !page.kind.amplitude) {
-    map.inner = std::sqrt(std::max(limits.ymin, 0.0));
-    map.outer = std::sqrt(std::max(limits.ymax, 0.0));
-  }
-  if (!(map.outer > 0)) map.outer = 1;
-  return map;
-}
-
-std::vector<PlacedRow> PlacedRows(const Page& page, const PagePanel& panel, const PageCurve& curve) {
-  return Place(page, panel, curve, false);
-}
-
 std::vector<std::vector<SurfacePoint>> CurveRuns(const Page& page, const PagePanel& panel, const PageCurve& curve) {
-  const auto rows = Place(page, panel, curve, true);
+  const auto rows = ThinnedRows(page, panel, curve);
   std::vector<SurfacePoint> points;
   points.reserve(rows.size());
   std::size_t before = 0;
@@ -336,7 +211,8 @@ std::vector<std::vector<SurfacePoint>> CurveRuns(const Page& page, const PagePan
   if (page.kind.polar) return UnclippedRuns(points);
   // Between points that are closer than dots there is nothing to interpolate.
   const bool interpolated = curve.interpolate && !IsDense(rows.size(), panel.box);
-  return ClippedRuns(interpolated ? InterpolatedPoints(points) : points, panel.box);
+  Runs runs = ClippedRuns(interpolated ? InterpolatedPoints(points) : points, panel.box);
+  return panel.logY ? WithoutFloor(runs, panel.box) : runs;
 }
 
 void PaintCurve(DrawingSurface& surface, const Page& page, const PageCurve& curve) {

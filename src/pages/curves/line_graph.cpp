@@ -306,6 +306,7 @@ void DrawFrame(Page& page, const RunToDraw& run, PanelPlace place, std::span<con
   // Where nothing was computed the last scale serves.
   if (page.autoBottom >= noBottom) page.autoBottom = std::min(page.scale.StoredBottom, limits.ymax / 10);
   limits.ymin = GridYmin(scale, page.autoBottom, limits.ymax, page.scale);
+  FitFlatAlbedo(page.kind, scale, page.autoBottom, page.autoTop, limits);
   if (page.kind.logY && page.autoBottom == 0) page.autoBottom = 0.0001;
   Grid(page, place, limits);
 }

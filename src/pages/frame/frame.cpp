@@ -49,7 +49,7 @@ void PaintLogo(FramePaint& paint) {
   const bool covered = paint.kind.polar && !paint.labels.HasRoom(left, logo.top, surface.TextWidth(style.logo),
                                                                  surface.TextHeight(style.logo));
   // Where a number of the rim stands, there is room beside the circle.
-  if (covered) left = paint.page.geometry.polarX + 1.25 * paint.page.geometry.polarRadius;
+  if (covered) left = PolarMapOf(paint.page).centreX + 1.25 * PolarMapOf(paint.page).radius;
   surface.CurrentX = std::max(0.0, std::min(left, surface.ScaleWidth() - surface.TextWidth(style.logo)));
   surface.CurrentY = logo.top;
   surface.Print(style.logo, false);

@@ -207,6 +207,19 @@ void PaintBetweenDecades(FramePaint& paint, bool lines) {
   }
 }
 
+/// Of an axis that is nearly linear.
+void PaintRoundValues(FramePaint& paint) {
+  const auto& limits = paint.map.limits;
+  constexpr double nearlyLinear = 1.5, steps = 6, rounding = 1e-6;
+  if (!(limits.ymax / limits.ymin < nearlyLinear) || limits.ymax >= 1000 || limits.ymin < 0.001) return;
+  const double step = RoundStepAbove((limits.ymax - limits.ymin) / steps);
+  const double last = limits.ymax / step - rounding;
+  for (double k = std::ceil(limits.ymin / step + rounding); k < last; ++k) {
+    if (paint.style.gridLines.majorY) paint.HorizontalLine(paint.map.Y(k * step), paint.style.gridColour);
+    GridYLabel(paint, k * step);
+  }
+}
+
 void PaintLogarithmic(FramePaint& paint) {
   const auto& limits = paint.map.limits;
   const DecadeRange decades = DecadesBetween(limits.ymin, limits.ymax);
@@ -236,11 +249,12 @@ void PaintLogarithmic(FramePaint& paint) {
   });
   if (minor && decadeStep == 1) PaintBetweenDecades(paint, false);
   if (printed > 1 && decades.first != decades.last) return;
-  // Within one decade the ends alone tell the scale.
+  // Within one decade the ends tell the scale, and round values where they lie so near that all are read as numbers.
   for (const double end : {limits.ymin, limits.ymax}) {
     paint.TickLeft(paint.map.Y(end), majorTick);
     GridYLabel(paint, end);
   }
+  PaintRoundValues(paint);
 }
 
 }  // namespace

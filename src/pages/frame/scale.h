@@ -31,4 +31,9 @@ double GridYmax(const ScaleLook& look, double value, ScaleMemory& memory);
 /// on a linear axis and a power of ten on a logarithmic one. It becomes the bottom of the last scaling.
 double GridYmin(const ScaleLook& look, double value, double ymax, ScaleMemory& memory);
 
+/// Limits around an albedo that hardly differs along its curve. Down from 0, or over a whole decade, it would be a line
+/// on the edge of the box; where no limit is typed it has round ones next to its smallest and largest value.
+/// @param limits  as GridYmax and GridYmin chose them; others are left as they are.
+void FitFlatAlbedo(const PageKind& kind, const ScaleLook& look, double bottom, double top, AxisLimits& limits);
+
 }  // namespace lumivex

@@ -1,5 +1,6 @@
 #include "pages/items/readings.h"
 
+#include <algorithm>
 #include <cmath>
 #include <initializer_list>
 #include <optional>
@@ -7,6 +8,7 @@
 #include <utility>
 
 #include "colour/wavelength_colour.h"
+#include "pages/curves/curve_rows.h"
 #include "pages/curves/spectrum_graph.h"
 #include "record/number_text.h"
 #include "runs/curves.h"
@@ -22,6 +24,49 @@ constexpr double pi = 3.14159265358979324;
 constexpr int digitsShown = 6;
 
 using Lines = std::vector<PageLine>;
+
+/// Air at the right and the lower edge of the surface, and between readings that stand in a row.
+constexpr double edge = 60, betweenReadings = 350;
+
+constexpr double sizeBeside = 8, sizeAtFoot = 7;
+
+void SetFont(SurfacePen& pen, double size) {
+  pen.FontName = "MS Sans Serif";
+  pen.FontSize = size;
+  pen.FontBold = false;
+}
+
+/// Left end of the rows at the foot: that of the graph; beside a circle, which may reach down to them.
+double LeftOfFoot(const Page& page) {
+  if (!page.kind.polar) return page.geometry.box.left;
+  const PolarMap circle = PolarMapOf(page);
+  return circle.centreX + 1.25 * circle.radius;
+}
+
+bool StandBesideInputs(DrawingSurface& surface, const Lines& readings) {
+  SetFont(surface, sizeBeside);
+  return std::ranges::all_of(readings, [&](const PageLine& line) {
+    return left + surface.TextWidth(line.text) <= surface.ScaleWidth() - edge;
+  });
+}
+
+/// The readings in rows under the graph, each row as full as it gets.
+std::vector<Lines> FootRows(DrawingSurface& surface, const Page& page) {
+  SetFont(surface, sizeAtFoot);
+  std::vector<Lines> rows;
+  double x = 0;
+  for (const PageLine& line : page.readings) {
+    const PageLine reading{std::string(Trim(line.text)), line.colour};
+    const double width = surface.TextWidth(reading.text);
+    if (rows.empty() || x + width > surface.ScaleWidth() - edge) {
+      rows.emplace_back();
+      x = LeftOfFoot(page);
+    }
+    rows.back().push_back(reading);
+    x += width + betweenReadings;
+  }
+  return rows;
+}
 
 /// A wavelength's colour as text on the page: light ones are darkened.
 Colour TextColour(Colour c) {
@@ -145,15 +190,43 @@ std::vector<PageLine> VisibleData(const Results& results) {
   return lines;
 }
 
-void PaintReadings(DrawingSurface& surface, const std::vector<PageLine>& readings) {
-  double y = firstLine;
-  for (const PageLine& line : readings) {
+double TopOfFoot(DrawingSurface& surface, const Page& page) {
+  const SurfacePen pen = surface;
+  double top = surface.ScaleHeight();
+  if (page.style.readingsVisible && !StandBesideInputs(surface, page.readings)) {
+    const auto rows = static_cast<double>(FootRows(surface, page).size());
+    top -= edge + rows * surface.TextHeight("X");
+  }
+  static_cast<SurfacePen&>(surface) = pen;
+  return top;
+}
+
+void PaintReadings(DrawingSurface& surface, const Page& page) {
+  const auto print = [&](const PageLine& line, double x, double y) {
     surface.ForeColour = line.colour;
-    surface.CurrentX = left;
+    surface.CurrentX = x;
     surface.CurrentY = y;
     surface.Print(line.text);
-    y += lineHeight;
+  };
+  const SurfacePen pen = surface;
+  if (StandBesideInputs(surface, page.readings)) {
+    double y = firstLine;
+    for (const PageLine& line : page.readings) {
+      print(line, left, y);
+      y += lineHeight;
+    }
+  } else {
+    double y = TopOfFoot(surface, page);
+    for (const Lines& row : FootRows(surface, page)) {
+      double x = LeftOfFoot(page);
+      for (const PageLine& line : row) {
+        print(line, x, y);
+        x += surface.TextWidth(line.text) + betweenReadings;
+      }
+      y += surface.TextHeight("X");
+    }
   }
+  static_cast<SurfacePen&>(surface) = pen;
   surface.ForeColour = colours::Black;
 }
 

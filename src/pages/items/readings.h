@@ -16,7 +16,11 @@ inline constexpr double ReadingsRight = 13900;
 /// for a method that has no efficiencies.
 std::vector<PageLine> VisibleData(const Results& results);
 
-/// Paints them beside the inputs, at x 12000 of the surface.
-void PaintReadings(DrawingSurface& surface, const std::vector<PageLine>& readings);
+/// Paints the readings of a page beside the inputs, at x 12000 of the surface; where one would be cut at its right
+/// edge, all in rows at its foot.
+void PaintReadings(DrawingSurface& surface, const Page& page);
+
+/// Top of the rows at the foot; the height of the surface where there are none.
+double TopOfFoot(DrawingSurface& surface, const Page& page);
 
 }  // namespace lumivex

@@ -105,7 +105,7 @@ std::vector<std::optional<SurfacePoint>> Places(const Page& page, const PagePane
   constexpr double rounding = 1;
   const GraphBox& b = panel.box;
   const GraphBox box{b.left - rounding, b.right + rounding, b.top - rounding, b.bottom + rounding};
-  for (const auto& [row, p] : PlacedRows(page, panel, curve))
+  for (const auto& [row, p, value] : PlacedRows(page, panel, curve))
     if (std::isfinite(p.x) && std::isfinite(p.y) && box.Holds(p.x, p.y)) places[row] = p;
   return places;
 }
