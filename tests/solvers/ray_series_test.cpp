@@ -5,6 +5,7 @@
 #include <cfenv>
 #include <cmath>
 #include <complex>
+#include <numbers>
 
 #include "solvers/rays/huygens_wave.h"
 #include "solvers/rays/rainbow.h"
@@ -367,6 +368,37 @@ TEST(Airy, PeakAgreesWithTheDebyeTerm) {
     const int row = 13792 + 1;
     EXPECT_LT(std::abs(Complex(exact.S1.Value(row)) / Complex(S1.Value(row)) - 1.0), 0.05) << x;
     EXPECT_LT(std::abs(Complex(exact.S2.Value(row)) / Complex(S2.Value(row)) - 1.0), 0.05) << x;
+  }
+}
+
+// The bow of p = 3 is the rougher one: what the documents say of it.
+TEST(Airy, TheSecondaryBowIsAsFarOffAsIsTold) {
+  constexpr int finestRows = 18001;  // 0.005 degrees
+  const double step = 90.0 / (finestRows - 1);
+  const int rainbow =
+      static_cast<int>(std::lround(MakeRainbow(1.333, 3)->RainbowAngle * 180 / std::numbers::pi / step)) + 1;
+  const RowWindow window{rainbow - 600, rainbow + 600};
+  struct Case {
+    double x, height, degrees, atRainbow;
+  };
+  for (const Case& c :
+       {Case{1000, 1.066, 0.16, 0.015}, Case{5000, 1.024, 0.02, 0.0025}, Case{10000, 1.015, 0.01, 0.0014}}) {
+    SCOPED_TRACE(c.x);
+    DebyeRequest debye;
+    debye.x = c.x;
+    debye.mRe = 1.333;
+    debye.NANG = finestRows;
+    debye.selected = Only(3);
+    debye.window = window;
+    SilentMonitor monitor;
+    const DebyeResult exact = SolveDebye(debye, monitor);
+    const std::vector<int> selected = Only(3);
+    AmplitudeTable S1(2 * finestRows - 1), S2(2 * finestRows - 1);
+    SolveAiry({c.x, 1.333, AngleGrid(finestRows), window, selected}, S1, S2, monitor);
+    const Peak airy = HighestOf(S1, window), term = HighestOf(exact.S1, window);
+    EXPECT_NEAR(airy.modulus / term.modulus, c.height, 0.002);
+    EXPECT_NEAR(airy.row * step, term.row * step, c.degrees);
+    EXPECT_NEAR(std::abs(Complex(S1.Value(rainbow)) / Complex(exact.S1.Value(rainbow))), 1, c.atRainbow);
   }
 }
 

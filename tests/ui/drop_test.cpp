@@ -1,7 +1,9 @@
 #include <QDir>
 #include <QDropEvent>
+#include <QFile>
 #include <QFileInfo>
 #include <QMimeData>
+#include <QTemporaryDir>
 #include <QUrl>
 
 #include "session/user_actions.h"
@@ -79,6 +81,46 @@ TEST_F(DropTest, AnInputLeavesFilesToTheWindow) {
   QApplication::sendEvent(WidgetOf(Form().txtRadius), &enter);
   EXPECT_TRUE(enter.isAccepted()) << "the window takes it";
   EXPECT_EQ(Form().txtRadius.Text, "10");
+}
+
+// Whatever falls onto the window is told and changes nothing.
+TEST_F(DropTest, FoldersAndRubbishAreTold) {
+  QTemporaryDir folder;
+  const auto write = [&](const char* name, const QByteArray& bytes) {
+    QFile file(folder.filePath(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+    return file.fileName();
+  };
+  ASSERT_TRUE(QDir(folder.path()).mkdir("folder.rix"));
+  ASSERT_TRUE(QDir(folder.path()).mkdir("folder"));
+  const QByteArray noise = QByteArray::fromHex("00ff13fe0a0d80").repeated(3000);
+  const QList<QString> paths = {folder.filePath("folder"),   folder.filePath("folder.rix"), write("a.rix", noise),
+                                write("a.csv", noise),       write("a.yml", noise),         write("a.spe", noise),
+                                write("empty.rix", ""),      write("empty.csv", ""),        write("empty.spe", ""),
+                                write("no ending", "1,2,3"), write("two\nlines.txt", "")};
+  for (const QString& path : paths) {
+    SCOPED_TRACE(path.toStdString());
+    messages.clear();
+    ASSERT_TRUE(Drop(path));
+    EXPECT_EQ(messages.size(), 1U);
+    if (!messages.empty()) {
+      EXPECT_EQ(messages[0].find(std::string("two\n")), std::string::npos);
+    }
+  }
+  for (const QString& path : {write("a.dis", noise), write("empty.dis", "")}) {
+    dialogs = {[](QDialog& open) { open.accept(); }};
+    messages.clear();
+    ASSERT_TRUE(Drop(path));
+    EXPECT_FALSE(messages.empty()) << path.toStdString();
+  }
+  EXPECT_TRUE(Form().mnuRI_IAPWS.Checked);
+  EXPECT_FALSE(Form().optDisp.Checked);
+  EXPECT_FALSE(Form().mnuSpectrumFile.Checked);
+  EXPECT_EQ(Form().cboDistrib.Text, "Log-normal");
+  EXPECT_FALSE(Form().mnuUndo.Enabled);
+  Click(Form().cmdNewPlot);
+  EXPECT_NE(Now().state.LastResults, nullptr);
 }
 
 }  // namespace

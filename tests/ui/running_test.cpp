@@ -1,5 +1,9 @@
+#include <QDropEvent>
+#include <QMimeData>
 #include <QPushButton>
+#include <QUrl>
 
+#include "runs/results.h"
 #include "window_fixture.h"
 
 namespace lumivex {
@@ -111,6 +115,39 @@ TEST_F(RunningTest, ClosingAndResizingWaitForTheEnd) {
   EXPECT_GT(Now().surface->ScaleWidth(), width) << "taken up at the end";
   QTest::qWait(50);
   EXPECT_FALSE(program.Window().isVisible());
+}
+
+// What is typed, chosen and dropped while a run is under way is none of that run.
+TEST_F(RunningTest, InputsAndFilesOfTheMeantimeAreNotTheRuns) {
+  QMimeData file;
+  file.setUrls({QUrl::fromLocalFile("/tmp/table.rix")});
+  bool taken = true;
+  std::string during;
+  RunLong([&] {
+    for (const Control* input : {static_cast<Control*>(&Form().txtRadius), static_cast<Control*>(&Form().txtLambda)}) {
+      QTest::keyClick(WidgetOf(*input), Qt::Key_A, Qt::ControlModifier);
+      QTest::keyClicks(WidgetOf(*input), "0.5");
+    }
+    QTest::keyClick(WidgetOf(Form().cboPol), Qt::Key_Down);
+    QTest::keyClick(WidgetOf(Form().txtRadius), Qt::Key_Z, Qt::ControlModifier);
+    QDragEnterEvent enter(QPoint(300, 500), Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&program.Window(), &enter);
+    QDropEvent drop(QPoint(300, 500), Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&program.Window(), &drop);
+    taken = drop.isAccepted() || Form().mnuRI_File1.Checked;
+    during = Form().txtRadius.Text + " " + Form().txtLambda.Text + " " + Form().cboPol.Text;
+    Click(Form().cmdStop);
+  });
+  EXPECT_FALSE(taken);
+  EXPECT_EQ(during, "8000 0.65 Both");
+  ASSERT_TRUE(Now().state.LastResults == nullptr || Now().state.LastResults->asked.particle.radius != 0.5);
+  QTest::qWait(50);
+  Form().cboStep.Text = "10";
+  Type(Form().txtRadius, "2");
+  Press(Form().txtRadius, Qt::Key_Return);
+  ASSERT_NE(Now().state.LastResults, nullptr);
+  EXPECT_EQ(Now().state.LastResults->asked.particle.radius, 2);
+  EXPECT_EQ(messages.size(), 1U) << "the question of the Stop";
 }
 
 }  // namespace
