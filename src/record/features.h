@@ -41,21 +41,10 @@ enum class Feature {
 
 /// The one place that says what is there.
 inline constexpr std::array availableFeatures = {
-    Feature::Always,
-    Feature::MieSeries,
-    Feature::AllMaterials,
-    Feature::SizeDistributions,
-    Feature::DebyeSeries,
-    Feature::RayOptics,
-    Feature::AiryTheory,
-    Feature::SimpleScattering,
-    Feature::AngleIntensity,
-    Feature::AngleFamily,
-    Feature::AxisFamilies,
-    Feature::VolumeGraphs,
-    Feature::GraphLook,
-    Feature::SeveralWavelengths,
-    Feature::ColourBars,
+    Feature::Always,         Feature::MieSeries,          Feature::AllMaterials, Feature::SizeDistributions,
+    Feature::DebyeSeries,    Feature::RayOptics,          Feature::AiryTheory,   Feature::SimpleScattering,
+    Feature::AngleIntensity, Feature::AngleFamily,        Feature::AxisFamilies, Feature::VolumeGraphs,
+    Feature::GraphLook,      Feature::SeveralWavelengths, Feature::ColourBars,
 };
 
 constexpr bool IsAvailable(Feature feature) {
