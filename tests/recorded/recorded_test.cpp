@@ -130,6 +130,7 @@ class Recorded : public ScriptedSession {
       if (window.page.style.size == GraphSize::VeryLarge) {
         geometry.box.right *= width / geometry.surfaceWidth;
         geometry.box.bottom *= height / geometry.surfaceHeight;
+        geometry.panelWidth *= width / geometry.surfaceWidth;
       }
       geometry.surfaceWidth = width;
       geometry.surfaceHeight = height;
