@@ -6,6 +6,7 @@
 #include "axes/panel_map.h"
 #include "pages/bars/bar_light.h"
 #include "pages/frame/frame.h"
+#include "pages/items/readings.h"
 #include "record/number_text.h"
 
 namespace lumivex {
@@ -107,7 +108,7 @@ std::optional<std::array<GraphBox, 3>> BarBoxes(const Page& page) {
   if (!page.bars || page.panels.empty()) return std::nullopt;
   const GraphBox plot = BoxOf(page, PanelPlace::Whole);
   const double top = plot.bottom + (page.style.special ? titleRoomSlide : titleRoom);
-  const double room = page.geometry.surfaceHeight - oneLineOfKey - top;
+  const double room = page.geometry.surfaceHeight - RoomForFoot(page) - oneLineOfKey - top;
   const double height = std::min(WantedHeight(page), (room - 2 * betweenBars) / 3);
   if (height < leastHeight) return std::nullopt;
   std::array<GraphBox, 3> boxes;

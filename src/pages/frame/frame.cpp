@@ -5,6 +5,7 @@
 #include "pages/bars/bar_place.h"
 #include "pages/curves/curve_path.h"
 #include "pages/frame/polar_plot.h"
+#include "pages/items/readings.h"
 #include "pages/maps/lee_frame.h"
 
 namespace lumivex {
@@ -62,7 +63,7 @@ GraphBox BoxOf(const Page& page, PanelPlace place) {
   if (place >= PanelPlace::Left)
     return LeePanelBox(page.geometry, page.style, static_cast<int>(place) - static_cast<int>(PanelPlace::Left));
   GraphBox box = page.geometry.box;
-  const double below = (page.style.special ? roomBelowSlide : roomBelow) + RoomForBars(page);
+  const double below = (page.style.special ? roomBelowSlide : roomBelow) + RoomForBars(page) + RoomForFoot(page);
   const double lowest = page.geometry.surfaceHeight - below;
   box.bottom = std::min(box.bottom, std::max(lowest, box.top + leastHeight));
   if (place == PanelPlace::Upper) box.bottom = 0.5 * (box.top + box.bottom - gapBetweenPanels);

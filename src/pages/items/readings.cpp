@@ -190,6 +190,12 @@ std::vector<PageLine> VisibleData(const Results& results) {
   return lines;
 }
 
+double RoomForFoot(const Page& page) {
+  constexpr double widestReading = 2700, twoRows = 440;
+  const bool narrow = page.geometry.surfaceWidth < left + widestReading;
+  return narrow && page.style.readingsVisible && !page.kind.polar ? twoRows : 0;
+}
+
 double TopOfFoot(DrawingSurface& surface, const Page& page) {
   const SurfacePen pen = surface;
   double top = surface.ScaleHeight();

@@ -23,4 +23,7 @@ void PaintReadings(DrawingSurface& surface, const Page& page);
 /// Top of the rows at the foot; the height of the surface where there are none.
 double TopOfFoot(DrawingSurface& surface, const Page& page);
 
+/// What is kept free for them at the foot of a narrow surface, before anybody knows their words (surface units).
+double RoomForFoot(const Page& page);
+
 }  // namespace lumivex
