@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <cstdio>
+#include <memory>
 #include <thread>
 #include <vector>
 
@@ -80,6 +82,51 @@ void Compare(const char* name, const RunRequest& request, int runs) {
               name, kernels, one, one / kernels, all, one / all);
 }
 
+/// Radii from 5 to 500 um in the light of 100 wavelengths, over the primary rainbow.
+RunRequest LeeDiagram() {
+  RunRequest request = Spectrum(10, 100, 1);
+  request.graph = GraphOf({20, 1});
+  AngleRows rows = WholeCircle(0.1);
+  rows.window = {1301, 1451};
+  request.run = AngleMapRun{rows, {Swept::Radius, 5, 500, 99, true}, false};
+  return request;
+}
+
+void CompareLee(const RunRequest& request, int runs) {
+  const auto& run = std::get<AngleMapRun>(request.run);
+  const auto cosines = std::make_shared<const AngleCosines>(AngleGrid(run.rows.NANG), run.rows.window);
+  const double kernels = BestTime(runs, [&] {
+    for (int column = 0; column < run.columns.Count(); ++column)
+      for (int i = 1; i <= request.Wavelengths(); ++i) {
+        const double lambda = request.light.spectrum->wavelength[static_cast<std::size_t>(i)];
+        MieRequest mie;
+        mie.x = SizeParameterOf(run.columns.At(column), 1, lambda);
+        mie.mRe = SettingAt(request, lambda).setting.mRe;
+        mie.NANG = run.rows.NANG;
+        mie.window = run.rows.window;
+        mie.cosines = cosines;
+        SilentMonitor silent;
+        sink += SolveMie(mie, silent).S1.Re(run.rows.window.low);
+      }
+  });
+  std::size_t bytes = 0;
+  const auto time = [&](unsigned threads) {
+    return BestTime(runs, [&] {
+      SilentWatch silent;
+      const RunEnd end = Run(request, silent, threads);
+      const auto& map = *end.results.Find<MapFound>();
+      sink += double{map.panels[0].red.back()};
+      bytes = map.panels.size() * map.At(map.columns, 0) * (3 * sizeof(float) + sizeof(std::uint16_t));
+    });
+  };
+  const double one = time(1), all = time(0);
+  std::printf(
+      "%-44s kernels %8.2f ms, run on 1 thread %8.2f ms (kernels %.0f %%), on all %8.2f ms (%.2f times faster), %.1f "
+      "MB\n",
+      "Lee diagram, 100 radii x 100 wavelengths", kernels, one, 100 * kernels / one, all, one / all,
+      static_cast<double>(bytes) / 1e6);
+}
+
 void CompareRadii(int runs) {
   RunRequest request;
   request.graph = GraphOf({14, 1});
@@ -118,5 +165,6 @@ int main() {
   CompareRadii(200);
   Compare("300 wavelengths at 100 um, 0.1 degrees", Spectrum(100, 300, 1), 5);
   Compare("50 sizes x 300 wavelengths at 10 um", Spectrum(10, 300, 50), 2);
+  CompareLee(LeeDiagram(), 3);
   return sink == 42 ? 1 : 0;
 }

@@ -95,6 +95,10 @@ struct Graph {
   bool WavelengthAxis() const {
     return axis == AxisVariable::Wavelength && (family == Family::Axis || family == Family::EfficiencyPulse);
   }
+  /// Wavelengths run along a side of it, so that the light is no other's.
+  bool SweepsWavelength() const {
+    return WavelengthAxis() || (family == Family::AngleMap && axis == AxisVariable::Wavelength);
+  }
   /// The size of the sphere runs along the axis.
   bool SizeAxis() const {
     return axis == AxisVariable::Radius || axis == AxisVariable::Diameter || axis == AxisVariable::SizeParameter;

@@ -44,7 +44,8 @@ inline constexpr std::array availableFeatures = {
     Feature::Always,         Feature::MieSeries,          Feature::AllMaterials, Feature::SizeDistributions,
     Feature::DebyeSeries,    Feature::RayOptics,          Feature::AiryTheory,   Feature::SimpleScattering,
     Feature::AngleIntensity, Feature::AngleFamily,        Feature::AxisFamilies, Feature::VolumeGraphs,
-    Feature::GraphLook,      Feature::SeveralWavelengths, Feature::ColourBars,
+    Feature::GraphLook,      Feature::SeveralWavelengths, Feature::ColourBars,   Feature::LeeDiagrams,
+    Feature::Maps,
 };
 
 constexpr bool IsAvailable(Feature feature) {

@@ -5,6 +5,7 @@
 #include "record/groups/axis_state.h"
 #include "record/groups/colour_state.h"
 #include "record/groups/graph_state.h"
+#include "record/groups/lee_results.h"
 #include "record/groups/light_state.h"
 #include "record/groups/material_state.h"
 #include "record/groups/optical_state.h"
@@ -24,6 +25,7 @@ struct MainFormState : RunState,
                        SeriesState,
                        ResultArrays,
                        SpectrumResults,
+                       LeeResults,
                        AxisState,
                        MaterialState,
                        LightState,
@@ -46,6 +48,7 @@ void ForEachStateField(State& state, Visitor&& visit) {
   group(as(std::type_identity<SeriesState>{}));
   group(as(std::type_identity<ResultArrays>{}));
   group(as(std::type_identity<SpectrumResults>{}));
+  group(as(std::type_identity<LeeResults>{}));
   group(as(std::type_identity<AxisState>{}));
   group(as(std::type_identity<MaterialState>{}));
   group(as(std::type_identity<LightState>{}));

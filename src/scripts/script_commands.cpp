@@ -112,6 +112,13 @@ struct ArrayReader {
       for (std::size_t column = 0; column < table.columns; ++column)
         *found += Exact(table.At(row, column)) + (column + 1 < table.columns ? "," : "\n");
   }
+  void Print(const CellView& view) {
+    found.emplace();
+    const auto rows = static_cast<std::size_t>(view.rows), columns = rows == 0 ? 0 : view.cells.size() / rows;
+    for (std::size_t row = 0; row < rows; ++row)
+      for (std::size_t column = 0; column < columns; ++column)
+        *found += Exact(double{view.cells[column * rows + row]}) + (column + 1 < columns ? "," : "\n");
+  }
   void Print(const std::vector<Colour>& values) {
     found.emplace();
     for (std::size_t i = 1; i < values.size(); ++i) *found += std::to_string(values[i].value) + "\n";

@@ -4,6 +4,7 @@
 #include <cctype>
 
 #include "session/driver/commands.h"
+#include "session/driver/display_run.h"
 #include "session/file_menu.h"
 #include "session/info.h"
 #include "session/inputs/graph_types.h"
@@ -14,6 +15,7 @@
 #include "session/inputs/methods/debye_menus.h"
 #include "session/inputs/two_angle_inputs.h"
 #include "session/inputs/volume_inputs.h"
+#include "session/page.h"
 #include "session/start_up.h"
 #include "session/undo.h"
 #include "session/window_events.h"
@@ -42,6 +44,8 @@ constexpr EventRow eventRows[] = {
     {"cboGraph_Click", cboGraph_Click},
     {"cboWave_Click", cboWave_Click},
     {"cboPol_Click", Scale_Click},
+    {"cboLee_Click", RecolourPage},
+    {"Map_Recoloured", RedrawMap},
     {"mnuDiffractionNew_Click", mnuDiffractionNew_Click},
     {"mnuHuygens_Click", mnuHuygens_Click},
     {"mnuAperture_Click", mnuAperture_Click},
@@ -65,6 +69,13 @@ constexpr EventRow eventRows[] = {
     {"Inputs_Changed", Inputs_Changed},
     {"txtLambda_change", txtLambda_change},
     {"txtRadius_Change", txtRadius_Change},
+    {"txtRmax_Change", FurtherAxis_Changed},
+    {"txtRstep_Change", FurtherAxis_Changed},
+    {"txtAngle_Change", FurtherAxis_Changed},
+    {"txtF9_fixed_Change", FurtherAxis_Changed},
+    {"txtF9_min_Change", FurtherAxis_Changed},
+    {"txtF9_max_Change", FurtherAxis_Changed},
+    {"txtF9_step_Change", FurtherAxis_Changed},
     {"txtXmin_Change", Picture_Changed},
     {"txtXmax_Change", Picture_Changed},
     {"cboStep_Change", Step_Changed},

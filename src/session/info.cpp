@@ -2,6 +2,7 @@
 
 #include "pages/run_words.h"
 #include "session/checks/material_bands.h"
+#include "session/driver/fold_sizes.h"
 #include "session/driver/progress.h"
 
 namespace lumivex {
@@ -14,6 +15,8 @@ std::string RunInShort(const Results& results) {
   const std::string time = TimeWords(results.seconds);
   if (const auto* found = results.Find<SpectrumFound>())
     return asked.words.method + ", " + std::to_string(found->done) + " wavelengths, " + time;
+  if (const auto* map = results.Find<MapFound>())
+    return asked.words.method + ", " + std::to_string(map->done) + " columns, " + time;
   const bool series = TraitsOf(asked.method.method).series;
   return asked.words.method + ", " + (series ? std::to_string(results.last.NSTOP) + " terms, " : "") + time;
 }
@@ -42,7 +45,8 @@ std::string StatusText(const Session& session) {
   // Some graphs start with a range that is wider than the band of common materials.
   if (std::string wayOut = WayOutOfBand(session); !wayOut.empty()) return wayOut;
   if (!s.LastResults) return "Ready";
-  return RunInShort(*s.LastResults) + (s.StopAnswer != 0 ? ", stopped: Replot draws what was done" : "");
+  return RunInShort(*s.LastResults) + FoldWords(session) +
+         (s.StopAnswer != 0 ? ", stopped: Replot draws what was done" : "");
 }
 
 }  // namespace lumivex

@@ -88,11 +88,13 @@ void ShowPage(Session& session, Page page) {
 }
 
 void RenewLook(Session& session) {
+  // The colours of cells are made of what they hold.
+  if (session.page.map && session.state.Busy == 0 && session.events.Raise("Map_Recoloured")) return;
   ShowPage(session, WithLook(session.page, ReadLook(session)));
 }
 
-void RecolourBars(Session& session) {
-  if (session.page.bars && session.state.Busy == 0) RenewLook(session);
+void RecolourPage(Session& session) {
+  if ((session.page.bars || session.page.map) && session.state.Busy == 0) RenewLook(session);
 }
 
 void ShowView(Session& session, const PageView& view) {

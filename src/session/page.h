@@ -18,9 +18,9 @@ void ShowPage(Session& session, Page page);
 /// limits stay.
 void RenewLook(Session& session);
 
-/// Draws the bars of the page anew, with the brightness, the saturation, the gamma and the scale that are set now; a
-/// page without bars stays as it is.
-void RecolourBars(Session& session);
+/// Draws the bars or the cells of the page anew, with the brightness, the saturation, the gamma and the scale that are
+/// set now; a page without either stays as it is.
+void RecolourPage(Session& session);
 
 /// Keeps the reference of the bars on show, and its unit, for later ones (BarReference); without bars none.
 void TakeBarReference(Session& session);

@@ -4,6 +4,7 @@
 #include <random>
 
 #include "pages/build_page.h"
+#include "record/catalogue/map_inputs.h"
 #include "record/layout/menu_tree.h"
 #include "scripts/script_commands.h"
 #include "session/inputs/graph_types.h"
@@ -216,7 +217,19 @@ class AnyUser : public ScriptedSession, public ::testing::WithParamInterface<uns
     // Half of all graphs take one method alone.
     if (OneIn(4)) UserChooses(Now(), form.cboType, "Mie");
     UserTypes(Now(), form.cboStep, angles || logSteps ? "10" : OneIn(2) ? "20" : "0.05");
+    if (const MapInputs* map = FindMapInputs(ChosenGraph(Now().state))) HealMap(*map);
     return "heal";
+  }
+
+  /// A map with the start values of its graph, and few cells.
+  void HealMap(const MapInputs& map) {
+    auto& form = Now().form1;
+    const Graph& graph = ChosenGraph(Now().state);
+    for (const auto rows : {MapStarts(), SweepStarts()})
+      for (const ControlText& row : rows)
+        if (row.IsOf(graph)) UserTypes(Now(), *form.Find(row.control), row.text);
+    UserTypes(Now(), map.further ? form.txtF9_step : form.txtRstep, "3");
+    UserTypes(Now(), form.cboStep, graph.ColumnsOfAngles() ? "0.5" : "4");
   }
 
   std::mt19937 random_;

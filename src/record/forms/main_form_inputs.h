@@ -46,6 +46,7 @@ struct Form1Inputs : Form {
   TextInput txtRadius{*this, "txtRadius", "10", "Radius of the sphere in micrometres"};
   Label Label24{*this, "Label24", "Maximum radius"};
   TextInput txtRmax{*this, "txtRmax", "20", "Largest radius of the size axis in micrometres"};
+  Label lblRstep{*this, "lblRstep", "No. of steps"};
   TextInput txtRstep{*this, "txtRstep", "4", "Number of steps of the size axis"};
   List cboDistrib{*this, "cboDistrib", Fixed, "Log-normal", "Size distribution"};
   Label Label11{*this, "Label11", "Std Dev %"};

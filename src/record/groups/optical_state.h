@@ -24,6 +24,7 @@ struct OpticalState {
   double Qsca = 0;              ///< scattering efficiency
   double Qback = 0;             ///< |S1(180)|^2 / (pi x^2)
   double Gsca = 0;              ///< asymmetry parameter, mean cosine of the scattering angle
+  std::string KeptMediumLabel;  ///< label of the medium before a map varied its index
   std::string KeptSphereLabel;  ///< label and name of the sphere before a graph varied its index
   std::string KeptSphereName;
   double IncidentDensity = 100;   ///< of the light (W/m2)
@@ -54,6 +55,7 @@ void ForEachField(Group& g, Visitor&& visit) {
   visit("Qsca", g.Qsca);
   visit("Qback", g.Qback);
   visit("Gsca", g.Gsca);
+  visit("KeptMediumLabel", g.KeptMediumLabel);
   visit("KeptSphereLabel", g.KeptSphereLabel);
   visit("KeptSphereName", g.KeptSphereName);
   visit("IncidentDensity", g.IncidentDensity);

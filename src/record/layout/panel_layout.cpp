@@ -21,7 +21,7 @@ constexpr LayoutLine calculationLines[] = {
     {{"Label26", "cboLee"}},
 };
 constexpr LayoutLine sizeLines[] = {
-    {{"optMono", "optDisp"}}, {{"Label7", "txtRadius"}}, {{"Label24", "txtRmax"}}, {{"txtRstep"}},
+    {{"optMono", "optDisp"}}, {{"Label7", "txtRadius"}}, {{"Label24", "txtRmax"}}, {{"lblRstep", "txtRstep"}},
     {{"cboDistrib"}},         {{"Label11", "cboSD"}},    {{"Label13", "cboN"}},
 };
 constexpr LayoutLine lightLines[] = {

@@ -10,6 +10,7 @@
 #include "session/checks/check.h"
 #include "session/checks/number_input.h"
 #include "session/driver/array_size.h"
+#include "session/inputs/map_inputs.h"
 #include "session/inputs/methods/rays_check.h"
 #include "session/inputs/sizes/read_sizes.h"
 
@@ -60,13 +61,14 @@ Verdict FurtherAxisRange(Check& check) {
   auto& form = check.form;
   const Graph& graph = ChosenGraph(check.state);
   const bool impulse = graph.family == Family::Impulse;
-  if (!impulse && graph.family != Family::EfficiencyMap) return Verdict::GoOn;
+  if (!impulse && !graph.IsMap()) return Verdict::GoOn;
   const double low = Val(form.txtF9_min.Text), high = Val(form.txtF9_max.Text);
   if (low >= high)
     return Refuse(check, {&form.txtF9_min, &form.txtF9_max}, "Minimum value must be less than maximum value");
   if (low < 0 && !impulse) return Refuse(check, {&form.txtF9_min}, "Value must be positive or zero");
   if (high <= 0) return Refuse(check, {&form.txtF9_max}, "Value must be positive");
-  if (Val(form.txtF9_fixed.Text) < 0) return Refuse(check, {&form.txtF9_fixed}, "Value must be positive or zero");
+  if (form.txtF9_fixed.Visible && Val(form.txtF9_fixed.Text) < 0)
+    return Refuse(check, {&form.txtF9_fixed}, "Value must be positive or zero");
   if (graph.MapsIndexAndSize() && Val(form.txtF9_step.Text) <= 1)
     return Refuse(check, {&form.txtF9_step}, "Number of steps must be greater than 1");
   return Verdict::GoOn;
@@ -122,6 +124,42 @@ bool MethodNumbers(Check& check) {
   return DistributionNumbers(check);
 }
 
+/// The angle of graphs at one angle.
+Verdict AngleOfPoint(Check& check) {
+  auto& form = check.form;
+  auto& session = check.session;
+  const MapInputs* map = FindMapInputs(ChosenGraph(check.state));
+  const bool asked = map != nullptr ? map->angle : IsAxisGraph(check.state) && form.txtAngle.Visible;
+  if (!asked) return Verdict::GoOn;
+  if (!getval(session, form.txtAngle, largestInput, NumberSign::Any)) return Verdict::End;
+  const double angle = Val(form.txtAngle.Text);
+  if (angle < 0) return Refuse(check, {&form.txtAngle}, "Scattering angle < 0");
+  if (angle > 180) return Refuse(check, {&form.txtAngle}, "Scattering angle > 180");
+  return Verdict::GoOn;
+}
+
+/// What a map sweeps and what it holds still. Indices and sizes that are held are those of a sphere; a radius is one.
+bool MapNumbers(Check& check) {
+  auto& form = check.form;
+  auto& session = check.session;
+  const MapInputs* map = FindMapInputs(ChosenGraph(check.state));
+  if (map == nullptr) return true;
+  if (map->size == SizeField::Angle && !getval(session, form.txtAngle, largestInput, NumberSign::Positive))
+    return false;
+  const auto limitOf = [](Swept quantity) {
+    const bool sizes = quantity == Swept::Radius || quantity == Swept::SizeParameter || quantity == Swept::Wavelength;
+    return sizes ? largestInput : largestIndex;
+  };
+  const bool clear = map->held == Swept::SphereAbsorption;
+  if (map->held && !getval(session, form.txtF9_fixed, limitOf(*map->held),
+                           clear ? NumberSign::PositiveOrZero : NumberSign::Positive))
+    return false;
+  const SweptQuantities& swept = *FindSwept(ChosenGraph(check.state));
+  TextInput& highest = map->further ? form.txtF9_max : form.txtRmax;
+  return getval(session, highest, limitOf(swept.columns), NumberSign::Positive) &&
+         (!swept.rows || getval(session, form.txtXmax, limitOf(*swept.rows), NumberSign::Positive));
+}
+
 }  // namespace
 
 Verdict DecimalCommas(Check& check) {
@@ -158,12 +196,7 @@ Verdict NumericInputs(Check& check) {
   if (!MethodNumbers(check)) return Verdict::End;
   check.Xmin = Val(form.txtXmin.Text);
   check.Xmax = Val(form.txtXmax.Text);
-  if (!IsAxisGraph(check.state) || !form.txtAngle.Visible) return Verdict::GoOn;
-  if (!getval(session, form.txtAngle, largestInput, NumberSign::Any)) return Verdict::End;
-  const double angle = Val(form.txtAngle.Text);
-  if (angle < 0) return Refuse(check, {&form.txtAngle}, "Scattering angle < 0");
-  if (angle > 180) return Refuse(check, {&form.txtAngle}, "Scattering angle > 180");
-  return Verdict::GoOn;
+  return MapNumbers(check) ? AngleOfPoint(check) : Verdict::End;
 }
 
 Verdict LeeDiagramAxis(Check& check) {
@@ -203,6 +236,24 @@ Verdict WavelengthAxis(Check& check) {
   return CheckAxis(check, {"Minimum value of wavelength must be less than maximum value", "Wavelength must be > 0"});
 }
 
+Verdict MapSize(Check& check) {
+  auto& form = check.form;
+  const Graph& graph = ChosenGraph(check.state);
+  const MapInputs* inputs = FindMapInputs(graph);
+  if (inputs == nullptr) return Verdict::GoOn;
+  TextInput& steps = StepsField(form, *inputs);
+  const auto countable = [](double count) { return count >= 1 && count == Int(count); };
+  const double columns = ColumnSteps(check.session, *inputs), step = Val(form.cboStep.Text);
+  if (!countable(columns)) return Refuse(check, {&steps}, "Number of steps must be 1 or more");
+  const bool cells = graph.family == Family::EfficiencyMap;
+  if (cells && !countable(step)) return Refuse(check, {&form.cboStep}, "Number of steps must be 1 or more");
+  const double finest = 180.0 / (mostSpectrumRows - 1);
+  const double rows = cells ? step + 1 : (check.Xmax - check.Xmin + 0.5) / std::max(step, finest) + 1;
+  if (rows * (columns + 1) > mostMapCells)
+    return Refuse(check, {&steps, &form.cboStep}, "Increase the step size or reduce the maximum/minimum range");
+  return Verdict::GoOn;
+}
+
 Verdict LeeSteps(Check& check) {
   auto& form = check.form;
   if (ChosenGraph(check.state).family != Family::Lee) return Verdict::GoOn;
@@ -229,7 +280,8 @@ Verdict AxisStepCount(Check& check) {
 }
 
 Verdict AngularStep(Check& check) {
-  if (!ChosenGraph(check.state).AgainstAngle()) return Verdict::GoOn;
+  const Graph& graph = ChosenGraph(check.state);
+  if (!graph.AgainstAngle() && !graph.ColumnsOfAngles()) return Verdict::GoOn;
   auto& list = check.form.cboStep;
   const double step = Val(list.Text);
   if (!(step > 0)) return Refuse(check, {&list}, "Step size must be greater than zero");
@@ -237,6 +289,7 @@ Verdict AngularStep(Check& check) {
   const double steps = 90 / step;
   if (steps - Int(steps) > submultipleTolerance) return Refuse(check, {&list}, "Must be a sub-multiple of 90 degrees");
   if (2 * steps + 1 > mostAngleRows) return Refuse(check, {&list}, "Select a larger step size");
+  if (!graph.AgainstAngle()) return Verdict::GoOn;
   // What is stored of several wavelengths must fit into the memory of any computer in use.
   const double rows = (check.Xmax - check.Xmin) / std::max(step, 180.0 / (mostSpectrumRows - 1)) + 1;
   if (check.state.NumberWavelengths > 1 && rows * check.state.NumberWavelengths > mostSpectrumValues)
@@ -245,7 +298,8 @@ Verdict AngularStep(Check& check) {
 }
 
 Verdict AngleScale(Check& check) {
-  if (!ChosenGraph(check.state).AgainstAngle()) return Verdict::GoOn;
+  const Graph& graph = ChosenGraph(check.state);
+  if (!graph.AgainstAngle() && !graph.ColumnsOfAngles()) return Verdict::GoOn;
   auto& form = check.form;
   const auto refuse = [&](std::string_view text) { return Refuse(check, {&form.txtXmin, &form.txtXmax}, text); };
   if (form.mnuPlaneWave.Checked) {

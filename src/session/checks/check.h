@@ -68,6 +68,7 @@ Verdict SizeAxis(Check& check);
 Verdict WavelengthAxis(Check& check);
 Verdict SunOnlyAgainstAngle(Check& check);
 Verdict LeeSteps(Check& check);
+Verdict MapSize(Check& check);
 Verdict LeeSpecialDistribution(Check& check);
 Verdict AxisStepCount(Check& check);
 Verdict VolumeAxis(Check& check);

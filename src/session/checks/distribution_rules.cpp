@@ -5,8 +5,37 @@
 
 #include "record/number_text.h"
 #include "session/checks/check.h"
+#include "session/checks/range_check.h"
 
 namespace lumivex {
+
+namespace {
+
+/// Most and fewest steps of an axis that three standard deviations may span.
+std::string TroubleWithWidth(double relativeSD, double ratio, double steps) {
+  constexpr double deviations = 3;
+  // Without a ratio no deviation would do; the rules on the axis say what is wrong with it.
+  if (!(ratio > 1) || !std::isfinite(ratio)) return "";
+  const double stepsWide = deviations * relativeSD / (ratio - 1);
+  if (stepsWide > steps) return "Reduce the Standard Deviation";
+  if (stepsWide >= deviations) return "";
+  const double least = ((ratio - 1) + 0.001) * 100;
+  return "Increase the Standard Deviation to at least " + Significant(RoundDecimals(least, 1), 15) + "%";
+}
+
+}  // namespace
+
+bool SizesFitColumns(Session& session) {
+  auto& form = session.form1;
+  const auto& results = session.state.LastResults;
+  if (!form.optDisp.Checked || !results || results->asked.graph.family != Family::Lee) return true;
+  const Sweep& columns = std::get<AngleMapRun>(results->asked.run).columns;
+  if (!columns.geometric) return true;
+  const double ratio = std::pow(columns.high / columns.low, 1.0 / columns.steps);
+  const std::string trouble = TroubleWithWidth(Val(form.cboSD.Text) / 100, ratio, columns.steps);
+  if (!trouble.empty()) session.platform.Message(std::string(inputError), trouble);
+  return trouble.empty();
+}
 
 Verdict DistributionWidth(Check& check) {
   auto& form = check.form;
@@ -28,14 +57,8 @@ Verdict DistributionWidth(Check& check) {
   if (!wide || !form.mnuXStepLog.Checked || !IsAxisGraph(s) || volume) return Verdict::GoOn;
   const double steps = Val(form.cboStep.Text);
   const double ratio = std::pow(Val(form.txtXmax.Text) / Val(form.txtXmin.Text), 1 / steps);
-  // Without a ratio no deviation would do; the rules on the axis say what is wrong with it.
-  if (!(ratio > 1) || !std::isfinite(ratio)) return Verdict::GoOn;
-  const double stepsWide = deviations * s.RelativeSD / (ratio - 1);
-  if (stepsWide > steps) return refuse("Reduce the Standard Deviation");
-  if (stepsWide < deviations) {
-    const double least = ((ratio - 1) + 0.001) * 100;
-    return refuse("Increase the Standard Deviation to at least " + Significant(RoundDecimals(least, 1), 15) + "%");
-  }
+  const std::string trouble = TroubleWithWidth(s.RelativeSD, ratio, steps);
+  if (!trouble.empty()) return refuse(trouble);
   return Verdict::GoOn;
 }
 

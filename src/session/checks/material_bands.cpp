@@ -84,33 +84,38 @@ bool MaterialBand::Holds(double lowest, double highest) const {
 std::vector<MaterialBand> BandsInUse(const Session& session) {
   const Form1& form = session.form1;
   const auto& s = session.state;
+  // A material whose index a map varies has no say.
+  const Graph& graph = ChosenGraph(s);
+  const bool sphere = !graph.InColour() || !graph.VariesIndex(), medium = !graph.VariesMedium();
   std::vector<MaterialBand> bands;
   for (const WaterModel& model : WaterModels()) {
-    const bool inSphere = (form.*model.sphere).Checked;
-    const bool around = model.medium != nullptr && (form.*model.medium).Checked;
+    const bool inSphere = sphere && (form.*model.sphere).Checked;
+    const bool around = medium && model.medium != nullptr && (form.*model.medium).Checked;
     if (inSphere || around)
       bands.push_back({model.low, model.high, model.name, std::string(waterTitle), model.one, model.range,
                        inSphere && model.sphere == &Form1Menus::mnuRI_IAPWS});
   }
-  if (form.mnuRI_File1.Checked) bands.push_back(BandOfFile(s.FileFirst1, s.FileLast1, s.FileName1));
-  if (form.mnuRI_File2.Checked) bands.push_back(BandOfFile(s.FileFirst2, s.FileLast2, s.FileName2));
+  if (sphere && form.mnuRI_File1.Checked) bands.push_back(BandOfFile(s.FileFirst1, s.FileLast1, s.FileName1));
+  if (medium && form.mnuRI_File2.Checked) bands.push_back(BandOfFile(s.FileFirst2, s.FileLast2, s.FileName2));
   for (const Metal& metal : metals)
-    if ((form.*metal.entry).Checked) bands.push_back(BandOfMetal(metal.name));
+    if (sphere && (form.*metal.entry).Checked) bands.push_back(BandOfMetal(metal.name));
   return bands;
 }
 
 WavelengthRange RangeOfRun(const Session& session) {
   const Form1& form = session.form1;
   if (ChosenGraph(session.state).WavelengthAxis())
-    return {Val(form.txtXmin.Text) / 1000, Val(form.txtXmax.Text) / 1000, true};
+    return {Val(form.txtXmin.Text) / 1000, Val(form.txtXmax.Text) / 1000, true, false};
+  if (ChosenGraph(session.state).SweepsWavelength())
+    return {Val(form.txtF9_min.Text) / 1000, Val(form.txtF9_max.Text) / 1000, false, true};
   if (session.state.NumberWavelengths <= 1) return {};
-  if (form.cboWave.Text == "RGB") return {0.44, 0.65, false};
+  if (form.cboWave.Text == "RGB") return {0.44, 0.65};
   const auto& band = session.forms.dlogSpectrumBand;
-  return {Val(band.txtSpectrumMin.Text) / 1000, Val(band.txtSpectrumMax.Text) / 1000, false};
+  return {Val(band.txtSpectrumMin.Text) / 1000, Val(band.txtSpectrumMax.Text) / 1000};
 }
 
 std::string WayOutOfBand(const Session& session) {
-  if (!ChosenGraph(session.state).WavelengthAxis()) return "";
+  if (!ChosenGraph(session.state).SweepsWavelength()) return "";
   const WavelengthRange range = RangeOfRun(session);
   double low = 0, high = 1e30;
   std::string beyond;
@@ -123,9 +128,10 @@ std::string WayOutOfBand(const Session& session) {
     formula = formula || band.sphereFormula;
   }
   if (beyond.empty()) return "";
-  std::string text = session.form1.Frame2.Caption + ": " + beyond + " is known from " + Significant(1000 * low, 6) +
-                     " to " + Significant(1000 * high, 6) + " nm";
-  if (high <= low) text = session.form1.Frame2.Caption + ": " + beyond + " is not known there";
+  const std::string& axis = range.onFurther ? session.form1.Frame9.Caption : session.form1.Frame2.Caption;
+  std::string text = axis + ": " + beyond + " is known from " + Significant(1000 * low, 6) + " to " +
+                     Significant(1000 * high, 6) + " nm";
+  if (high <= low) text = axis + ": " + beyond + " is not known there";
   if (formula) text += "; Segelstein's water from 10 nm to 10 m";
   return text;
 }

@@ -29,7 +29,8 @@ std::vector<MaterialBand> BandsInUse(const Session& session);
 struct WavelengthRange {
   double low = 0, high = 0;  ///< um
   bool onAxis = false;       ///< typed as the limits of the axis
-  bool Any() const { return onAxis || high > 0; }
+  bool onFurther = false;    ///< typed as those of a map's columns
+  bool Any() const { return onAxis || onFurther || high > 0; }
 };
 
 /// Those of the axis, or of the spectrum; 0 to 0 for a run at one wavelength.

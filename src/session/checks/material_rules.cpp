@@ -16,6 +16,7 @@ namespace {
 Verdict RefuseRange(Check& check, const WavelengthRange& range, const std::string& text, std::string_view title) {
   auto& form = check.form;
   if (range.onAxis) return Refuse(check, {&form.txtXmin, &form.txtXmax}, text, title);
+  if (range.onFurther) return Refuse(check, {&form.txtF9_min, &form.txtF9_max}, text, title);
   return Refuse(check, {&form.lblSpectrumBand}, text, title);
 }
 
@@ -37,7 +38,8 @@ Verdict ExchangeWater(Check& check) {
 }  // namespace
 
 Verdict SellmeierLimits(Check& check) {
-  if (!check.form.mnuRI_Formula.Checked) return Verdict::GoOn;
+  const Graph& graph = ChosenGraph(check.state);
+  if (!check.form.mnuRI_Formula.Checked || (graph.InColour() && graph.VariesIndex())) return Verdict::GoOn;
   const WavelengthRange range = RangeOfRun(check.session);
   if (!range.Any()) return Verdict::GoOn;  // a single wavelength is told when its index is looked up
   const SellmeierChoice& chosen = check.state.Sellmeier;
@@ -57,7 +59,8 @@ Verdict SellmeierLimits(Check& check) {
 
 Verdict SingleWavelengthBand(Check& check) {
   auto& form = check.form;
-  if (check.state.NumberWavelengths != 1 || HasWavelengthAxis(check.state) || !IsNumber(form.txtLambda.Text))
+  if (check.state.NumberWavelengths != 1 || ChosenGraph(check.state).SweepsWavelength() ||
+      !IsNumber(form.txtLambda.Text))
     return Verdict::GoOn;
   const double lambda = Val(form.txtLambda.Text);
   if (!(lambda > 0)) return Verdict::GoOn;  // told by the rule on numbers

@@ -44,7 +44,7 @@ bool Takes(const Graph& graph, const MethodTraits& method) {
     case MethodsTaken::Any:
       break;
   }
-  return !method.angleOnly || !graph.AgainstAxis();
+  return !method.angleOnly || !(graph.AgainstAxis() || graph.InColour());
 }
 
 /// What is told of a method that the graph does not take.

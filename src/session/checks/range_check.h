@@ -11,4 +11,8 @@ namespace lumivex {
 /// @param Xmin, Xmax, Ymin, Ymax  written with the limits as numbers; Ymin, Ymax only where not "Automatic".
 void RangeCheck(Session& session, double& Xmin, double& Xmax, double& Ymin, double& Ymax, int& abort);
 
+/// Whether a size distribution can be folded into the Lee diagram of the last results: its width must fit the steps of
+/// the radius. Tells why not.
+bool SizesFitColumns(Session& session);
+
 }  // namespace lumivex

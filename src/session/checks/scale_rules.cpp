@@ -49,7 +49,7 @@ Verdict CubicInterpolation(Check& check) {
 
 Verdict SunOnlyAgainstAngle(Check& check) {
   const Graph& graph = ChosenGraph(check.state);
-  if (!check.form.optSun.Checked || graph.OfAngles() || graph.family == Family::Lee) return Verdict::GoOn;
+  if (!check.form.optSun.Checked || graph.OfAngles() || graph.ColumnsOfAngles()) return Verdict::GoOn;
   check.form.optPoint.Select();
   return Warn(check, "Point source only for these calculations", "Input parameters");
 }
@@ -70,6 +70,8 @@ Verdict SunResolution(Check& check) {
 
 Verdict AmplitudeScale(Check& check) {
   auto& form = check.form;
+  // Pictures have colours in place of a vertical scale.
+  if (ChosenGraph(check.state).InColour()) return Verdict::GoOn;
   const bool minGiven = form.cboYmin.Text != automaticLimit, maxGiven = form.cboYmax.Text != automaticLimit;
   if (!minGiven && !maxGiven) return Verdict::GoOn;
   if (minGiven) check.Ymin = Val(form.cboYmin.Text);

@@ -9,6 +9,7 @@
 #include "record/number_text.h"
 #include "session/checks/check.h"
 #include "session/checks/material_bands.h"
+#include "session/inputs/map_inputs.h"
 #include "session/inputs/materials/read_material.h"
 #include "session/inputs/methods/sphere_size.h"
 #include "session/inputs/sizes/read_sizes.h"
@@ -37,6 +38,37 @@ struct Sizes {
   double Parameter(double size, double lambda) const { return parameters ? size : twoPi * size / lambda; }
 };
 
+Sizes SizesOfMap(const Session& session, const MapInputs& map, double radius) {
+  const Graph& graph = ChosenGraph(session.state);
+  const double medium = MediumIndexInUse(session);
+  if (const auto held = HeldValue(session, Swept::SizeParameter)) return {*held / medium, *held / medium, true};
+  if (map.size != SizeField::None) return {radius, radius, false};
+  if (FindSwept(graph)->rows == Swept::SizeParameter) {
+    const Sweep rows = ReadRows(session, graph);
+    return {rows.low / medium, rows.high / medium, true};
+  }
+  const Sweep columns = ReadColumns(session, graph);
+  return {columns.low, columns.high, false};
+}
+
+/// The indices of the sphere of a map: its material's, but for those that are swept or held still.
+struct IndexBounds {
+  IndexValue low, high;
+};
+
+IndexBounds IndicesOfMap(const Session& session, const IndexValue& base) {
+  const Graph& graph = ChosenGraph(session.state);
+  const SweptQuantities& swept = *FindSwept(graph);
+  IndexBounds bounds{base, base};
+  const auto move = [&](Swept quantity, const Sweep& sweep) {
+    if (quantity == Swept::SphereIndex) bounds.low.n = sweep.low, bounds.high.n = sweep.high;
+    if (quantity == Swept::SphereAbsorption) bounds.low.k = sweep.low, bounds.high.k = sweep.high;
+  };
+  move(swept.columns, ReadColumns(session, graph));
+  if (swept.rows) move(*swept.rows, ReadRows(session, graph));
+  return bounds;
+}
+
 Sizes SizesOfRun(const Session& session) {
   const Form1& form = session.form1;
   const Graph& graph = ChosenGraph(session.state);
@@ -47,6 +79,7 @@ Sizes SizesOfRun(const Session& session) {
     return {low / scale, high / scale, parameters};
   }
   const double radius = SphereRadius(session);
+  if (const MapInputs* map = FindMapInputs(graph)) return SizesOfMap(session, *map, radius);
   if (form.txtRadius.Visible) return {radius, radius, false};
   const CloudSamples samples = SamplesOf(ChosenSizes(session), radius);
   return {samples.lowest, samples.highest, false};
@@ -57,19 +90,22 @@ Sizes SizesOfRun(const Session& session) {
 SphereOfRun BoundsOfRun(const Session& session) {
   const Form1& form = session.form1;
   const Sizes sizes = SizesOfRun(session);
-  const Material material = SphereMaterial(session);
-  const bool shown = !RangeOfRun(session).Any() && form.txtRefractImag.Visible;
+  const Material material = SphereOfGraph(session);
+  const bool map = FindMapInputs(ChosenGraph(session.state)) != nullptr;
+  const bool shown = !map && !RangeOfRun(session).Any() && form.txtRefractImag.Visible;
   SphereOfRun bounds;
   bool first = true;
   for (const double lambda : WavelengthsOfRun(session)) {
     IndexValue index{Val(form.txtRefractReal.Text), Val(form.txtRefractImag.Text)};
     if (!shown) index = IndexAt(material, lambda).value.value_or(IndexValue{0, 0});
-    const double parameter = sizes.Parameter(sizes.smallest, lambda), absorption = index.k * parameter;
+    const IndexBounds indices = map ? IndicesOfMap(session, index) : IndexBounds{index, index};
+    const double parameter = sizes.Parameter(sizes.smallest, lambda), absorption = indices.low.k * parameter;
     const double ratio = sizes.parameters ? twoPi / sizes.largest : lambda / sizes.largest;
-    if (std::exchange(first, false)) bounds = {index.n, index.k, index.k, absorption, ratio, parameter};
-    bounds.lowestN = std::min(bounds.lowestN, index.n);
-    bounds.lowestK = std::min(bounds.lowestK, index.k);
-    bounds.highestK = std::max(bounds.highestK, index.k);
+    if (std::exchange(first, false))
+      bounds = {indices.low.n, indices.low.k, indices.high.k, absorption, ratio, parameter};
+    bounds.lowestN = std::min(bounds.lowestN, indices.low.n);
+    bounds.lowestK = std::min(bounds.lowestK, indices.low.k);
+    bounds.highestK = std::max(bounds.highestK, indices.high.k);
     bounds.leastAbsorption = std::min(bounds.leastAbsorption, absorption);
     bounds.wavelengthsPerRadius = std::min(bounds.wavelengthsPerRadius, ratio);
     bounds.leastParameter = std::min(bounds.leastParameter, parameter);
@@ -80,6 +116,14 @@ SphereOfRun BoundsOfRun(const Session& session) {
 bool DropAbsorption(Session& session) {
   auto& form = session.form1;
   auto& forms = session.forms;
+  const Graph& graph = ChosenGraph(session.state);
+  if (graph.InColour() && graph.VariesIndex()) {
+    // A sweep through absorbing spheres is nothing without them.
+    const SweptQuantities& swept = *FindSwept(graph);
+    if (swept.columns == Swept::SphereAbsorption || swept.rows == Swept::SphereAbsorption) return false;
+    (FindMapInputs(graph)->absorption ? form.txtRefractImag : form.txtF9_fixed).Text = "0";
+    return true;
+  }
   const Material material = SphereMaterial(session);
   if (std::holds_alternative<MetalFilm>(material) || std::holds_alternative<IndexFromFile>(material)) return false;
   if (const auto* dielectric = std::get_if<FixedDielectric>(&material)) {

@@ -73,7 +73,9 @@ void OfferCommands(Session& session) {
   form.cmdReplot.Visible = HasRun(s);
   form.cmdReplot.Enabled = HasRun(s);
   form.cmdOverPlot.Visible = HasRun(s);
-  form.cmdOverPlot.Enabled = HasRun(s) && single;
+  // Pictures lie over nothing.
+  const bool picture = HasRun(s) && s.LastResults->asked.graph.InColour();
+  form.cmdOverPlot.Enabled = HasRun(s) && single && !picture && !ChosenGraph(s).InColour();
 }
 
 /// What was calculated counts, whatever the list says by now.
@@ -126,6 +128,7 @@ void cmdReplot_Click(Session& session) {
   s.NumberWavelengths = s.ResultWavelengths;
   double Xmin = s.Xmin, Xmax = s.Xmax, Ymin = s.Ymin, Ymax = s.Ymax;
   RangeCheck(session, Xmin, Xmax, Ymin, Ymax, s.CommandAborted);
+  if (s.CommandAborted == 0 && !SizesFitColumns(session)) s.CommandAborted = 1;
   if (s.CommandAborted != 0) {
     // Colours and sizes are no matter of the inputs.
     RenewLook(session);

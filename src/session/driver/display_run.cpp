@@ -4,6 +4,7 @@
 
 #include "pages/build_page.h"
 #include "pages/frame/colours.h"
+#include "session/driver/fold_sizes.h"
 #include "session/inputs/look/read_look.h"
 #include "session/page.h"
 
@@ -25,13 +26,28 @@ void DisplayRun(Session& session, Onto onto) {
   session.platform.Yield();
   if (!s.LastResults || s.PlotMode == stopRequested) return;
   const Look look = ReadLook(session);
-  const PageGeometry geometry = GeometryOf(session);
   s.SecondLineColour = LineColour(look.pen, s.LastResults->asked.light.lambda).second;
+  const auto shown = WithSizesFolded(session);
   if (onto == Onto::PageOnScreen || s.OverplotFromFile == 1)
-    ShowPage(session, DrawOver(PlacePage(session.page, geometry), *s.LastResults, look));
+    ShowPage(session, DrawOver(PlacePage(session.page, GeometryOf(session)), *shown, look));
   else
-    ShowPage(session, InView(BuildPage(*s.LastResults, look, geometry, s), session.page, look));
+    DrawResults(session, *shown);
   s.PlotMode = over;
+}
+
+void RedrawMap(Session& session) {
+  const auto& results = session.state.LastResults;
+  // A run of another kind that was stopped leaves the page of the map before.
+  const bool shown = results && results->Find<MapFound>() != nullptr && results->asked.graph == session.page.kind.graph;
+  if (shown)
+    DrawResults(session, *WithSizesFolded(session));
+  else
+    ShowPage(session, WithLook(session.page, ReadLook(session)));
+}
+
+void DrawResults(Session& session, const Results& results) {
+  const Look look = ReadLook(session);
+  ShowPage(session, InView(BuildPage(results, look, GeometryOf(session), session.state), session.page, look));
 }
 
 }  // namespace lumivex

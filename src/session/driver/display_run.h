@@ -1,6 +1,7 @@
 #pragma once
 
 #include "record/session.h"
+#include "runs/results.h"
 
 namespace lumivex {
 
@@ -10,5 +11,12 @@ enum class Onto { FreshPage, PageOnScreen };
 /// Shows the last results, a curve read from a file always over the page on the screen. Yields first; where that
 /// brings a Stop, the old page stays.
 void DisplayRun(Session& session, Onto onto);
+
+/// Makes the page of the last results anew where it is a map, with the look that is asked for now; any other page has
+/// its look renewed.
+void RedrawMap(Session& session);
+
+/// Shows results on a page of their own, without a yield: those of the part of a run that is done.
+void DrawResults(Session& session, const Results& results);
 
 }  // namespace lumivex

@@ -66,9 +66,27 @@ double FittedSeconds(const RunRequest& request, const AngleRows& rows) {
   return q * 0.1 * (4.2380146 + 1.2130768 * std::log(S));
 }
 
+/// The fits of a Lee diagram: a term a column, and a factor for the range of angles.
+double FittedSeconds(const RunRequest& request, const AngleMapRun& map) {
+  const double range = map.rows.xmax - map.rows.xmin, S = range / map.rows.step;
+  const double spheres = static_cast<double>(request.Wavelengths()) * SizesOf(request);
+  const bool debye = request.method.method == Method::Debye;
+  double columns = 0;
+  for (int column = 0; column < map.columns.Count(); ++column) {
+    const double r = map.columns.quantity == Swept::Radius ? map.columns.At(column) : request.particle.radius;
+    columns += debye ? (7.76814 + 1.81405 * r + 1.369248e-5 * r * r) * S / 18000
+                     : (5.3394821 + 0.9759082 * r - 8.895773e-5 * r * r + 7.10891e-8 * r * r * r) * S / 6000;
+  }
+  const double terms =
+      debye ? static_cast<double>(std::ranges::count_if(request.method.rays, [](int p) { return p; })) : 1;
+  const double decades = std::log10(range / 10);
+  return columns * (1 + 0.42613778 * std::pow(decades, 4)) * 0.65 / TypicalWavelength(request) * spheres * terms;
+}
+
 }  // namespace
 
 double ReferenceSeconds(const RunRequest& request) {
+  if (const auto* map = std::get_if<AngleMapRun>(&request.run)) return FittedSeconds(request, *map);
   if (const AngleRows* rows = RowsOf(request.run)) return FittedSeconds(request, *rows);
   // What the fit gives for a term of a pair of angles of the first plot's sphere.
   constexpr double secondsPerPairTerm = 2e-5;

@@ -7,6 +7,7 @@
 #include "pages/run_words.h"
 #include "runs/run.h"
 #include "session/driver/keep_curves.h"
+#include "session/driver/keep_map.h"
 #include "session/inputs/light/wavelength_list.h"
 #include "session/inputs/look/read_look.h"
 #include "session/inputs/materials/refractive_index.h"
@@ -184,8 +185,17 @@ struct KeepFound {
     session.state.MapPerp = found.first;
     session.state.MapPar = found.second;
   }
-  void operator()(const MapFound&) const {
-    if (const AngleRows* rows = RowsOf(results.asked.run)) KeepRows(session.state, *rows);
+  void operator()(const MapFound& found) const {
+    auto& s = session.state;
+    if (const AngleRows* rows = RowsOf(results.asked.run)) {
+      KeepRows(s, *rows);
+    } else {
+      const Sweep& rowsSwept = std::get<EfficiencyMapRun>(results.asked.run).rows;
+      KeepPoints(s, rowsSwept.low, rowsSwept.high, rowsSwept.steps, rowsSwept.Count());
+    }
+    KeepMap(s, results, found);
+    // A map has one scale unless the user asks for one a column.
+    if (results.asked.graph.IsMap()) session.form1.cboLee.Text = "Absolute";
   }
 };
 
@@ -193,6 +203,8 @@ struct KeepFound {
 
 void KeepResults(Session& session, Results&& kept) {
   auto& s = session.state;
+  // Views of the results before.
+  static_cast<LeeResults&>(s) = {};
   s.LastResults = std::make_shared<const Results>(std::move(kept));
   const Results& results = *s.LastResults;
   s.PrevGraphType = s.GraphType;
@@ -200,8 +212,10 @@ void KeepResults(Session& session, Results&& kept) {
   s.ResultMethod = s.CalcMethod;
   s.LastRunSeconds = results.seconds;
   s.YAxisMode = 0;
-  // The inputs of the index show what was used: of an axis or a spectrum that of the last wavelength.
-  RefRel(session, results.last.lambda, LookupVoice::Quiet);
+  // The inputs of the index show what was used: of an axis or a spectrum that of the last wavelength. Where a map
+  // sweeps it they stay the user's.
+  if (!results.asked.graph.InColour() || !results.asked.graph.VariesIndex())
+    RefRel(session, results.last.lambda, LookupVoice::Quiet);
   KeepSphere(s, results);
   KeepSeries(s, results.last);
   KeepRays(s, results);

@@ -48,7 +48,8 @@ void Tell(Session& session, const Refusal& refusal) {
 
 void Overplot(Session& session, const RunRequest& request, Onto onto) {
   auto& s = session.state;
-  SessionWatch watch(session);
+  SessionWatch watch(session, request);
+  const Page before = session.page;
   ShowRunning(session);
   RunEnd end = Run(request, watch, session.platform.Threads());
   s.PlotMode = onto == Onto::PageOnScreen ? 2 : 1;
@@ -60,6 +61,12 @@ void Overplot(Session& session, const RunRequest& request, Onto onto) {
   if (end.hasResults && end.outcome == Outcome::Done) {
     if (onto == Onto::FreshPage) ReadLimits(session);
     DisplayRun(session, onto);
+  } else if (watch.HasDrawn()) {
+    // Columns that are done stay on the page after a Stop; those of a run that failed give way to what was there.
+    if (end.hasResults)
+      DrawResults(session, *s.LastResults);
+    else
+      ShowPage(session, before);
   } else {
     // The bar and the lines of the run went over the page.
     DrawPage(session);

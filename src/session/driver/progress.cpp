@@ -1,9 +1,13 @@
 #include "session/driver/progress.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <memory>
 
 #include "record/number_text.h"
+#include "runs/map_sums.h"
+#include "session/driver/display_run.h"
 
 namespace lumivex {
 
@@ -35,6 +39,20 @@ void PrintStripLine(DrawingSurface& surface, double top, const std::string& text
   surface.CurrentY = top;
   surface.Print(text);
   surface.ForeColour = before;
+}
+
+/// Where a map stands: its column, and the sphere of it.
+std::array<std::string, 4> ColumnLines(const RunProgress& progress, const Graph& graph, bool several) {
+  const auto number = [](double value) { return Format(value, "#,##0.####"); };
+  const auto fine = [](double value) { return Format(value, "#,##0.######"); };
+  const std::string wavelength = number(1000 * progress.lambda) + " nm";
+  const std::string step = "Step: " + std::to_string(progress.column);
+  const bool angles = graph.ColumnsOfAngles();
+  return {angles ? step + "   Radius = " + number(progress.radius) : step,
+          several ? "Wavelength #" + std::to_string(progress.wavelength) + " = " + wavelength
+                  : "   Wavelength = " + wavelength,
+          "   Ref Index = " + fine(progress.sphereN) + "   Relative RI = " + fine(progress.relative),
+          "   Imaginary RI = " + fine(progress.sphereK)};
 }
 
 /// Looks at the clock once a second.
@@ -94,8 +112,9 @@ void EndProgress(Session& session) {
   DrawBar(session, session.surface->BackColour, 100);
 }
 
-SessionWatch::SessionWatch(Session& session)
+SessionWatch::SessionWatch(Session& session, const RunRequest& request)
     : session_(session),
+      request_(request),
       before_(session.state),
       wavelengthBefore_(session.state.WavelengthIndex),
       sampleBefore_(session.state.SampleIndex),
@@ -118,6 +137,7 @@ bool SessionWatch::Look(const RunProgress& progress) {
   s.ProgressFraction = static_cast<float>(progress.share);
   s.AngleLoopIndex = static_cast<int>(progress.share * s.NN);
   s.SeriesLoopIndex = static_cast<int>(progress.share * s.NSTOP);
+  if (progress.map != nullptr) DrawColumns(progress);
   PrintStrip(progress);
   Progress(session_, progress.share);
   return s.PlotMode != stopRequested;
@@ -126,7 +146,7 @@ bool SessionWatch::Look(const RunProgress& progress) {
 void SessionWatch::PrintStrip(const RunProgress& progress) {
   const auto& s = session_.state;
   const bool several = s.NumberWavelengths > 1;
-  if (!several && progress.sample == 0) return;
+  if (!several && progress.sample == 0 && progress.map == nullptr) return;
   // Small spheres come by faster than they can be read, and printing would take longer than solving.
   constexpr double readable = 0.05;  // seconds
   const double now = session_.platform.Timer();
@@ -134,10 +154,35 @@ void SessionWatch::PrintStrip(const RunProgress& progress) {
   printed_ = now;
   constexpr double wavelengthTop = 2100, radiusTop = 2400;
   auto& surface = *session_.surface;
+  if (progress.map != nullptr) {
+    double top = wavelengthTop;
+    for (const std::string& line : ColumnLines(progress, ChosenGraph(s), several)) {
+      PrintStripLine(surface, top, line);
+      top += radiusTop - wavelengthTop;
+    }
+    return;
+  }
   if (several)
     PrintStripLine(surface, wavelengthTop,
                    "Wavelength #" + std::to_string(progress.wavelength) + " = " + Significant(progress.lambda, 5));
   PrintStripLine(surface, radiusTop, "Radius = " + Format(progress.radius, "#0.##"));
+}
+
+void SessionWatch::DrawColumns(const RunProgress& progress) {
+  // A short run is drawn once, at its end; a long one spends a tenth of its time on drawing at most.
+  constexpr double firstDrawing = 0.5, leastPause = 0.3, pausePerDrawing = 9;
+  const double now = session_.platform.Timer();
+  if (nextDrawing_ == 0) nextDrawing_ = now + firstDrawing;
+  if (progress.columnsDone <= columnsDrawn_ || now < nextDrawing_) return;
+  columnsDrawn_ = progress.columnsDone;
+  const auto part = std::make_shared<Results>();
+  part->asked = request_;
+  part->found = FirstColumns(*progress.map, progress.columnsDone);
+  DrawResults(session_, *part);
+  const double taken = session_.platform.Timer() - now;
+  nextDrawing_ = now + taken + std::max(leastPause, pausePerDrawing * taken);
+  printed_ = 0;
+  if (session_.form1.txtProgress.Visible) DrawBar(session_, RGB(0, 255, 192), session_.state.ProgressPercent);
 }
 
 void SessionWatch::Forget() {

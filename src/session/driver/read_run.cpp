@@ -8,6 +8,7 @@
 #include "record/number_text.h"
 #include "runs/run.h"
 #include "session/inputs/light/wavelength_list.h"
+#include "session/inputs/map_inputs.h"
 #include "session/inputs/materials/read_material.h"
 #include "session/inputs/methods/debye_label.h"
 #include "session/inputs/methods/rays_check.h"
@@ -26,15 +27,16 @@ constexpr double degree = 0.017453292519943295;
 constexpr double finestSpectrumStep = 0.01;  // degrees: mostSpectrumRows rows
 
 int WavelengthsOf(const Session& session, const Graph& graph) {
-  if (!graph.AgainstAngle()) return 1;
+  if (!graph.AgainstAngle() && (!graph.ColumnsOfAngles() || graph.OneWavelengthOnly())) return 1;
   return std::min(WavelengthCount(session.form1.cboWave.Text, RadiusInUse(session)), mostWavelengths);
 }
 
 void RepairInputs(Session& session, const Graph& graph) {
   auto& form = session.form1;
   if (graph.family == Family::Lee) RefuseDisperseLeeDiagram(session);
-  if (WavelengthsOf(session, graph) == 1) return;
-  if (form.cboWave.Text == "RGB") form.chkComponents.Checked = true;
+  const bool several = WavelengthsOf(session, graph) > 1;
+  if (!several && !graph.ColumnsOfAngles()) return;
+  if (several && form.cboWave.Text == "RGB") form.chkComponents.Checked = true;
   if (2 * Int(90 / Val(form.cboStep.Text)) + 1 > mostSpectrumRows) form.cboStep.Text = Shortest(finestSpectrumStep);
 }
 
@@ -50,9 +52,10 @@ Light ReadLight(const Session& session, const Graph& graph) {
 
 Particle ReadParticle(const Session& session, double lambda) {
   const auto& form = session.form1;
-  Particle particle{RadiusInUse(session), std::nullopt, SphereMaterial(session), MediumMaterial(session)};
-  if (!form.mnuRadiusX.Checked) return particle;
-  particle.sizeTyped = Val(form.txtRadius.Text);
+  Particle particle{RadiusInUse(session), std::nullopt, SphereOfGraph(session), MediumOfGraph(session)};
+  const auto heldSize = HeldValue(session, Swept::SizeParameter);
+  if (!form.mnuRadiusX.Checked && !heldSize) return particle;
+  particle.sizeTyped = heldSize.value_or(Val(form.txtRadius.Text));
   OpticalIndices indices;
   if (const auto found = MediumIndexAt(particle.medium, lambda).value) indices.medium = found->n;
   particle.radius = *particle.sizeTyped * lambda / (2 * std::numbers::pi * indices.MediumInUse());
@@ -111,6 +114,12 @@ std::optional<FamilyRun> ReadFamily(Session& session, const RunRequest& request)
       return ReadAxis(session, graph);
     case Family::Volume:
       return ReadVolume(session, ReadAxis(session, graph));
+    case Family::Lee:
+    case Family::AngleMap:
+      return AngleMapRun{ReadAngleRows(session, graph), ReadColumns(session, graph),
+                         session.form1.mnuInvWavelength.Checked};
+    case Family::EfficiencyMap:
+      return EfficiencyMapRun{ReadColumns(session, graph), ReadRows(session, graph), angle * std::numbers::pi / 180};
     case Family::Convergence:
       return ConvergenceRun{angle};
     case Family::DebyeAnalysis: {
@@ -160,6 +169,9 @@ std::optional<RunRequest> ReadRun(Session& session) {
   auto run = ReadFamily(session, request);
   if (!run) return std::nullopt;
   request.run = std::move(*run);
+  // The wavelength in the middle stands for those that are swept.
+  if (const auto* map = std::get_if<AngleMapRun>(&request.run); map != nullptr && graph.SweepsWavelength())
+    request.light.lambda = map->columns.At(map->columns.steps / 2) / 1000;
   if (const auto* analysis = std::get_if<DebyeAnalysisRun>(&request.run))
     request.method.rays = SelectedRays(UpToTerm(analysis->limit));
   request.words = ReadWords(session, request);

@@ -5,7 +5,9 @@
 #include <initializer_list>
 
 #include "record/number_text.h"
+#include "session/inputs/input_events.h"
 #include "session/inputs/input_tips.h"
+#include "session/inputs/map_inputs.h"
 #include "session/inputs/methods.h"
 #include "session/inputs/sizes/size_menus.h"
 
@@ -29,6 +31,19 @@ void NameKeptSphere(Session& session) {
   session.form1.lblSphere.Caption = fixed ? "Sphere: Fixed refractive index" : s.KeptSphereLabel;
   s.SphereName = fixed ? "Sphere of fixed RI" : s.KeptSphereName;
   s.SphereIndexVaries = s.SphereIndexTyped = 0;
+}
+
+/// The same of the medium.
+void NameVariableMedium(Session& session) {
+  auto& label = session.form1.lblRI_Medium;
+  session.state.KeptMediumLabel = label.Caption;
+  label.Caption = "Medium: Variable refractive index";
+}
+
+void NameKeptMedium(Session& session) {
+  auto& form = session.form1;
+  form.lblRI_Medium.Caption =
+      form.mnuRI_Fixed2.Checked ? "Medium: Fixed refractive index" : session.state.KeptMediumLabel;
 }
 
 /// Whether the sphere is named after a material, and not after an index.
@@ -121,14 +136,33 @@ void AxisStartValues(Session& session, const Graph& graph, const AxisStart& star
   }
 }
 
-/// The sphere and the medium of the start, and a size that is typed as a radius.
+/// The sphere and the medium of the start, and a size that is typed as a radius. Some maps start in a medium that is
+/// typed.
 void StartMaterials(Session& session) {
   auto& s = session.state;
+  const MapInputs* map = FindMapInputs(ChosenGraph(s));
   const int restoring = s.RestoringSettings;
   s.RestoringSettings = 1;
   for (const std::string_view event : {"mnuRI_IAPWS_Click", "mnuRI_Vacuum2_Click"}) session.events.Raise(event);
+  if (map != nullptr && map->fixedMedium) session.events.Raise("mnuRI_Fixed2_Click");
   s.RestoringSettings = restoring;
   if (!session.form1.mnuRadius.Checked) session.events.Raise("mnuRadius_Click");
+}
+
+/// Names of the materials: an index that a graph varies is no material's.
+void NameMaterials(Session& session, const Graph& before, const Graph& chosen) {
+  if (before.VariesIndex()) NameKeptSphere(session);
+  if (before.VariesMedium()) NameKeptMedium(session);
+  if (chosen.VariesIndex()) NameVariableSphere(session);
+  if (chosen.VariesMedium()) NameVariableMedium(session);
+}
+
+/// Another graph of the same family: its ranges are the user's, as far as they are ranges of the same quantity.
+void ChangeWithinFamily(Session& session, const Graph& before, const Graph& chosen) {
+  const SweptQuantities *was = FindSwept(before), *is = FindSwept(chosen);
+  if (was == nullptr || is == nullptr || was->columns == is->columns) return;
+  NameMaterials(session, before, chosen);
+  if (!session.form1.mnuKeepParameters.Checked) WriteMapStarts(session, true);
 }
 
 /// Start values of a new family, unless the user keeps the parameters; the sphere of a family that varied its index has
@@ -139,17 +173,19 @@ void ChangeFamily(Session& session, const Graph& before) {
   // The graph of one point has no axis, and so no range to keep.
   const Graph& chosen = ChosenGraph(s);
   const bool fromPoint = before.family == Family::DebyeAnalysis && chosen.family != Family::DebyeAnalysis;
-  if (chosen.SharesRangesWith(before) && !fromPoint) return;
+  if (chosen.SharesRangesWith(before) && !fromPoint) return ChangeWithinFamily(session, before, chosen);
   const Graph* graph = ChosenAxisGraph(s);
   const AxisStart* start = graph != nullptr ? FindAxisStart(*graph) : nullptr;
   const bool keeps = form.mnuKeepParameters.Checked;
-  if (before.VariesIndex()) NameKeptSphere(session);
+  NameMaterials(session, before, GraphOf({1, 1}));
   if (!keeps) StartMaterials(session);
-  if (chosen.VariesIndex()) NameVariableSphere(session);
+  NameMaterials(session, GraphOf({1, 1}), chosen);
   form.mnuXStepLog.Checked = start != nullptr && start->logSteps && !keeps;
   if (keeps) return;
   if (start != nullptr) {
     AxisStartValues(session, *graph, *start);
+  } else if (FindMapInputs(chosen) != nullptr) {
+    WriteMapStarts(session, false);
   } else if (chosen.OfAngles()) {
     AngleStartValues(session);
   }
@@ -213,13 +249,17 @@ void ShowFamilyInputs(Session& session) {
   form.Label26.Caption = "Lee diagram";
   ShowWavelengthInputs(session);
   form.Label26.Visible = form.cboLee.Visible = chosen.InColour();
-  form.Label24.Visible = form.txtRmax.Visible = form.txtRstep.Visible = chosen.family == Family::Lee;
+  form.Label24.Visible = form.txtRmax.Visible = form.lblRstep.Visible = form.txtRstep.Visible =
+      chosen.family == Family::Lee;
   form.cboWave.Enabled = true;
   ShowSizeInputs(session);
   ShowAxisInputs(session);
+  form.Frame3.Caption = "Drop size";
+  form.Label7.Caption = SizeCaption(form);
+  ShowFurtherAxis(session, graph);
+  ShowMapInputs(session);
   form.Frame3.Visible = form.txtRadius.Visible || form.optMono.Visible;
   form.Frame4.Visible = form.txtLambda.Visible || form.cboWave.Visible || form.optPoint.Visible;
-  ShowFurtherAxis(session, graph);
   WriteTips(session);
 }
 
@@ -238,6 +278,8 @@ void cboGraph_Click(Session& session) {
   }
   form.mnuRadiusDiameter.Enabled = form.mnuDiameter.Enabled = form.mnuRadius.Enabled = true;
   form.mnuRadiusX.Enabled = false;
+  const bool ofRadii = FindMapInputs(GraphOf(row->code)) != nullptr;
+  if (ofRadii && !form.mnuRadius.Checked) session.events.Raise("mnuRadius_Click");
   for (Picture* picture : {&form.Picture1, &form.Picture2, &form.Picture3, &form.Picture1a, &form.Picture2a,
                            &form.Picture3a, &form.Picture1b, &form.Picture2b, &form.Picture3b})
     picture->Visible = false;

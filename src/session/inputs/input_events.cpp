@@ -13,10 +13,10 @@ namespace lumivex {
 
 namespace {
 
-void ChooseSizeKind(Session& session, MenuEntry& chosen, const std::string& caption) {
+void ChooseSizeKind(Session& session, MenuEntry& chosen) {
   auto& form = session.form1;
   for (MenuEntry* entry : {&form.mnuRadius, &form.mnuDiameter, &form.mnuRadiusX}) entry->Checked = entry == &chosen;
-  form.Label7.Caption = caption;
+  form.Label7.Caption = SizeCaption(form);
   WriteTips(session);
   Inputs_Changed(session);
 }
@@ -42,6 +42,8 @@ void Picture_Changed(Session& session) {
                          static_cast<Control*>(&form.cboYmax), static_cast<Control*>(&form.cboYmin)})
     input->BackColour = colours::White;
   form.cmdNewPlot.Enabled = true;
+  // Of a map without angles the limits are those of its rows.
+  if (ChosenGraph(session.state).family == Family::EfficiencyMap) form.cmdReplot.Enabled = false;
 }
 
 void Scale_Click(Session& session) {
@@ -74,11 +76,24 @@ void txtLambda_change(Session& session) {
   auto& form = session.form1;
   if (session.state.LoadingFlag != 0) return;
   form.txtLambda.BackColour = colours::White;
-  ShowIndexInputs(form);
+  ShowIndexInputs(session);
   const bool one = Trim(form.cboWave.Text) == "1";
   if (one && IsNumber(form.txtLambda.Text) && !RefRel(session, Val(form.txtLambda.Text), LookupVoice::Quiet))
     form.txtLambda.BackColour = colours::Warning;
   Inputs_Changed(session);
+}
+
+void FurtherAxis_Changed(Session& session) {
+  auto& form = session.form1;
+  for (TextInput* input : {&form.txtRadius, &form.txtRmax, &form.txtRstep, &form.txtAngle, &form.txtF9_fixed,
+                           &form.txtF9_min, &form.txtF9_max, &form.txtF9_step})
+    if (input->BackColour == colours::BadInput) input->BackColour = colours::White;
+  Inputs_Changed(session);
+}
+
+std::string SizeCaption(const Form1& form) {
+  if (form.mnuDiameter.Checked) return "Diameter (\u00B5m)";
+  return form.mnuRadiusX.Checked ? "Size parameter x" : "Radius (\u00B5m)";
 }
 
 void txtRadius_Change(Session& session) {
@@ -87,15 +102,15 @@ void txtRadius_Change(Session& session) {
 }
 
 void mnuRadius_Click(Session& session) {
-  ChooseSizeKind(session, session.form1.mnuRadius, "Radius (\u00B5m)");
+  ChooseSizeKind(session, session.form1.mnuRadius);
 }
 
 void mnuDiameter_Click(Session& session) {
-  ChooseSizeKind(session, session.form1.mnuDiameter, "Diameter (\u00B5m)");
+  ChooseSizeKind(session, session.form1.mnuDiameter);
 }
 
 void mnuRadiusX_Click(Session& session) {
-  ChooseSizeKind(session, session.form1.mnuRadiusX, "Size parameter x");
+  ChooseSizeKind(session, session.form1.mnuRadiusX);
 }
 
 void mnuSize_Click(Session& session) {

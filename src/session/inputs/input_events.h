@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "record/session.h"
 
 namespace lumivex {
@@ -8,6 +10,10 @@ namespace lumivex {
 void txtLambda_change(Session& session);
 /// The size was typed.
 void txtRadius_Change(Session& session);
+/// What the field of the size is called, after what it means.
+std::string SizeCaption(const Form1& form);
+/// An input of the further axis, or of the sweep of a Lee diagram, was typed: the results must be calculated anew.
+void FurtherAxis_Changed(Session& session);
 /// An input that shapes the results was changed: they must be calculated anew.
 void Inputs_Changed(Session& session);
 /// An input that only shapes the picture was changed: it can be drawn anew from the results.

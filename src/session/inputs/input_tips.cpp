@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "record/catalogue/map_inputs.h"
+
 namespace lumivex {
 
 namespace {
@@ -73,6 +75,43 @@ void WriteAxisTips(Form1& form, const Graph& graph) {
                                               : "Step of the calculation" + UnitOfStep(graph.axis);
 }
 
+std::string TipOf(Swept quantity) {
+  switch (quantity) {
+    case Swept::Radius:
+      return "radius of the sphere in micrometres";
+    case Swept::SphereIndex:
+      return "refractive index n of the sphere (real part)";
+    case Swept::SphereAbsorption:
+      return "absorption index k of the sphere (imaginary part)";
+    case Swept::MediumIndex:
+      return "refractive index of the medium around the sphere";
+    case Swept::Wavelength:
+      return "wavelength in vacuum, in nanometres";
+    case Swept::SizeParameter:
+      return "size parameter x of the sphere";
+  }
+  return "";
+}
+
+/// The inputs of a Lee diagram or a map, after what it sweeps and what it holds still.
+void WriteMapTips(Form1& form, const Graph& graph) {
+  const SweptQuantities& swept = *FindSwept(graph);
+  const MapInputs& inputs = *FindMapInputs(graph);
+  const std::string columns = TipOf(swept.columns);
+  auto& low = inputs.further ? form.txtF9_min : form.txtRadius;
+  auto& high = inputs.further ? form.txtF9_max : form.txtRmax;
+  low.Tip = "Leftmost column: " + columns;
+  high.Tip = "Rightmost column: " + columns;
+  (inputs.further ? form.txtF9_step : form.txtRstep).Tip =
+      std::string("Number of steps from column to column") + (swept.geometric ? ", of equal ratios" : "");
+  if (inputs.held) form.txtF9_fixed.Tip = "Held still: " + TipOf(*inputs.held);
+  if (inputs.size == SizeField::Angle) form.txtAngle.Tip = "Radius of the sphere in micrometres";
+  const std::string rows = swept.rows ? TipOf(*swept.rows) : "scattering angle in degrees";
+  form.txtXmin.Tip = "Lowest row: " + rows;
+  form.txtXmax.Tip = "Highest row: " + rows;
+  form.cboStep.Tip = swept.rows ? "Number of steps from row to row" : "Step from row to row in degrees";
+}
+
 }  // namespace
 
 void WriteTips(Session& session) {
@@ -89,6 +128,7 @@ void WriteTips(Session& session) {
   form.txtF9_max.Tip =
       power ? "Highest scattering angle of the power, in degrees" : "Highest value of the further axis";
   form.txtF9_step.Tip = power ? "Step of the scattering angle in degrees" : "Number of steps of the further axis";
+  if (FindMapInputs(graph) != nullptr) WriteMapTips(form, graph);
 }
 
 }  // namespace lumivex

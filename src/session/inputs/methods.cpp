@@ -4,6 +4,7 @@
 #include "session/inputs/dialog_use.h"
 #include "session/inputs/graph_types.h"
 #include "session/inputs/light/wavelength_list.h"
+#include "session/inputs/map_inputs.h"
 #include "session/inputs/methods/debye_label.h"
 #include "session/inputs/methods/rays_check.h"
 #include "session/inputs/methods/sphere_size.h"
@@ -140,10 +141,16 @@ void NumberWavelengths(Session& session) {
   session.state.NumberWavelengths = WavelengthCount(session.form1.cboWave.Text, RadiusInUse(session));
 }
 
-void ShowIndexInputs(Form1& form) {
+void ShowIndexInputs(Session& session) {
+  auto& form = session.form1;
+  const Graph& graph = ChosenGraph(session.state);
+  const MapInputs* map = FindMapInputs(graph);
   const bool one = Trim(form.cboWave.Text) == "1";
-  form.txtRefractReal.Visible = form.Label10.Visible = form.txtRefractImag.Visible = one || form.mnuRI_Fixed1.Checked;
-  form.txtRefractMedium.Visible = one || form.mnuRI_Fixed2.Checked;
+  const bool swept = map != nullptr && graph.VariesIndex();
+  form.txtRefractReal.Visible = (one || form.mnuRI_Fixed1.Checked) && !swept;
+  form.txtRefractImag.Visible = form.txtRefractReal.Visible || (swept && map->absorption);
+  form.Label10.Visible = form.txtRefractImag.Visible;
+  form.txtRefractMedium.Visible = (one || form.mnuRI_Fixed2.Checked) && !graph.VariesMedium();
 }
 
 void ShowWavelengthInputs(Session& session) {
@@ -151,7 +158,7 @@ void ShowWavelengthInputs(Session& session) {
   const Graph& graph = ChosenGraph(session.state);
   const bool one = Trim(form.cboWave.Text) == "1";
   form.Label6.Visible = form.txtLambda.Visible = one && !graph.WavelengthAxis();
-  ShowIndexInputs(form);
+  ShowIndexInputs(session);
   form.lblSpectrum.Visible = form.mnuSpectrum.Visible = !one;
   // Red, green and blue stand where they stand, whatever the band.
   form.lblSpectrumBand.Visible = !one && form.cboWave.Text != "RGB";

@@ -41,7 +41,7 @@ bool TakesWavelengths(const Graph& graph);
 void NumberWavelengths(Session& session);
 
 /// The indices of sphere and medium have one value each only at one wavelength, or where they are fixed.
-void ShowIndexInputs(Form1& form);
+void ShowIndexInputs(Session& session);
 
 /// Shows the inputs of one wavelength or those of a spectrum, after cboWave.
 void ShowWavelengthInputs(Session& session);

@@ -164,19 +164,26 @@ template <Entry entry>
 void PickSaturation(Session& session) {
   TickOnly(session, saturations, entry);
   if (session.state.Busy == 0) EnableReplot(session);
-  RecolourBars(session);
+  RecolourPage(session);
 }
 
 /// Gamma changes colours, and the curves of one wavelength have none to change.
 void mnuGamma_Click(Session& session) {
   if (session.form1.cboWave.Text != "1") EnableReplot(session);
-  RecolourBars(session);
+  RecolourPage(session);
 }
 
 template <Entry entry>
 void PickGamma(Session& session) {
   TickOnly(session, gammas, entry);
   mnuGamma_Click(session);
+}
+
+void mnuFalseColours_Click(Session& session) {
+  Toggle(session, &M::mnuFalseColours);
+  session.form1.cboLee.Enabled = ChosenGraph(session.state).InColour();
+  EnableReplot(session);
+  RecolourPage(session);
 }
 
 /// Two second panels cannot share one place.
@@ -308,7 +315,11 @@ void mnuInterpolate_Click(Session& session) {
 
 void mnuInvWavelength_Click(Session& session) {
   Toggle(session, &M::mnuInvWavelength);
-  Replot(session);
+  // The cells of a map are sums of intensities that were freed of it before.
+  if (ChosenGraph(session.state).InColour())
+    session.events.Raise("Inputs_Changed");
+  else
+    Replot(session);
 }
 
 void mnuSun_Click(Session& session) {
@@ -341,18 +352,18 @@ void mnuSaturated_Click(Session& session) {
   if (form.mnuSaturated.Checked && form.cboBright.Text != "1") form.cboBright.Text = "1";
   form.cboBright.BackColour = IsNumber(form.cboBright.Text) ? colours::White : colours::BadInput;
   EnableReplot(session);
-  RecolourBars(session);
+  RecolourPage(session);
 }
 
 void mnuNormalised_Click(Session& session) {
   Toggle(session, &M::mnuNormalised);
-  RecolourBars(session);
+  RecolourPage(session);
 }
 
 void mnuSetNormal_Click(Session& session) {
   Toggle(session, &M::mnuSetNormal);
   if (session.form1.mnuSetNormal.Checked) TakeBarReference(session);
-  RecolourBars(session);
+  RecolourPage(session);
 }
 
 void cboBright_Change(Session& session) {
@@ -360,7 +371,7 @@ void cboBright_Change(Session& session) {
   if (session.state.LoadingFlag != 0) return;
   const bool good = IsNumber(list.Text);
   list.BackColour = good ? colours::White : colours::BadInput;
-  if (good) RecolourBars(session);
+  if (good) RecolourPage(session);
 }
 
 void mnuMapNormalise_Click(Session& session) {
@@ -368,6 +379,7 @@ void mnuMapNormalise_Click(Session& session) {
   if (session.form1.mnuMapNormalise.Checked)
     session.state.LeeOverallMaximum = session.page.map ? session.page.map->currentMaximum : 0;
   EnableReplot(session);
+  RecolourPage(session);
 }
 
 std::span<const GraphEvent> LookEvents() {
@@ -429,6 +441,7 @@ std::span<const GraphEvent> LookEvents() {
       GraphEvent{"mnuSetNormal_Click", mnuSetNormal_Click},
       GraphEvent{"cboBright_Change", cboBright_Change},
       GraphEvent{"mnuMapNormalise_Click", mnuMapNormalise_Click},
+      GraphEvent{"mnuFalseColours_Click", mnuFalseColours_Click},
       GraphEvent{"cmdColourTest_Click", cmdColourTest_Click},
   };
   return events;

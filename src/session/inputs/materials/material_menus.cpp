@@ -70,8 +70,10 @@ void SphereTyped(Session& session, TextInput& field) {
   s.SphereName = "Sphere of fixed RI";
   if (s.SphereIndexTyped == 0) s.SphereCaptionBefore = form.lblSphere.Caption;
   s.SphereIndexTyped = 1;
-  s.SphereIndexVaries = 0;
-  form.lblSphere.Caption = "Sphere: Refractive index set by user";
+  const Graph& graph = ChosenGraph(s);
+  s.SphereIndexVaries = graph.InColour() && graph.VariesIndex() ? 1 : 0;
+  form.lblSphere.Caption =
+      s.SphereIndexVaries != 0 ? "Sphere: Variable refractive index" : "Sphere: Refractive index set by user";
   form.lblSphere.ForeColour = colours::BadInput;
   field.BackColour = colours::Warning;
   s.RIUserEdited = 1;

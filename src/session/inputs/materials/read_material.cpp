@@ -171,6 +171,8 @@ MaterialWords MediumWords(const Session& session) {
     words.caption = "Medium: " + words.name;
   }
   if (form.mnuRI_Perm2.Checked) words.caption = "Medium: Fixed dielectric function";
+  // A map that varies its index is not in the material that is ticked.
+  if (ChosenGraph(session.state).VariesMedium()) words.caption = form.lblRI_Medium.Caption;
   return words;
 }
 

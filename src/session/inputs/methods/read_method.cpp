@@ -57,8 +57,10 @@ MethodOptions ChosenMethod(const Session& session) {
   options.classicStart = form.mnuClassicStart.Checked;
   if (session.state.DiffractionVariant == 1) options.diffraction = DiffractionForm::PartialWaves;
   options.forwardEfficiency = form.mnuHidden.Checked;
-  if (traits.counts == Counted::Rays) options.counted = CountTyped(form.txtAngle, mostRays);
-  if (traits.counts == Counted::Strips) options.counted = CountTyped(form.txtAngle, mostStrips);
+  // The field that counts them has another meaning for maps.
+  const bool counts = !ChosenGraph(session.state).InColour();
+  if (counts && traits.counts == Counted::Rays) options.counted = CountTyped(form.txtAngle, mostRays);
+  if (counts && traits.counts == Counted::Strips) options.counted = CountTyped(form.txtAngle, mostStrips);
   options.Qmin = static_cast<float>(Val(form.cboQmin.Text));
   options.Qmax = static_cast<float>(Val(form.cboQmax.Text));
   if (traits.beams) options.beam = BeamOf(session);

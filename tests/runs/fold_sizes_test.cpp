@@ -1,0 +1,87 @@
+// A distribution of sizes folded into a map of single sizes.
+
+#include "runs/fold_sizes.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "runs/run_fixture.h"
+
+namespace lumivex {
+namespace {
+
+/// Radii from 4 to 9 um.
+RunRequest Lee(int steps, int wavelengths) {
+  return AngleMapRequest({20, 1}, SweepOf(Swept::Radius, 4, 9, steps, true), wavelengths);
+}
+
+const Sweep& RadiiOf(const RunRequest& request) {
+  return std::get<AngleMapRun>(request.run).columns;
+}
+
+// Columns as close as the ripple needs: the fold is then the mean that a cloud is calculated as.
+TEST(FoldSizes, AColumnIsTheCloudAboutItsRadius) {
+  for (const int wavelengths : {1, 3}) {
+    RunRequest request = Lee(1200, wavelengths);
+    // Without resonances, which are narrower than any columns.
+    request.particle.sphere = FixedIndex{1.33, 0.01};
+    const RunEnd end = RunSilently(request);
+    const MapFound& single = *end.results.Find<MapFound>();
+    const FoldedMap folded = FoldSizes(single, RadiiOf(request), LogNormal(0.05));
+    ASSERT_EQ(folded.failure, SizeFailure::None);
+    constexpr int middle = 600;  // 6 um
+    RunRequest direct = request;
+    direct.sizes = LogNormal(0.05);
+    std::get<AngleMapRun>(direct.run).columns = SweepOf(Swept::Radius, 6, 9, 1, true);
+    const RunEnd cloud = RunSilently(direct);
+    const MapFound& expected = *cloud.results.Find<MapFound>();
+    const auto list = wavelengths > 1 ? &MapPanel::green : &MapPanel::value;
+    for (std::size_t panel = 0; panel < 2; ++panel) {
+      double greatest = 0;
+      for (int row = 0; row < single.rows; ++row)
+        greatest = std::max(greatest, double{(expected.panels[panel].*list)[expected.At(0, row)]});
+      for (int row = 0; row < single.rows; ++row) {
+        const double is = double{(folded.found.panels[panel].*list)[single.At(middle, row)]};
+        const double should = double{(expected.panels[panel].*list)[expected.At(0, row)]};
+        EXPECT_NEAR(is, should, 0.02 * greatest) << "panel " << panel << " row " << row;
+      }
+    }
+  }
+}
+
+TEST(FoldSizes, OneSizeChangesNothing) {
+  const RunRequest request = Lee(5, 3);
+  const RunEnd end = RunSilently(request);
+  const MapFound& single = *end.results.Find<MapFound>();
+  const FoldedMap folded = FoldSizes(single, RadiiOf(request), LogNormal(1e-9));
+  EXPECT_EQ(folded.found.strongest, single.strongest);
+  for (std::size_t i = 0; i < single.panels[0].red.size(); ++i)
+    EXPECT_NEAR(folded.found.panels[0].red[i], single.panels[0].red[i], 1e-5 * std::abs(single.panels[0].red[i]));
+}
+
+// Half of the sizes about the first and the last radius lie beyond them, and more where columns are missing.
+TEST(FoldSizes, SizesBeyondTheColumnsAreLeftOutAndTold) {
+  const RunRequest request = Lee(40, 1);
+  const RunEnd end = RunSilently(request);
+  MapFound single = *end.results.Find<MapFound>();
+  const double share = FoldSizes(single, RadiiOf(request), LogNormal(0.1)).share;
+  EXPECT_GT(share, 0.03);
+  EXPECT_LT(share, 0.3);
+  for (auto& value : single.panels[0].value) value = 1;
+  const FoldedMap folded = FoldSizes(single, RadiiOf(request), LogNormal(0.1));
+  for (const float value : folded.found.panels[0].value) EXPECT_NEAR(value, 1, 1e-6) << "the others count for them";
+  single.done = 10;
+  EXPECT_GT(FoldSizes(single, RadiiOf(request), LogNormal(0.1)).share, share);
+  single.done = 1;
+  EXPECT_GT(FoldSizes(single, RadiiOf(request), LogNormal(0.1)).share, 0.7);
+  single.done = 0;
+  EXPECT_EQ(FoldSizes(single, RadiiOf(request), LogNormal(0.1)).share, 0);
+  single.done = 41;
+  EXPECT_EQ(FoldSizes(single, RadiiOf(request), NormalSizes{{0, 1, -1}, 1.5, false}).failure,
+            SizeFailure::NegativeRadius);
+}
+
+}  // namespace
+}  // namespace lumivex
