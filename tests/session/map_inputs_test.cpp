@@ -333,6 +333,56 @@ TEST_F(MapSession, AStopKeepsTheColumnsThatAreDone) {
   EXPECT_FALSE(TheSession().page.Empty());
 }
 
+TEST_F(MapSession, ColumnsAppearAsTheyAreDone) {
+  Choose("Lee diagram: radius");
+  Coarse();
+  Do("set txtRstep 30\nset cboWave 5");
+  // A second passes with every look at the clock.
+  double now = 0;
+  runner.World().clock = [&] { return now += 1; };
+  std::vector<int> seen;
+  runner.World().onYield = [&] {
+    const auto& map = TheSession().page.map;
+    if (map && TheSession().state.Busy != 0 && (seen.empty() || map->values->done > seen.back()))
+      seen.push_back(map->values->done);
+  };
+  Do("click cmdNewPlot");
+  ASSERT_GT(seen.size(), 3U);
+  EXPECT_GT(seen.front(), 0);
+  EXPECT_LT(seen.front(), 31);
+  EXPECT_EQ(TheSession().page.map->values->done, 31);
+  // A stop before anything is whole leaves the page that was there.
+  const auto before = TheSession().page.map->values;
+  runner.World().onYield = [&] { runner.Current().state.PlotMode = 4; };
+  Do("set txtRadius 12\nclick cmdNewPlot");
+  ASSERT_TRUE(TheSession().page.map);
+  if (TheSession().state.LastResults->Find<MapFound>()->done == 31) {
+    EXPECT_EQ(TheSession().page.map->values, before);
+  }
+}
+
+TEST_F(MapSession, ColoursAreRenewedWithoutACalculation) {
+  Choose("Map: angle v. radius");
+  Coarse();
+  Do("click cmdNewPlot");
+  const auto results = TheSession().state.LastResults;
+  const auto cells = [&] { return *TheSession().page.map->pictures.at(0).cells; };
+  auto before = cells();
+  for (const char* change : {"set cboBright 0.5", "choose cboLee Normalised", "click mnuGammaNone",
+                             "click mnuFalseColours", "click mnuSaturated"}) {
+    Do(change);
+    EXPECT_EQ(TheSession().state.LastResults, results) << change;
+    if (std::string(change) != "click mnuSaturated") {
+      EXPECT_NE(cells(), before) << change;
+    }
+    before = cells();
+  }
+  Do("click mnuUndo\nclick mnuUndo");
+  EXPECT_NE(cells(), before) << "false colours are undone";
+  Do("click mnuInvWavelength");
+  EXPECT_FALSE(TheSession().form1.cmdReplot.Enabled) << "other sums";
+}
+
 TEST_F(MapSession, UndoTakesTheGraphAndItsInputsBack) {
   Choose("Lee diagram: refractive index");
   Do("set txtRmax 1.7");
