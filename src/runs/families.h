@@ -19,8 +19,8 @@ FamilyEnd RunAxis(const RunRequest& request, const AxisRun& run, TaskPool& pool,
 FamilyEnd RunConvergence(const RunRequest& request, const ConvergenceRun& run, TaskPool& pool, Results& results);
 FamilyEnd RunDebyeAnalysis(const RunRequest& request, const DebyeAnalysisRun& run, TaskPool& pool, Results& results);
 FamilyEnd RunTwoAngle(const RunRequest& request, const TwoAngleRun& run, TaskPool& pool, Results& results);
-FamilyEnd RunAngleMap(const RunRequest& request, const AngleMapRun& run, TaskPool& pool, Results& results);
-FamilyEnd RunEfficiencyMap(const RunRequest& request, const EfficiencyMapRun& run, TaskPool& pool, Results& results);
+FamilyEnd Overplot_Map(const RunRequest& request, const AngleMapRun& run, TaskPool& pool, Results& results);
+FamilyEnd Overplot_Map(const RunRequest& request, const EfficiencyMapRun& run, TaskPool& pool, Results& results);
 /// A run that is stopped finds nothing: sums over some of the spheres would be those of another cloud.
 FamilyEnd RunVolume(const RunRequest& request, const VolumeRun& run, TaskPool& pool, Results& results);
 

@@ -275,7 +275,7 @@ double MapCells(const FamilyRun& run) {
   return 0;
 }
 
-FamilyEnd RunAngleMap(const RunRequest& request, const AngleMapRun& run, TaskPool& pool, Results& results) {
+FamilyEnd Overplot_Map(const RunRequest& request, const AngleMapRun& run, TaskPool& pool, Results& results) {
   if (MapCells(request.run) > mostMapCells) return {false, TooManyCells()};
   const Columns columns(request, run);
   if (!columns.Failure().text.empty()) return {false, columns.Failure()};
@@ -326,7 +326,7 @@ FamilyEnd RunAngleMap(const RunRequest& request, const AngleMapRun& run, TaskPoo
   return {true, {}};
 }
 
-FamilyEnd RunEfficiencyMap(const RunRequest& request, const EfficiencyMapRun& run, TaskPool& pool, Results& results) {
+FamilyEnd Overplot_Map(const RunRequest& request, const EfficiencyMapRun& run, TaskPool& pool, Results& results) {
   if (MapCells(request.run) > mostMapCells) return {false, TooManyCells()};
   const SettingResult at = SettingAt(request, request.light.lambda);
   if (!at.Good()) return {false, at.refusal};

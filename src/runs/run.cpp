@@ -22,8 +22,8 @@ struct RunFamily {
   FamilyEnd operator()(const ConvergenceRun& run) const { return RunConvergence(request, run, pool, results); }
   FamilyEnd operator()(const DebyeAnalysisRun& run) const { return RunDebyeAnalysis(request, run, pool, results); }
   FamilyEnd operator()(const TwoAngleRun& run) const { return RunTwoAngle(request, run, pool, results); }
-  FamilyEnd operator()(const AngleMapRun& run) const { return RunAngleMap(request, run, pool, results); }
-  FamilyEnd operator()(const EfficiencyMapRun& run) const { return RunEfficiencyMap(request, run, pool, results); }
+  FamilyEnd operator()(const AngleMapRun& run) const { return Overplot_Map(request, run, pool, results); }
+  FamilyEnd operator()(const EfficiencyMapRun& run) const { return Overplot_Map(request, run, pool, results); }
   FamilyEnd operator()(const VolumeRun& run) const { return RunVolume(request, run, pool, results); }
 };
 

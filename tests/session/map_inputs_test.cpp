@@ -317,7 +317,11 @@ TEST_F(MapSession, ADisperseLeeDiagramIsCalculatedForOneSizeAndFoldedByReplot) {
   EXPECT_GT(Number("FoldedShare"), 0);
   EXPECT_LT(Number("FoldedShare"), 0.5);
   EXPECT_EQ(TheSession().state.LastResults, single) << "the columns stay those of single sizes";
-  Do("click optMono\nset txtRstep 4\nclick cmdNewPlot\nclick optDisp\nclick cmdReplot");
+  Do("set cboSD 10\nclick cmdReplot");
+  EXPECT_EQ(LastText(), "") << "another width needs no calculation";
+  Do("click optMono");
+  EXPECT_EQ(Number("FoldedShare"), -1) << "single sizes again";
+  Do("set txtRstep 4\nclick cmdNewPlot\nclick optDisp\nclick cmdReplot");
   EXPECT_EQ(LastText(), "Increase the Standard Deviation to at least 19%");
 }
 

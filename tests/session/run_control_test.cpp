@@ -68,6 +68,10 @@ TEST_F(RunControl, EveryKindOfRunAsksByItsOwnWork) {
        "set txtRadius 3000\nset cboStep 0.02"},
       {"Scattered power v. radius", "set txtXmin 1\nset txtXmax 2\nset cboStep 0.25\nset txtF9_step 10",
        "set txtXmin 1000\nset txtXmax 2000\nset cboStep 5\nset txtF9_step 0.1"},
+      {"Lee diagram: radius", "set txtXmin 137\nset txtXmax 139\nset cboStep 0.5",
+       "set txtRmax 3000\nset txtRadius 1000\nset txtRstep 100\nset cboStep 0.01"},
+      {"Map: Q v. RI & size x", "set cboStep 4\nset txtF9_step 4",
+       "set txtXmax 5000\nset cboStep 300\nset txtF9_step 300"},
   };
   for (const auto& kind : kinds) {
     Do("reset");

@@ -37,9 +37,9 @@ std::string FoldWords(const Session& session) {
   if (graph.family == Family::Lee && graph.VariesIndex() && session.form1.optDisp.Checked)
     return ", one size: distributions are folded into Lee diagrams of the radius only";
   if (share < 0) return "";
-  const std::string words = ", sizes folded in: " + WordsForSizes(session);
+  const std::string words = ", sizes folded in";
   if (share == 0) return words;
-  return words + "; " + Significant(100 * share, 2) + " % of the particles lie beyond the radii and are left out";
+  return words + ": " + Significant(100 * share, 2) + " % of the particles lie beyond the radii and are left out";
 }
 
 }  // namespace lumivex

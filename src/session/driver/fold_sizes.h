@@ -13,8 +13,8 @@ namespace lumivex {
 /// there are no neighbouring radii.
 std::shared_ptr<const Results> WithSizesFolded(Session& session);
 
-/// What the status line says of the sizes that were folded: their distribution and the share of particles that was left
-/// out; or that they cannot be. Empty without a distribution. There must be results.
+/// What the status line says of the sizes that were folded: the share of particles that was left out; or that they
+/// cannot be. Empty without a distribution. There must be results.
 std::string FoldWords(const Session& session);
 
 }  // namespace lumivex

@@ -10,6 +10,7 @@
 #include "session/inputs/sizes/read_size_dist.h"
 #include "session/inputs/sizes/size_distribution.h"
 #include "session/inputs/sizes/size_distribution_display.h"
+#include "session/page.h"
 
 namespace lumivex {
 
@@ -61,7 +62,11 @@ bool AskForParameters(Session& session, const std::string& name) {
 void DrawnAnew(Session& session, bool aloud = true) {
   if (session.state.LoadingFlag != 0) return;
   DistDisplay(session, aloud);
+  auto& replot = session.form1.cmdReplot.Enabled;
+  // Replot folds another distribution into the columns that are there.
+  const bool folds = replot && IsLeeDiagram(session.state);
   RaiseInputsChanged(session);
+  replot = replot || folds;
 }
 
 }  // namespace
@@ -86,7 +91,10 @@ void optMono_Click(Session& session) {
   form.optMono.Select();
   ShowSizeInputs(session);
   RaiseInputsChanged(session);
-  if (IsLeeDiagram(session.state)) form.cmdReplot.Enabled = false;
+  if (!IsLeeDiagram(session.state)) return;
+  // Sizes that were folded into the columns are taken out at once, which leaves nothing to be drawn again.
+  form.cmdReplot.Enabled = false;
+  RecolourPage(session);
 }
 
 void optDisp_Click(Session& session) {
