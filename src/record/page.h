@@ -229,6 +229,8 @@ struct PageBars {
   double step = 1;                  ///< degrees from row to row; row j stands at (j - 1) steps
   std::size_t first = 1, last = 0;  ///< rows that were calculated
   std::array<BarLight, 3> light;
+  /// Of one wavelength: the greatest channel that an intensity of 1 has. Violet short of 392 nm has more than 1.
+  double channelOfUnit = 1;
 
   // In view.
   double reference = 0;                        ///< sum that has full brightness

@@ -214,6 +214,21 @@ TEST_F(Bars, AreDrawnAnewFromTheSumsOfTheRun) {
     EXPECT_EQ(std::max({Table().At(i, 1), Table().At(i, 2), Table().At(i, 3)}), 255) << i;
 }
 
+// A brightness left from a run of several wavelengths made the bars of one black; violet had a reference of its own.
+TEST_F(Bars, OfOneWavelengthAreAsBrightAsItsIntensity) {
+  Do("set cboWave RGB\nset cboBright 0\nclick cmdNewPlot\nset cboWave 1\nset txtLambda 0.6\nclick cmdNewPlot");
+  EXPECT_EQ(Get("cboBright.Visible"), "false");
+  EXPECT_EQ(BrightestOf(0), 255);
+  Do("set txtLambda 0.35\nset txtRadius 3\nset cboStep 1\nclick cmdNewPlot");
+  EXPECT_EQ(Number("BarScale"), Number("YAutoMax"));
+}
+
+// With a second panel the sum was drawn in the colour of one wavelength.
+TEST_F(Bars, StandBelowCurvesInTrueColourAlsoWithASecondPanel) {
+  Do("click mnuIntPol\nset cboWave 30\nset txtRadius 20\nset cboStep 0.5\nclick cmdNewPlot");
+  for (const PageCurve& curve : Drawn().curves) EXPECT_EQ(curve.colours.empty(), Drawn().panels[curve.panel].second);
+}
+
 TEST_F(Bars, CanBeNormalised) {
   Rainbow();
   const double scale = Number("BarScale");

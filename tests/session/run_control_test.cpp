@@ -39,6 +39,20 @@ TEST_F(RunControl, AStopAnsweredNoGoesOn) {
     ASSERT_TRUE(std::isfinite(s.Iperp[static_cast<std::size_t>(row)])) << row;
 }
 
+// Replot drew the results of other inputs once a run had been refused, and the wavelengths that were to blame were
+// locked.
+TEST_F(RunControl, ARefusedRunOffersNothingThatWasNotOffered) {
+  Do("set txtRadius 20");
+  EXPECT_EQ(Get("cmdReplot.Enabled"), "false");
+  Do("set txtXmin 190\nclick cmdNewPlot");
+  EXPECT_EQ(Get("cmdReplot.Enabled"), "false");
+  EXPECT_EQ(Get("cmdNewPlot.Enabled"), "true");
+  Do("reset\nchoose cboGraph Qext/Qsca/Qabs v. radius\nset cboWave 3\nclick cmdNewPlot");
+  EXPECT_EQ(LastText(), "This graph type is available only for single wavelength calculations");
+  EXPECT_EQ(Get("cboWave.Enabled"), "true");
+  EXPECT_EQ(Get("cmdOverPlot.Enabled"), "false");
+}
+
 TEST_F(RunControl, DuringARunTheOtherCommandsAreLocked) {
   bool seen = false;
   runner.World().onYield = [&] {

@@ -37,6 +37,7 @@ void FindGreatest(PageBars& bars) {
     for (const SharedValues& channel : bars.light[k].channels)
       for (std::size_t j = bars.firstShown; j <= bars.lastShown; ++j)
         if (channel[j] > bars.greatest[k]) bars.greatest[k] = channel[j];
+    bars.greatest[k] /= bars.channelOfUnit;
   }
 }
 
@@ -94,10 +95,13 @@ void ColourBars(Page& page, const ColourLook& look) {
   const AxisLimits& limits = page.panels.front().limits;
   TakeRowsInView(bars, {limits.xmin, limits.xmax});
   FindGreatest(bars);
-  if (look.barScale || look.normaliseUnpolarised)
-    PlotBow2(bars, look, page.kind.invWavelength);
+  ColourLook wanted = look;
+  // The brightness is not offered with one wavelength: what is left in its box from before counts for nothing.
+  if (page.kind.wavelengths == 1) wanted.rules.brightness = 1;
+  if (wanted.barScale || wanted.normaliseUnpolarised)
+    PlotBow2(bars, wanted, page.kind.invWavelength);
   else
-    PlotBow(bars, look.rules);
+    PlotBow(bars, wanted.rules);
   MakeColumns(bars, page.kind.logX);
 }
 

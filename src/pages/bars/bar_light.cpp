@@ -90,6 +90,7 @@ void TakeOneWavelength(const RunToDraw& run, PageBars& bars) {
   const Curves curves = CurvesOf(run.results, {.invWavelength = run.look.invWavelength});
   const ColourTriple triple = colRGB2(run.results.asked.light.lambda);
   const std::array shares = {triple.r / 255, triple.g / 255, triple.b / 255};
+  bars.channelOfUnit = std::max({shares[0], shares[1], shares[2]});
   const auto take = [&](const std::vector<double>& curve, BarLight& light) {
     const std::vector<double> seen = SeenUnderSun(run, curve);
     for (std::size_t c = 0; c < 3; ++c) {

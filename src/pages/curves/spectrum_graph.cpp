@@ -59,16 +59,30 @@ double FullBrightness(Colour ground) {
   return ground.Red() + ground.Green() + ground.Blue() > pale ? 0.65 : 1;
 }
 
+/// A sum over the spectrum in the colour that the light has in each row; in the key it is grey.
+void ColourTotal(const Page& page, const PageBars& bars, PageCurve& curve) {
+  const double shade = curve.kind == perpendicularKind ? 1 : curve.kind == parallelKind ? 0.5 : 0.75;
+  const double brightness = shade * FullBrightness(page.style.ground);
+  curve.colour = RGB(160 * brightness, 160 * brightness, 160 * brightness);
+  curve.colours = RowColours(bars.light[static_cast<std::size_t>(curve.kind) - 1], brightness);
+}
+
 void PlotTotal(Page& page, const RunToDraw& run, const Curves& curves) {
   const auto bars = page.bars ? page.bars : PlotN(run);
   for (const int kind : KindsWanted(run.look)) {
-    const double shade = kind == perpendicularKind ? 1 : kind == parallelKind ? 0.5 : 0.75;
-    const double brightness = shade * FullBrightness(page.style.ground);
-    const Colour grey = RGB(160 * brightness, 160 * brightness, 160 * brightness);
-    PageCurve curve = Plot(page, run, curves.x, CurveOfKind(curves, kind), {0, kind}, grey);
-    curve.colours = RowColours(bars->light[static_cast<std::size_t>(kind) - 1], brightness);
+    PageCurve curve = Plot(page, run, curves.x, CurveOfKind(curves, kind), {0, kind}, {});
+    ColourTotal(page, *bars, curve);
     page.curves.push_back(std::move(curve));
   }
+}
+
+/// The sums above their degree of polarisation.
+void DisplayTotal(Page& page, const RunToDraw& run) {
+  const std::size_t first = page.curves.size();
+  Display(page, run, CurvesOf(run.results, run.Curves()));
+  const auto bars = page.bars ? page.bars : PlotN(run);
+  for (std::size_t i = first; i < page.curves.size(); ++i)
+    if (PageCurve& curve = page.curves[i]; !page.panels[curve.panel].second) ColourTotal(page, *bars, curve);
 }
 
 }  // namespace
@@ -97,7 +111,7 @@ void PlotColour(Page& page, const RunToDraw& run, const Curves& curves, int wave
 void PlotNColour(Page& page, const RunToDraw& run) {
   const auto* found = run.results.Find<SpectrumFound>();
   if (found == nullptr || found->done < 1) return;
-  if (page.kind.second != SecondPanel::None) return Display(page, run, CurvesOf(run.results, run.Curves()));
+  if (page.kind.second != SecondPanel::None) return DisplayTotal(page, run);
   if (!ShowsWavelengthsApart(run)) {
     const Curves total = CurvesOf(run.results, run.Curves());
     if (page.panels.empty()) DrawFrame(page, run, PanelPlace::Whole, total.x, total.perpendicular, total.parallel);

@@ -1,5 +1,7 @@
 #include "session/driver/commands.h"
 
+#include <memory>
+
 #include "record/number_text.h"
 #include "session/checks/range_check.h"
 #include "session/driver/display_run.h"
@@ -69,7 +71,7 @@ void OfferCommands(Session& session) {
   const auto& s = session.state;
   // A curve of one wavelength over the colours of several would have no scale in common with them.
   const bool single = s.NumberWavelengths == 1 && s.ResultWavelengths == 1;
-  form.cboWave.Enabled = TakesWavelengths(ChosenGraph(s)) || s.NumberWavelengths > 1;
+  form.cboWave.Enabled = TakesWavelengths(ChosenGraph(s)) || Trim(form.cboWave.Text) != "1";
   form.cmdReplot.Visible = HasRun(s);
   form.cmdReplot.Enabled = HasRun(s);
   form.cmdOverPlot.Visible = HasRun(s);
@@ -78,11 +80,27 @@ void OfferCommands(Session& session) {
   form.cmdOverPlot.Enabled = HasRun(s) && single && !picture && !ChosenGraph(s).InColour();
 }
 
-/// What was calculated counts, whatever the list says by now.
-void EndCommand(Session& session) {
+/// Which commands were offered for the results of before.
+struct Offered {
+  explicit Offered(const Session& session)
+      : results(session.state.LastResults),
+        replot(session.form1.cmdReplot.Enabled),
+        overPlot(session.form1.cmdOverPlot.Enabled) {}
+  std::shared_ptr<const Results> results;
+  bool replot, overPlot;
+};
+
+/// What was calculated counts, whatever the list says by now. A run that was refused, or stopped with nothing found,
+/// has made the results of before no better: they are offered again as they were.
+void EndCommand(Session& session, const Offered& before) {
+  auto& form = session.form1;
   if (HasRun(session.state)) session.state.NumberWavelengths = session.state.ResultWavelengths;
   LockOFF(session);
   OfferCommands(session);
+  if (session.state.LastResults == before.results) {
+    form.cmdReplot.Enabled = before.replot;
+    form.cmdOverPlot.Enabled = before.overPlot;
+  }
   session.platform.Beep();
 }
 
@@ -91,13 +109,14 @@ void EndCommand(Session& session) {
 void cmdNewPlot_Click(Session& session) {
   auto& s = session.state;
   const int wasBusy = s.Busy;
+  const Offered before(session);
   s.Busy = 1;
   s.OverplotFromFile = 0;
   s.StopAnswer = 0;
   s.PlotMode = 1;
   RunInputs(session, Onto::FreshPage);
   s.PlotMode = 1;
-  EndCommand(session);
+  EndCommand(session, before);
   s.Busy = wasBusy;
 }
 
@@ -107,12 +126,13 @@ void cmdOverPlot_Click(Session& session) {
     cmdNewPlot_Click(session);
     return;
   }
+  const Offered before(session);
   s.Busy = 1;
   s.StopAnswer = 0;
   s.PlotMode = 2;
   RunInputs(session, Onto::PageOnScreen);
   s.PlotMode = 1;
-  EndCommand(session);
+  EndCommand(session, before);
   s.Busy = 0;
 }
 
