@@ -164,9 +164,12 @@ struct MapOfCells {
     whole.store(static_cast<int>(cells / static_cast<std::size_t>(found.rows)), std::memory_order_release);
   }
   void SetEfficiencies(std::size_t cell, double Qext, double Qsca) {
+    // What a sphere without absorption leaves of the difference is rounding, which a picture would show as a pattern.
+    constexpr double rounding = 1e-12;
+    const double Qabs = Qext - Qsca;
     found.panels[0].value[cell] = static_cast<float>(Qext);
     found.panels[1].value[cell] = static_cast<float>(Qsca);
-    found.panels[2].value[cell] = static_cast<float>(Qext - Qsca);
+    found.panels[2].value[cell] = std::abs(Qabs) <= rounding * Qext ? 0.0F : static_cast<float>(Qabs);
   }
   void SetIntensities(std::size_t cell, double perpendicular, double parallel) {
     found.panels[0].value[cell] = static_cast<float>(perpendicular);

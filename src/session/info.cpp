@@ -46,7 +46,9 @@ std::string StatusText(const Session& session) {
   if (std::string wayOut = WayOutOfBand(session); !wayOut.empty()) return wayOut;
   if (!s.LastResults) return "Ready";
   return RunInShort(*s.LastResults) + FoldWords(session) +
-         (s.StopAnswer != 0 ? ", stopped: Replot draws what was done" : "");
+         (s.StopAnswer == 0                       ? ""
+          : s.LastResults->asked.graph.InColour() ? ", stopped"
+                                                  : ", stopped: Replot draws what was done");
 }
 
 }  // namespace lumivex

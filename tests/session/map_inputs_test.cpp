@@ -323,6 +323,9 @@ TEST_F(MapSession, ADisperseLeeDiagramIsCalculatedForOneSizeAndFoldedByReplot) {
   EXPECT_EQ(Number("FoldedShare"), -1) << "single sizes again";
   Do("set txtRstep 4\nclick cmdNewPlot\nclick optDisp\nclick cmdReplot");
   EXPECT_EQ(LastText(), "Increase the Standard Deviation to at least 19%");
+  EXPECT_EQ(Number("FoldedShare"), -1) << "what was refused is not drawn";
+  Do("click mnuFalseColours");
+  EXPECT_EQ(Number("FoldedShare"), -1) << "colours fold nothing in";
 }
 
 TEST_F(MapSession, AStopKeepsTheColumnsThatAreDone) {
@@ -335,6 +338,16 @@ TEST_F(MapSession, AStopKeepsTheColumnsThatAreDone) {
   EXPECT_LT(Map()->done, 41);
   Do("click cmdReplot");
   EXPECT_FALSE(TheSession().page.Empty());
+}
+
+// A run too short for any column to be shown on its way left the page of before.
+TEST_F(MapSession, AStoppedMapIsOnThePageAtOnce) {
+  Choose("Map: Q v. RI & size x");
+  Do("set txtF9_step 300\nset cboStep 300\nset txtXmax 300\nstop-at 30\nclick cmdNewPlot");
+  const Page& page = TheSession().page;
+  ASSERT_TRUE(page.map);
+  ASSERT_EQ(page.kind.graph, TheSession().state.LastResults->asked.graph);
+  EXPECT_EQ(page.map->values->done, Map()->done);
 }
 
 TEST_F(MapSession, ColumnsAppearAsTheyAreDone) {

@@ -39,10 +39,12 @@ void RedrawMap(Session& session) {
   const auto& results = session.state.LastResults;
   // A run of another kind that was stopped leaves the page of the map before.
   const bool shown = results && results->Find<MapFound>() != nullptr && results->asked.graph == session.page.kind.graph;
-  if (shown)
-    DrawResults(session, *WithSizesFolded(session));
-  else
-    ShowPage(session, WithLook(session.page, ReadLook(session)));
+  if (!shown) return ShowPage(session, WithLook(session.page, ReadLook(session)));
+  // Colours never decide whether sizes are folded in: that is Replot's. Mono takes out those that are.
+  auto& share = session.state.FoldedShare;
+  const bool folded = share >= 0 && session.form1.optDisp.Checked;
+  if (!folded) share = -1;
+  DrawResults(session, folded ? *WithSizesFolded(session) : *results);
 }
 
 void DrawResults(Session& session, const Results& results) {

@@ -61,12 +61,13 @@ void Overplot(Session& session, const RunRequest& request, Onto onto) {
   if (end.hasResults && end.outcome == Outcome::Done) {
     if (onto == Onto::FreshPage) ReadLimits(session);
     DisplayRun(session, onto);
+  } else if (end.hasResults && request.graph.InColour()) {
+    // Columns that are done stay on the page after a Stop, also where the run was too short for any to be shown before.
+    s.FoldedShare = -1;
+    DrawResults(session, *s.LastResults);
   } else if (watch.HasDrawn()) {
-    // Columns that are done stay on the page after a Stop; those of a run that failed give way to what was there.
-    if (end.hasResults)
-      DrawResults(session, *s.LastResults);
-    else
-      ShowPage(session, before);
+    // Those of a run that failed give way to what was there.
+    ShowPage(session, before);
   } else {
     // The bar and the lines of the run went over the page.
     DrawPage(session);
