@@ -95,6 +95,7 @@ std::vector<Colour> ColoursOf(const MapFound& found, std::size_t picture, ShownR
   const PictureCells cells(found, picture);
   const auto columns = static_cast<std::size_t>(found.columns), count = static_cast<std::size_t>(rows.count);
   std::vector<Colour> colours(columns * count, ink.ground);
+  if (colours.empty()) return colours;  // none of the rows is in view
   for (int column = 0; column < found.done; ++column) {
     const double reference = ink.look->absolute ? ink.scaleMaximum : GreatestOf(found, cells, column, rows);
     const ColumnInk of(cells, ink, column, reference);
