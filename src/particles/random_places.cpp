@@ -1,6 +1,7 @@
 #include "particles/random_places.h"
 
 #include <cmath>
+#include <initializer_list>
 #include <numbers>
 
 namespace lumivex {
