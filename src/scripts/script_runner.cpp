@@ -5,6 +5,7 @@
 #include <sstream>
 #include <vector>
 
+#include "files/file_events.h"
 #include "materials/files/readable_text.h"
 #include "record/number_text.h"
 #include "record/text_file.h"
@@ -267,6 +268,7 @@ void ScriptRunner::Open() {
   platform_.openPaths.clear();
   platform_.savePaths.clear();
   open_ = std::make_unique<OpenSession>(platform_, *surface_);
+  AddFileEvents(*open_);
   chosen_ = &open_->Get().windows.front();
   if (window_.reset) window_.reset(open_->Get());
 }

@@ -18,10 +18,10 @@ class EventTable final : public Events {
   void Attach(Session& session) { session_ = &session; }
   bool Raise(std::string_view name) override;
   bool Listens(std::string_view name) const;
-
- private:
+  /// An event of a storey above, or another handler in the place of the present one.
   void Add(std::string_view name, Handler handler);
 
+ private:
   std::map<std::string, Handler, std::less<>> handlers_;  ///< by name in lower case
   Session* session_ = nullptr;
 };

@@ -42,20 +42,28 @@ bool QtPlatform::Question(std::string_view title, std::string_view text) {
   return box.exec() == QMessageBox::Yes;
 }
 
+QString QtPlatform::InCurrentFolder(const std::string& suggested) const {
+  const QString name = ToQString(suggested);
+  return folder_.isEmpty() || QFileInfo(name).isAbsolute() ? name : folder_ + '/' + name;
+}
+
 std::optional<std::string> QtPlatform::OpenFileName(const FileDialog& dialog) {
-  const QString name = QFileDialog::getOpenFileName(window, ToQString(dialog.title), ToQString(dialog.suggested),
+  const QString name = QFileDialog::getOpenFileName(window, ToQString(dialog.title), InCurrentFolder(dialog.suggested),
                                                     ToQString(dialog.filter));
-  return name.isEmpty() ? std::nullopt : std::optional(FromQString(name));
+  if (name.isEmpty()) return std::nullopt;
+  folder_ = QFileInfo(name).absolutePath();
+  return FromQString(name);
 }
 
 std::optional<std::string> QtPlatform::SaveFileName(const FileDialog& dialog) {
   QString chosen;
-  QString name = QFileDialog::getSaveFileName(window, ToQString(dialog.title), ToQString(dialog.suggested),
+  QString name = QFileDialog::getSaveFileName(window, ToQString(dialog.title), InCurrentFolder(dialog.suggested),
                                               ToQString(dialog.filter), &chosen);
   if (name.isEmpty()) return std::nullopt;
   // A name without an ending takes that of the kind chosen: "SVG drawing (*.svg)".
   static const QRegularExpression ending(R"(\*(\.\w+))");
   if (QFileInfo(name).suffix().isEmpty()) name += ending.match(chosen).captured(1);
+  folder_ = QFileInfo(name).absolutePath();
   return FromQString(name);
 }
 

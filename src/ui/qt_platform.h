@@ -46,10 +46,12 @@ class QtPlatform final : public Platform {
 
  private:
   void Tell(QMessageBox::Icon icon, std::string_view title, std::string_view text) const;
+  QString InCurrentFolder(const std::string& suggested) const;
 
   CommandGate& gate_;
   QElapsedTimer clock_;
   QPointer<GuideWindow> guide_;
+  QString folder_;  ///< of the file that was chosen last, where the next dialog begins; empty before
 };
 
 }  // namespace lumivex

@@ -1,5 +1,6 @@
 #include "ui/windowed_session.h"
 
+#include "files/file_events.h"
 #include "session/start_up.h"
 
 namespace lumivex {
@@ -9,6 +10,7 @@ WindowedSession::WindowedSession() : platform_(gate_), window_(gate_), open_(pla
   platform_.show = [this](Form& form) { window_.Show(form); };
   platform_.showModal = [this](Form& form) { return window_.ShowDialog(form); };
   platform_.savePicture = [this](std::string_view path) { return window_.SavePicture(path); };
+  AddFileEvents(open_);
   window_.Attach(open_.Get());
 }
 
