@@ -7,6 +7,7 @@
 #include <QUrl>
 
 #include "session/user_actions.h"
+#include "source_folder.h"
 #include "window_fixture.h"
 
 namespace lumivex {
@@ -15,7 +16,7 @@ namespace {
 class DropTest : public WindowTest {
  protected:
   static QString Example(const char* name) {
-    return QDir(QFileInfo(__FILE__).absolutePath()).absoluteFilePath(QString("../../data/examples/") + name);
+    return QDir(QString::fromStdString(SourceFolder())).absoluteFilePath(QString("data/examples/") + name);
   }
 
   /// Drags files over a widget, as the window system would, and lets them go. @return whether they were taken.
