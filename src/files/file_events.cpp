@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "files/settings/settings_events.h"
+
 namespace lumivex {
 
 namespace {
@@ -17,6 +19,7 @@ constexpr std::array<EventRow, 0> fileEventRows = {};
 
 void AddFileEvents(OpenSession& open) {
   for (const auto& row : fileEventRows) open.Table().Add(row.name, row.handler);
+  for (const auto& row : SettingsEvents()) open.Table().Add(row.name, row.handler);
 }
 
 }  // namespace lumivex

@@ -7,6 +7,7 @@
 #include "record/forms/dialogs.h"
 #include "record/main_form_state.h"
 #include "record/platform.h"
+#include "record/settings.h"
 #include "record/undo_history.h"
 
 namespace lumivex {
@@ -35,6 +36,7 @@ struct Session {
   Page& page = windows.front().page;                   ///< of the main window
   Events& events;
   UndoHistory undo;
+  Settings settings;
 };
 
 }  // namespace lumivex

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
+#include "session/driver/calibration.h"
 #include "session/driver/commands.h"
 #include "session/driver/display_run.h"
 #include "session/file_menu.h"
@@ -113,6 +114,10 @@ constexpr EventRow eventRows[] = {
     {"mnuClassicStart_Click", mnuClassicStart_Click},
     {"mnuConstantVolume_Click", mnuConstantVolume_Click},
     {"mnuXStepLog_Click", mnuXStepLog_Click},
+    {"mnuCalibration_Click", mnuCalibration_Click},
+    {"dlogCalibration.cmdMeasure_Click", dlogCalibration_cmdMeasure_Click},
+    {"dlogCalibration.txtCalibration_Change", dlogCalibration_txtCalibration_Change},
+    {"dlogCalibration.OKButton_Click", dlogCalibration_OKButton_Click},
 };
 
 std::string LowerCase(std::string_view text) {

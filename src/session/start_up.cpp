@@ -1,10 +1,8 @@
 #include "session/start_up.h"
 
 #include <array>
-#include <filesystem>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <vector>
 
 #include "particles/gamma_function.h"
@@ -127,13 +125,6 @@ void HideUnavailable(Form1& f) {
   f.lblWatts.Visible = f.lblDistance.Visible = false;
 }
 
-/// Where the running program lies; empty where the system does not tell.
-std::string ProgramFolder() {
-  std::error_code error;
-  const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
-  return error ? std::string() : program.parent_path().string();
-}
-
 void PlaceGraph(Session& session) {
   auto& s = session.state;
   auto& f = session.form1;
@@ -232,9 +223,11 @@ void Form_Load(Session& session) {
   WriteCaptions(f);
   for (TextInput* input : {&f.txtLambda, &f.txtRadius, &f.txtRefractReal, &f.txtRefractImag})
     input->BackColour = colours::White;
+  f.mnuContinueSession.Enabled = f.mnuRecent.Enabled = false;
   s.Busy = 0;
   if (s.ScreenWidthPx > 1024) session.events.Raise("mnuVLarge_Click");
   cmdInfo_Click(session);
+  session.events.Raise("Session_Loaded");
   OfferHistory(session);
 }
 

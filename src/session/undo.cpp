@@ -11,42 +11,6 @@ namespace lumivex {
 
 namespace {
 
-/// Visits the captions that follow from the inputs.
-template <class Visitor>
-void ForEachCaption(Form1& form, Visitor&& visit) {
-  for (Control* control : form.Controls()) {
-    if (control->Kind() == ControlKind::Label) visit(static_cast<Label*>(control)->Caption);
-    if (control->Kind() == ControlKind::Frame) visit(static_cast<Frame*>(control)->Caption);
-  }
-}
-
-InputState Present(Session& session) {
-  const auto& s = session.state;
-  InputState state;
-  state.graph = {s.GraphType, s.GraphSubType};
-  state.method = s.CalcMethod;
-  state.sphereName = s.SphereName;
-  state.mediumName = s.MediumName;
-  if (session.form1.cmdReplot.Enabled) state.replots = s.LastResults;
-  state.settings = {s.SpectrumMin,
-                    s.SpectrumMax,
-                    s.BlackBodyTemp,
-                    s.IncidentDensity,
-                    s.Distance,
-                    s.RIUserEdited,
-                    s.SphereIndexTyped,
-                    s.SphereIndexVaries,
-                    s.MediumIndexTyped,
-                    s.CatalogueIndex,
-                    s.PickedLineColour,
-                    s.BarReference,
-                    s.BarReferencePerWaveNumber,
-                    s.Sellmeier};
-  for (const Form* form : session.forms.All()) state.forms.push_back(form->Snapshot());
-  ForEachCaption(session.form1, [&](const std::string& caption) { state.captions.push_back(caption); });
-  return state;
-}
-
 void RestoreSettings(MainFormState& s, const DialogSettings& settings) {
   s.SpectrumMin = settings.spectrumMin;
   s.SpectrumMax = settings.spectrumMax;
@@ -70,39 +34,16 @@ void OfferReplot(Session& session, const InputState& state) {
   if (results && results == session.state.LastResults) session.form1.cmdReplot.Enabled = true;
 }
 
-void Restore(Session& session, const InputState& state) {
-  auto& s = session.state;
-  s.LoadingFlag = 1;
-  const auto forms = session.forms.All();
-  for (std::size_t i = 0; i < forms.size() && i < state.forms.size(); ++i) forms[i]->Restore(state.forms[i]);
-  SetGraph(s, state.graph);
-  s.CalcMethod = state.method;
-  s.SphereName = state.sphereName;
-  s.MediumName = state.mediumName;
-  RestoreSettings(s, state.settings);
-  ShowFamilyInputs(session);
-  std::size_t i = 0;
-  ForEachCaption(session.form1, [&](std::string& caption) {
-    if (i < state.captions.size()) caption = state.captions[i++];
-  });
-  for (Control* control : session.form1.Controls()) control->BackColour = colours::White;
-  s.LoadingFlag = 0;
-  Inputs_Changed(session);
-  OfferReplot(session, state);
-}
-
 /// Moves one state over: the present one onto `to`, the last of `from` into the inputs.
 void Step(Session& session, std::vector<InputState>& from, std::vector<InputState>& to) {
-  InputState present = Present(session);
+  InputState present = PresentInputs(session);
   // A dialog that was cancelled, a tick set and taken away.
   while (!from.empty() && from.back() == present) from.pop_back();
   if (from.empty()) return;
   to.push_back(std::move(present));
   const InputState state = std::move(from.back());
   from.pop_back();
-  Restore(session, state);
-  TakeTickedLook(session);
-  RenewLook(session);
+  RestoreInputs(session, state);
   session.undo.typedInto.clear();
 }
 
@@ -138,9 +79,59 @@ void EnableHistory(Session& session) {
 
 }  // namespace
 
+InputState PresentInputs(Session& session) {
+  const auto& s = session.state;
+  InputState state;
+  state.graph = {s.GraphType, s.GraphSubType};
+  state.method = s.CalcMethod;
+  state.sphereName = s.SphereName;
+  state.mediumName = s.MediumName;
+  if (session.form1.cmdReplot.Enabled) state.replots = s.LastResults;
+  state.settings = {s.SpectrumMin,
+                    s.SpectrumMax,
+                    s.BlackBodyTemp,
+                    s.IncidentDensity,
+                    s.Distance,
+                    s.RIUserEdited,
+                    s.SphereIndexTyped,
+                    s.SphereIndexVaries,
+                    s.MediumIndexTyped,
+                    s.CatalogueIndex,
+                    s.PickedLineColour,
+                    s.BarReference,
+                    s.BarReferencePerWaveNumber,
+                    s.Sellmeier};
+  for (const Form* form : session.forms.All()) state.forms.push_back(form->Snapshot());
+  ForEachCaption(session.form1, [&](Control&, const std::string& caption) { state.captions.push_back(caption); });
+  return state;
+}
+
+void RestoreInputs(Session& session, const InputState& state) {
+  auto& s = session.state;
+  s.LoadingFlag = 1;
+  const auto forms = session.forms.All();
+  for (std::size_t i = 0; i < forms.size() && i < state.forms.size(); ++i) forms[i]->Restore(state.forms[i]);
+  SetGraph(s, state.graph);
+  s.CalcMethod = state.method;
+  s.SphereName = state.sphereName;
+  s.MediumName = state.mediumName;
+  RestoreSettings(s, state.settings);
+  ShowFamilyInputs(session);
+  std::size_t i = 0;
+  ForEachCaption(session.form1, [&](Control&, std::string& caption) {
+    if (i < state.captions.size()) caption = state.captions[i++];
+  });
+  for (Control* control : session.form1.Controls()) control->BackColour = colours::White;
+  s.LoadingFlag = 0;
+  Inputs_Changed(session);
+  OfferReplot(session, state);
+  TakeTickedLook(session);
+  RenewLook(session);
+}
+
 DialogScope::DialogScope(Session& session, Form& form) : session_(session) {
   auto& undo = session.undo;
-  if (undo.acting == 0 && undo.open.empty()) before_ = Present(session);
+  if (undo.acting == 0 && undo.open.empty()) before_ = PresentInputs(session);
   undo.open.push_back({&form, {}, {}, {}});
 }
 
@@ -148,7 +139,7 @@ DialogScope::~DialogScope() {
   auto& undo = session_.undo;
   undo.open.pop_back();
   undo.typedInto.clear();
-  if (before_ && !(*before_ == Present(session_))) KeepStep(undo, std::move(*before_));
+  if (before_ && !(*before_ == PresentInputs(session_))) KeepStep(undo, std::move(*before_));
   EnableHistory(session_);
 }
 
@@ -159,12 +150,12 @@ void RememberInputs(Session& session, std::string_view typedInto) {
   const bool goesOn = !typedInto.empty() && undo.typedInto == typedInto;
   undo.typedInto = typedInto;
   if (goesOn) return;
-  KeepStep(undo, Present(session));
+  KeepStep(undo, PresentInputs(session));
 }
 
 void OfferHistory(Session& session) {
   auto& undo = session.undo;
-  if (undo.acting == 0 && undo.open.empty() && !undo.past.empty() && undo.past.back() == Present(session)) {
+  if (undo.acting == 0 && undo.open.empty() && !undo.past.empty() && undo.past.back() == PresentInputs(session)) {
     undo.past.pop_back();
     undo.typedInto.clear();
   }

@@ -6,6 +6,22 @@
 
 namespace lumivex {
 
+/// What the user has set by now.
+InputState PresentInputs(Session& session);
+
+/// Puts inputs back as they were. Events are held back, the page and the results stay; Replot is offered where the
+/// results on show are those of these inputs.
+void RestoreInputs(Session& session, const InputState& state);
+
+/// Visits the captions that follow from the inputs, in the order of InputState::captions: visit(control, caption).
+template <class Visitor>
+void ForEachCaption(Form1& form, Visitor&& visit) {
+  for (Control* control : form.Controls()) {
+    if (control->Kind() == ControlKind::Label) visit(*control, static_cast<Label*>(control)->Caption);
+    if (control->Kind() == ControlKind::Frame) visit(*control, static_cast<Frame*>(control)->Caption);
+  }
+}
+
 /// Most actions that can be undone.
 inline constexpr std::size_t mostUndoSteps = 200;
 

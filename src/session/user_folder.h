@@ -9,4 +9,10 @@ namespace lumivex {
 /// be there yet.
 std::string UserDataFolder();
 
+/// The folder of the user's settings of this program: the same in $XDG_CONFIG_HOME, or in ".config" of the home folder.
+std::string UserConfigFolder();
+
+/// Where the running program lies; empty where the system does not tell.
+std::string ProgramFolder();
+
 }  // namespace lumivex

@@ -3,7 +3,9 @@
 #include <string>
 #include <string_view>
 
+#include "files/settings/save_ini.h"
 #include "record/version.h"
+#include "session/user_folder.h"
 #include "ui/look.h"
 #include "ui/process_clock.h"
 #include "ui/script_window.h"
@@ -16,14 +18,15 @@ using namespace lumivex;
 constexpr int usageError = 2, noDisplay = 3;
 
 constexpr char usage[] =
-    "Usage: lumivex [--timing] [--script FILE]\n"
+    "Usage: lumivex [--fresh] [--timing] [--script FILE]\n"
+    "  --fresh        begin as on the first day: read no settings, and keep neither settings nor session\n"
     "  --timing       tell how long the first picture took, and end\n"
     "  --script FILE  run a script in the window, and end; without a display in one that is not shown\n"
     "  --version      tell the version, and end\n"
     "  --help         this text\n";
 
 struct Arguments {
-  bool timing = false, help = false, version = false;
+  bool fresh = false, timing = false, help = false, version = false;
   std::string script;
   std::string unknown;
 };
@@ -32,7 +35,9 @@ Arguments Read(int argc, char** argv) {
   Arguments arguments;
   for (int i = 1; i < argc; ++i) {
     const std::string_view argument = argv[i];
-    if (argument == "--timing") {
+    if (argument == "--fresh") {
+      arguments.fresh = true;
+    } else if (argument == "--timing") {
       arguments.timing = true;
     } else if (argument == "--help" || argument == "-h") {
       arguments.help = true;
@@ -59,17 +64,23 @@ bool HasDisplay() {
 #endif
 }
 
-int RunWindow(bool timing) {
+int RunWindow(const Arguments& arguments) {
   WindowedSession program;
+  // A measurement leaves nothing behind.
+  const bool keeps = !arguments.fresh && !arguments.timing;
+  if (keeps) program.UseSettings(SettingsFolder(ProgramFolder(), UserConfigFolder()));
   program.Load();
-  if (timing) {
+  if (arguments.timing) {
     program.Window().Drawing().firstPainted = [] {
       std::printf("first picture after %.0f ms\n", MillisecondsSinceStart());
       QCoreApplication::exit(0);
     };
   }
   program.Window().show();
-  return QApplication::exec();
+  if (keeps) program.KeepSession();
+  const int code = QApplication::exec();
+  if (keeps) program.End();
+  return code;
 }
 
 }  // namespace
@@ -97,5 +108,5 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName("Lumivex");
   QApplication::setApplicationVersion(ToQString(programVersion));
   QApplication application(argc, argv);
-  return arguments.script.empty() ? RunWindow(arguments.timing) : RunScript(arguments.script);
+  return arguments.script.empty() ? RunWindow(arguments) : RunScript(arguments.script);
 }

@@ -297,6 +297,19 @@ void MainWindow::Resized() {
   });
 }
 
+std::string MainWindow::Place() const {
+  return saveGeometry().toBase64().toStdString();
+}
+
+void MainWindow::TakePlace(const std::string& place) {
+  const QByteArray bytes = QByteArray::fromBase64(QByteArray::fromStdString(place));
+  // One that was cut off is taken as far as it goes, for a window of hardly any size.
+  if (bytes.size() != saveGeometry().size() || !restoreGeometry(bytes)) return;
+  layout()->activate();
+  FitPanel();
+  RenewDrawing();
+}
+
 void MainWindow::Settle() {
   // Twice: a panel of another size changes the room that the scroll area needs.
   for (int pass = 0; pass < 2; ++pass) {

@@ -55,6 +55,10 @@ class MainWindow final : public QMainWindow {
   /// The widget of a control of the panel, null where it has none.
   QWidget* WidgetOf(const Control& control) const;
   QAction* ActionOf(const MenuEntry& entry) const { return menu_->ActionOf(entry); }
+  /// Size and place of the window on the desktop as a text for settings, and the same back; a text that is none leaves
+  /// the window as it is. To be taken before the window is shown.
+  std::string Place() const;
+  void TakePlace(const std::string& place);
   /// Takes up a new size at once, without waiting for the event loop.
   void Settle();
 

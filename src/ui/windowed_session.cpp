@@ -1,6 +1,11 @@
 #include "ui/windowed_session.h"
 
+#include <QTimer>
+
 #include "files/file_events.h"
+#include "files/settings/continue_session.h"
+#include "files/settings/keep_session.h"
+#include "files/settings/save_ini.h"
 #include "session/start_up.h"
 
 namespace lumivex {
@@ -16,6 +21,35 @@ WindowedSession::WindowedSession() : platform_(gate_), window_(gate_), open_(pla
 
 void WindowedSession::Load() {
   gate_.Do([this] { Form_Load(open_.Get()); });
+}
+
+void WindowedSession::UseSettings(const std::string& folder) {
+  auto& settings = open_.Get().settings;
+  settings.folder = folder;
+  ReadIni(open_.Get());
+  window_.TakePlace(settings.windowPlace);
+}
+
+void WindowedSession::KeepSession() {
+  if (!BeginSession(open_.Get(), ThisProgram())) return;
+  // Not here: a question in front of a window that is not there yet would be all that is seen.
+  QTimer::singleShot(0, &window_, [this] {
+    gate_.Do([this] {
+      Session& session = open_.Get();
+      const bool wanted = session.platform.Question(
+          "Continue last session", "The last session did not end as it should.\n\nDo you want to continue it?");
+      if (wanted) ContinueSession(session, session.settings.lastSessionFile);
+    });
+  });
+}
+
+void WindowedSession::End() {
+  auto& settings = open_.Get().settings;
+  const std::string place = window_.Place();
+  settings.unsaved.window = place != settings.windowPlace;
+  settings.windowPlace = place;
+  Save_ini(open_.Get());
+  EndSession(open_.Get());
 }
 
 }  // namespace lumivex

@@ -15,6 +15,15 @@ class WindowedSession {
   /// Opens the session, as far as its first plot; the window is not shown by it.
   void Load();
 
+  /// Keeps settings in that folder from now on, and takes over those that are there; to be called before Load. Without
+  /// it, or with an empty name, the program begins as on its first day and leaves nothing behind.
+  void UseSettings(const std::string& folder);
+  /// After Load: keeps the session too. One that was left by a crash is offered to the user as soon as the window is on
+  /// the screen.
+  void KeepSession();
+  /// The program ends: writes the settings and the session.
+  void End();
+
   CommandGate& Gate() { return gate_; }
   QtPlatform& World() { return platform_; }
   MainWindow& Window() { return window_; }

@@ -26,6 +26,7 @@ seed x "$root/data/Dispersion.rxi"
 sed -n 's/^    \(set\|get\|table\|picture\|choose\)/\1/p' "$root/README.md" | split -l 1 - "$work/texts.seeds/line_"
 printf '%s' '1.25E-07' > "$work/texts.seeds/number"
 printf '%s' 'picture "a #1.png" 300x200 # told' > "$work/texts.seeds/quoted"
+printf '[Recent]\nFile1=batch|/a\\nb\n[Window]\nPlace=A=\n' > "$work/texts.seeds/configuration"
 printf 'Ice, "thin"\n1.03\n0\n1e-400\n' > "$work/writers.seeds/entry"
 
 for program in input_files texts writers; do

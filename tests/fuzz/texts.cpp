@@ -1,4 +1,4 @@
-/// Fuzzes what takes texts apart: numbers and lines of scripts.
+/// Fuzzes what takes texts apart: numbers, lines of scripts and configurations.
 
 #include <algorithm>
 #include <cmath>
@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "files/settings/ini_text.h"
 #include "fuzz/require.h"
 #include "materials/files/import_text.h"
 #include "materials/files/readable_text.h"
@@ -61,6 +62,15 @@ void CheckQuote(std::string_view text) {
   for (const auto& cell : CellsOf(text)) NumberOfCell(cell);
 }
 
+/// What was read of a configuration is written so that the same is read again.
+void CheckIni(std::string_view text) {
+  const IniText ini = IniText::Read(text);
+  const std::string written = ini.Write();
+  Require(IniText::Read(written).Write() == written);
+  for (const auto& section : ini.Sections())
+    for (const auto& [key, value] : section.values) Require(ini.Value(section.name, key).has_value());
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -69,5 +79,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   CheckPattern(text);
   CheckLine(text);
   CheckQuote(text);
+  CheckIni(text);
   return 0;
 }

@@ -3,6 +3,7 @@
 #include <fstream>
 #include <set>
 
+#include "files/file_events.h"
 #include "record/layout/menu_tree.h"
 #include "record/layout/panel_layout.h"
 #include "session/event_table.h"
@@ -26,7 +27,10 @@ TEST_F(Record, ControlsAreDeclaredOnceAndFoundWhateverTheirCase) {
 }
 
 TEST_F(Record, EveryMenuEntryThatIsOfferedIsDeclaredAndActs) {
-  const EventTable table;
+  ScriptedPlatform world;
+  RecordingSurface surface(15000, 9000);
+  OpenSession open(world, surface);
+  AddFileEvents(open);
   std::set<std::string_view> seen;
   for (const auto& row : OfferedMenu()) {
     if (row.entry == "-") continue;
@@ -34,7 +38,7 @@ TEST_F(Record, EveryMenuEntryThatIsOfferedIsDeclaredAndActs) {
     const Control* entry = runner.Current().form1.Find(row.entry);
     ASSERT_NE(entry, nullptr) << row.entry;
     EXPECT_EQ(entry->Kind(), ControlKind::MenuEntry) << row.entry;
-    EXPECT_TRUE(table.Listens(std::string(row.entry) + "_Click")) << row.entry << " is dead";
+    EXPECT_TRUE(open.Table().Listens(std::string(row.entry) + "_Click")) << row.entry << " is dead";
   }
 }
 

@@ -9,6 +9,7 @@
 #include "record/forms/main_form.h"
 #include "record/forms/material_dialogs.h"
 #include "record/forms/ray_dialogs.h"
+#include "record/forms/settings_dialogs.h"
 #include "record/forms/size_dialogs.h"
 #include "record/forms/volume_dialog.h"
 
@@ -63,11 +64,12 @@ struct Forms : MaterialDialogs, LightDialogs, SizeDialogs, RayDialogs, AngleDial
   DlogPlotColour dlogPlotColour;
   DlogCoatedSphere dlogCoatedSphere;
   DlogVolume dlogVolume;
+  DlogCalibration dlogCalibration;
 
   /// All of them, the main window first.
   std::vector<Form*> All() {
     std::vector<Form*> all = {&form1,          &dlogTemp,         &dlogSpectrumBand, &dlogAverage,
-                              &dlogPlotColour, &dlogCoatedSphere, &dlogVolume};
+                              &dlogPlotColour, &dlogCoatedSphere, &dlogVolume,       &dlogCalibration};
     for (const auto& more : {MaterialForms(), LightForms(), SizeForms(), RayForms(), AngleForms()})
       all.insert(all.end(), more.begin(), more.end());
     return all;

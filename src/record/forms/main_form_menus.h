@@ -1,6 +1,7 @@
 #pragma once
 
 #include "record/forms/main_form_inputs.h"
+#include "record/forms/numbered_entries.h"
 
 namespace lumivex {
 
@@ -13,6 +14,11 @@ struct Form1Menus : Form1Inputs {
   MenuEntry mnuOverplot{*this, "mnuOverplot", "Overplot from file ..."};
   MenuEntry mnuS1S2{*this, "mnuS1S2", "Include S1 and S2 in text"};
   MenuEntry mnuBatchFile{*this, "mnuBatchFile", "Batch file ..."};
+  MenuEntry mnuRecent{*this, "mnuRecent", "Recent files"};
+  NumberedEntries recentEntries{*this, recentEntryNames};
+  MenuEntry mnuClearRecent{*this, "mnuClearRecent", "Clear this list"};
+  MenuEntry mnuContinueSession{*this, "mnuContinueSession", "Continue last session", false,
+                               "Every input as it was when the program was last closed"};
   MenuEntry mnuSavePicture{*this, "mnuSavePicture", "Save picture ..."};
   MenuEntry mnuCopyPicture{*this, "mnuCopyPicture", "Copy picture"};
   MenuEntry mnuCopyData{*this, "mnuCopyData", "Copy data"};
@@ -134,6 +140,8 @@ struct Form1Menus : Form1Inputs {
   MenuEntry mnuBessel{*this, "mnuBessel", "Bessel functions"};
   MenuEntry mnuAiry{*this, "mnuAiry", "Airy function"};
   MenuEntry mnuReadDiff{*this, "mnuReadDiff", "Read a table of Bessel functions ..."};
+  MenuEntry mnuCalibration{*this, "mnuCalibration", "Speed of this machine ...", false,
+                           "By which the time of a long calculation is told before it begins"};
   MenuEntry mnuSurfaceWave{*this, "mnuSurfaceWave", "Surface wave"};
   MenuEntry mnuMieGConv{*this, "mnuMieGConv", "Convergence against L"};
   MenuEntry mnuMieGConv2{*this, "mnuMieGConv2", "Convergence against M"};

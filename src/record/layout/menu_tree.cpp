@@ -2,7 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <iterator>
+
+#include "record/forms/numbered_entries.h"
 
 namespace lumivex {
 
@@ -16,6 +17,11 @@ constexpr std::array menuRows = {
     MenuRow{"File", "mnuOverplot", ResultsFiles},
     MenuRow{"File", "mnuBatchFile", BatchFiles},
     MenuRow{"File", "mnuS1S2", ResultsFiles},
+    MenuRow{"File", "-"},
+    MenuRow{"File/Recent files", "mnuRecent#"},
+    MenuRow{"File/Recent files", "-"},
+    MenuRow{"File/Recent files", "mnuClearRecent"},
+    MenuRow{"File", "mnuContinueSession"},
     MenuRow{"File", "-"},
     MenuRow{"File", "mnuSavePicture", Always, "Ctrl+P"},
     MenuRow{"File", "mnuCopyPicture", Always, "Ctrl+Shift+C"},
@@ -165,6 +171,8 @@ constexpr std::array menuRows = {
     MenuRow{"Advanced", "mnuBessel", RayOptics},
     MenuRow{"Advanced", "mnuAiry", RayOptics},
     MenuRow{"Advanced", "mnuReadDiff", RayOptics},
+    MenuRow{"Advanced", "-"},
+    MenuRow{"Advanced", "mnuCalibration"},
 
     MenuRow{"Window", "mnuWindowGraph", Simulation},
     MenuRow{"Window", "mnuWindowSimulation", Simulation},
@@ -174,6 +182,7 @@ constexpr std::array menuRows = {
 };
 
 constexpr std::array submenuRows = {
+    SubmenuRow{"File/Recent files", "mnuRecent"},
     SubmenuRow{"Light/Spectrum", "mnuSpectrum"},
     SubmenuRow{"Light/Illumination", "mnuIllumination"},
     SubmenuRow{"Colour/Gamma", "mnuGamma"},
@@ -184,11 +193,28 @@ constexpr std::array submenuRows = {
     SubmenuRow{"Advanced/Size of sphere", "mnuRadiusDiameter"},
 };
 
+/// Entries that stand one below the other in the place of one row.
+struct NumberedRow {
+  std::string_view entry;
+  std::span<const std::string_view> names;
+};
+constexpr std::array numberedRows = {
+    NumberedRow{"mnuRecent#", recentEntryNames},
+};
+
 }  // namespace
 
 std::vector<MenuRow> OfferedMenu() {
   std::vector<MenuRow> rows;
-  std::ranges::copy_if(menuRows, std::back_inserter(rows), [](const MenuRow& row) { return IsAvailable(row.feature); });
+  for (const MenuRow& row : menuRows) {
+    if (!IsAvailable(row.feature)) continue;
+    const auto numbered = std::ranges::find(numberedRows, row.entry, &NumberedRow::entry);
+    if (numbered == numberedRows.end()) {
+      rows.push_back(row);
+    } else {
+      for (const std::string_view name : numbered->names) rows.push_back({row.path, name, row.feature});
+    }
+  }
   return rows;
 }
 

@@ -6,6 +6,7 @@
 #include "record/layout/light_dialog_lines.h"
 #include "record/layout/material_dialog_lines.h"
 #include "record/layout/ray_dialog_lines.h"
+#include "record/layout/settings_dialog_lines.h"
 #include "record/layout/size_dialog_lines.h"
 #include "record/layout/volume_dialog_lines.h"
 
@@ -107,6 +108,7 @@ std::span<const DialogLayout> Dialogs() {
     add(rayDialogLayouts);
     add(angleDialogLayouts);
     add(volumeDialogLayouts);
+    add(settingsDialogLayouts);
     return layouts;
   }();
   return all;

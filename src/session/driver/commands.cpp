@@ -102,6 +102,7 @@ void EndCommand(Session& session, const Offered& before) {
     form.cmdOverPlot.Enabled = before.overPlot;
   }
   session.platform.Beep();
+  session.events.Raise("Run_Ended");
 }
 
 }  // namespace

@@ -7,8 +7,8 @@
 #include "record/number_text.h"
 #include "runs/curves.h"
 #include "runs/work.h"
+#include "session/driver/calibration.h"
 #include "session/inputs/methods/rays_check.h"
-#include "solvers/series/angular_sum.h"
 
 namespace lumivex {
 
@@ -16,22 +16,6 @@ namespace {
 
 /// Below this many terms times angle pairs no machine in use needs the time that is asked about, so none is measured.
 constexpr double pairTermsNeverSlow = 2e8;
-
-/// Seconds for one term of one pair of angles on this machine: a small series, the best of three.
-double MeasurePairTerm(Platform& platform) {
-  constexpr int terms = 2000, rows = 400;
-  const PartialWaves waves(terms);
-  const AngleGrid grid(rows);
-  AmplitudeTable S1(grid.RowCount()), S2(grid.RowCount());
-  double best = 1e300;
-  for (int i = 0; i < 3; ++i) {
-    SilentMonitor silent;
-    const double start = platform.Timer();
-    SumAngularSeries(waves, grid, {1, grid.RowCount()}, S1, S2, silent);
-    best = std::min(best, platform.Timer() - start);
-  }
-  return best / (static_cast<double>(terms) * rows);
-}
 
 /// One wavelength (um) that stands for those of the run.
 double TypicalWavelength(const RunRequest& request) {
@@ -42,7 +26,7 @@ double TypicalWavelength(const RunRequest& request) {
 double SecondsHere(Session& session, const RunRequest& request) {
   auto& s = session.state;
   const double pairTerms = PairTermsOf(request);
-  if (!(pairTerms > pairTermsNeverSlow)) return 0;
+  if (s.CalibrationState == 0 && !(pairTerms > pairTermsNeverSlow)) return 0;
   if (s.SecondsPerPairTerm == 0) s.SecondsPerPairTerm = MeasurePairTerm(session.platform);
   return pairTerms * s.SecondsPerPairTerm;
 }

@@ -5,6 +5,7 @@
 #include "materials/files/input_items.h"
 #include "materials/files/readable_text.h"
 #include "materials/files/spectrum_file.h"
+#include "session/recent_files.h"
 
 namespace lumivex {
 
@@ -51,6 +52,7 @@ bool ReadSpectrum(Session& session, const std::string& path) {
   s.SpectrumFileNonUniform = file.nonUniform ? 1 : 0;
   s.SpectrumFileLoaded = 1;
   s.SpectrumFileName = path;
+  NoteFile(session, FileKind::Spectrum, path);
   return true;
 }
 

@@ -8,6 +8,7 @@
 #include "materials/files/readable_text.h"
 #include "session/inputs/dialog_use.h"
 #include "session/inputs/materials/read_material.h"
+#include "session/recent_files.h"
 
 namespace lumivex {
 
@@ -73,6 +74,7 @@ bool Read(Session& session, const std::string& path, Reader reader) {
   (sphere ? s.FileLambda1 : s.FileLambda2) = table->lambda;
   (sphere ? s.FileData1 : s.FileData2) = table->rows;
   (sphere ? s.FileTable1 : s.FileTable2) = table;
+  NoteFile(session, sphere ? FileKind::SphereIndex : FileKind::MediumIndex, path);
   session.events.Raise("txtLambda_change");
   session.form1.txtLambda.BackColour = colours::White;
   return true;

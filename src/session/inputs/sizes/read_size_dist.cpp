@@ -6,6 +6,7 @@
 #include "materials/files/readable_text.h"
 #include "particles/size_file.h"
 #include "session/inputs/dialog_use.h"
+#include "session/recent_files.h"
 
 namespace lumivex {
 
@@ -40,6 +41,7 @@ bool ReadFrom(Session& session, const std::string& path) {
   s.SizeFilePeak = file.peak;
   s.SizeFileName = path;
   s.SizeFileLoaded = 1;
+  NoteFile(session, FileKind::Sizes, path);
   return true;
 }
 
