@@ -3,6 +3,8 @@
 #include <array>
 #include <filesystem>
 
+#include "files/results/save_data.h"
+
 namespace lumivex {
 
 namespace {
@@ -17,7 +19,7 @@ struct KindRow {
 };
 
 constexpr std::array kindRows = {
-    KindRow{SaveKind::Results, "Lumivex file(*.lvx)", "*.lvx", "Select a file name for saving data", nullptr},
+    KindRow{SaveKind::Results, "Lumivex file(*.lvx)", "*.lvx", "Select a file name for saving data", Save_Data},
     KindRow{SaveKind::TextReport, "Text file(*.txt)", "*.txt",
             "Select a file name for saving numerical data as a text file", nullptr},
     KindRow{SaveKind::BatchOutput, "Lumivex batch file(*.mut)", "*.mut", "Select a file name for saving batch data",

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "files/results/read_file.h"
+#include "files/results/save_data.h"
 #include "files/settings/settings_events.h"
 
 namespace lumivex {
@@ -13,7 +15,12 @@ struct EventRow {
   EventTable::Handler handler;
 };
 
-constexpr std::array<EventRow, 0> fileEventRows = {};
+constexpr std::array fileEventRows = {
+    EventRow{"mnuRead_Click", mnuRead_Click},
+    EventRow{"mnuSave_Click", mnuSave_Click},
+    EventRow{"mnuOverplot_Click", mnuOverplot_Click},
+    EventRow{"mnuS1S2_Click", mnuS1S2_Click},
+};
 
 }  // namespace
 

@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "files/file_events.h"
+#include "files/open_file.h"
+#include "files/results/save_data.h"
 #include "materials/files/readable_text.h"
 #include "record/number_text.h"
 #include "record/text_file.h"
@@ -129,6 +131,18 @@ struct ScriptCommands {
 
   static void SavePath(ScriptRunner& run, std::string_view rest) { run.platform_.savePaths.push_back(PathIn(rest)); }
 
+  static void Load(ScriptRunner& run, std::string_view rest) {
+    const std::string path = PathIn(rest);
+    if (path.empty()) throw Failure{"load needs the name of a file"};
+    if (!OpenFile(run.Current(), path)) throw Failure{ReadablePath(path) + " was not read"};
+  }
+
+  static void SaveResults(ScriptRunner& run, std::string_view rest) {
+    const std::string path = PathIn(rest);
+    if (path.empty()) throw Failure{"save-results needs the name of a file"};
+    if (const std::string failure = Save_Data(run.Current(), path); !failure.empty()) throw Failure{failure};
+  }
+
   static void Get(ScriptRunner& run, std::string_view rest) {
     const auto value = ReadValue(run.Current(), rest);
     if (!value) throw Failure{"there is nothing named " + Readable(rest)};
@@ -232,6 +246,7 @@ constexpr CommandRow commandRows[] = {
     {"array", ScriptCommands::Array},     {"window", ScriptCommands::ChooseWindow},
     {"drawing", ScriptCommands::Drawing}, {"mouse", ScriptCommands::Mouse},
     {"size", ScriptCommands::Size},       {"stop-at", ScriptCommands::StopAt},
+    {"load", ScriptCommands::Load},       {"save-results", ScriptCommands::SaveResults},
     {"reset", ScriptCommands::Reset},     {"messages", ScriptCommands::Messages},
     {"picture", ScriptCommands::Picture}, {"screenshot", ScriptCommands::Screenshot},
 };

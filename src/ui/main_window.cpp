@@ -21,8 +21,8 @@
 #include <cmath>
 #include <utility>
 
+#include "files/open_file.h"
 #include "record/text_file.h"
-#include "session/dropped_files.h"
 #include "session/info.h"
 #include "session/page.h"
 #include "session/undo.h"
@@ -441,7 +441,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
   }
   event->acceptProposedAction();
   // Not here: a message would hold the program that the file came from.
-  QTimer::singleShot(0, this, [this, paths = std::move(paths)] { Act([&] { DropFiles(*session_, paths); }); });
+  QTimer::singleShot(0, this, [this, paths = std::move(paths)] { Act([&] { OpenDroppedFiles(*session_, paths); }); });
 }
 
 void MainWindow::changeEvent(QEvent* event) {

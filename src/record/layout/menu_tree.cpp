@@ -12,11 +12,11 @@ namespace {
 using enum Feature;
 
 constexpr std::array menuRows = {
-    MenuRow{"File", "mnuRead", ResultsFiles, "Ctrl+O"},
-    MenuRow{"File", "mnuSave", ResultsFiles, "Ctrl+S"},
-    MenuRow{"File", "mnuOverplot", ResultsFiles},
+    MenuRow{"File", "mnuRead", Always, "Ctrl+O"},
+    MenuRow{"File", "mnuSave", Always, "Ctrl+S"},
+    MenuRow{"File", "mnuOverplot"},
     MenuRow{"File", "mnuBatchFile", BatchFiles},
-    MenuRow{"File", "mnuS1S2", ResultsFiles},
+    MenuRow{"File", "mnuS1S2"},
     MenuRow{"File", "-"},
     MenuRow{"File/Recent files", "mnuRecent#"},
     MenuRow{"File/Recent files", "-"},

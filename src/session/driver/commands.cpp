@@ -1,6 +1,7 @@
 #include "session/driver/commands.h"
 
 #include <memory>
+#include <utility>
 
 #include "record/number_text.h"
 #include "session/checks/range_check.h"
@@ -23,7 +24,8 @@ bool HasRun(const MainFormState& s) {
   return s.LastResults != nullptr;
 }
 
-/// Reads the wavelength list and the method and holds the inputs against the rules. The limits of the results stay.
+}  // namespace
+
 bool InputsHold(Session& session) {
   auto& s = session.state;
   s.CommandAborted = 0;
@@ -41,6 +43,8 @@ bool InputsHold(Session& session) {
   if (s.CommandAborted == 0 && IsTwoAngleContour(s) && !ReadTwoAngleInputs(session)) s.CommandAborted = 1;
   return s.CommandAborted == 0;
 }
+
+namespace {
 
 /// A series can take long, and so can very many spheres; nothing else does.
 bool LeaveGiven(Session& session, const RunRequest& request) {
@@ -163,6 +167,21 @@ void cmdReplot_Click(Session& session) {
   s.PlotMode = 1;
   DisplayRun(session, Onto::FreshPage);
   s.PlotMode = 1;
+}
+
+void TakeResults(Session& session, Results&& results, Onto onto) {
+  auto& s = session.state;
+  const int wasBusy = s.Busy;
+  s.Busy = 1;
+  s.StopAnswer = s.CommandAborted = 0;
+  s.OverplotFromFile = onto == Onto::PageOnScreen ? 1 : 0;
+  s.PlotMode = onto == Onto::PageOnScreen ? 2 : 1;
+  ShowResults(session, std::move(results), onto);
+  s.PlotMode = 1;
+  s.OverplotFromFile = 0;
+  s.NumberWavelengths = s.ResultWavelengths;
+  OfferCommands(session);
+  s.Busy = wasBusy;
 }
 
 void cmdStop_Click(Session& session) {

@@ -46,6 +46,12 @@ void Tell(Session& session, const Refusal& refusal) {
 
 }  // namespace
 
+void ShowResults(Session& session, Results&& results, Onto onto) {
+  KeepResults(session, std::move(results));
+  if (onto == Onto::FreshPage) ReadLimits(session);
+  DisplayRun(session, onto);
+}
+
 void Overplot(Session& session, const RunRequest& request, Onto onto) {
   auto& s = session.state;
   SessionWatch watch(session, request);

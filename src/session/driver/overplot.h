@@ -10,4 +10,7 @@ namespace lumivex {
 /// drawing; a stopped one stores what was done, for Replot to draw. PlotMode is 1 at the end.
 void Overplot(Session& session, const RunRequest& request, Onto onto);
 
+/// Keeps results that are whole and draws them.
+void ShowResults(Session& session, Results&& results, Onto onto);
+
 }  // namespace lumivex

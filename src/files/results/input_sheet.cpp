@@ -1,0 +1,129 @@
+#include "files/results/input_sheet.h"
+
+#include "session/driver/commands.h"
+#include "session/undo.h"
+
+namespace lumivex {
+
+namespace {
+
+/// The parts of the record that inputs put there, and those that say how the inputs are read.
+void CopyInputParts(const MainFormState& from, MainFormState& to) {
+  static_cast<RunState&>(to) = from;
+  static_cast<OpticalState&>(to) = from;
+  static_cast<AxisState&>(to) = from;
+  static_cast<MaterialState&>(to) = from;
+  static_cast<LightState&>(to) = from;
+  static_cast<SizeState&>(to) = from;
+  static_cast<ColourState&>(to) = from;
+  static_cast<GraphState&>(to) = from;
+  static_cast<RayState&>(to) = from;
+}
+
+/// Lists and captions, which a snapshot of the values has not.
+void CopyLooks(Form& from, Form& to) {
+  for (std::size_t i = 0; i < from.Controls().size(); ++i) {
+    Control& source = *from.Controls()[i];
+    Control& target = *to.Controls()[i];
+    target.Visible = source.Visible;
+    target.Enabled = source.Enabled;
+    if (source.Kind() == ControlKind::SelectionList)
+      static_cast<SelectionList&>(target).Items = static_cast<SelectionList&>(source).Items;
+    if (source.Kind() == ControlKind::MenuEntry)
+      static_cast<MenuEntry&>(target).Caption = static_cast<MenuEntry&>(source).Caption;
+  }
+}
+
+void RaiseTicked(Session& session, const std::vector<MenuEntry*>& entries) {
+  for (const MenuEntry* entry : entries)
+    if (entry->Checked) {
+      session.events.Raise(std::string(entry->Name()) + "_Click");
+      return;
+    }
+}
+
+}  // namespace
+
+std::vector<MenuEntry*> SphereSources(Form1& f) {
+  return {&f.mnuRI_Formula, &f.mnuRI_Ray,    &f.mnuRI_Segelstein, &f.mnuRI_File1, &f.mnuRI_Au,
+          &f.mnuRI_Ag,      &f.mnuRI_Cu,     &f.mnuRI_KayeLaby,   &f.mnuRI_IAPWS, &f.mnuRI_Air1,
+          &f.mnuRI_Vacuum1, &f.mnuRI_Fixed1, &f.mnuRI_Perm1,      &f.mnuRI_User1};
+}
+
+std::vector<MenuEntry*> MediumSources(Form1& f) {
+  return {&f.mnuRI_Air2,   &f.mnuRI_Vacuum2, &f.mnuRI_Fixed2,      &f.mnuRI_File2,
+          &f.mnuRI_IAPWS2, &f.mnuRI_User2,   &f.mnuRI_Segelstein2, &f.mnuRI_Perm2};
+}
+
+std::vector<MenuEntry*> LightSources(Form1& f) {
+  return {&f.mnuSpectrumLee,  &f.mnuSpectrumWernand, &f.mnuSpectrumWernand2,
+          &f.mnuSpectrumFlat, &f.mnuBlackBody,       &f.mnuSpectrumFile};
+}
+
+void TickAlone(const std::vector<MenuEntry*>& entries, const MenuEntry& ticked) {
+  for (MenuEntry* entry : entries) entry->Checked = entry == &ticked;
+}
+
+InputSheet::InputSheet(Session& session)
+    : surface_(session.surface->ScaleWidth(), session.surface->ScaleHeight()), open_(platform_, surface_) {
+  Session& sheet = open_.Get();
+  CopyInputParts(session.state, sheet.state);
+  sheet.state.Busy = 1;  // nothing is drawn
+  sheet.state.RestoringSettings = 1;
+  sheet.state.PlotMode = 1;
+  const auto from = session.forms.All(), to = sheet.forms.All();
+  for (std::size_t i = 0; i < from.size(); ++i) CopyLooks(*from[i], *to[i]);
+  RestoreInputs(sheet, PresentInputs(session));
+}
+
+void InputSheet::Settle() {
+  Session& sheet = Inputs();
+  auto& form = sheet.form1;
+  const auto forms = sheet.forms.All();
+  std::vector<FormSnapshot> values;
+  for (const Form* each : forms) values.push_back(each->Snapshot());
+  const auto restore = [&] {
+    for (std::size_t i = 0; i < forms.size(); ++i) forms[i]->Restore(values[i]);
+  };
+  const auto raise = [&](std::string_view event) {
+    sheet.events.Raise(event);
+    restore();
+  };
+  form.mnuKeepParameters.Checked = true;
+  sheet.events.Raise("cboType_click");
+  restore();
+  form.mnuKeepParameters.Checked = true;
+  sheet.events.Raise("cboGraph_Click");
+  restore();
+  raise(form.optDisp.Checked ? "optDisp_Click" : "optMono_Click");
+  raise(form.mnuDiameter.Checked  ? "mnuDiameter_Click"
+        : form.mnuRadiusX.Checked ? "mnuRadiusX_Click"
+                                  : "mnuRadius_Click");
+  raise("cboWave_Click");
+  for (const auto& sources : {SphereSources(form), MediumSources(form), LightSources(form)}) {
+    RaiseTicked(sheet, sources);
+    restore();
+  }
+  raise("mnuSpectrumBand_Click");
+}
+
+std::string InputSheet::Fault() {
+  platform_.told.clear();
+  Session& sheet = Inputs();
+  const bool good = InputsHold(sheet);
+  if (good) return {};
+  return platform_.told.empty() ? "an input that is marked as bad" : platform_.told.front();
+}
+
+void InputSheet::PutInto(Session& session) {
+  Session& sheet = Inputs();
+  static_cast<MaterialState&>(session.state) = sheet.state;
+  static_cast<LightState&>(session.state) = sheet.state;
+  static_cast<SizeState&>(session.state) = sheet.state;
+  session.state.DiffractionVariant = sheet.state.DiffractionVariant;
+  const auto from = sheet.forms.All(), to = session.forms.All();
+  for (std::size_t i = 0; i < from.size(); ++i) CopyLooks(*from[i], *to[i]);
+  RestoreInputs(session, PresentInputs(sheet));
+}
+
+}  // namespace lumivex

@@ -1,0 +1,180 @@
+#include <algorithm>
+#include <array>
+
+#include "files/results/layout.h"
+#include "record/number_text.h"
+#include "runs/run.h"
+
+namespace lumivex {
+
+namespace {
+
+std::size_t At(int index) {
+  return static_cast<std::size_t>(index);
+}
+
+/// A line of values, which are appended to the lists when they are read.
+template <std::size_t count>
+void WalkRow(FileLines& lines, const std::array<std::vector<double>*, count>& lists, std::size_t row) {
+  std::array<double, count> values{};
+  if (!lines.Reading())
+    for (std::size_t k = 0; k < count; ++k) values[k] = row < lists[k]->size() ? (*lists[k])[row] : 0;
+  lines.Numbers(values);
+  if (!lines.Reading()) return;
+  for (std::size_t k = 0; k < count; ++k) {
+    if (lists[k]->size() <= row) lists[k]->resize(row + 1);
+    (*lists[k])[row] = values[k];
+  }
+}
+
+/// What of a beam follows is passed over: no run here is lit by one.
+void RefuseBeams(FileLines& lines) {
+  for (const std::string_view beam : {"Gaussian beam", "Top hat"})
+    if (lines.Word(beam, false))
+      throw BadFile{"The file holds a run in a beam (" + std::string(beam) +
+                    "), which this version of Lumivex does not calculate"};
+}
+
+void WalkAngles(LayoutWalk& walk) {
+  CurveRows& rows = walk.rows;
+  FileLines& lines = walk.lines;
+  RefuseBeams(lines);
+  lines.Number(rows.Qsca);
+  const RowWindow window = FileWindow(walk.sheet);
+  const int wavelengths = WavelengthsOf(walk.sheet);
+  if (wavelengths == 1) {
+    for (int row = window.low; row <= window.high; ++row)
+      WalkRow(lines, std::array{&rows.perpendicular, &rows.parallel, &rows.unpolarised}, At(row));
+    return;
+  }
+  const std::size_t count = At(window.high - window.low + 1);
+  if (static_cast<double>(count) * wavelengths > mostSpectrumValues)
+    throw BadFile{"The file holds more intensities than a run can have"};
+  for (std::size_t row = 0; row < count; ++row)
+    for (std::size_t i = 0; i < At(wavelengths); ++i)
+      WalkRow(lines, std::array{&rows.perpendicular, &rows.parallel}, i * count + row);
+}
+
+/// Points of an axis: place and three curves; of a cloud's spectrum the curves alone, of the matrix the amplitudes.
+void WalkAxisRows(LayoutWalk& walk) {
+  CurveRows& rows = walk.rows;
+  FileLines& lines = walk.lines;
+  lines.Text(walk.Form().txtAngle.Text);
+  const GraphCode code = walk.Chosen().code;
+  const bool matrix = code == GraphCode{10, 2};
+  const bool triple = code == GraphCode{10, 1} && !walk.Form().optMono.Checked;
+  if (matrix && lines.Reading()) {
+    rows.S1.Resize(rows.lastPoint);
+    rows.S2.Resize(rows.lastPoint);
+  }
+  for (int point = rows.firstPoint; point <= rows.lastPoint; ++point) {
+    if (matrix) {
+      std::array<double, 4> values{};
+      if (point <= rows.S1.Rows())
+        values = {rows.S1.Re(point), rows.S1.Im(point), rows.S2.Re(point), rows.S2.Im(point)};
+      lines.Numbers(values);
+      if (!lines.Reading()) continue;
+      rows.S1.Set(point, values[0], values[1]);
+      rows.S2.Set(point, values[2], values[3]);
+    } else if (triple) {
+      WalkRow(lines, std::array{&rows.perpendicular, &rows.parallel, &rows.unpolarised}, At(point));
+    } else {
+      WalkRow(lines, std::array{&rows.x, &rows.perpendicular, &rows.parallel, &rows.unpolarised}, At(point));
+    }
+  }
+}
+
+void WalkLee(LayoutWalk& walk) {
+  walk.lines.Whole(walk.rows.leeRowStart, 0, 400000);
+  walk.lines.Whole(walk.rows.leeRowEnd, 0, 400000);
+}
+
+/// Channels of a cell, panel by panel.
+std::vector<std::vector<float>*> ChannelsOf(MapFound& cells, bool spectrum) {
+  std::vector<std::vector<float>*> channels;
+  for (MapPanel& panel : cells.panels) {
+    if (spectrum)
+      channels.insert(channels.end(), {&panel.red, &panel.green, &panel.blue});
+    else
+      channels.push_back(&panel.value);
+  }
+  return channels;
+}
+
+/// Cells, a line each: column by column, in each from the lowest row up.
+void WalkCells(LayoutWalk& walk) {
+  Form1& form = walk.Form();
+  FileLines& lines = walk.lines;
+  for (TextInput* input :
+       {&form.txtF9_min, &form.txtF9_max, &form.txtF9_step, &form.txtF9_fixed, &form.txtRefractMedium})
+    lines.Text(input->Text);
+  MapFound& cells = walk.rows.cells;
+  const bool spectrum = lines.Reading() ? WavelengthsOf(walk.sheet) > 1 : cells.OfSpectrum();
+  std::array<double, 3> shape = {double(cells.columns), double(cells.rows), double(cells.firstRow)};
+  lines.Numbers(shape);
+  const bool sensible = shape[0] >= 1 && shape[1] >= 1 && shape[0] * shape[1] <= mostFieldElements && shape[2] >= 0 &&
+                        shape[2] <= 400000 && std::ranges::all_of(shape, [](double v) { return v == Int(v); });
+  if (!sensible) lines.Refuse("there are no such columns and rows");
+  cells.columns = ToWhole(shape[0]);
+  cells.rows = ToWhole(shape[1]);
+  cells.firstRow = ToWhole(shape[2]);
+  if (lines.Reading())
+    cells.panels.resize(
+        walk.Chosen().family == Family::EfficiencyMap && walk.Chosen().quantity != Quantity::Intensity ? 3 : 2);
+  const auto channels = ChannelsOf(cells, spectrum);
+  std::vector<float> row(channels.size());
+  const std::size_t count = At(cells.columns) * At(cells.rows);
+  for (std::size_t cell = 0; cell < count; ++cell) {
+    if (!lines.Reading())
+      for (std::size_t k = 0; k < row.size(); ++k) row[k] = (*channels[k])[cell];
+    lines.Singles(row);
+    if (lines.Reading())
+      for (std::size_t k = 0; k < row.size(); ++k) channels[k]->push_back(row[k]);
+  }
+  cells.done = cells.columns;
+}
+
+/// Item 25, by which other programs know the amplitudes.
+void WalkAmplitudes(LayoutWalk& walk) {
+  constexpr std::string_view heading = "Real and imaginary values of S1 and S2";
+  FileLines& lines = walk.lines;
+  CurveRows& rows = walk.rows;
+  const bool wanted = walk.Form().mnuS1S2.Checked && rows.angleS1.Rows() > 0;
+  if (!lines.Word("", wanted)) return;
+  if (!lines.Word(heading, true)) return;
+  const RowWindow window = FileWindow(walk.sheet);
+  const double step = Val(walk.Form().cboStep.Text);
+  if (lines.Reading()) {
+    rows.angleS1.Resize(window.high);
+    rows.angleS2.Resize(window.high);
+    walk.Form().mnuS1S2.Checked = true;
+  }
+  for (int row = window.low; row <= window.high; ++row) {
+    std::array<double, 5> values{(row - 1) * step};
+    if (row <= rows.angleS1.Rows())
+      values = {(row - 1) * step, rows.angleS1.Re(row), rows.angleS1.Im(row), rows.angleS2.Re(row),
+                rows.angleS2.Im(row)};
+    lines.Numbers(values);
+    if (!lines.Reading()) continue;
+    rows.angleS1.Set(row, values[1], values[2]);
+    rows.angleS2.Set(row, values[3], values[4]);
+  }
+}
+
+}  // namespace
+
+void WalkCurves(LayoutWalk& walk) {
+  const Graph& graph = walk.Chosen();
+  if (graph.AgainstAngle()) {
+    WalkAngles(walk);
+    WalkAmplitudes(walk);
+  } else if (graph.code.type >= 10 && graph.code.type <= 18) {
+    WalkAxisRows(walk);
+  } else if (graph.family == Family::Lee) {
+    WalkLee(walk);
+  } else if (graph.IsMap()) {
+    WalkCells(walk);
+  }
+}
+
+}  // namespace lumivex

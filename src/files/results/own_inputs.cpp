@@ -1,0 +1,207 @@
+#include <algorithm>
+#include <array>
+#include <memory>
+
+#include "files/results/own_block.h"
+#include "session/undo.h"
+
+namespace lumivex {
+
+namespace {
+
+template <class Visitor>
+void ForEachSetting(DialogSettings& s, Visitor&& visit) {
+  visit("SpectrumMin", s.spectrumMin);
+  visit("SpectrumMax", s.spectrumMax);
+  visit("BlackBodyTemp", s.blackBodyTemp);
+  visit("IncidentDensity", s.incidentDensity);
+  visit("Distance", s.distance);
+  visit("RIUserEdited", s.indexUserEdited);
+  visit("SphereIndexTyped", s.sphereIndexTyped);
+  visit("SphereIndexVaries", s.sphereIndexVaries);
+  visit("MediumIndexTyped", s.mediumIndexTyped);
+  visit("CatalogueIndex", s.catalogueIndex);
+  visit("BarReference", s.barReference);
+  visit("BarReferencePerWaveNumber", s.barReferencePerWaveNumber);
+  visit("SellmeierName", s.sellmeier.name);
+  visit("SellmeierB1", s.sellmeier.terms.B1);
+  visit("SellmeierB2", s.sellmeier.terms.B2);
+  visit("SellmeierB3", s.sellmeier.terms.B3);
+  visit("SellmeierC1", s.sellmeier.terms.C1);
+  visit("SellmeierC2", s.sellmeier.terms.C2);
+  visit("SellmeierC3", s.sellmeier.terms.C3);
+  visit("SellmeierMin", s.sellmeier.lowest);
+  visit("SellmeierMax", s.sellmeier.highest);
+  visit("SellmeierQuiet", s.sellmeier.quiet);
+}
+
+bool HasText(ControlKind kind) {
+  return kind == ControlKind::TextInput || kind == ControlKind::SelectionList;
+}
+
+bool IsTicked(ControlKind kind) {
+  return kind == ControlKind::OptionButton || kind == ControlKind::CheckBox || kind == ControlKind::MenuEntry;
+}
+
+/// Every value of the inputs with its name: "Form1.txtRadius", its text or its tick.
+struct NamedValue {
+  std::string name;
+  std::string* text = nullptr;
+  bool* ticked = nullptr;
+};
+
+std::vector<NamedValue> NamedValues(Session& sheet, InputState& state) {
+  std::vector<NamedValue> values;
+  const auto forms = sheet.forms.All();
+  for (std::size_t i = 0; i < forms.size(); ++i) {
+    const std::string prefix = std::string(forms[i]->Name()) + ".";
+    for (auto& [name, value] : state.forms[i]) {
+      const Control* control = forms[i]->Find(name);
+      if (control == nullptr) continue;
+      if (HasText(control->Kind())) values.push_back({prefix + name, &value.text, nullptr});
+      if (IsTicked(control->Kind())) values.push_back({prefix + name, nullptr, &value.checked});
+    }
+  }
+  std::size_t i = 0;
+  ForEachCaption(sheet.form1, [&](const Control& control, const std::string&) {
+    values.push_back({"Form1." + std::string(control.Name()), &state.captions[i++], nullptr});
+  });
+  return values;
+}
+
+void WriteValues(FileLines& lines, const std::vector<NamedValue>& values) {
+  int count = static_cast<int>(values.size());
+  lines.Field("Inputs", count);
+  for (const NamedValue& value : values) {
+    std::string line = value.name + " " + (value.text != nullptr ? *value.text : *value.ticked ? "1" : "0");
+    lines.Text(line);
+  }
+}
+
+void ReadValues(FileLines& lines, std::vector<NamedValue> values) {
+  constexpr int most = 100000;
+  int count = 0;
+  lines.Field("Inputs", count);
+  if (count < 0 || count > most) lines.Refuse("there are not so many inputs");
+  std::ranges::sort(values, {}, &NamedValue::name);
+  std::string line;
+  for (int i = 0; i < count; ++i) {
+    lines.Text(line);
+    const auto blank = line.find(' ');
+    if (blank == std::string::npos) lines.Refuse("the name of an input and its value should stand there");
+    const std::string_view name = std::string_view(line).substr(0, blank);
+    const auto at = std::ranges::lower_bound(values, name, {}, &NamedValue::name);
+    if (at == values.end() || at->name != name) continue;
+    if (at->text != nullptr) *at->text = line.substr(blank + 1);
+    if (at->ticked != nullptr) *at->ticked = line.substr(blank + 1) == "1";
+  }
+}
+
+void WalkIndexTable(FileLines& lines, const std::string& name, std::shared_ptr<const IndexTable>& shared) {
+  bool there = shared != nullptr;
+  lines.Field(name, there);
+  if (!there) return;
+  IndexTable table = lines.Reading() ? IndexTable{} : *shared;
+  lines.Field("Material", table.name);
+  lines.Field("LastRow", table.count);
+  lines.Field("EndRow", table.endRow);
+  lines.Field("Wavelengths", table.lambda);
+  if (lines.Reading()) table.rows.resize(table.lambda.size());
+  for (auto& row : table.rows) lines.Singles(row);
+  if (!lines.Reading()) return;
+  const auto last = static_cast<int>(table.lambda.size()) - 1;
+  if (last < 1 || table.count != last || table.endRow < 0 || table.endRow > last + 1)
+    lines.Refuse("this is no table of refractive indices");
+  if (!std::is_sorted(table.lambda.begin() + 1, table.lambda.end()) || !(table.lambda[1] > 0))
+    lines.Refuse("the wavelengths of a table should ascend");
+  shared = std::make_shared<const IndexTable>(std::move(table));
+}
+
+void WalkSpectrumTable(FileLines& lines, MainFormState& s) {
+  lines.Field("SpectrumFileName", s.SpectrumFileName);
+  lines.Field("SpectrumFileMin", s.SpectrumFileMin);
+  lines.Field("SpectrumFileMax", s.SpectrumFileMax);
+  lines.Field("SpectrumFilePoints", s.SpectrumFilePoints);
+  lines.Field("SpectrumFileNonUniform", s.SpectrumFileNonUniform);
+  lines.Field("SpectrumFileWavelength", s.SpectrumFileWavelength);
+  lines.Field("SpectrumFileValue", s.SpectrumFileValue);
+  if (!lines.Reading()) return;
+  const auto rows = static_cast<std::size_t>(std::max(s.SpectrumFilePoints, 0)) + 1;
+  if (rows < 2 || s.SpectrumFileWavelength.size() != rows || s.SpectrumFileValue.size() != rows)
+    lines.Refuse("this is no spectrum");
+  s.SpectrumFileLoaded = 1;
+}
+
+void WalkSizeTable(FileLines& lines, MainFormState& s) {
+  lines.Field("SizeFileName", s.SizeFileName);
+  lines.Field("SizeTableMode", s.SizeTableMode);
+  lines.Field("SizeFileCount", s.SizeFileCount);
+  lines.Field("SizeFileMin", s.SizeFileMin);
+  lines.Field("SizeFileMax", s.SizeFileMax);
+  lines.Field("SizeFileTotal", s.SizeFileTotal);
+  lines.Field("SizeFilePeak", s.SizeFilePeak);
+  const std::array tables = {&s.SizeTableUniform, &s.SizeTableUpper, &s.SizeTableNonUniform, &s.SizeTableNumber};
+  lines.Field("SizeTableUniform", *tables[0]);
+  lines.Field("SizeTableUpper", *tables[1]);
+  lines.Field("SizeTableNonUniform", *tables[2]);
+  lines.Field("SizeTableNumber", *tables[3]);
+  if (!lines.Reading()) return;
+  const auto rows = static_cast<std::size_t>(std::max(s.SizeFileCount, 0)) + 1;
+  const auto fits = [&](const std::vector<float>* table) { return table->size() == rows; };
+  if (rows < 2 || !std::ranges::all_of(tables, fits) || !(s.SizeFileTotal > 0))
+    lines.Refuse("this is no table of sizes");
+  s.SizeFileLoaded = 1;
+}
+
+}  // namespace
+
+void WalkInputState(FileLines& lines, Session& sheet, InputState& state) {
+  const auto values = NamedValues(sheet, state);
+  if (lines.Reading())
+    ReadValues(lines, values);
+  else
+    WriteValues(lines, values);
+  ForEachSetting(state.settings, [&](std::string_view name, auto& field) { lines.Field(name, field); });
+  int colour = static_cast<int>(state.settings.pickedLineColour.value & 0xFFFFFF);
+  lines.Field("PickedLineColour", colour);
+  state.settings.pickedLineColour.value = static_cast<std::uint32_t>(colour) & 0xFFFFFF;
+  lines.Field("SphereName", state.sphereName);
+  lines.Field("MediumName", state.mediumName);
+}
+
+void WalkTables(FileLines& lines, Session& sheet) {
+  MainFormState& s = sheet.state;
+  WalkIndexTable(lines, "IndexTableOfSphere", s.FileTable1);
+  WalkIndexTable(lines, "IndexTableOfMedium", s.FileTable2);
+  if (lines.Reading()) {
+    const auto take = [](const IndexTable& table, int& rows, float& first, float& last, std::string& name, auto& lambda,
+                         auto& data) {
+      rows = table.count;
+      first = table.lambda[1];
+      last = table.lambda.back();
+      name = table.name;
+      lambda = table.lambda;
+      data = table.rows;
+    };
+    if (s.FileTable1)
+      take(*s.FileTable1, s.FileRows1, s.FileFirst1, s.FileLast1, s.FileName1, s.FileLambda1, s.FileData1);
+    if (s.FileTable2)
+      take(*s.FileTable2, s.FileRows2, s.FileFirst2, s.FileLast2, s.FileName2, s.FileLambda2, s.FileData2);
+  }
+  bool spectrum = sheet.form1.mnuSpectrumFile.Checked && s.SpectrumFileLoaded != 0;
+  lines.Field("Spectrum", spectrum);
+  if (spectrum) WalkSpectrumTable(lines, s);
+  bool sizes = sheet.form1.cboDistrib.Text == "Special" && s.SizeFileLoaded != 0;
+  lines.Field("Sizes", sizes);
+  if (sizes) WalkSizeTable(lines, s);
+}
+
+void WalkScaleFields(FileLines& lines, ScaleFields& fields) {
+  lines.Field("StoredTop", fields.scale.StoredTop);
+  lines.Field("StoredBottom", fields.scale.StoredBottom);
+  lines.Field("GridUnit", fields.scale.GridUnit);
+  lines.Field("GridOddTest", fields.scale.GridOddTest);
+  lines.Field("LeeOverallMaximum", fields.leeOverallMaximum);
+}
+
+}  // namespace lumivex

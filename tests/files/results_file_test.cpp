@@ -1,0 +1,206 @@
+#include <unistd.h>
+
+#include "files/results/own_block.h"
+#include "files/results_fixture.h"
+#include "source_folder.h"
+
+namespace lumivex {
+namespace {
+
+/// Scripts of whole pages, by their headings.
+std::vector<std::pair<std::string, std::string>> RecordedPages() {
+  std::ifstream file(SourceFolder() + "/tests/recorded/pages.txt");
+  std::vector<std::pair<std::string, std::string>> pages;
+  for (std::string line; std::getline(file, line);) {
+    if (line.starts_with("== "))
+      pages.emplace_back(line, "");
+    else if (!pages.empty())
+      pages.back().second += line + "\n";
+  }
+  return pages;
+}
+
+/// Small runs of families and inputs that the recorded pages have not.
+const std::vector<std::pair<std::string, std::string>> furtherRuns = {
+    {"cumulative", "choose cboGraph CPDF\nset cboStep 1\nset txtXmin 20\nset txtXmax 160\nclick cmdNewPlot"},
+    {"cloud matrix",
+     "choose cboGraph Scattering matrix\nclick optDisp\nset cboN 5\nset txtRadius 2\nset cboStep 1\n"
+     "click cmdNewPlot"},
+    {"matrix by wavelength", "choose cboGraph Scattering matrix: wavelength\nset cboStep 50\nclick cmdNewPlot"},
+    {"diameters", "click mnuDiameter\nset txtRadius 4\nset cboStep 1\nclick cmdNewPlot"},
+    {"index", "choose cboGraph Intensity v. refractive index\nset cboStep 0.05\nset txtRadius 3\nclick cmdNewPlot"},
+    {"efficiencies", "choose cboGraph Qext/Qsca/Qabs v. size x\nset cboStep 40\nclick cmdNewPlot"},
+    {"cross-sections", "choose cboGraph Cext/Csca/Cabs v. radius\nset cboStep 30\nclick cmdNewPlot"},
+    {"radar", "choose cboGraph Qradar v. diameter\nset cboStep 30\nclick cmdNewPlot"},
+    {"asymmetry", "choose cboGraph Asymmetry g v. radius\nset txtXmax 5\nset cboStep 20\nclick cmdNewPlot"},
+    {"albedo",
+     "choose cboGraph Albedo v. wavelength\nset txtXmin 400\nset txtXmax 700\nset cboStep 50\n"
+     "click cmdNewPlot"},
+    {"power", "choose cboGraph Scattered power v. radius\nset txtXmax 3\nset cboStep 0.5\nclick cmdNewPlot"},
+    {"metal", "click mnuRI_Au\nset txtRadius 0.1\nset cboStep 2\nclick cmdNewPlot"},
+    {"typed index",
+     "set txtRefractReal 1.45\nset txtRefractImag 0.001\nset txtRadius 3\nset cboStep 2\n"
+     "click cmdNewPlot"},
+    {"rays",
+     "choose cboType Young\ndialog dlogP ok chkRay2=on chkRay3=on\nset cboRays Multiple\nset txtRadius 100\n"
+     "set cboStep 1\nclick cmdNewPlot"},
+    {"user glass",
+     "dialog dlogRI_User1 ok txtMaterial1=Glass of \xC2\xB5\nclick mnuRI_User1\nset cboStep 5\n"
+     "set txtRadius 2\nclick cmdNewPlot"},
+    {"S1 and S2", "click mnuS1S2\nset txtRadius 2\nset cboStep 2\nclick cmdNewPlot"},
+    {"changed since", "set txtRadius 2\nset cboStep 2\nclick cmdNewPlot\nset txtRadius 7\nset txtLambda 0.5"},
+    {"narrowed since", "set txtRadius 2\nset cboStep 2\nclick cmdNewPlot\nset txtXmin 90\nclick cmdReplot"},
+    {"size file", "dialog dlogDistOption ok\nopen " + SourceFolder() +
+                      "/data/examples/spray.dis\nclick optDisp\nchoose cboDistrib Special\nset cboStep 5\n"
+                      "click cmdNewPlot"},
+    {"index file", "open " + SourceFolder() +
+                       "/data/examples/crown_glass.rix\nclick mnuRI_File1\nset cboStep 5\nset txtRadius 2\n"
+                       "click cmdNewPlot"},
+};
+
+/// A page of one run; of an overplot a file keeps the last.
+bool IsOneRun(const std::string& script) {
+  return script.find("cmdOverPlot") == std::string::npos;
+}
+
+TEST_F(ResultsFiles, EveryGraphReadsBackToTheSamePageAndNumbers) {
+  auto pages = RecordedPages();
+  ASSERT_GT(pages.size(), 30U);
+  pages.insert(pages.end(), furtherRuns.begin(), furtherRuns.end());
+  int compared = 0;
+  for (const auto& [heading, script] : pages) {
+    SCOPED_TRACE(heading);
+    Do("reset");
+    Do(script);
+    if (!runner.Current().state.LastResults) continue;
+    const std::string drawn = Drawn();
+    Save("run.lvx");
+    const std::string saved = Content("run.lvx");
+    Do("reset");
+    runner.World().messages.clear();
+    Load("run.lvx");
+    EXPECT_TRUE(Shown().empty()) << LastTitle() << ": " << LastText();
+    if (!IsOneRun(script)) continue;
+    EXPECT_TRUE(Drawn() == drawn) << "the page is another one";
+    Save("again.lvx");
+    const auto before = LinesOf(saved), after = LinesOf(Content("again.lvx"));
+    ASSERT_EQ(before.size(), after.size());
+    for (std::size_t i = 0; i < before.size(); ++i) ASSERT_EQ(before[i], after[i]) << "line " << i + 1;
+    ++compared;
+  }
+  EXPECT_GT(compared, 40);
+}
+
+TEST_F(ResultsFiles, AFileThatFailsHalfwayLeavesTheSessionAsItWas) {
+  Do("choose cboGraph Phase function\nset txtRadius 2\nset cboStep 10\nclick cmdNewPlot");
+  Save("good.lvx");
+  Do("reset\nset txtRadius 3\nset cboStep 20\nclick mnuRI_Ag\nclick cmdNewPlot\nset txtLambda 0.6");
+  const auto before = Everything();
+  const auto lines = LinesOf(Content("good.lvx"));
+  for (std::size_t cut = 1; cut < lines.size(); cut += cut < 60 ? 1 : 37) {
+    Write("cut.lvx", Joined({lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(cut)}));
+    // A file of the layout alone, without our block, is a whole one.
+    const bool whole = lines[cut] == ownBlockLine;
+    if (whole) continue;
+    const std::string message = Refused("cut.lvx");
+    EXPECT_FALSE(message.empty());
+    ASSERT_TRUE(Everything() == before) << "cut after line " << cut << ": " << message;
+  }
+}
+
+TEST_F(ResultsFiles, NoLineOfRubbishHarms) {
+  Do("set txtRadius 2\nset cboStep 30\nclick cmdNewPlot");
+  Save("good.lvx");
+  const auto good = LinesOf(Content("good.lvx"));
+  const std::string long4000(4000, 'x'), latin = "\xE9\xFF\x80 caf\xE9";
+  for (std::size_t at = 0; at < good.size(); ++at) {
+    for (const std::string& rubbish : {std::string("rubbish"), std::string(), std::string("1e400"), long4000, latin}) {
+      auto lines = good;
+      lines[at] = rubbish;
+      Write("bad.lvx", Joined(lines));
+      runner.World().messages.clear();
+      std::istringstream script("load " + Path("bad.lvx"));
+      runner.Run(script);
+      for (const auto& message : Shown()) {
+        EXPECT_EQ(message.text.find(std::string(41, 'x')), std::string::npos) << "a quote is too long";
+        EXPECT_EQ(message.text.find('\xFF'), std::string::npos);
+      }
+    }
+  }
+}
+
+TEST_F(ResultsFiles, WhatIsNoResultsFileIsTold) {
+  const auto before = Everything();
+  Write("foreign.lvx", "Something else\n1\n2\n");
+  EXPECT_EQ(Refused("foreign.lvx"), "Lumivex: The selected file is not a valid Lumivex file");
+  Write("empty.lvx", "");
+  EXPECT_EQ(Refused("empty.lvx"), "Lumivex: The selected file is not a valid Lumivex file");
+  Write("newer.lvx", "Lumivex v9.0.00\n");
+  EXPECT_EQ(Refused("newer.lvx"),
+            "Please update Lumivex: This file has been generated by a newer version of Lumivex\n"
+            "Please obtain the latest version of Lumivex from:\nLumivex");
+  Write("graph.lvx", "Lumivex v4.4.00\nIntensity v. luck\n");
+  EXPECT_EQ(Refused("graph.lvx"), "File error: Error in Graph Type");
+  Write("impulse.lvx", "Lumivex v4.4.00\nImpulse response\n");
+  EXPECT_NE(Refused("impulse.lvx").find("does not calculate"), std::string::npos);
+  // A gigabyte of zeros, of which hardly anything stands on the disk.
+  Write("zeros.lvx", "");
+  std::filesystem::resize_file(Path("zeros.lvx"), 1U << 30);
+  EXPECT_EQ(Refused("zeros.lvx"), "Lumivex: The selected file is not a valid Lumivex file");
+  Write("headed.lvx", "Lumivex v4.4.00\nIntensity v. scattering angle\n");
+  std::filesystem::resize_file(Path("headed.lvx"), 1U << 30);
+  EXPECT_NE(Refused("headed.lvx").find("longer"), std::string::npos);
+  std::filesystem::create_directories(Path("folder.lvx"));
+  EXPECT_NE(Refused("folder.lvx").find("folder"), std::string::npos);
+  EXPECT_NE(Refused("missing.lvx").find("not there"), std::string::npos);
+  EXPECT_TRUE(Everything() == before);
+}
+
+TEST_F(ResultsFiles, AnOverplotKeepsThePageAndTellsOtherLimits) {
+  Do("set txtRadius 3\nset cboStep 2\nclick cmdNewPlot");
+  Save("three.lvx");
+  Do("set txtXmin 90\nset txtRadius 4\nclick cmdNewPlot");
+  Save("narrow.lvx");
+  Do("reset\nset txtRadius 2\nset cboStep 2\nclick cmdNewPlot\nopen " + Path("three.lvx") + "\nclick mnuOverplot");
+  EXPECT_TRUE(Shown().empty()) << LastText();
+  EXPECT_EQ(Get("txtRadius"), "3");
+  EXPECT_EQ(runner.Current().page.runs.size(), 2U);
+  EXPECT_EQ(Get("OverplotFromFile"), "0");
+  Do("open " + Path("narrow.lvx") + "\nclick mnuOverplot");
+  EXPECT_EQ(LastTitle(), "Overplot from file");
+  EXPECT_EQ(LastText(), "Incompatible x-values");
+  EXPECT_EQ(runner.Current().form1.txtXmin.BackColour, colours::White);
+  EXPECT_EQ(runner.Current().page.runs.size(), 3U);
+}
+
+TEST_F(ResultsFiles, MenusAskForNames) {
+  Do("set txtRadius 2\nset cboStep 2\nclick cmdNewPlot\nsave " + Path("menu") + "\nclick mnuSave\nset txtRadius 5\n" +
+     "open " + Path("menu.lvx") + "\nclick mnuRead");
+  EXPECT_EQ(Get("txtRadius"), "2");
+  EXPECT_TRUE(Get("cmdReplot.Enabled") != "0");
+  Do("click mnuUndo");
+  EXPECT_EQ(Get("txtRadius"), "5") << "reading is one step of undo";
+  Do("click mnuSave");
+  EXPECT_EQ(LastText(), "No file was selected");
+}
+
+TEST_F(ResultsFiles, WhatCannotBeWrittenLosesNothing) {
+  Do("set txtRadius 2\nset cboStep 5\nclick cmdNewPlot");
+  Save("kept.lvx");
+  const std::string kept = Content("kept.lvx");
+  const auto fails = [&](const std::string& path) {
+    std::istringstream script("save-results " + path);
+    return runner.Run(script) == ScriptRunner::scriptError;
+  };
+  EXPECT_TRUE(fails(Path("gone/run.lvx"))) << "the folder is not there";
+  EXPECT_TRUE(fails("/dev/full")) << "the disk is full";
+  EXPECT_TRUE(fails(Path(""))) << "it is a folder";
+  if (::geteuid() != 0) {
+    std::filesystem::permissions(Path("kept.lvx"), std::filesystem::perms::owner_read);
+    EXPECT_TRUE(fails(Path("kept.lvx")));
+  }
+  EXPECT_EQ(Content("kept.lvx"), kept);
+}
+
+}  // namespace
+}  // namespace lumivex
