@@ -3,6 +3,7 @@
 #include <array>
 #include <filesystem>
 
+#include "files/reports/save_text.h"
 #include "files/results/save_data.h"
 
 namespace lumivex {
@@ -21,14 +22,14 @@ struct KindRow {
 constexpr std::array kindRows = {
     KindRow{SaveKind::Results, "Lumivex file(*.lvx)", "*.lvx", "Select a file name for saving data", Save_Data},
     KindRow{SaveKind::TextReport, "Text file(*.txt)", "*.txt",
-            "Select a file name for saving numerical data as a text file", nullptr},
+            "Select a file name for saving numerical data as a text file", Save_Text},
     KindRow{SaveKind::BatchOutput, "Lumivex batch file(*.mut)", "*.mut", "Select a file name for saving batch data",
             nullptr},
-    KindRow{SaveKind::VolumeData, "Lumivex vol(*.txt)", "*.txt", "Select a file name for saving batch data", nullptr},
+    KindRow{SaveKind::VolumeData, "Lumivex vol(*.txt)", "*.txt", "Select a file name for saving batch data", Save_Text},
     KindRow{SaveKind::GaussianConvergence, "Lumivex Gaussian convergence(*.txt)", "*.txt",
-            "Select a file name for saving Mie Gaussian Convergence data", nullptr},
+            "Select a file name for saving Mie Gaussian Convergence data", Save_Text},
     KindRow{SaveKind::ImpulseData, "Text file(*.txt)", "*.txt",
-            "Select a file name for saving impulse plot data as a text file", nullptr},
+            "Select a file name for saving impulse plot data as a text file", Save_Text},
 };
 
 const KindRow& RowOf(SaveKind kind) {

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "files/batch/read_batch.h"
+#include "files/reports/save_text.h"
 #include "files/results/read_file.h"
 #include "files/results/save_data.h"
 #include "files/settings/settings_events.h"
@@ -16,10 +18,9 @@ struct EventRow {
 };
 
 constexpr std::array fileEventRows = {
-    EventRow{"mnuRead_Click", mnuRead_Click},
-    EventRow{"mnuSave_Click", mnuSave_Click},
-    EventRow{"mnuOverplot_Click", mnuOverplot_Click},
-    EventRow{"mnuS1S2_Click", mnuS1S2_Click},
+    EventRow{"mnuRead_Click", mnuRead_Click},           EventRow{"mnuSave_Click", mnuSave_Click},
+    EventRow{"mnuOverplot_Click", mnuOverplot_Click},   EventRow{"mnuS1S2_Click", mnuS1S2_Click},
+    EventRow{"mnuBatchFile_Click", mnuBatchFile_Click}, EventRow{"mnuSaveText_Click", mnuSaveText_Click},
 };
 
 }  // namespace

@@ -121,16 +121,6 @@ std::string MapTables(const PageMap& map, char separator, std::string_view befor
   return text;
 }
 
-/// The parameters of the runs on a page; of several each under its number.
-std::vector<std::string> HeaderLines(const Page& page) {
-  std::vector<std::string> lines;
-  for (std::size_t i = 0; i < page.runs.size(); ++i) {
-    if (page.runs.size() > 1) lines.push_back("Run " + std::to_string(i + 1));
-    lines.insert(lines.end(), page.runs[i].parameters.begin(), page.runs[i].parameters.end());
-  }
-  return lines;
-}
-
 /// The sums that bars are coloured from. Those of one wavelength are its intensities once more.
 bool HasBarColumns(const Page& page) {
   return page.bars && page.kind.wavelengths > 1;
@@ -185,6 +175,15 @@ std::vector<TableColumn> TableOf(const Page& page) {
   return columns;
 }
 
+std::vector<std::string> HeaderOf(const Page& page) {
+  std::vector<std::string> lines;
+  for (std::size_t i = 0; i < page.runs.size(); ++i) {
+    if (page.runs.size() > 1) lines.push_back("Run " + std::to_string(i + 1));
+    lines.insert(lines.end(), page.runs[i].parameters.begin(), page.runs[i].parameters.end());
+  }
+  return lines;
+}
+
 std::vector<std::string> HeaderInShort(const Page& page) {
   if (page.runs.empty()) return {};
   const auto& first = page.runs.front().parameters;
@@ -216,7 +215,7 @@ std::string TableAsCsv(const Page& page) {
 
 std::string TableWithHeader(const Page& page) {
   std::string text;
-  for (const auto& line : HeaderLines(page)) text += "# " + line + "\n";
+  for (const auto& line : HeaderOf(page)) text += "# " + line + "\n";
   return text + TableAsCsv(page);
 }
 

@@ -20,6 +20,9 @@ struct TableColumn {
 /// number of terms taken away; of a map the first of its tables (pages/maps/map_table.h).
 std::vector<TableColumn> TableOf(const Page& page);
 
+/// The parameters of the runs, a line each; of several each under its number. CSV and text reports begin with them.
+std::vector<std::string> HeaderOf(const Page& page);
+
 /// The parameters of the runs for a picture: of one run its lines; of several first the lines that all have, then a
 /// line a run with what is its own.
 std::vector<std::string> HeaderInShort(const Page& page);

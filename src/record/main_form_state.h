@@ -3,6 +3,7 @@
 #include <type_traits>
 
 #include "record/groups/axis_state.h"
+#include "record/groups/batch_state.h"
 #include "record/groups/colour_state.h"
 #include "record/groups/graph_state.h"
 #include "record/groups/lee_results.h"
@@ -32,7 +33,8 @@ struct MainFormState : RunState,
                        SizeState,
                        ColourState,
                        GraphState,
-                       RayState {};
+                       RayState,
+                       BatchState {};
 
 /// Visits every field of the record as visit(name, field), group by group in the order above. State is MainFormState,
 /// const or not.
@@ -56,6 +58,7 @@ void ForEachStateField(State& state, Visitor&& visit) {
   group(as(std::type_identity<ColourState>{}));
   group(as(std::type_identity<GraphState>{}));
   group(as(std::type_identity<RayState>{}));
+  group(as(std::type_identity<BatchState>{}));
 }
 
 }  // namespace lumivex

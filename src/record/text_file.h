@@ -6,13 +6,8 @@
 
 namespace lumivex {
 
-/// Writes a file whole: under a name of its own beside its place first, then renamed. A failure leaves the old file as
-/// it was, and of two programs that write one file at once one has its content there, never a mixture.
-///
-/// Links are followed: the file that a link names is written and the link stays. A file keeps its mode; one that may
-/// not be written is not replaced either. What is no regular file is never replaced: a character device, and what is
-/// open already ("/dev/stdout", a pipe of the shell), is written through; a folder, a named pipe, which would wait for
-/// a reader, and a disk are refused.
+/// Writes a file whole, or leaves the old one as it was: beside its place first, then renamed (see PendingFile, which
+/// tells what may be written). Of two programs that write one file at once one has its content there, never a mixture.
 /// @return empty, or in one sentence what went wrong, with the system's reason.
 std::string WriteWholeFile(std::string_view path, std::string_view content);
 

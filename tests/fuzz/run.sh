@@ -14,7 +14,7 @@ cmake --build --preset fuzz -j "$(nproc)"
 seed() { # LETTER FILE
   { printf '%s' "$1"; cat "$2"; } > "$work/input_files.seeds/$1_$(basename "$2")"
 }
-mkdir -p "$work/input_files.seeds" "$work/texts.seeds" "$work/writers.seeds"
+mkdir -p "$work/input_files.seeds" "$work/texts.seeds" "$work/writers.seeds" "$work/batch_files.seeds"
 examples=$root/data/examples
 for file in "$examples"/*.rix; do seed r "$file"; done
 for file in "$examples"/*.csv; do seed c "$file"; done
@@ -27,9 +27,10 @@ sed -n 's/^    \(set\|get\|table\|picture\|choose\)/\1/p' "$root/README.md" | sp
 printf '%s' '1.25E-07' > "$work/texts.seeds/number"
 printf '%s' 'picture "a #1.png" 300x200 # told' > "$work/texts.seeds/quoted"
 printf '[Recent]\nFile1=batch|/a\\nb\n[Window]\nPlace=A=\n' > "$work/texts.seeds/configuration"
+cp "$examples"/batch/*.min "$work/batch_files.seeds"
 printf 'Ice, "thin"\n1.03\n0\n1e-400\n' > "$work/writers.seeds/entry"
 
-for program in input_files texts writers; do
+for program in input_files texts writers batch_files; do
   echo "== fuzz $program"
   mkdir -p "$work/$program.kept"
   "$build/fuzz_$program" -dict="$root/tests/fuzz/words" -max_total_time="$seconds" -max_len=65536 -timeout=10 \

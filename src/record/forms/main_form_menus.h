@@ -23,6 +23,8 @@ struct Form1Menus : Form1Inputs {
   MenuEntry mnuCopyPicture{*this, "mnuCopyPicture", "Copy picture"};
   MenuEntry mnuCopyData{*this, "mnuCopyData", "Copy data"};
   MenuEntry mnuSaveData{*this, "mnuSaveData", "Save data as CSV ..."};
+  MenuEntry mnuSaveText{*this, "mnuSaveText", "Save text report ...", false,
+                        "The parameters of the run and its columns, to be read"};
   MenuEntry mnuExit{*this, "mnuExit", "Exit"};
 
   // Edit.

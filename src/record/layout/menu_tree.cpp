@@ -26,6 +26,7 @@ constexpr std::array menuRows = {
     MenuRow{"File", "mnuSavePicture", Always, "Ctrl+P"},
     MenuRow{"File", "mnuCopyPicture", Always, "Ctrl+Shift+C"},
     MenuRow{"File", "mnuSaveData", Always, "Ctrl+D"},
+    MenuRow{"File", "mnuSaveText"},
     MenuRow{"File", "mnuCopyData", Always, "Ctrl+Shift+D"},
     MenuRow{"File", "-"},
     MenuRow{"File", "mnuExit", Always, "Ctrl+Q"},

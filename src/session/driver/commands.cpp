@@ -105,6 +105,8 @@ void EndCommand(Session& session, const Offered& before) {
     form.cmdReplot.Enabled = before.replot;
     form.cmdOverPlot.Enabled = before.overPlot;
   }
+  // A batch tells of its end once, and not of each of its runs.
+  if (session.state.BatchActive != 0) return;
   session.platform.Beep();
   session.events.Raise("Run_Ended");
 }

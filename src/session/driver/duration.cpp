@@ -81,6 +81,8 @@ void Duration(Session& session, const RunRequest& request) {
   auto& s = session.state;
   constexpr int calibratedFast = 3;
   if (request.method.method == Method::Debye) RaysCheck(session);
+  // Nobody sits before a batch.
+  if (s.BatchActive != 0) return;
   if (s.CalibrationState == calibratedFast || SecondsHere(session, request) <= secondsWithoutAsking) return;
   const double seconds = std::clamp(ReferenceSeconds(request), 0.0, 1e9);
   const double hours = Int(seconds / 3600);

@@ -1,22 +1,19 @@
-/// lumivex-run: Lumivex without a window, driven by a script.
+/// lumivex-run: Lumivex without a window, driven by a script or a batch file.
 
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <cstring>
+#include <filesystem>
 #include <iostream>
 
+#include "files/batch/read_batch.h"
 #include "scripts/script_file.h"
 #include "scripts/script_runner.h"
+#include "ui/console/batch_console.h"
+#include "ui/console/batch_jobs.h"
+#include "ui/console/run_arguments.h"
 
 namespace {
-
-constexpr const char* usage =
-    "Usage: lumivex-run FILE\n"
-    "Runs the commands of FILE, one a line ('-' is standard input), and prints what they ask for.\n"
-    "Messages go to standard error. Exit codes: 0 done, 1 no script, or the output could not be written, 2 error in "
-    "the\n"
-    "script (the line is told).\n";
 
 constexpr int failed = 1;
 
@@ -33,23 +30,56 @@ int RunFrom(std::istream& script) {
   return runner.Run(script);
 }
 
-int RunArguments(int argc, char** argv) {
-  if (argc != 2 || std::strcmp(argv[1], "--help") == 0) {
-    (argc == 2 ? std::cout : std::cerr) << usage;
-    return argc == 2 ? 0 : failed;
-  }
-  if (std::strcmp(argv[1], "-") == 0) return RunFrom(std::cin);
+int RunScriptFile(const std::string& file) {
+  if (file == "-") return RunFrom(std::cin);
   std::ifstream script;
-  const std::string failure = lumivex::OpenScript(script, argv[1]);
+  const std::string failure = lumivex::OpenScript(script, file);
   if (failure.empty()) return RunFrom(script);
   std::cerr << "lumivex-run: " << failure << '\n';
   return failed;
+}
+
+int PrintEntries(const std::string& list) {
+  const lumivex::BatchEntries entries = lumivex::EntriesOfBatch(list);
+  for (const auto& file : entries.files) std::cout << file << '\n';
+  for (const auto& failure : entries.failures) std::cerr << "lumivex-run: " << failure << '\n';
+  return entries.failures.empty() ? 0 : failed;
+}
+
+/// The program itself, to be started once more.
+std::string ThisProgram(const char* name) {
+  std::error_code error;
+  const auto path = std::filesystem::read_symlink("/proc/self/exe", error);
+  return error ? std::string(name) : path.string();
+}
+
+int Run(const lumivex::RunArguments& asked, const char* name) {
+  using Task = lumivex::RunArguments::Task;
+  switch (asked.task) {
+    case Task::Help:
+      std::cout << lumivex::runUsage;
+      return 0;
+    case Task::Batch:
+      return lumivex::RunConsoleBatch({asked.file, asked.output, asked.threads}) ? 0 : failed;
+    case Task::Jobs:
+      return lumivex::RunBatchJobs({ThisProgram(name), asked.file, asked.jobs, asked.threads}) ? 0 : failed;
+    case Task::Entries:
+      return PrintEntries(asked.file);
+    case Task::Script:
+      break;
+  }
+  return RunScriptFile(asked.file);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
   HoldClosedStreams();
-  const int code = RunArguments(argc, argv);
+  const auto asked = lumivex::ReadRunArguments(argc, argv);
+  if (!asked) {
+    std::cerr << lumivex::runUsage;
+    return failed;
+  }
+  const int code = Run(*asked, argv[0]);
   return lumivex::OutputWasWritten(std::cout, std::cerr, "lumivex-run") || code != 0 ? code : failed;
 }
