@@ -1,19 +1,25 @@
 #include "files/open_file.h"
 
+#include <optional>
+
+#include "files/batch/read_batch.h"
 #include "files/results/read_file.h"
 #include "session/dropped_files.h"
+#include "session/inputs/dialog_use.h"
 #include "session/inputs/dropped_file.h"
 #include "session/undo.h"
 
 namespace lumivex {
 
 bool OpenFile(Session& session, const std::string& path) {
-  if (!IsResultsPath(path)) {
+  const bool batch = EndsWith(path, ".min");
+  if (!batch && !IsResultsPath(path)) {
     DropFiles(session, std::span(&path, 1));
     return TakesDroppedFile(path);
   }
   RememberInputs(session, "");
-  const bool read = ReadResultsFile(session, path, Onto::FreshPage);
+  const bool read = batch || ReadResultsFile(session, path, Onto::FreshPage);
+  if (batch) RunBatch(session, {path, std::nullopt, true});
   OfferHistory(session);
   return read;
 }

@@ -1,8 +1,10 @@
 #include <QApplication>
+#include <QTimer>
 #include <cstdio>
 #include <string>
 #include <string_view>
 
+#include "files/open_file.h"
 #include "files/settings/save_ini.h"
 #include "record/version.h"
 #include "session/user_folder.h"
@@ -18,7 +20,8 @@ using namespace lumivex;
 constexpr int usageError = 2, noDisplay = 3;
 
 constexpr char usage[] =
-    "Usage: lumivex [--fresh] [--timing] [--script FILE]\n"
+    "Usage: lumivex [--fresh] [--timing] [--script FILE] [FILE]\n"
+    "  FILE           open it at the start: a batch file (.min), which asks for its output and runs, or an input file\n"
     "  --fresh        begin as on the first day: read no settings, and keep neither settings nor session\n"
     "  --timing       tell how long the first picture took, and end\n"
     "  --script FILE  run a script in the window, and end; without a display in one that is not shown\n"
@@ -27,7 +30,7 @@ constexpr char usage[] =
 
 struct Arguments {
   bool fresh = false, timing = false, help = false, version = false;
-  std::string script;
+  std::string script, file;
   std::string unknown;
 };
 
@@ -47,6 +50,8 @@ Arguments Read(int argc, char** argv) {
       arguments.script = argv[++i];
     } else if (argument == "-platform" || argument == "-style") {
       ++i;  // the window system's own
+    } else if (arguments.file.empty() && !argument.starts_with('-')) {
+      arguments.file = argument;
     } else {
       arguments.unknown = argument;
     }
@@ -77,6 +82,9 @@ int RunWindow(const Arguments& arguments) {
     };
   }
   program.Window().show();
+  if (!arguments.file.empty())
+    QTimer::singleShot(0, &program.Window(),
+                       [&] { program.Gate().Do([&] { OpenFile(program.Current(), arguments.file); }); });
   if (keeps) program.KeepSession();
   const int code = QApplication::exec();
   if (keeps) program.End();

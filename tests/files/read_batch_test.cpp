@@ -88,7 +88,7 @@ TEST_F(ReadBatch, ErrorsAreToldAndEndTheBatchAndWhatWasFinishedIsKept) {
   }
   // Where an output tells that all is done, the part of one stands beside it.
   Put("job.mut", "before");
-  EXPECT_EQ(Run(start + "Fly\n", false), BatchEnd::Failed);
+  EXPECT_EQ(Run("Radius\n5\n" + start + "Fly\n", false), BatchEnd::Failed);
   EXPECT_EQ(Content("job.mut"), "before");
   EXPECT_EQ(Blocks("job.mut.part"), 1);
 }
@@ -131,7 +131,8 @@ TEST_F(ReadBatch, AListRunsItsFilesIntoOutputsOfTheirOwn) {
   EXPECT_EQ(LastText(), "Error in batch file: " + Path("two.txt") + " is not a valid file name");
   EXPECT_EQ(Blocks("one.mut"), 1);
   Put("list.min", "FileNames\nlist.min\n");
-  EXPECT_EQ(RunBatch(runner.Current(), {Path("list.min"), std::nullopt}), BatchEnd::Failed) << "a list is no command file";
+  EXPECT_EQ(RunBatch(runner.Current(), {Path("list.min"), std::nullopt}), BatchEnd::Failed)
+      << "a list is no command file";
 }
 
 TEST_F(ReadBatch, AStopEndsTheBatchBetweenRunsAndInThem) {

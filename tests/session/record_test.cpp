@@ -6,7 +6,7 @@
 #include "files/file_events.h"
 #include "record/layout/menu_tree.h"
 #include "record/layout/panel_layout.h"
-#include "session/event_table.h"
+#include "session/open_session.h"
 #include "session/session_fixture.h"
 
 namespace lumivex {
