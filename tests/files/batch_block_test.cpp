@@ -26,11 +26,13 @@ class BatchBlocks : public BatchSession {
   void ChooseWithFewPoints(const std::string& graph) {
     Do("choose cboGraph " + graph);
     const auto& form = runner.Current().form1;
-    if (form.txtXmin.Visible) {
+    const Graph& chosen = ChosenGraph(runner.Current().state);
+    if (form.txtXmin.Visible && !chosen.InColour()) {
       const double range = Val(form.txtXmax.Text) - Val(form.txtXmin.Text);
-      Do("set cboStep " + (form.mnuXStepLog.Checked ? "10" : Shortest(range / 10)));
+      const bool whole = form.mnuXStepLog.Checked || chosen.axis == AxisVariable::Number;
+      Do("set cboStep " + (whole ? "10" : Shortest(range / 10)));
     }
-    if (ChosenGraph(runner.Current().state).WavelengthAxis()) Do("set txtRefractReal 1.33\nset txtRefractImag 0");
+    if (chosen.WavelengthAxis()) Do("set txtRefractReal 1.33\nset txtRefractImag 0");
   }
   static double Field(const std::vector<double>& values, int row) { return values[static_cast<std::size_t>(row)]; }
 };
@@ -61,7 +63,7 @@ TEST_F(BatchBlocks, OfOneSphereStandsWordForWord) {
 }
 
 TEST_F(BatchBlocks, AxesHaveTheIndexBesideTheCurves) {
-  std::string text = Block("Intensity v. wavelength\nxmin\n400\nxmax\n410\nxstep\n5\nAngle\n138\n");
+  std::string text = Block("Intensity v. wavelength\nxmin\n400\nxmax\n410\nxstep\n1\nAngle\n138\n");
   EXPECT_THAT(text, HasSubstr("Wavelength: \t0.4 to 0.41\t um\n\n"));
   EXPECT_THAT(text, HasSubstr("\nRadius: \t10\t um\n\nGraph type: \tIntensity v. wavelength\n\n"));
   EXPECT_THAT(text, HasSubstr("Scattering angle = 138\nWavelength\tRef Index (real)\tRef Index (imaginary)\t"
