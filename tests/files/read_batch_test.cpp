@@ -73,6 +73,7 @@ TEST_F(ReadBatch, ErrorsAreToldAndEndTheBatchAndWhatWasFinishedIsKept) {
       {"\xFF\xFE\x01 mu\n", name + "\n??? mu is not a valid parameter"},
       {"gaussian\nrun\n", name + "\nLine 9: Gaussian beams are not available"},
       {"Step\ngaussian w0\n1 2 1\nrun\n", name + "\nLine 9: Gaussian beams are not available"},
+      {"Step\nRadius\n-5 5 1\nrun\n", name + "\nLine 12: the run at Radius -5 was refused"},
       {"Radius\n-5\nrun\n", name + "\nLine 11: the run was refused"},
   };
   for (const auto& [commands, text] : cases) {

@@ -19,6 +19,11 @@ namespace {
 constexpr std::string_view firstLine = "Lumivex v4.1", lastLine = "******************************************";
 constexpr double degreesPerRadian = 180 / 3.14159265358979324;
 
+/// A wavelength of a spectrum, which has the seven digits of single precision.
+std::string Single(float value) {
+  return Significant(double{value}, 7);
+}
+
 /// A number of the header: what was typed as it was typed, what was calculated to more digits than anybody measures.
 std::string Number(double value) {
   return Significant(value, 10);
@@ -131,7 +136,7 @@ class BlockHeader {
     std::string value = Number(asked_.light.lambda);
     if (const auto ends = WavelengthEnds()) value = Span(ends->first, ends->second);
     if (const auto& light = asked_.light.spectrum)
-      value = Span(double{light->wavelength[1]}, double{light->wavelength.back()});
+      value = Single(light->wavelength[1]) + " to " + Single(light->wavelength.back());
     Group("Wavelength: \t" + value + "\t um");
   }
 

@@ -8,6 +8,7 @@
 #include "files/file_dialogs.h"
 #include "materials/files/input_items.h"
 #include "materials/files/readable_text.h"
+#include "record/number_text.h"
 #include "record/pending_file.h"
 #include "session/driver/commands.h"
 
@@ -113,7 +114,7 @@ class BatchRun {
     // A stopped run is no run of the batch: what is written is whole.
     if (answered != 0) return BatchEnd::Stopped;
     if (state_.LastResults == before || !state_.LastResults)
-      return Fail("\nLine " + std::to_string(line) + ": the run was refused");
+      return Fail("\nLine " + std::to_string(line) + ": the run" + PresentStep() + " was refused");
     if (!Save_Batch(session_, output_)) {
       session_.platform.Message(messageTitle, output_.Failure());
       return BatchEnd::Failed;
@@ -121,6 +122,11 @@ class BatchRun {
     if (state_.StopAnswer == 0) return BatchEnd::Done;
     state_.PlotMode = 1;
     return BatchEnd::Stopped;
+  }
+
+  /// Which of the steps it is; empty without.
+  std::string PresentStep() const {
+    return state_.StepActive == 0 ? "" : " at " + state_.StepName + " " + Significant(double{state_.StepValue}, 7);
   }
 
   Session& session_;
