@@ -64,17 +64,18 @@ TEST_F(ReadBatch, AStepRunsOnceAValueAndIsOverThen) {
 }
 
 TEST_F(ReadBatch, ErrorsAreToldAndEndTheBatchAndWhatWasFinishedIsKept) {
-  const std::string start = std::string(quick) + "run\n", name = "Error in batch file: " + Path("job.min");
+  const std::string start = "Radius\n10\n" + std::string(quick) + "run\n",
+                    name = "Error in batch file: " + Path("job.min");
   const std::pair<std::string, std::string> cases[] = {
       {"Fly\nrun\n", name + "\nFly is not a valid parameter"},
       {"Radius\nten\nrun\n", name + "\nten is not a valid parameter"},
       {"Step\nRadius\n1 2 0\nrun\n", name + "\n1 2 0 is not a valid parameter"},
       {std::string(100, 'x') + "\n", name + "\n" + std::string(40, 'x') + " is not a valid parameter"},
       {"\xFF\xFE\x01 mu\n", name + "\n??? mu is not a valid parameter"},
-      {"gaussian\nrun\n", name + "\nLine 9: Gaussian beams are not available"},
-      {"Step\ngaussian w0\n1 2 1\nrun\n", name + "\nLine 9: Gaussian beams are not available"},
-      {"Step\nRadius\n-5 5 1\nrun\n", name + "\nLine 12: the run at Radius -5 was refused"},
-      {"Radius\n-5\nrun\n", name + "\nLine 11: the run was refused"},
+      {"gaussian\nrun\n", name + "\nLine 11: Gaussian beams are not available"},
+      {"Step\ngaussian w0\n1 2 1\nrun\n", name + "\nLine 11: Gaussian beams are not available"},
+      {"Step\nRadius\n-5 5 1\nrun\n", name + "\nLine 14: the run at Radius -5 was refused"},
+      {"Radius\n-5\nrun\n", name + "\nLine 13: the run was refused"},
   };
   for (const auto& [commands, text] : cases) {
     Put("job.mut", "before");
