@@ -202,9 +202,7 @@ BatchEnd RunList(Session& session, const BatchJob& job, BatchCommands& list) {
   return BatchEnd::Done;
 }
 
-}  // namespace
-
-BatchEnd RunBatch(Session& session, const BatchJob& job) {
+BatchEnd RunFile(Session& session, const BatchJob& job) {
   const BatchScope scope(session.state);
   OpenedBatch batch(job.file);
   if (batch.failure.empty() && batch.commands.IsList()) return RunList(session, job, batch.commands);
@@ -212,6 +210,15 @@ BatchEnd RunBatch(Session& session, const BatchJob& job) {
   const auto output = job.output ? job.output : AskSaveName(session, SaveKind::BatchOutput);
   if (!output) return BatchEnd::Stopped;
   return RunCommands(session, job.file, batch.commands, *output, job.unfinishedInPlace);
+}
+
+}  // namespace
+
+BatchEnd RunBatch(Session& session, const BatchJob& job) {
+  const BatchEnd end = RunFile(session, job);
+  session.platform.Beep();
+  session.events.Raise("Run_Ended");
+  return end;
 }
 
 bool IsBatchList(const std::string& file) {
@@ -250,7 +257,6 @@ void mnuBatchFile_Click(Session& session) {
   entry.Checked = !entry.Checked;
   if (entry.Checked) Read_Batch(session);
   entry.Checked = false;
-  session.platform.Beep();
 }
 
 }  // namespace lumivex
