@@ -53,7 +53,7 @@ make_list "$work/killed"
 printf 'Lumivex 4200 batch file\nRadius\n1000\nStep\nWavelength\n0.4 0.7 0.0001\nrun\nstop\n' > "$work/killed/long.min"
 "$program" --threads 1 "$work/killed/long.min" &
 process=$!
-sleep 2
+until [ -n "$(find "$work/killed" -name '.lumivex*')" ]; do sleep 0.1; done
 kill -9 "$process"
 wait "$process" 2> /dev/null || true
 [ ! -e "$work/killed/long.mut" ] || { echo "a killed task has left an output"; exit 1; }

@@ -13,6 +13,13 @@ expect() { # WHAT WANTED FOUND
   faults=$((faults + 1))
 }
 job() { printf 'Lumivex 4200 batch file\nxmin\n0\nxmax\n20\nRadius\n%s\nrun\nstop\n' "$1"; }
+# Until a batch writes: it is at work then, on a slow machine too.
+at_work() {
+  for _ in $(seq 600); do
+    [ -n "$(find . -name '.lumivex*')" ] && return
+    sleep 0.1
+  done
+}
 blocks() { grep -c '^Lumivex v4.1$' "$1" 2> /dev/null || true; }
 
 mkdir jobs
@@ -51,7 +58,7 @@ printf 'FileNames\njobs/1.min\njobs/3.min\n' > good.min
 printf 'Lumivex 4200 batch file\nStep\nRadius\n1 1e6 1\nrun\n' > endless.min
 "$program" endless.min 2> told &
 process=$!
-sleep 2
+at_work
 kill -TERM $process
 wait $process; expect "an interrupted job" 1 $?
 expect "no output of it" 0 "$(ls endless.mut 2> /dev/null | wc -l)"
@@ -59,7 +66,7 @@ expect "nothing hidden of it" 0 "$(find . -name '.lumivex*' | wc -l)"
 printf 'FileNames\nendless.min\njobs/1.min\n' > endless_list.min
 "$program" --jobs 1 endless_list.min > /dev/null 2> told &
 process=$!
-sleep 2
+at_work
 kill -TERM $process
 wait $process; expect "an interrupted list" 1 $?
 expect "what was not begun" 1 "$(grep -c 'jobs/1.min was not begun' told)"

@@ -2,6 +2,7 @@
 #include <sys/stat.h>
 
 #include "files/batch_fixture.h"
+#include "files/open_file.h"
 
 namespace lumivex {
 namespace {
@@ -166,6 +167,18 @@ TEST_F(ReadBatch, TheMenuAsksForBothFiles) {
   Do("open " + Path("job.min") + "\nclick mnuBatchFile");
   EXPECT_EQ(LastText(), "No file was selected");
   EXPECT_EQ(Get("txtXmax"), "180") << "nothing has run";
+}
+
+TEST_F(ReadBatch, AFileThatIsNamedAtTheStartIsOpenedAsItsKindWantsIt) {
+  Put("job.min", "Lumivex 4200 batch file\n" + std::string(quick) + "run\n");
+  runner.World().savePaths = {Path("out.mut")};
+  OpenFile(runner.Current(), Path("job.min"));
+  EXPECT_EQ(Blocks("out.mut"), 1);
+  Put("spray.dis", "Lumivex 300\n");
+  OpenFile(runner.Current(), Path("spray.dis"));
+  EXPECT_FALSE(Shown().empty()) << "it was read as a size distribution";
+  OpenFile(runner.Current(), Path("holiday.jpg"));
+  EXPECT_TRUE(LastText().starts_with("holiday.jpg is none of the files")) << LastText();
 }
 
 TEST_F(ReadBatch, NobodyIsAskedForTimeOrByDialogs) {
