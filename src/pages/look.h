@@ -39,7 +39,11 @@ struct ScaleLook {
 
 /// What a series of maps is held against.
 struct MapSeries {
-  double scaleMaximum = 0;  ///< reference of the maps of the series; 0 before the first, whose own it then is
+  double scaleMaximum = 0;  ///< greatest value of the first map of the series; 0 before it
+  double thirdMaximum = 0;  ///< the same of its third picture
+  MapValues kind = MapValues::Intensity;
+  /// Whether a map belongs to it; one that does not is held against itself, and the next series begins with it.
+  bool Holds(MapValues values) const { return scaleMaximum > 0 && kind == values; }
 };
 
 /// Full brightness of bars as it was set before, so that several runs can be compared.

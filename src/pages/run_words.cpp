@@ -26,8 +26,8 @@ std::string IndexWords(double real, double imaginary) {
 std::string SpanWords(const std::vector<double>& values) {
   if (values.empty()) return "";
   if (values.size() == 1) return Number(values.front());
-  return Number(values.front()) + " to " + Number(values.back()) + " in " + std::to_string(values.size() - 1) +
-         " steps";
+  return Number(values.front()) + " to " + Number(values.back()) + " in " +
+         CountOf(static_cast<int>(values.size()) - 1, "step");
 }
 
 std::string Materials(const RunWords& words) {
@@ -38,9 +38,11 @@ bool SumsSeries(const MethodOptions& method) {
   return method.method == Method::Mie || method.method == Method::Debye || method.method == Method::CoatedSphere;
 }
 
-/// Shortest and longest wavelength.
-std::string SpectrumRange(const SpectrumOfLight& light) {
-  const double first = 1000 * double{light.wavelength[1]}, last = 1000 * double{light.wavelength.back()};
+/// Shortest and longest of the first wavelengths of a spectrum.
+std::string SpectrumRange(const SpectrumOfLight& light, int count) {
+  const double first = 1000 * double{light.wavelength[1]};
+  const double last = 1000 * double{light.wavelength[static_cast<std::size_t>(count)]};
+  if (count == 1) return Significant(first, 6) + " nm";
   return Significant(std::min(first, last), 6) + " to " + Significant(std::max(first, last), 6) + " nm";
 }
 
@@ -49,7 +51,7 @@ constexpr double degreesPerRadian = 180 / 3.14159265358979324;
 /// "400 to 700 nm in steps of 0.5 nm".
 std::string AxisRange(double xmin, double xmax, double step, bool logSteps, const std::string& unit) {
   return Number(xmin) + " to " + Number(xmax) + unit +
-         (logSteps ? " in " + Number(step) + " steps" : " in steps of " + Number(step) + unit);
+         (logSteps ? " in " + CountOf(step, "step") : " in steps of " + Number(step) + unit);
 }
 
 /// The unit behind a number of the horizontal axis.
@@ -99,6 +101,12 @@ void AddAxis(const Results& results, std::vector<std::string>& lines) {
     lines.push_back(start + AxisRange(1, results.last.NSTOP, 1, false, ""));
 }
 
+/// Wavelengths that are in the results: a run that was stopped has not come to all.
+int WavelengthsIn(const Results& results) {
+  const auto* found = results.Find<SpectrumFound>();
+  return std::max(found != nullptr ? found->done : results.asked.Wavelengths(), 1);
+}
+
 void AddMethod(const Results& results, std::vector<std::string>& lines) {
   const RunRequest& asked = results.asked;
   lines.push_back("Method: " + asked.words.method);
@@ -106,7 +114,9 @@ void AddMethod(const Results& results, std::vector<std::string>& lines) {
     lines.push_back("   " + asked.words.methodLabel);
   lines.push_back("Graph: " + asked.words.graph);
   if (asked.light.spectrum) {
-    lines.push_back(std::to_string(asked.Wavelengths()) + " wavelengths, " + SpectrumRange(*asked.light.spectrum));
+    const int done = WavelengthsIn(results);
+    lines.push_back(CountOf(done, asked.Wavelengths(), "wavelength") + ", " +
+                    SpectrumRange(*asked.light.spectrum, done));
     lines.push_back("Light: " + asked.words.light);
   } else if (!asked.graph.WavelengthAxis() && !Sweeps(asked.run, Swept::Wavelength)) {
     lines.push_back("Wavelength: " + Number(results.last.lambda) + " \u00B5m in vacuo");
@@ -314,6 +324,8 @@ std::vector<std::string> ParameterLinesOf(const Results& results) {
   }
   AddVolume(results, lines);
   AddAxis(results, lines);
+  if (const auto* map = results.Find<MapFound>(); map != nullptr && map->done < map->columns)
+    lines.push_back("Calculated: " + CountOf(map->done, map->columns, "column"));
   const bool terms = !spectrum && !asked.graph.InColour() && SumsSeries(asked.method);
   lines.push_back(terms ? "Series: " + std::to_string(results.last.NSTOP) + " terms, " + time
                         : "Calculated in " + time);
@@ -367,7 +379,7 @@ std::vector<std::string> FinerMarksOf(const Results& results) {
   const bool logSteps = axis != nullptr && axis->logSteps;
   return {sphere.empty() ? "" : "n = " + sphere, medium.empty() ? "" : "medium n = " + medium,
           step == 0  ? ""
-          : logSteps ? Number(step) + " steps"
+          : logSteps ? CountOf(step, "step")
                      : "step " + Number(step),
           asked.words.method, OnOneLine(asked.words.methodLabel)};
 }

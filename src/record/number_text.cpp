@@ -270,6 +270,14 @@ std::string Exact(double value) {
   return Printed(value, std::chars_format::general, 17);
 }
 
+std::string CountOf(double count, std::string_view word) {
+  return Significant(count, 8) + " " + std::string(word) + (count == 1 ? "" : "s");
+}
+
+std::string CountOf(int some, int all, std::string_view word) {
+  return (some < all ? std::to_string(some) + " of " : "") + CountOf(all, word);
+}
+
 std::string Significant(double value, int digits) {
   if (!std::isfinite(value)) return NotFinite(value);
   if (value == 0) return "0";

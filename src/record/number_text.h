@@ -53,6 +53,11 @@ std::string Exact(double value);
 /// `digits` significant digits without trailing zeros, as a reading is shown ("1.99369", "4.5e-06" as "4.5E-06").
 std::string Significant(double value, int digits);
 
+/// A number of things: "1 column", "5 columns". The word is that of one.
+std::string CountOf(double count, std::string_view word);
+/// Some of them: "2 of 5 columns"; all of them as above.
+std::string CountOf(int some, int all, std::string_view word);
+
 /// Text without blanks at either end.
 std::string_view Trim(std::string_view text);
 

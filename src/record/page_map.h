@@ -12,6 +12,15 @@ namespace lumivex {
 
 struct MapFound;
 
+/// What the cells of a map tell. Only maps that agree in it can be held against each other.
+enum class MapValues {
+  Intensity,               ///< of one wavelength
+  IntensityPerWaveNumber,  ///< freed of the square of the wave number
+  Sum,                     ///< over the wavelengths of a spectrum, by channel
+  SumPerWaveNumber,
+  Efficiency
+};
+
 /// One side of a map: its samples and its words.
 struct MapSide {
   SampleAxis samples;
@@ -49,7 +58,7 @@ struct ColourKey {
   };
   std::vector<Colour> cells;
   std::vector<Number> numbers;
-  std::string words;  ///< what the numbers are, before them
+  std::string words;  ///< what the numbers are, within it
 };
 
 /// Pictures of the same cells side by side, with what was calculated for each.
@@ -58,10 +67,12 @@ struct PageMap {
   /// The values drawn. Row `lowest` of them is the lowest one of the pictures.
   std::shared_ptr<const MapFound> values;
   int lowest = 0;
+  MapValues kind = MapValues::Intensity;
   std::vector<MapPicture> pictures;
   std::vector<double> wavelengths;  ///< of the spectrum (nm), first index 0; empty for one wavelength
   double scaleMaximum = 0;          ///< value of full brightness, where all columns have one
   double currentMaximum = 0;        ///< greatest value of this map
+  double thirdMaximum = 0;          ///< that of its third picture, or of the last one
   std::vector<MapLine> lines;
   std::optional<ColourKey> key;
 };

@@ -23,6 +23,8 @@ struct DialogSettings {
   Colour pickedLineColour;
   double barReference = 0;
   int barReferencePerWaveNumber = 0;
+  double mapReference = 0, mapReferenceThird = 0;
+  int mapReferenceKind = 0;
   SellmeierChoice sellmeier;
   bool operator==(const DialogSettings&) const = default;
 };

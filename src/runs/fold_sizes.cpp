@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -41,7 +42,7 @@ class Columns {
   std::vector<double> logs_;
 };
 
-/// How much of each column goes into one.
+/// How much of each column goes into one; nothing where none of its sizes lies between columns.
 std::vector<double> WeightsOf(const CloudSamples& samples, const Columns& columns, int count, FoldedMap& folded,
                               double& allParticles) {
   std::vector<double> weights(static_cast<std::size_t>(count), 0.0);
@@ -60,8 +61,8 @@ std::vector<double> WeightsOf(const CloudSamples& samples, const Columns& column
     if (column + 1 < weights.size()) weights[column + 1] += weight * place->part;
     sum += weight;
   }
-  if (sum > 0)
-    for (double& weight : weights) weight /= sum;
+  if (!(sum > 0)) return {};
+  for (double& weight : weights) weight /= sum;
   return weights;
 }
 
@@ -71,7 +72,7 @@ void FoldColumn(const MapFound& map, std::vector<float> MapPanel::*list, int col
   for (std::size_t panel = 0; panel < map.panels.size(); ++panel) {
     const std::vector<float>& from = map.panels[panel].*list;
     if (from.empty()) continue;
-    std::ranges::fill(sum, 0.0);
+    std::ranges::fill(sum, weights.empty() ? std::numeric_limits<double>::quiet_NaN() : 0.0);
     for (std::size_t source = 0; source < weights.size(); ++source) {
       if (weights[source] == 0) continue;
       const std::size_t first = map.At(static_cast<int>(source), 0);

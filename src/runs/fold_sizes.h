@@ -17,7 +17,8 @@ struct FoldedMap {
 /// its radius, the cells of a size interpolated between the columns beside it, linearly in the logarithm of the radius.
 ///
 /// Means go by number of particles, as those of a cloud do. Sizes beyond the first and the last column that was done
-/// are left out, and the others count for them. Which wavelength is strongest is told of the column's own radius.
+/// are left out, and the others count for them; a column none of whose sizes is within them is not a number. Which
+/// wavelength is strongest is told of the column's own radius.
 /// @param radii  the columns of the map, all above 0.
 FoldedMap FoldSizes(const MapFound& map, const Sweep& radii, const SizeDistribution& sizes);
 

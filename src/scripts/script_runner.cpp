@@ -9,6 +9,7 @@
 #include "files/open_file.h"
 #include "files/results/save_data.h"
 #include "materials/files/readable_text.h"
+#include "pages/read_out.h"
 #include "record/number_text.h"
 #include "record/text_file.h"
 #include "scripts/script_commands.h"
@@ -179,6 +180,13 @@ struct ScriptCommands {
     if (IsMain(run)) Form_MouseDown(run.Current(), Val(x), Val(rest));
   }
 
+  static void Read(ScriptRunner& run, std::string_view rest) {
+    const std::string x = TakeWord(rest);
+    if (!IsNumber(x) || !IsNumber(rest)) throw Failure{"read takes X and Y in surface units"};
+    const auto reading = ReadAt(run.chosen_->page, Val(x), Val(rest));
+    run.output_ << (reading ? reading->text : "nothing") << '\n';
+  }
+
   static void Size(ScriptRunner& run, std::string_view rest) {
     const auto size = ReadSize(rest);
     if (!size) throw Failure{"a size reads WIDTHxHEIGHT"};
@@ -249,6 +257,7 @@ constexpr CommandRow commandRows[] = {
     {"load", ScriptCommands::Load},       {"save-results", ScriptCommands::SaveResults},
     {"reset", ScriptCommands::Reset},     {"messages", ScriptCommands::Messages},
     {"picture", ScriptCommands::Picture}, {"screenshot", ScriptCommands::Screenshot},
+    {"read", ScriptCommands::Read},
 };
 
 }  // namespace

@@ -25,8 +25,9 @@ struct ScriptWindow {
 
 /// Runs a script, one command a line, on a session of its own or on a window's.
 ///
-/// Commands: set, choose, click, dialog, answer, open, save, get, table, amplitudes, array, window, drawing, mouse,
-/// size, stop-at, reset, messages, picture, screenshot (see the README). '#' begins a comment at the start of a word.
+/// Commands: set, choose, click, dialog, answer, open, save, get, table, amplitudes, array, window, drawing, read,
+/// mouse, size, stop-at, reset, messages, picture, screenshot (see the README). '#' begins a comment at the start of a
+/// word.
 class ScriptRunner {
  public:
   /// Exit codes.

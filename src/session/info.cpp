@@ -1,6 +1,7 @@
 #include "session/info.h"
 
 #include "pages/run_words.h"
+#include "record/number_text.h"
 #include "session/checks/material_bands.h"
 #include "session/driver/fold_sizes.h"
 #include "session/driver/progress.h"
@@ -9,16 +10,24 @@ namespace lumivex {
 
 namespace {
 
-/// "Mie, 117 terms, 3 ms"; without terms for methods that sum no series, with the wavelengths of a spectrum.
+/// "Mie, 117 terms, 3 ms"; without terms for methods that sum no series, with the wavelengths of a spectrum: those that
+/// a Stop has left of them.
 std::string RunInShort(const Results& results) {
   const RunRequest& asked = results.asked;
   const std::string time = TimeWords(results.seconds);
   if (const auto* found = results.Find<SpectrumFound>())
-    return asked.words.method + ", " + std::to_string(found->done) + " wavelengths, " + time;
+    return asked.words.method + ", " + CountOf(found->done, asked.Wavelengths(), "wavelength") + ", " + time;
   if (const auto* map = results.Find<MapFound>())
-    return asked.words.method + ", " + std::to_string(map->done) + " columns, " + time;
+    return asked.words.method + ", " + CountOf(map->done, map->columns, "column") + ", " + time;
   const bool series = TraitsOf(asked.method.method).series;
-  return asked.words.method + ", " + (series ? std::to_string(results.last.NSTOP) + " terms, " : "") + time;
+  return asked.words.method + ", " + (series ? CountOf(results.last.NSTOP, "term") + ", " : "") + time;
+}
+
+/// Whether columns or wavelengths are missing: the run was stopped, however long ago.
+bool IsPart(const Results& results) {
+  if (const auto* found = results.Find<SpectrumFound>()) return found->done < results.asked.Wavelengths();
+  const auto* map = results.Find<MapFound>();
+  return map != nullptr && map->done < map->columns;
 }
 
 }  // namespace
@@ -45,10 +54,8 @@ std::string StatusText(const Session& session) {
   // Some graphs start with a range that is wider than the band of common materials.
   if (std::string wayOut = WayOutOfBand(session); !wayOut.empty()) return wayOut;
   if (!s.LastResults) return "Ready";
-  return RunInShort(*s.LastResults) + FoldWords(session) +
-         (s.StopAnswer == 0                       ? ""
-          : s.LastResults->asked.graph.InColour() ? ", stopped"
-                                                  : ", stopped: Replot draws what was done");
+  const bool stopped = s.StopAnswer != 0 || IsPart(*s.LastResults);
+  return RunInShort(*s.LastResults) + FoldWords(session) + (stopped ? ", stopped" : "");
 }
 
 }  // namespace lumivex

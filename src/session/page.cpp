@@ -40,6 +40,15 @@ void KeepScale(MainFormState& s, const Page& page) {
   s.YAutoMax = page.autoTop;
 }
 
+/// The first map after a series was begun without one on show, or of another kind, is what those that follow are held
+/// against.
+void KeepSeries(Session& session) {
+  const auto& s = session.state;
+  const auto& map = session.page.map;
+  if (!map || !session.form1.mnuMapNormalise.Checked) return;
+  if (!MapSeries{s.MapReference, s.MapReferenceThird, s.MapReferenceKind}.Holds(map->kind)) TakeMapReference(session);
+}
+
 /// What scripts, and the next page, know of the bars. The first bars after a normalisation was set without any on show
 /// set it.
 void KeepBars(Session& session) {
@@ -74,6 +83,19 @@ void TakeBarReference(Session& session) {
   s.BarReferencePerWaveNumber = bars && session.page.kind.invWavelength ? 1 : 0;
 }
 
+void TakeMapReference(Session& session) {
+  auto& s = session.state;
+  const auto& map = session.page.map;
+  s.MapReference = map ? map->currentMaximum : 0;
+  s.MapReferenceThird = map ? map->thirdMaximum : 0;
+  s.MapReferenceKind = map ? map->kind : MapValues::Intensity;
+}
+
+void EndMapSeries(MainFormState& s) {
+  s.MapReference = s.MapReferenceThird = 0;
+  s.MapReferenceKind = MapValues::Intensity;
+}
+
 void DrawPage(Session& session) {
   session.page = PlacePage(std::move(session.page), GeometryOf(session));
   Paint(session.page, *session.surface);
@@ -84,6 +106,7 @@ void ShowPage(Session& session, Page page) {
   KeepScale(session.state, session.page);
   KeepLogo(session, session.page);
   KeepBars(session);
+  KeepSeries(session);
   DrawPage(session);
 }
 

@@ -25,6 +25,11 @@ void RecolourPage(Session& session);
 /// Keeps the reference of the bars on show, and its unit, for later ones (BarReference); without bars none.
 void TakeBarReference(Session& session);
 
+/// Makes the map on show what a series of maps is held against (MapReference ...); without a map the next one will be.
+void TakeMapReference(Session& session);
+/// Ends a series of maps.
+void EndMapSeries(MainFormState& s);
+
 /// Makes a part of the page's axes the one on the screen. The inputs stay as they are.
 void ShowView(Session& session, const PageView& view);
 

@@ -25,6 +25,9 @@ void RestoreSettings(MainFormState& s, const DialogSettings& settings) {
   s.PickedLineColour = settings.pickedLineColour;
   s.BarReference = settings.barReference;
   s.BarReferencePerWaveNumber = settings.barReferencePerWaveNumber;
+  s.MapReference = settings.mapReference;
+  s.MapReferenceThird = settings.mapReferenceThird;
+  s.MapReferenceKind = static_cast<MapValues>(settings.mapReferenceKind);
   s.Sellmeier = settings.sellmeier;
 }
 
@@ -100,6 +103,9 @@ InputState PresentInputs(Session& session) {
                     s.PickedLineColour,
                     s.BarReference,
                     s.BarReferencePerWaveNumber,
+                    s.MapReference,
+                    s.MapReferenceThird,
+                    static_cast<int>(s.MapReferenceKind),
                     s.Sellmeier};
   for (const Form* form : session.forms.All()) state.forms.push_back(form->Snapshot());
   ForEachCaption(session.form1, [&](Control&, const std::string& caption) { state.captions.push_back(caption); });

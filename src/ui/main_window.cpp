@@ -228,7 +228,8 @@ void MainWindow::ReserveRoom() {
   if (isLoaded && !session_->form1.mnuVLarge.Checked) {
     // A graph of fixed size keeps it in a smaller window, which is then scrolled.
     width = std::max(width, session_->state.GraphRight + marginRight);
-    height = std::max(height, session_->state.GraphBottom + marginBottom);
+    // The panels of a map make themselves lower before their lines below are out of sight.
+    if (!session_->page.map) height = std::max(height, session_->state.GraphBottom + marginBottom);
   }
   const QSize size(static_cast<int>(width * canvas_->Unit()), static_cast<int>(height * canvas_->Unit()));
   if (canvas_->minimumSize() != size) canvas_->setMinimumSize(size);

@@ -217,6 +217,32 @@ TEST_F(MapColours, AreHeldAgainstTheFirstMapOfASeries) {
   EXPECT_EQ(LineAt(Place::ScaleMaximum), "Scale maximum = 70") << "without a map on show the first is the scale";
 }
 
+/// Efficiencies of a few were held against intensities of thousands, and the third picture against the first.
+TEST_F(MapColours, OfAnotherKindAreASeriesOfTheirOwn) {
+  using Place = MapLine::Place;
+  const auto store = [&](double top) {
+    StoreEfficiencies([top](int p, double, double) { return top / (p + 1); });
+    Draw();
+  };
+  StoreFalling();
+  Draw();
+  Click("mnuMapNormalise_Click");
+  Draw();
+  EXPECT_EQ(LineAt(Place::Diagnostics3), "f3maxmax3 = 275   f3maxmax3OLD = 275");
+  store(3);
+  EXPECT_EQ(LineAt(Place::ScaleMaximum), "Scale maximum = 3");
+  EXPECT_EQ(LineAt(Place::CurrentMaximum), "");
+  EXPECT_EQ(LineAt(Place::Diagnostics), "f3maxmax = 3   f3maxmaxOLD = 0");
+  store(6);
+  EXPECT_EQ(LineAt(Place::ScaleMaximum), "Scale maximum = 3");
+  EXPECT_EQ(LineAt(Place::CurrentMaximum), "WARNING: Current maximum = 6");
+  EXPECT_EQ(LineAt(Place::Diagnostics), "f3maxmax = 6   f3maxmaxOLD = 3");
+  EXPECT_EQ(LineAt(Place::Diagnostics3), "f3maxmax3 = 2   f3maxmax3OLD = 1");
+  StoreValues({24, 1}, {Swept::Radius, 5, 20, 4}, [](int, int, double) { return 1.2345678e17; });
+  Draw();
+  EXPECT_EQ(LineAt(Place::Diagnostics), "f3maxmax = 1.23456782E+17   f3maxmaxOLD = 0") << "digits that a cell has";
+}
+
 /// A replot shares the cells of the results that the session keeps.
 TEST_F(MapColours, AreMadeWithoutACopyOfTheValues) {
   StoreFalling();

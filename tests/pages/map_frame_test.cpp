@@ -116,6 +116,60 @@ TEST_F(MapFrames, HaveTheirNumbersAndTitles) {
     EXPECT_TRUE(slide.Text(text)) << text;
 }
 
+// On a slide the numbers of the second and third panel lay over the panel before, the lowest ones were missing and a
+// long title left its panel.
+TEST_F(MapFrames, OfSlidesKeepToThemselves) {
+  form.mnuSizeSpecial.Checked = true;
+  form.mnuFalseColours.Checked = true;
+  const auto across = [](Swept quantity, double low, double high, bool geometric) {
+    return Sweep{quantity, low, high, 4, geometric};
+  };
+  for (const Sweep& columns : {across(Swept::Radius, 10, 20, true), across(Swept::SphereAbsorption, 0.001, 0.01, false),
+                               across(Swept::SphereAbsorption, 1e-7, 1e-5, false)})
+    for (const auto& [low, high] : {std::pair{"137", "145"}, std::pair{"139.2", "139.8"}}) {
+      StoreValues({23, 1}, columns, [](int, int, double) { return 1; });
+      ShowRange(low, high);
+      Draw();
+      const DrawingReader reader(surface);
+      EXPECT_THAT(reader.Overlaps(), ::testing::IsEmpty());
+      const double titleWidth = reader.Text(page.map->across.title)->width;
+      for (std::size_t i = 0; i < page.panels.size(); ++i) {
+        const GraphBox& box = page.panels[i].box;
+        EXPECT_LE(titleWidth, box.Width() + 1);
+        const double before = i == 0 ? 0 : page.panels[i - 1].box.right + 15;
+        const GraphBox margin{before - 400, box.left - 1, box.top - 400, box.bottom + 100};
+        double font = 0;
+        bool lowest = false;
+        for (const auto& op : reader.All(DrawnOperation::Kind::Text)) {
+          if (!margin.Holds(op.points[0].x, op.points[0].y) || op.text.find_first_not_of("0123456789.") != op.text.npos)
+            continue;
+          EXPECT_GE(op.points[0].x, before) << op.text;
+          EXPECT_LT(op.points[0].x + op.width, box.left) << op.text;
+          EXPECT_TRUE(font == 0 || font == op.fontSize) << op.text;
+          font = op.fontSize;
+          lowest = lowest || op.text == low;
+        }
+        EXPECT_TRUE(lowest) << low << " in panel " << i;
+      }
+      const DrawnOperation* words = reader.Text("decades");
+      ASSERT_TRUE(words) << "what the numbers of the key are";
+      EXPECT_GE(words->points[0].x, KeyBox(page.panels[2].box).left);
+    }
+}
+
+// Every second tick of 5 to 8 um had its number as far as there was room: 5.2, 5.6, 6, 6.8 ...
+TEST_F(MapFrames, NumberTicksAtEqualDistances) {
+  struct Case {
+    double low, high;
+    std::vector<std::string> numbers;
+  };
+  for (const Case& c : {Case{5, 8, {"5", "6", "7", "8"}}, Case{10, 15, {"10", "11", "12", "13", "14", "15"}}}) {
+    StoreValues({20, 1}, {Swept::Radius, c.low, c.high, 4, true}, [](int, int, double) { return 1; });
+    Draw();
+    EXPECT_THAT(DrawingReader(surface).TextsIn({900, 5300, 9900, 10120}), ::testing::ElementsAreArray(c.numbers));
+  }
+}
+
 TEST_F(MapFrames, CountDecadesOnALongAxisOfRadius) {
   MapFound& found = StoreValues({20, 1}, {Swept::Radius, 1, 1000, 30, true}, [](int, int, double) { return 1; });
   ASSERT_EQ(found.columns, 31);
@@ -137,7 +191,7 @@ TEST_F(MapFrames, FitOnEverySurfaceInEverySize) {
   form.mnuDataVisible.Checked = true;
   form.mnuMapNormalise.Checked = true;
   form.lblLogo.Caption = "www.lumivex.example";
-  state.LeeOverallMaximum = 1;
+  state.MapReferenceKind = MapValues::Sum;
   for (const char* size : {"mnuSmall_Click", "mnuMedium_Click", "mnuLarge_Click", "mnuVLarge_Click"})
     for (const bool slide : {false, true})
       for (const auto& [width, height] :
@@ -145,8 +199,9 @@ TEST_F(MapFrames, FitOnEverySurfaceInEverySize) {
         surface.Resize(width, height);
         Click(size);
         form.mnuSizeSpecial.Checked = slide;
-        state.LeeOverallMaximum = 1;
+        state.MapReference = 1;
         Draw();
+        EXPECT_TRUE(DrawingReader(surface).Text(LineAt(MapLine::Place::CurrentMaximum)));
         const DrawingReader reader(surface);
         const std::string where = std::string(size) + (slide ? " slide " : " ") + std::to_string(width);
         EXPECT_THAT(reader.Overlaps(), ::testing::IsEmpty()) << where;

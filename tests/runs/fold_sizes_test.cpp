@@ -76,6 +76,10 @@ TEST(FoldSizes, SizesBeyondTheColumnsAreLeftOutAndTold) {
   EXPECT_GT(FoldSizes(single, RadiiOf(request), LogNormal(0.1)).share, share);
   single.done = 1;
   EXPECT_GT(FoldSizes(single, RadiiOf(request), LogNormal(0.1)).share, 0.7);
+  // None of these sizes has the radius of the column: it was not calculated, and is not dark.
+  const FoldedMap none = FoldSizes(single, RadiiOf(request), NormalSizes{{0, 1, -1}, 0.05, false});
+  EXPECT_EQ(none.share, 1);
+  for (int row = 0; row < single.rows; ++row) EXPECT_TRUE(std::isnan(none.found.panels[0].value[single.At(0, row)]));
   single.done = 0;
   EXPECT_EQ(FoldSizes(single, RadiiOf(request), LogNormal(0.1)).share, 0);
   single.done = 41;

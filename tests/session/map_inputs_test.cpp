@@ -384,6 +384,7 @@ TEST_F(MapSession, ColoursAreRenewedWithoutACalculation) {
   Do("click cmdNewPlot");
   const auto results = TheSession().state.LastResults;
   const auto cells = [&] { return *TheSession().page.map->pictures.at(0).cells; };
+  Do("click mnuFalseColours");
   auto before = cells();
   for (const char* change : {"set cboBright 0.5", "choose cboLee Normalised", "click mnuGammaNone",
                              "click mnuFalseColours", "click mnuSaturated"}) {

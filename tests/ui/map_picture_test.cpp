@@ -1,7 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <QScrollArea>
+#include <QScrollBar>
+
 #include "pages/map_fixture.h"
+#include "session/user_actions.h"
 #include "ui/page_picture.h"
+#include "ui/window_fixture.h"
 
 namespace lumivex {
 namespace {
@@ -41,6 +46,30 @@ TEST(MapPictures, ShowEachCellWhereItBelongs) {
   EXPECT_EQ(at(8000, 6600), QColor(255, 0, 0)) << "in the second picture too";
   EXPECT_EQ(at(2400, 6600), QColor(0, 0, 255)) << "the column before";
   EXPECT_EQ(at(3000, 7200), QColor(0, 0, 255)) << "140.25 degrees";
+}
+
+// In a window of 1400 by 900 the lines below the panels lay under its edge, for a graph that keeps its size is
+// scrolled.
+class MapWindow : public WindowTest {};
+
+TEST_F(MapWindow, HasRoomForTheLinesBelowInEverySize) {
+  program.Window().resize(1400, 900);
+  const auto act = [this](auto&& action) {
+    program.Gate().Do(action);
+    QTest::qWait(20);
+  };
+  act([this] { UserChooses(Now(), Form().cboGraph, "Map: angle v. radius"); });
+  act([this] { UserClicks(Now(), Form().cmdNewPlot); });
+  const auto* area = program.Window().findChild<QScrollArea*>();
+  ASSERT_NE(area, nullptr);
+  for (MenuEntry* size : {&Form().mnuLarge, &Form().mnuMedium, &Form().mnuSmall, &Form().mnuVLarge}) {
+    act([&] { UserClicks(Now(), *size); });
+    EXPECT_EQ(area->verticalScrollBar()->maximum(), 0) << size->Name();
+  }
+  act([this] { UserChooses(Now(), Form().cboGraph, "Intensity v. scattering angle"); });
+  act([this] { UserClicks(Now(), Form().cmdNewPlot); });
+  act([this] { UserClicks(Now(), Form().mnuLarge); });
+  EXPECT_GT(area->verticalScrollBar()->maximum(), 0) << "a curve keeps its size";
 }
 
 }  // namespace

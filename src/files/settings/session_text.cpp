@@ -36,6 +36,9 @@ void ForEachSetting(Settings& s, Visitor&& visit) {
   visit("PickedLineColour", s.pickedLineColour.value);
   visit("BarReference", s.barReference);
   visit("BarReferencePerWaveNumber", s.barReferencePerWaveNumber);
+  visit("MapReference", s.mapReference);
+  visit("MapReferenceThird", s.mapReferenceThird);
+  visit("MapReferenceKind", s.mapReferenceKind);
   visit("SellmeierName", s.sellmeier.name);
   visit("SellmeierB1", s.sellmeier.terms.B1);
   visit("SellmeierB2", s.sellmeier.terms.B2);
@@ -54,6 +57,8 @@ void ForEachKeptName(State& s, Visitor&& visit) {
   visit("KeptSphereLabel", s.KeptSphereLabel);
   visit("KeptSphereName", s.KeptSphereName);
   visit("KeptMediumLabel", s.KeptMediumLabel);
+  visit("KeptAngle", s.KeptAngle);
+  visit("KeptRadius", s.KeptRadius);
   visit("SphereCaptionBefore", s.SphereCaptionBefore);
   visit("DistribInUse", s.DistribInUse);
 }

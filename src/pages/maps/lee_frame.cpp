@@ -62,18 +62,11 @@ Ladder DecadeLadder(const AxisLimits& limits, bool roomForFives) {
   return ladder;
 }
 
-/// @param limits  the side as x.
-/// @param room    steps that a number takes, with air: where it is no more than one each tick has its number.
-template <class Room>
-Ladder StepLadder(const AxisLimits& limits, bool logarithmic, double oddTest, Room&& room) {
-  double step = 0, range = 0, labelStep = 0;
-  GridxStep(oddTest, limits.xmin, limits.xmax, step, range, labelStep);
-  Ladder ladder;
-  ladder.decimals = TickDecimals(range, limits.xmax, step);
-  ladder.ticks = {{limits.xmin, limits.xmax, step, limits.xmin, limits.xmax, logarithmic}};
-  const double numberStep = room(step, ladder.decimals) <= 1 ? step : labelStep;
-  ladder.numbers = TickValues({limits.xmin, limits.xmax, numberStep, limits.xmin, limits.xmax});
-  return ladder;
+/// The part of a side that its narrowest step takes, which on a logarithmic one is the last.
+double PartOfStep(const AxisLimits& limits, bool logarithmic, double step) {
+  if (!logarithmic) return step / (limits.xmax - limits.xmin);
+  if (step >= limits.xmax - limits.xmin) return 1;
+  return std::log(limits.xmax / (limits.xmax - step)) / std::log(limits.xmax / limits.xmin);
 }
 
 std::string NumberText(double value, int decimals) {
@@ -83,63 +76,127 @@ std::string NumberText(double value, int decimals) {
   return TickText(RoundTo(value, decimals));
 }
 
+/// How far apart the numbers of a side stand: at every tick where these are well apart, otherwise at every second,
+/// fifth or tenth one, where they have room and the first of them is at the beginning of the side, if any is.
+/// @param wanted  part of the side that a number takes, with air.
+double NumberStep(const AxisLimits& limits, bool logarithmic, double step, double labelStep, double wanted) {
+  constexpr double rounding = 1e-6, air = 1.1, airAtTicks = 1.2, airAtUnequalTicks = 2;
+  const double range = limits.xmax - limits.xmin;
+  // Equal steps of a logarithmic side come closer and closer, and look crowded before they are.
+  if ((logarithmic ? airAtUnequalTicks : airAtTicks) * wanted <= step / range) return step;
+  const double coarsest = 20 * step;
+  double roomy = 0;
+  for (const double candidate : {labelStep, 5 * step, 10 * step, coarsest}) {
+    if (air * wanted > PartOfStep(limits, logarithmic, candidate)) continue;
+    if (roomy == 0) roomy = candidate;
+    const double steps = limits.xmin / candidate;
+    if (2 * candidate <= range && std::abs(steps - std::round(steps)) < rounding) return candidate;
+  }
+  return roomy > 0 ? roomy : coarsest;
+}
+
+/// @param limits  the side as x.
+/// @param room    part of the side that a number of that text takes, with air.
+template <class Room>
+Ladder StepLadder(const AxisLimits& limits, bool logarithmic, double oddTest, Room&& room) {
+  double step = 0, range = 0, labelStep = 0;
+  GridxStep(oddTest, limits.xmin, limits.xmax, step, range, labelStep);
+  Ladder ladder;
+  ladder.decimals = TickDecimals(range, limits.xmax, step);
+  ladder.ticks = {{limits.xmin, limits.xmax, step, limits.xmin, limits.xmax, logarithmic}};
+  const double wanted =
+      std::max(room(NumberText(limits.xmax, ladder.decimals)), room(NumberText(limits.xmin + step, ladder.decimals)));
+  const double numberStep = NumberStep(limits, logarithmic, step, labelStep, wanted);
+  ladder.numbers = TickValues({limits.xmin, limits.xmax, numberStep, limits.xmin, limits.xmax});
+  return ladder;
+}
+
+/// From the cells to the numbers below them, which keep clear of the lowest one at the left.
+double NumbersBelow(const DrawingSurface& surface, const PageStyle& style) {
+  constexpr double air = 30;
+  return style.special ? std::max(numbersBelow, 0.5 * surface.TextHeight("X") + air) : numbersBelow;
+}
+
 bool IsByDecades(const AxisLimits& limits, bool logarithmic) {
   return logarithmic && limits.xmax / limits.xmin >= leastRatioOfDecades;
 }
 
+/// A number of a side, and how it reads.
+struct SideNumber {
+  double value = 0;
+  std::string text;
+};
+
+/// The numbers at the left, the most wanted first: those of the ladder, then the ends.
+std::vector<SideNumber> NumbersOf(const Ladder& ladder, const AxisLimits& limits) {
+  std::vector<SideNumber> numbers;
+  for (const double value : ladder.numbers) numbers.push_back({value, NumberText(value, ladder.decimals)});
+  for (const double end : {limits.xmin, limits.xmax})
+    numbers.push_back({end, NumberText(end, std::max(ladder.decimals, 6))});
+  return numbers;
+}
+
+/// Makes the letters smaller until the text fits.
+void FitFont(DrawingSurface& surface, std::string_view text, double room) {
+  while (surface.TextWidth(text) > room && surface.FontSize > smallestFont) surface.FontSize -= 0.5;
+}
+
+/// Numbers below a panel reach no further than half way to its neighbours.
 void PaintNumbersBelow(FramePaint& paint) {
+  constexpr double air = 60;
   auto& surface = paint.surface;
   const GraphBox& box = paint.Box();
   const AxisLimits& limits = paint.map.limits;
-  const bool byDecades = IsByDecades(limits, paint.map.logX);
-  const double widest = surface.TextWidth(NumberText(limits.xmax, 4)) + 20;
-  const double decade = byDecades ? box.Width() / std::log10(limits.xmax / limits.xmin) : 0;
-  // Equal steps of a logarithmic side come closer and closer.
-  const auto room = [&](double step, int decimals) {
-    const double width = surface.TextWidth(NumberText(limits.xmax, decimals)) + 80;
-    return (paint.map.logX ? 2 : 1.2) * width / (box.Width() * step / (limits.xmax - limits.xmin));
+  const double top = box.bottom + NumbersBelow(surface, paint.style), fontSize = surface.FontSize;
+  const auto room = [&](const std::string& text) { return (surface.TextWidth(text) + 80) / box.Width(); };
+  const auto ladderNow = [&] {
+    if (!IsByDecades(limits, paint.map.logX)) return StepLadder(limits, paint.map.logX, paint.panel.oddTest, room);
+    const double decade = box.Width() / std::log10(limits.xmax / limits.xmin);
+    return DecadeLadder(limits, 0.3 * decade > surface.TextWidth(NumberText(limits.xmax, 4)) + 20);
   };
-  const Ladder ladder = byDecades ? DecadeLadder(limits, 0.3 * decade > widest)
-                                  : StepLadder(limits, paint.map.logX, paint.panel.oddTest, room);
+  for (const SideNumber& number : NumbersOf(ladderNow(), limits))
+    FitFont(surface, number.text, paint.page.geometry.box.left - air);
+  const Ladder ladder = ladderNow();
   const double below = box.bottom + outside, above = box.top - outside;
   for (const TickRow& row : ladder.ticks) {
     GridLeeTicks(surface, row, box.left, box.right, below, minorTick);
     GridLeeTicks(surface, row, box.left, box.right, above, -tickAbove);
   }
-  const auto number = [&](double value, int decimals) {
-    const double x = paint.map.X(value);
-    if (paint.LabelBelow(NumberText(value, decimals), x, box.bottom + numbersBelow))
-      paint.Rule(x, below, x, below + majorTick, colours::Black);
-  };
-  for (const double value : ladder.numbers) number(value, ladder.decimals);
-  for (const double end : {limits.xmin, limits.xmax}) number(end, std::max(ladder.decimals, 6));
+  for (const SideNumber& number : NumbersOf(ladder, limits)) {
+    const double x = paint.map.X(number.value);
+    if (paint.LabelBelow(number.text, x, top)) paint.Rule(x, below, x, below + majorTick, colours::Black);
+  }
+  surface.FontSize = fontSize;
 }
 
+/// Numbers at the left stand between a panel and its neighbour, all of them in the same letters.
 void PaintNumbersAtLeft(FramePaint& paint) {
+  constexpr double air = 30, besideTick = 130;
+  auto& surface = paint.surface;
   const GraphBox& box = paint.Box();
   const AxisLimits& all = paint.map.limits;
   const AxisLimits limits{all.ymin, all.ymax, 0, 1};
-  const bool byDecades = IsByDecades(limits, paint.map.logY);
-  const auto room = [&](double step, int) {
-    return 2.2 * paint.surface.TextHeight("X") / (box.Height() * step / (limits.xmax - limits.xmin));
+  const auto room = [&](const std::string&) { return 1.8 * surface.TextHeight("X") / box.Height(); };
+  const auto ladderNow = [&] {
+    return IsByDecades(limits, paint.map.logY) ? DecadeLadder(limits, true)
+                                               : StepLadder(limits, paint.map.logY, 0, room);
   };
-  const Ladder ladder = byDecades ? DecadeLadder(limits, true) : StepLadder(limits, paint.map.logY, 0, room);
+  const double fontSize = surface.FontSize, widest = paint.page.geometry.box.left - besideTick - outside - air;
+  for (const SideNumber& number : NumbersOf(ladderNow(), limits)) FitFont(surface, number.text, widest);
+  // Smaller letters leave room for more of them.
+  const Ladder ladder = ladderNow();
   const auto tick = [&](double value, double length) {
     const double y = paint.map.Y(value);
     paint.Rule(box.left - outside - length, y, box.left - outside, y, colours::Black);
   };
   for (const TickRow& row : ladder.ticks)
     for (const double value : TickValues(row)) tick(value, minorTick);
-  const auto number = [&](double value, int decimals) {
-    if (paint.LabelLeft(NumberText(value, decimals), paint.map.Y(value))) tick(value, majorTickAtLeft);
-  };
-  for (const double value : ladder.numbers) number(value, ladder.decimals);
-  for (const double end : {limits.xmin, limits.xmax}) number(end, std::max(ladder.decimals, 6));
-}
-
-/// Makes the letters smaller until the text fits.
-void FitFont(DrawingSurface& surface, std::string_view text, double room) {
-  while (surface.TextWidth(text) > room && surface.FontSize > smallestFont) surface.FontSize -= 0.5;
+  for (const SideNumber& number : NumbersOf(ladder, limits)) {
+    const double x = box.left - besideTick - surface.TextWidth(number.text);
+    const double y = paint.map.Y(number.value) - 0.5 * surface.TextHeight(number.text);
+    if (paint.labels.Print(number.text, x, y)) tick(number.value, majorTickAtLeft);
+  }
+  surface.FontSize = fontSize;
 }
 
 void PrintCentred(DrawingSurface& surface, std::string_view text, double middle, double y) {
@@ -155,15 +212,15 @@ double Pitch(const FramePaint& paint) {
   return paint.Box().Width() + paint.page.geometry.box.left - air;
 }
 
-double TopOfTitleBelow(const DrawingSurface& surface, const GraphBox& box) {
-  return box.bottom + std::max(titleBelow, numbersBelow + surface.TextHeight("X") + 10);
+double TopOfTitleBelow(const DrawingSurface& surface, const PageStyle& style, const GraphBox& box) {
+  return box.bottom + std::max(titleBelow, NumbersBelow(surface, style) + surface.TextHeight("X") + 10);
 }
 
 void PaintTitleBelow(FramePaint& paint) {
   auto& surface = paint.surface;
   const GraphBox& box = paint.Box();
-  const double top = TopOfTitleBelow(surface, box), fontSize = surface.FontSize;
-  FitFont(surface, paint.page.map->across.title, Pitch(paint));
+  const double top = TopOfTitleBelow(surface, paint.style, box), fontSize = surface.FontSize;
+  FitFont(surface, paint.page.map->across.title, paint.style.special ? box.Width() : Pitch(paint));
   PrintCentred(surface, paint.page.map->across.title, 0.5 * (box.left + box.right), top);
   surface.FontSize = fontSize;
 }
@@ -280,7 +337,7 @@ void LogoLee(DrawingSurface& surface, const Page& page) {
 }
 
 double BottomOfLeeTitle(const DrawingSurface& surface, const Page& page) {
-  return TopOfTitleBelow(surface, page.panels.front().box) + surface.TextHeight("X");
+  return TopOfTitleBelow(surface, page.style, page.panels.front().box) + surface.TextHeight("X");
 }
 
 }  // namespace lumivex

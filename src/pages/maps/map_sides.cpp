@@ -56,8 +56,8 @@ std::string SweepWords(const Sweep& sweep) {
   const MapSide side = SideOf(sweep);
   const auto number = [](double value) { return Significant(value, 8); };
   return side.name + ": " + number(sweep.low) + " to " + number(sweep.high) +
-         (side.unit.empty() ? "" : " " + side.unit) + " in " + std::to_string(sweep.steps) +
-         (sweep.geometric ? " steps of equal ratio" : " steps");
+         (side.unit.empty() ? "" : " " + side.unit) + " in " + CountOf(sweep.steps, "step") +
+         (sweep.geometric && sweep.steps > 1 ? " of equal ratio" : "");
 }
 
 }  // namespace lumivex

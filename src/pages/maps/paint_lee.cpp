@@ -59,6 +59,21 @@ void PaintLines(DrawingSurface& surface, const Page& page) {
   surface.ForeColour = colours::Black;
 }
 
+/// What the numbers are, within the key at its lower right: at its left and over it there may be inputs.
+void PaintWordsOfKey(DrawingSurface& surface, const ColourKey& key, const GraphBox& box) {
+  constexpr double air = 60;
+  const double width = surface.TextWidth(key.words);
+  const double part = std::max(0.0, 1 - (air + 0.5 * width) / box.Width());
+  const auto under = static_cast<std::size_t>(part * static_cast<double>(key.cells.size() - 1));
+  const Colour ground = key.cells[under];
+  constexpr int light = 382;  // half of the sum of three full channels
+  surface.ForeColour = ground.Red() + ground.Green() + ground.Blue() > light ? colours::Black : colours::White;
+  surface.CurrentX = box.right - air - width;
+  surface.CurrentY = box.bottom - surface.TextHeight(key.words) - 10;
+  surface.Print(key.words, false);
+  surface.ForeColour = colours::Black;
+}
+
 void PaintColourKey(DrawingSurface& surface, const Page& page) {
   const ColourKey& key = *page.map->key;
   const GraphBox box = KeyBox(LeePanelBox(page.geometry, page.style, 2));
@@ -68,12 +83,11 @@ void PaintColourKey(DrawingSurface& surface, const Page& page) {
   PrepareSurface(surface, page.style);
   surface.FontBold = false;
   surface.FontSize = 6;
+  PaintWordsOfKey(surface, key, box);
   TickLabels labels(surface);
   const double height = surface.TextHeight("X");
   // The titles of slides reach up to the key.
   const double y = page.style.special ? box.top - height - 5 : box.bottom + 3;
-  const double first = box.left - 0.5 * surface.TextWidth(key.numbers.front().text);
-  labels.Print(key.words, first - surface.TextWidth(key.words) - 60, y);
   for (const ColourKey::Number& number : key.numbers) {
     const double x = box.left + number.part * box.Width(), width = surface.TextWidth(number.text);
     labels.Print(number.text, std::min(x - 0.5 * width, surface.ScaleWidth() - width - 30), y);

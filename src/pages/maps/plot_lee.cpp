@@ -60,13 +60,22 @@ std::vector<double> WavelengthsOf(const MapToDraw& map) {
   return wavelengths;
 }
 
+MapValues ValuesOf(const RunRequest& asked) {
+  if (asked.graph.quantity == Quantity::Efficiencies) return MapValues::Efficiency;
+  const auto* angles = std::get_if<AngleMapRun>(&asked.run);
+  const bool perWaveNumber = angles != nullptr && angles->invWavelength;
+  if (asked.light.spectrum) return perWaveNumber ? MapValues::SumPerWaveNumber : MapValues::Sum;
+  return perWaveNumber ? MapValues::IntensityPerWaveNumber : MapValues::Intensity;
+}
+
 // Lines below.
 
 std::string MaximumText(double value) {
-  return value >= 1 || value == 0 ? Shortest(RoundTo(value, 2)) : Format(value, "scientific");
+  constexpr int digitsOfSingle = 9;  // with which numbers of single precision can be told apart
+  return value >= 1 || value == 0 ? Significant(RoundTo(value, 2), digitsOfSingle) : Format(value, "scientific");
 }
 
-void AddLines(PageMap& map, const std::optional<MapSeries>& series, double currentMean) {
+void AddLines(PageMap& map, const std::optional<MapSeries>& series) {
   using Place = MapLine::Place;
   const double scale = map.scaleMaximum, current = map.currentMaximum;
   map.lines.push_back({Place::ScaleMaximum, "Scale maximum = " + MaximumText(scale), colours::Black});
@@ -76,13 +85,13 @@ void AddLines(PageMap& map, const std::optional<MapSeries>& series, double curre
                          (exceeded ? "WARNING: Current maximum = " : "Current maximum = ") + MaximumText(current),
                          exceeded ? warningRed : colours::Black});
   }
-  const double old = series ? series->scaleMaximum : 0;
-  const auto diagnostics = [&](Place place, const std::string& name, double value) {
+  const bool held = series && series->Holds(map.kind);
+  const auto diagnostics = [&](Place place, const std::string& name, double value, double old) {
     map.lines.push_back(
         {place, name + " = " + MaximumText(value) + "   " + name + "OLD = " + MaximumText(old), colours::Black});
   };
-  diagnostics(Place::Diagnostics, "f3maxmax", current);
-  diagnostics(Place::Diagnostics3, "f3maxmax3", currentMean);
+  diagnostics(Place::Diagnostics, "f3maxmax", current, held ? series->scaleMaximum : 0);
+  diagnostics(Place::Diagnostics3, "f3maxmax3", map.thirdMaximum, held ? series->thirdMaximum : 0);
 }
 
 // Pictures.
@@ -155,12 +164,12 @@ void PlotTitled(Page& page, const MapToDraw& map, const Titles& titles) {
 
   const MapFound& values = *drawn.values;
   const std::size_t pictures = PicturesOf(map);
-  double last = 0;
   for (std::size_t i = 0; i < pictures; ++i) {
-    last = GreatestOfAll(values, i, shown);
-    drawn.currentMaximum = std::max(drawn.currentMaximum, last);
+    drawn.thirdMaximum = GreatestOfAll(values, i, shown);
+    drawn.currentMaximum = std::max(drawn.currentMaximum, drawn.thirdMaximum);
   }
-  const bool held = look.series && look.series->scaleMaximum > 0;
+  drawn.kind = ValuesOf(map.asked);
+  const bool held = look.series && look.series->Holds(drawn.kind);
   drawn.scaleMaximum = held ? look.series->scaleMaximum : drawn.currentMaximum;
 
   const MapInk ink{&look, FalseColoursFor(look, map.asked.graph), LightOf(map), drawn.scaleMaximum, page.style.ground};
@@ -168,7 +177,7 @@ void PlotTitled(Page& page, const MapToDraw& map, const Titles& titles) {
     drawn.pictures.push_back({std::string(titles[i]),
                               std::string(CurveNameOf(map.asked.graph, static_cast<CurveKind>(i + 1))),
                               std::make_shared<const std::vector<Colour>>(ColoursOf(values, i, shown, ink))});
-  AddLines(drawn, look.series, last);
+  AddLines(drawn, look.series);
   if (look.falseColours) drawn.key = KeyOf(ink.falseColours);
 
   page.kind.logX = drawn.across.samples.logarithmic;

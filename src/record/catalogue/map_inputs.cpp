@@ -87,43 +87,42 @@ constexpr std::array sweepRows = {
 };
 
 constexpr std::array startRows = {
-    ControlText{{20, 1}, "txtXmin", "178"},       ControlText{{20, 1}, "txtXmax", "180"},
-    ControlText{{20, 1}, "cboStep", "0.05"},      ControlText{{20, 2}, "txtXmin", "170"},
-    ControlText{{20, 2}, "txtXmax", "180"},       ControlText{{20, 2}, "cboStep", "0.1"},
-    ControlText{{20, 0}, "cboWave", "3"},         ControlText{{20, 0}, "cboDistrib", "Log-normal"},
-    ControlText{{20, 0}, "cboLee", "Normalised"}, ControlText{{22, 0}, "cboWave", "1"},
-    ControlText{{22, 0}, "txtF9_fixed", "0"},     ControlText{{22, 0}, "txtF9_min", "1.1"},
-    ControlText{{22, 0}, "txtF9_max", "1.5"},     ControlText{{22, 0}, "txtF9_step", "4"},
-    ControlText{{22, 0}, "txtXmin", "178"},       ControlText{{22, 0}, "txtXmax", "180"},
-    ControlText{{22, 0}, "cboStep", "0.05"},      ControlText{{22, 0}, "cboLee", "Absolute"},
-    ControlText{{23, 1}, "txtF9_min", "0.001"},   ControlText{{23, 1}, "txtF9_max", "0.01"},
-    ControlText{{23, 1}, "txtF9_step", "4"},      ControlText{{23, 1}, "txtF9_fixed", "1.333"},
-    ControlText{{23, 1}, "txtXmin", "137"},       ControlText{{23, 1}, "txtXmax", "145"},
-    ControlText{{23, 1}, "cboStep", "0.05"},      ControlText{{23, 1}, "txtAngle", "10"},
-    ControlText{{23, 1}, "cboWave", "1"},         ControlText{{24, 1}, "txtF9_min", "5"},
-    ControlText{{24, 1}, "txtF9_max", "20"},      ControlText{{24, 1}, "txtF9_step", "4"},
-    ControlText{{24, 1}, "txtLambda", "0.65"},    ControlText{{24, 1}, "txtRadius", "10"},
-    ControlText{{24, 1}, "cboPol", "Both"},       ControlText{{24, 1}, "txtXmin", "137"},
-    ControlText{{24, 1}, "txtXmax", "145"},       ControlText{{24, 1}, "cboStep", "0.05"},
-    ControlText{{24, 1}, "cboWave", "1"},         ControlText{{25, 1}, "txtF9_min", "400"},
-    ControlText{{25, 1}, "txtF9_max", "700"},     ControlText{{25, 1}, "txtF9_step", "4"},
-    ControlText{{25, 1}, "txtXmin", "137"},       ControlText{{25, 1}, "txtXmax", "145"},
-    ControlText{{25, 1}, "cboStep", "0.05"},      ControlText{{25, 1}, "txtAngle", "10"},
-    ControlText{{25, 1}, "cboWave", "1"},         ControlText{{25, 1}, "txtLambda", "0.65"},
-    ControlText{{25, 1}, "cboPol", "Both"},       ControlText{{26, 0}, "txtXmin", "0.1"},
-    ControlText{{26, 0}, "txtXmax", "20"},        ControlText{{26, 0}, "txtF9_fixed", "0"},
-    ControlText{{26, 0}, "txtF9_min", "1.1"},     ControlText{{26, 0}, "txtF9_max", "2"},
-    ControlText{{27, 1}, "txtXmin", "0.1"},       ControlText{{27, 1}, "txtXmax", "20"},
-    ControlText{{27, 1}, "txtF9_fixed", "1.5"},   ControlText{{27, 1}, "txtF9_min", "0"},
-    ControlText{{27, 1}, "txtF9_max", "0.5"},     ControlText{{28, 0}, "txtXmin", "0"},
-    ControlText{{28, 0}, "txtXmax", "0.5"},       ControlText{{28, 0}, "txtF9_fixed", "10"},
-    ControlText{{28, 0}, "txtF9_min", "1.1"},     ControlText{{28, 0}, "txtF9_max", "2"},
+    ControlText{{20, 1}, "txtXmin", "178"},     ControlText{{20, 1}, "txtXmax", "180"},
+    ControlText{{20, 1}, "cboStep", "0.05"},    ControlText{{20, 2}, "txtXmin", "170"},
+    ControlText{{20, 2}, "txtXmax", "180"},     ControlText{{20, 2}, "cboStep", "0.1"},
+    ControlText{{20, 0}, "cboWave", "3"},       ControlText{{20, 0}, "cboDistrib", "Log-normal"},
+    ControlText{{22, 0}, "cboWave", "1"},       ControlText{{22, 0}, "txtF9_fixed", "0"},
+    ControlText{{22, 0}, "txtF9_min", "1.1"},   ControlText{{22, 0}, "txtF9_max", "1.5"},
+    ControlText{{22, 0}, "txtF9_step", "4"},    ControlText{{22, 0}, "txtXmin", "178"},
+    ControlText{{22, 0}, "txtXmax", "180"},     ControlText{{22, 0}, "cboStep", "0.05"},
+    ControlText{{23, 1}, "txtF9_min", "0.001"}, ControlText{{23, 1}, "txtF9_max", "0.01"},
+    ControlText{{23, 1}, "txtF9_step", "4"},    ControlText{{23, 1}, "txtF9_fixed", "1.333"},
+    ControlText{{23, 1}, "txtXmin", "137"},     ControlText{{23, 1}, "txtXmax", "145"},
+    ControlText{{23, 1}, "cboStep", "0.05"},    ControlText{{23, 1}, "txtAngle", "10"},
+    ControlText{{23, 1}, "cboWave", "1"},       ControlText{{24, 1}, "txtF9_min", "5"},
+    ControlText{{24, 1}, "txtF9_max", "20"},    ControlText{{24, 1}, "txtF9_step", "4"},
+    ControlText{{24, 1}, "txtLambda", "0.65"},  ControlText{{24, 1}, "txtRadius", "10"},
+    ControlText{{24, 1}, "cboPol", "Both"},     ControlText{{24, 1}, "txtXmin", "137"},
+    ControlText{{24, 1}, "txtXmax", "145"},     ControlText{{24, 1}, "cboStep", "0.05"},
+    ControlText{{24, 1}, "cboWave", "1"},       ControlText{{25, 1}, "txtF9_min", "400"},
+    ControlText{{25, 1}, "txtF9_max", "700"},   ControlText{{25, 1}, "txtF9_step", "4"},
+    ControlText{{25, 1}, "txtXmin", "137"},     ControlText{{25, 1}, "txtXmax", "145"},
+    ControlText{{25, 1}, "cboStep", "0.05"},    ControlText{{25, 1}, "txtAngle", "10"},
+    ControlText{{25, 1}, "cboWave", "1"},       ControlText{{25, 1}, "txtLambda", "0.65"},
+    ControlText{{25, 1}, "cboPol", "Both"},     ControlText{{26, 0}, "txtXmin", "0.1"},
+    ControlText{{26, 0}, "txtXmax", "20"},      ControlText{{26, 0}, "txtF9_fixed", "0"},
+    ControlText{{26, 0}, "txtF9_min", "1.1"},   ControlText{{26, 0}, "txtF9_max", "2"},
+    ControlText{{27, 1}, "txtXmin", "0.1"},     ControlText{{27, 1}, "txtXmax", "20"},
+    ControlText{{27, 1}, "txtF9_fixed", "1.5"}, ControlText{{27, 1}, "txtF9_min", "0"},
+    ControlText{{27, 1}, "txtF9_max", "0.5"},   ControlText{{28, 0}, "txtXmin", "0"},
+    ControlText{{28, 0}, "txtXmax", "0.5"},     ControlText{{28, 0}, "txtF9_fixed", "10"},
+    ControlText{{28, 0}, "txtF9_min", "1.1"},   ControlText{{28, 0}, "txtF9_max", "2"},
 };
 
 constexpr std::array cellStarts = {
-    ControlText{{0, 0}, "txtAngle", "170"}, ControlText{{0, 0}, "txtRefractMedium", "1.33"},
-    ControlText{{0, 0}, "cboWave", "1"},    ControlText{{0, 0}, "cboLee", "Absolute"},
-    ControlText{{0, 0}, "cboStep", "100"},  ControlText{{0, 0}, "txtF9_step", "100"},
+    ControlText{{0, 0}, "txtAngle", "170"},   ControlText{{0, 0}, "txtRefractMedium", "1.33"},
+    ControlText{{0, 0}, "cboWave", "1"},      ControlText{{0, 0}, "cboStep", "100"},
+    ControlText{{0, 0}, "txtF9_step", "100"},
 };
 
 /// The rows of single graphs with those that all maps without angles share.
@@ -157,6 +156,12 @@ std::span<const ControlText> MapStarts() {
 
 std::span<const ControlText> SweepStarts() {
   return sweepRows;
+}
+
+std::string_view MapScaleAtStart(const Graph& graph, bool oneWavelength) {
+  const bool overIndex = graph.family == Family::AngleMap && (graph.VariesIndex() || graph.VariesMedium()) &&
+                         FindSwept(graph)->columns != Swept::SphereAbsorption;
+  return graph.family == Family::Lee || (overIndex && !oneWavelength) ? "Normalised" : "Absolute";
 }
 
 }  // namespace lumivex

@@ -45,6 +45,10 @@ std::span<const ControlText> MapCaptions();
 /// What its inputs start with when its family is chosen anew.
 std::span<const ControlText> MapStarts();
 
+/// What cboLee starts with, and reads after a run: one scale for all columns of a map; a Lee diagram, and a map over
+/// the real index in the light of several wavelengths, has one for each.
+std::string_view MapScaleAtStart(const Graph& graph, bool oneWavelength);
+
 /// Those of them that depend on the swept quantity: they start anew too where another sub-type sweeps another one.
 std::span<const ControlText> SweepStarts();
 

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "record/colour.h"
+#include "record/page_map.h"
 
 namespace lumivex {
 
@@ -17,9 +18,13 @@ struct ColourState {
   std::vector<Colour> WavelengthColours =
       std::vector<Colour>(2002);  ///< one colour a wavelength of the run, index 1 up
   double ColourValue = 0;         ///< input of the false-colour ramp
-  double LeeOverallMaximum = 0;   ///< of the map on show the value of full brightness, which holds for its series
+  double LeeOverallMaximum = 0;   ///< of the map on show the value of full brightness
   double LeeCurrentMaximum = 0;   ///< its greatest value
-  float CellRed = 0;              ///< channels of the present cell, 0 to 255
+  double MapReference = 0;        ///< greatest value of the map that a series of maps is held against; 0 for none
+  double MapReferenceThird = 0;   ///< the same of its third picture
+  MapValues MapReferenceKind = MapValues::Intensity;  ///< what these are values of
+  int FalseColoursFollow = 0;  ///< 1: a map is in false colours while it has one wavelength, until the user chooses
+  float CellRed = 0;           ///< channels of the present cell, 0 to 255
   float CellGreen = 0;
   float CellBlue = 0;
   double BarReference = 0;            ///< BarScale kept for later bars; 0 for none
@@ -38,6 +43,10 @@ void ForEachField(Group& g, Visitor&& visit) {
   visit("ColourValue", g.ColourValue);
   visit("LeeOverallMaximum", g.LeeOverallMaximum);
   visit("LeeCurrentMaximum", g.LeeCurrentMaximum);
+  visit("MapReference", g.MapReference);
+  visit("MapReferenceThird", g.MapReferenceThird);
+  visit("MapReferenceKind", g.MapReferenceKind);
+  visit("FalseColoursFollow", g.FalseColoursFollow);
   visit("CellRed", g.CellRed);
   visit("CellGreen", g.CellGreen);
   visit("CellBlue", g.CellBlue);

@@ -27,6 +27,8 @@ struct OpticalState {
   std::string KeptMediumLabel;  ///< label of the medium before a map varied its index
   std::string KeptSphereLabel;  ///< label and name of the sphere before a graph varied its index
   std::string KeptSphereName;
+  std::string KeptAngle;          ///< text of txtAngle before a map used the field for a radius
+  std::string KeptRadius;         ///< text of txtRadius before a Lee diagram used the field for an index
   double IncidentDensity = 100;   ///< of the light (W/m2)
   double Distance = 1;            ///< of the observer (m)
   double ScatteredPower = 0;      ///< of a graph in Watts: into all directions (W)
@@ -58,6 +60,8 @@ void ForEachField(Group& g, Visitor&& visit) {
   visit("KeptMediumLabel", g.KeptMediumLabel);
   visit("KeptSphereLabel", g.KeptSphereLabel);
   visit("KeptSphereName", g.KeptSphereName);
+  visit("KeptAngle", g.KeptAngle);
+  visit("KeptRadius", g.KeptRadius);
   visit("IncidentDensity", g.IncidentDensity);
   visit("Distance", g.Distance);
   visit("ScatteredPower", g.ScatteredPower);

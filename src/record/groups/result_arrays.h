@@ -33,6 +33,8 @@ struct ResultArrays {
   Table2D MapPerpSum;
   Table2D MapParSum;
   std::shared_ptr<const Results> LastResults;  ///< of the last run that was kept; null before the first
+  /// The same with a distribution of sizes folded in, as Replot made them; null where none is.
+  std::shared_ptr<const Results> FoldedResults;
 };
 
 template <class Group, class Visitor>

@@ -29,16 +29,17 @@ struct RunState {
   double DispSample = 0;
   float ProgressFraction = 0;  ///< 0 to 1, of the points of an x-axis run
   double ProgressPercent = 0;
-  int CalibrationState = 0;       ///< 3: a machine so fast that no duration is asked about
-  int RestoringSettings = 0;      ///< not 0: menu handlers show no dialog
-  int LoadingFlag = 0;            ///< not 0: change events of inputs do nothing
-  int OverplotFromFile = 0;       ///< 1: the curve to be drawn was read from a file
-  int StopAnswer = 0;             ///< 1 once a Stop of the present run was answered Yes
-  double StartTime = 0;           ///< seconds, when the present run began
-  double LastRunSeconds = 0;      ///< how long the last run calculated
-  double SecondsLeft = -1;        ///< of the present run, as far as can be told; -1 where it cannot
-  double EstimatedSeconds = 0;    ///< for the whole run, smoothed from report to report; 0 before the first
-  double EstimateTime = 0;        ///< seconds, when it was last looked at
+  int CalibrationState = 0;     ///< 3: a machine so fast that no duration is asked about
+  int RestoringSettings = 0;    ///< not 0: menu handlers show no dialog
+  int LoadingFlag = 0;          ///< not 0: change events of inputs do nothing
+  int OverplotFromFile = 0;     ///< 1: the curve to be drawn was read from a file
+  int ReplotOfSizes = 0;        ///< 1: Replot is off for Mono alone, and is offered again with a distribution of sizes
+  int StopAnswer = 0;           ///< 1 once a Stop of the present run was answered Yes
+  double StartTime = 0;         ///< seconds, when the present run began
+  double LastRunSeconds = 0;    ///< how long the last run calculated
+  double SecondsLeft = -1;      ///< of the present run, as far as can be told; -1 where it cannot
+  double EstimatedSeconds = 0;  ///< for the whole run, smoothed from report to report; 0 before the first
+  double EstimateTime = 0;      ///< seconds, when it was last looked at
   double SecondsPerPairTerm = 0;  ///< of this machine: one term of one pair of angles; 0 until measured
 };
 
@@ -101,6 +102,7 @@ void ForEachField(Group& g, Visitor&& visit) {
   visit("RestoringSettings", g.RestoringSettings);
   visit("LoadingFlag", g.LoadingFlag);
   visit("OverplotFromFile", g.OverplotFromFile);
+  visit("ReplotOfSizes", g.ReplotOfSizes);
   visit("StopAnswer", g.StopAnswer);
   visit("StartTime", g.StartTime);
   visit("LastRunSeconds", g.LastRunSeconds);

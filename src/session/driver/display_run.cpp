@@ -21,10 +21,15 @@ Page InView(Page page, const Page& before, const Look& look) {
 }  // namespace
 
 void DisplayRun(Session& session, Onto onto) {
-  constexpr int over = 2, stopRequested = 4;
-  auto& s = session.state;
+  constexpr int stopRequested = 4;
   session.platform.Yield();
-  if (!s.LastResults || s.PlotMode == stopRequested) return;
+  if (session.state.PlotMode != stopRequested) ShowLastResults(session, onto);
+}
+
+void ShowLastResults(Session& session, Onto onto) {
+  constexpr int over = 2;
+  auto& s = session.state;
+  if (!s.LastResults) return;
   const Look look = ReadLook(session);
   s.SecondLineColour = LineColour(look.pen, s.LastResults->asked.light.lambda).second;
   const auto shown = WithSizesFolded(session);
@@ -40,11 +45,10 @@ void RedrawMap(Session& session) {
   // A run of another kind that was stopped leaves the page of the map before.
   const bool shown = results && results->Find<MapFound>() != nullptr && results->asked.graph == session.page.kind.graph;
   if (!shown) return ShowPage(session, WithLook(session.page, ReadLook(session)));
-  // Colours never decide whether sizes are folded in: that is Replot's. Mono takes out those that are.
-  auto& share = session.state.FoldedShare;
-  const bool folded = share >= 0 && session.form1.optDisp.Checked;
-  if (!folded) share = -1;
-  DrawResults(session, folded ? *WithSizesFolded(session) : *results);
+  // Colours fold nothing in: that is Replot's. Mono takes out the sizes that are.
+  if (!session.form1.optDisp.Checked) TakeSizesOut(session.state);
+  const auto folded = session.state.FoldedResults;
+  DrawResults(session, folded ? *folded : *results);
 }
 
 void DrawResults(Session& session, const Results& results) {

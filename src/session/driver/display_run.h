@@ -12,6 +12,9 @@ enum class Onto { FreshPage, PageOnScreen };
 /// brings a Stop, the old page stays.
 void DisplayRun(Session& session, Onto onto);
 
+/// The same without a yield: also what a Stop has left.
+void ShowLastResults(Session& session, Onto onto);
+
 /// Makes the page of the last results anew where it is a map, with the look that is asked for now; any other page has
 /// its look renewed.
 void RedrawMap(Session& session);

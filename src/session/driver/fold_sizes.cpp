@@ -10,7 +10,7 @@ namespace lumivex {
 
 std::shared_ptr<const Results> WithSizesFolded(Session& session) {
   auto& s = session.state;
-  s.FoldedShare = -1;
+  TakeSizesOut(s);
   const auto results = s.LastResults;
   const auto* map = results->Find<MapFound>();
   const bool asked = map != nullptr && results->asked.graph.family == Family::Lee && session.form1.optDisp.Checked;
@@ -24,11 +24,19 @@ std::shared_ptr<const Results> WithSizesFolded(Session& session) {
     return results;
   }
   s.FoldedShare = folded.share;
-  auto shown = std::make_shared<Results>(*results);
+  auto shown = std::make_shared<Results>();
+  shown->asked = results->asked;
   shown->found = std::move(folded.found);
+  shown->last = results->last;
+  shown->seconds = results->seconds;
   shown->asked.sizes = sizes;
   shown->asked.words.sizes = WordsForSizes(session);
-  return shown;
+  return s.FoldedResults = std::move(shown);
+}
+
+void TakeSizesOut(MainFormState& s) {
+  s.FoldedResults.reset();
+  s.FoldedShare = -1;
 }
 
 std::string FoldWords(const Session& session) {

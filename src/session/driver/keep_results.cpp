@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "pages/run_words.h"
+#include "record/catalogue/map_inputs.h"
 #include "runs/run.h"
 #include "session/driver/keep_curves.h"
 #include "session/driver/keep_map.h"
@@ -195,7 +196,8 @@ struct KeepFound {
     }
     KeepMap(s, results, found);
     // A map has one scale unless the user asks for one a column.
-    if (results.asked.graph.IsMap()) session.form1.cboLee.Text = "Absolute";
+    if (results.asked.graph.IsMap())
+      session.form1.cboLee.Text = MapScaleAtStart(results.asked.graph, !results.asked.light.spectrum);
   }
 };
 
@@ -205,6 +207,7 @@ void KeepResults(Session& session, Results&& kept) {
   auto& s = session.state;
   // Views of the results before.
   static_cast<LeeResults&>(s) = {};
+  s.FoldedResults.reset();
   s.LastResults = std::make_shared<const Results>(std::move(kept));
   const Results& results = *s.LastResults;
   s.PrevGraphType = s.GraphType;

@@ -64,13 +64,13 @@ void Overplot(Session& session, const RunRequest& request, Onto onto) {
     KeepResults(session, std::move(end.results));
   else
     watch.Forget();
-  if (end.hasResults && end.outcome == Outcome::Done) {
+  if (end.hasResults) {
     if (onto == Onto::FreshPage) ReadLimits(session);
-    DisplayRun(session, onto);
-  } else if (end.hasResults && request.graph.InColour()) {
-    // Columns that are done stay on the page after a Stop, also where the run was too short for any to be shown before.
-    s.FoldedShare = -1;
-    DrawResults(session, *s.LastResults);
+    // What was done before a Stop is on the page at once: page, tables and record tell of the same run.
+    if (end.outcome == Outcome::Done)
+      DisplayRun(session, onto);
+    else
+      ShowLastResults(session, onto);
   } else if (watch.HasDrawn()) {
     // Those of a run that failed give way to what was there.
     ShowPage(session, before);

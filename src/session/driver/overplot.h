@@ -7,7 +7,7 @@ namespace lumivex {
 
 /// The run itself, New plot's and Overplot's: runs the request and keeps and shows what comes of it. A fresh page takes
 /// its limits from the inputs, the page on the screen keeps its own. A run that is refused leaves the old results and
-/// drawing; a stopped one stores what was done, for Replot to draw. PlotMode is 1 at the end.
+/// drawing; of a stopped one what was done is kept and drawn. PlotMode is 1 at the end.
 void Overplot(Session& session, const RunRequest& request, Onto onto);
 
 /// Keeps results that are whole and draws them.

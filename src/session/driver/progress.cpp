@@ -178,7 +178,12 @@ void SessionWatch::DrawColumns(const RunProgress& progress) {
   const auto part = std::make_shared<Results>();
   part->asked = request_;
   part->found = FirstColumns(*progress.map, progress.columnsDone);
+  // A series of maps begins with a map that has ended.
+  const ColourState colours = session_.state;
   DrawResults(session_, *part);
+  session_.state.MapReference = colours.MapReference;
+  session_.state.MapReferenceThird = colours.MapReferenceThird;
+  session_.state.MapReferenceKind = colours.MapReferenceKind;
   const double taken = session_.platform.Timer() - now;
   nextDrawing_ = now + taken + std::max(leastPause, pausePerDrawing * taken);
   printed_ = 0;

@@ -162,7 +162,9 @@ void ChangeWithinFamily(Session& session, const Graph& before, const Graph& chos
   const SweptQuantities *was = FindSwept(before), *is = FindSwept(chosen);
   if (was == nullptr || is == nullptr || was->columns == is->columns) return;
   NameMaterials(session, before, chosen);
-  if (!session.form1.mnuKeepParameters.Checked) WriteMapStarts(session, true);
+  if (session.form1.mnuKeepParameters.Checked) return;
+  KeepTypedSize(session, before);
+  WriteMapStarts(session, true);
 }
 
 /// Start values of a new family, unless the user keeps the parameters; the sphere of a family that varied its index has
@@ -182,6 +184,7 @@ void ChangeFamily(Session& session, const Graph& before) {
   NameMaterials(session, GraphOf({1, 1}), chosen);
   form.mnuXStepLog.Checked = start != nullptr && start->logSteps && !keeps;
   if (keeps) return;
+  KeepTypedSize(session, before);
   if (start != nullptr) {
     AxisStartValues(session, *graph, *start);
   } else if (FindMapInputs(chosen) != nullptr) {
@@ -248,7 +251,7 @@ void ShowFamilyInputs(Session& session) {
   form.Label18.Caption = "Brightness";
   form.Label26.Caption = "Lee diagram";
   ShowWavelengthInputs(session);
-  form.Label26.Visible = form.cboLee.Visible = chosen.InColour();
+  form.Label26.Visible = form.cboLee.Visible = form.cboLee.Enabled = chosen.InColour();
   form.Label24.Visible = form.txtRmax.Visible = form.lblRstep.Visible = form.txtRstep.Visible =
       chosen.family == Family::Lee;
   form.cboWave.Enabled = true;
@@ -301,6 +304,7 @@ void cboGraph_Click(Session& session) {
   if (form.mnuRadiusX.Checked && !form.mnuRadiusX.Enabled) session.events.Raise("mnuRadius_Click");
   ShowFamilyInputs(session);
   form.cmdReplot.Enabled = form.cmdOverPlot.Enabled = false;
+  s.ReplotOfSizes = 0;
   form.cmdNewPlot.Enabled = true;
   AskForDistance(session);
   if (chosen.family == Family::Volume) session.events.Raise("dlogVolume.Show");

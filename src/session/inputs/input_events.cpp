@@ -33,6 +33,7 @@ void Inputs_Changed(Session& session) {
   if (session.state.LoadingFlag != 0) return;
   form.cmdNewPlot.Enabled = true;
   form.cmdReplot.Enabled = false;
+  session.state.ReplotOfSizes = 0;
 }
 
 void Picture_Changed(Session& session) {

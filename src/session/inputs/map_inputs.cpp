@@ -93,6 +93,34 @@ void WriteMapStarts(Session& session, bool sweepAlone) {
   form.cboYmin.Text = form.cboYmax.Text = "Automatic";
   form.cboPol.Text = "Both";
   WriteTexts(form, graph, MapStarts());
+  session.state.FalseColoursFollow = 1;
+  StartMapColours(session);
+}
+
+void StartMapColours(Session& session) {
+  auto& form = session.form1;
+  auto& s = session.state;
+  const Graph& graph = ChosenGraph(s);
+  const bool one = Trim(form.cboWave.Text) == "1";
+  form.cboLee.Text = MapScaleAtStart(graph, one);
+  if (s.FalseColoursFollow == 1) form.mnuFalseColours.Checked = one && graph.IsMap();
+}
+
+void KeepTypedSize(Session& session, const Graph& before) {
+  auto& form = session.form1;
+  auto& s = session.state;
+  const auto isSize = [](const Graph& graph) {
+    const MapInputs* inputs = FindMapInputs(graph);
+    return inputs != nullptr && inputs->size == SizeField::Angle;
+  };
+  const auto isIndex = [&](const Graph& graph) { return isSize(graph) && !FindMapInputs(graph)->further; };
+  const Graph& chosen = ChosenGraph(s);
+  const auto exchange = [](bool was, bool is, TextInput& input, std::string& kept) {
+    if (!was && is) kept = input.Text;
+    if (was && !is && !kept.empty()) input.Text = kept;
+  };
+  exchange(isSize(before), isSize(chosen), form.txtAngle, s.KeptAngle);
+  exchange(isIndex(before), isIndex(chosen), form.txtRadius, s.KeptRadius);
 }
 
 TextInput& StepsField(Form1& form, const MapInputs& inputs) {

@@ -17,6 +17,15 @@ void ShowMapInputs(Session& session);
 /// Start values of a Lee diagram or a map; of the swept quantity alone where only that is another.
 void WriteMapStarts(Session& session, bool sweepAlone);
 
+/// How the colours of a Lee diagram or a map start in the light that is chosen: cboLee, and false colours for a map of
+/// one wavelength, which against its greatest value is nearly black in the colour of its light. A user who has ticked
+/// or unticked them since the start keeps them.
+void StartMapColours(Session& session);
+
+/// Some graphs have a radius typed into the field of the angle, and an index into that of the radius: keeps what stood
+/// there when such a graph has been chosen, and puts it back after it.
+void KeepTypedSize(Session& session, const Graph& before);
+
 /// The sweep of the columns, as typed; a lowest value of 0 is one of 1e-12, at which every quantity still has a
 /// meaning.
 Sweep ReadColumns(const Session& session, const Graph& graph);

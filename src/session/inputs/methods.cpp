@@ -179,6 +179,9 @@ void cboWave_Click(Session& session) {
   form.cboGraph.BackColour = colours::White;
   form.cmdNewPlot.Enabled = true;
   ShowWavelengthInputs(session);
+  const auto& s = session.state;
+  const bool chosen = s.LoadingFlag == 0 && s.RestoringSettings == 0 && !form.mnuKeepParameters.Checked;
+  if (chosen && ChosenGraph(s).IsMap()) StartMapColours(session);
   if (Trim(form.cboWave.Text) == "1") session.events.Raise("txtLambda_change");
 }
 

@@ -181,6 +181,7 @@ void PickGamma(Session& session) {
 
 void mnuFalseColours_Click(Session& session) {
   Toggle(session, &M::mnuFalseColours);
+  session.state.FalseColoursFollow = 0;
   session.form1.cboLee.Enabled = ChosenGraph(session.state).InColour();
   EnableReplot(session);
   RecolourPage(session);
@@ -377,7 +378,9 @@ void cboBright_Change(Session& session) {
 void mnuMapNormalise_Click(Session& session) {
   Toggle(session, &M::mnuMapNormalise);
   if (session.form1.mnuMapNormalise.Checked)
-    session.state.LeeOverallMaximum = session.page.map ? session.page.map->currentMaximum : 0;
+    TakeMapReference(session);
+  else
+    EndMapSeries(session.state);
   EnableReplot(session);
   RecolourPage(session);
 }

@@ -128,7 +128,7 @@ ColourLook ReadColours(const Session& session) {
   colours.normaliseUnpolarised = form.mnuNormalised.Checked;
   if (form.mnuSetNormal.Checked && s.BarReference > 0)
     colours.barScale = BarScale{s.BarReference, s.BarReferencePerWaveNumber == 1};
-  if (form.mnuMapNormalise.Checked) colours.series = MapSeries{s.LeeOverallMaximum};
+  if (form.mnuMapNormalise.Checked) colours.series = MapSeries{s.MapReference, s.MapReferenceThird, s.MapReferenceKind};
   return colours;
 }
 

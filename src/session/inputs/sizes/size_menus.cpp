@@ -58,6 +58,11 @@ bool AskForParameters(Session& session, const std::string& name) {
   return true;
 }
 
+/// Whether the results are those of the inputs, sizes apart.
+bool CanReplot(const Session& session) {
+  return session.form1.cmdReplot.Enabled || session.state.ReplotOfSizes == 1;
+}
+
 /// A field that is being emptied to be typed anew is not told of.
 void DrawnAnew(Session& session, bool aloud = true) {
   if (session.state.LoadingFlag != 0) return;
@@ -88,24 +93,29 @@ void ShowSizeInputs(Session& session) {
 
 void optMono_Click(Session& session) {
   auto& form = session.form1;
+  const bool replot = CanReplot(session);
   form.optMono.Select();
   ShowSizeInputs(session);
   RaiseInputsChanged(session);
   if (!IsLeeDiagram(session.state)) return;
   // Sizes that were folded into the columns are taken out at once, which leaves nothing to be drawn again.
   form.cmdReplot.Enabled = false;
+  session.state.ReplotOfSizes = replot ? 1 : 0;
   RecolourPage(session);
 }
 
 void optDisp_Click(Session& session) {
   auto& form = session.form1;
   const auto& s = session.state;
+  // A distribution can be folded into the results, but only into those of the inputs.
+  const bool replot = HasResults(s) && CanReplot(session);
   form.optDisp.Select();
   SettleSamples(form);
   ShowSizeInputs(session);
   RaiseInputsChanged(session);
   form.cmdNewPlot.Enabled = true;
-  if (HasResults(s)) form.cmdReplot.Visible = form.cmdReplot.Enabled = true;
+  if (HasResults(s)) form.cmdReplot.Visible = true;
+  form.cmdReplot.Enabled = replot;
   DistDisplay(session);
 }
 
