@@ -14,7 +14,7 @@ cmake --build --preset fuzz -j "$(nproc)"
 seed() { # LETTER FILE
   { printf '%s' "$1"; cat "$2"; } > "$work/input_files.seeds/$1_$(basename "$2")"
 }
-mkdir -p "$work/input_files.seeds" "$work/texts.seeds" "$work/writers.seeds" "$work/batch_files.seeds"
+mkdir -p "$work/input_files.seeds" "$work/texts.seeds" "$work/writers.seeds" "$work/batch_files.seeds" "$work/results_files.seeds"
 examples=$root/data/examples
 for file in "$examples"/*.rix; do seed r "$file"; done
 for file in "$examples"/*.csv; do seed c "$file"; done
@@ -29,8 +29,12 @@ printf '%s' 'picture "a #1.png" 300x200 # told' > "$work/texts.seeds/quoted"
 printf '[Recent]\nFile1=batch|/a\\nb\n[Window]\nPlace=A=\n' > "$work/texts.seeds/configuration"
 cp "$examples"/batch/*.min "$work/batch_files.seeds"
 printf 'Ice, "thin"\n1.03\n0\n1e-400\n' > "$work/writers.seeds/entry"
+# A small drop by steps of 90 degrees, by the layout alone.
+printf '%s\n' 'Lumivex v4.4.00' 'Intensity v. scattering angle' ' Water' 'a vacuum ' Defined1 Defined2 Mie 2 Vacuum1 Vacuum2 1 1 \
+  0.65 Radius 1 1.33 0 0 180 90 Automatic .1 Automatic 1000 .2 900 Log 2 '90 90 90' '1 2 1.5' '3 3 3' \
+  > "$work/results_files.seeds/drop"
 
-for program in input_files texts writers batch_files; do
+for program in input_files texts writers batch_files results_files; do
   echo "== fuzz $program"
   mkdir -p "$work/$program.kept"
   "$build/fuzz_$program" -dict="$root/tests/fuzz/words" -max_total_time="$seconds" -max_len=65536 -timeout=10 \

@@ -122,18 +122,6 @@ LoadedFile Load(Session& session, std::istream& stream) {
   return file;
 }
 
-/// Reads without leaving a trace, or throws BadFile.
-LoadedFile LoadPath(Session& session, const std::string& path) {
-  std::ifstream stream;
-  if (std::string failure = OpenInput(stream, path); !failure.empty())
-    throw BadFile{ReadablePath(FileNameOf(path)) + ": " + failure};
-  try {
-    return Load(session, stream);
-  } catch (const std::bad_alloc&) {
-    throw BadFile{"The file is larger than the memory"};
-  }
-}
-
 /// An overplot keeps the limits of the page: others than those are told.
 void CompareLimits(Session& session, const Session& sheet) {
   auto& form = session.form1;
@@ -180,15 +168,27 @@ void Apply(Session& session, LoadedFile& file, Onto onto) {
 
 }  // namespace
 
-bool ReadResultsFile(Session& session, const std::string& path, Onto onto) {
+bool ReadResults(Session& session, std::istream& stream, Onto onto) {
+  BadFile bad;
   try {
-    LoadedFile file = LoadPath(session, path);
+    LoadedFile file = Load(session, stream);
     Apply(session, file, onto);
     return true;
-  } catch (const BadFile& bad) {
-    session.platform.Message(bad.title, bad.text);
-    return false;
+  } catch (const BadFile& fault) {
+    bad = fault;
+  } catch (const std::bad_alloc&) {
+    bad.text = "The file is larger than the memory";
   }
+  session.platform.Message(bad.title, bad.text);
+  return false;
+}
+
+bool ReadResultsFile(Session& session, const std::string& path, Onto onto) {
+  std::ifstream stream;
+  const std::string failure = OpenInput(stream, path);
+  if (failure.empty()) return ReadResults(session, stream, onto);
+  session.platform.Message("File error", ReadablePath(FileNameOf(path)) + ": " + failure);
+  return false;
 }
 
 void Read_File(Session& session) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <istream>
 #include <string>
 
 #include "record/session.h"
@@ -12,6 +13,9 @@ namespace lumivex {
 /// @param onto  the page on the screen: the results go over it, in its limits and its look, as an overplot does.
 /// @return whether the file was read.
 bool ReadResultsFile(Session& session, const std::string& path, Onto onto);
+
+/// The same from the content of a file.
+bool ReadResults(Session& session, std::istream& stream, Onto onto);
 
 /// Asks for a results file and reads it, over the present page where OverplotFromFile is 1.
 void Read_File(Session& session);

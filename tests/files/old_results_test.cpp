@@ -1,0 +1,120 @@
+/// Results files of every version that there was, written by the rules of each.
+
+#include "files/results/file_version.h"
+#include "files/results_fixture.h"
+#include "runs/curves.h"
+
+namespace lumivex {
+namespace {
+
+constexpr int everyVersion[] = {1,    101,  200,  201,  202,  203,  204,  205,  3102, 3201, 3202, 3411, 3502, 4000,
+                                4001, 4002, 4003, 4004, 4005, 4006, 4007, 4008, 4108, 4200, 4201, 4301, 4302, 4400};
+
+/// A drop of water of 12 C and 4 um in air of 10 C, by steps of 30 degrees.
+struct OldFile {
+  int version = 4400;
+  std::string graph = "Intensity v. scattering angle", method = "Mie";
+  std::vector<std::string> rays = {};
+
+  std::string Text() const {
+    std::vector<std::string> lines = {std::string(FileVersionLine(version)), graph, "IAPWS 12C", "Air 10C"};
+    const auto add = [&](bool stands, std::initializer_list<std::string> more) {
+      if (stands) lines.insert(lines.end(), more);
+    };
+    add(true, {"User1"});
+    add(version > 203, {"Old glass"});
+    add(true, {" .4           1.51 ", " .5 , 1.505", " .6\t1.5", " .7D+00  1.495 ", "Defined2"});
+    add(version >= 200, {method, rays.empty() ? "2" : "Multiple"});
+    if (version > 3102) lines.insert(lines.end(), rays.begin(), rays.end());
+    add(true, {"IAPWS"});
+    add(version < 201, {" 12            .9995 "});
+    add(version >= 201, {"12", ".9995"});
+    add(version > 204, {" 1 "});
+    add(version >= 201, {"Air2", "10"});
+    add(version >= 4000, {"1.00028"});
+    add(true, {"1", "0.5", "Radius", "4", "1.33"});
+    add(version > 202, {".000001"});
+    add(true, {" 0 ", " 180 ", "30", "Automatic", " .1 ", "1000", " 1000 ", " .2 ", " 900 ", "Log", " 2.1 "});
+    for (const char* row : {"900 900 900", "100 80 90", "10 8 9", "1 2 1.5", "3 4 3.5", "5 6 5.5", "50 50 50"})
+      lines.emplace_back(row);
+    return Joined(lines);
+  }
+};
+
+TEST_F(ResultsFiles, EveryVersionReads) {
+  for (const int version : everyVersion) {
+    SCOPED_TRACE(version);
+    Do("reset\nset txtRefractMedium 1.5\nset txtRefractImag 0.25\nset txtLambda 0.7");
+    runner.World().messages.clear();
+    Write("old.lvx", OldFile{version}.Text());
+    Load("old.lvx");
+    EXPECT_TRUE(Shown().empty()) << LastText();
+    EXPECT_EQ(Get("txtRadius"), "4");
+    EXPECT_EQ(Get("txtLambda"), "0.5");
+    EXPECT_EQ(Get("cboYmax"), "1000");
+    EXPECT_EQ(Get("dlogTemp.txtTemp"), "12");
+    EXPECT_EQ(Get("dlogRI_User1.txtMaterial1"), version > 203 ? "Old glass" : "Glass");
+    EXPECT_EQ(Get("dlogRI_User1.txtRI_1_4"), "1.495");
+    // What a version lacks stays as it was.
+    EXPECT_EQ(Get("mnuRI_Air2") == "true", version >= 201);
+    const auto& results = *runner.Current().state.LastResults;
+    const auto* found = results.Find<AngleFound>();
+    ASSERT_NE(found, nullptr);
+    EXPECT_NEAR(found->S1.Intensity(2), 100, 1e-12);
+    EXPECT_NEAR(found->S2.Intensity(7), 50, 1e-12);
+    EXPECT_EQ(results.last.efficiencies.Qsca, 2.1);
+    EXPECT_GT(results.last.efficiencies.Qext, 0);
+    EXPECT_EQ(results.asked.particle.radius, 4);
+  }
+}
+
+TEST_F(ResultsFiles, FormerNamesAreKnown) {
+  Write("old.lvx", OldFile{200, "Intensity v. scattering angle", "Debye series"}.Text());
+  Load("old.lvx");
+  EXPECT_EQ(Get("cboType"), "Debye");
+  Write("older.lvx", OldFile{204, "Intensity v. scattering angle", "Mie scattering"}.Text());
+  Load("older.lvx");
+  EXPECT_EQ(Get("cboType"), "Mie");
+  Write("unknown.lvx", OldFile{4400, "Intensity v. scattering angle", std::string(50, 'z')}.Text());
+  EXPECT_EQ(Refused("unknown.lvx"), "File error: Unknown calculation method: \"" + std::string(40, 'z') + "\"");
+  Write("coated.lvx", OldFile{4400, "Intensity v. scattering angle", "Inhomogeneous sphere"}.Text());
+  EXPECT_NE(Refused("coated.lvx").find("\"Inhomogeneous sphere\", which this version"), std::string::npos);
+}
+
+TEST_F(ResultsFiles, SelectedRaysAreReadSinceTheyWereWritten) {
+  Write("rays.lvx", OldFile{4400, "Intensity v. scattering angle", "Debye", {" 2 ", " 0 ", " 3 "}}.Text());
+  Load("rays.lvx");
+  EXPECT_EQ(runner.Current().state.LastResults->asked.words.rays, "0, 3");
+  Write("step.lvx", OldFile{4400, "Intensity v. scattering angle", "Debye", {"Step", "1", "2", "5"}}.Text());
+  Load("step.lvx");
+  EXPECT_EQ(runner.Current().state.LastResults->asked.words.rays, "1, 3, 5");
+}
+
+TEST_F(ResultsFiles, TheLayoutAloneBringsTheCurves) {
+  // Without our block, as other programs write it.
+  for (const char* run : {"set txtRadius 2\nset cboStep 5", "set cboWave 7\nset txtRadius 2\nset cboStep 10",
+                          "choose cboGraph Qext/Qsca/Qabs v. radius\nset cboStep 20",
+                          "choose cboGraph Scattering matrix: wavelength\nset cboStep 40",
+                          "choose cboGraph Map: angle v. radius\nset cboStep 0.5"}) {
+    SCOPED_TRACE(run);
+    Do("reset");
+    Do(run);
+    Do("click cmdNewPlot");
+    const Curves asked = CurvesOf(*runner.Current().state.LastResults, {});
+    Save("whole.lvx");
+    const std::string whole = Content("whole.lvx");
+    Write("lines.lvx", whole.substr(0, whole.find("Lumivex: every input")));
+    Do("reset");
+    Load("lines.lvx");
+    const Curves read = CurvesOf(*runner.Current().state.LastResults, {});
+    ASSERT_EQ(read.perpendicular.size(), asked.perpendicular.size());
+    for (int i = asked.firstRow; i <= asked.lastRow; ++i) {
+      const auto at = static_cast<std::size_t>(i);
+      EXPECT_NEAR(read.perpendicular[at], asked.perpendicular[at], 1e-13 * asked.perpendicular[at]) << i;
+      EXPECT_NEAR(read.parallel[at], asked.parallel[at], 1e-13 * asked.parallel[at]) << i;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace lumivex
