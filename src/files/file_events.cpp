@@ -17,9 +17,15 @@ struct EventRow {
   EventTable::Handler handler;
 };
 
+/// Whether S1 and S2 are written with the numbers: into results, reports and the output of batches.
+void TickAmplitudes(Session& session) {
+  auto& entry = session.form1.mnuS1S2;
+  entry.Checked = !entry.Checked;
+}
+
 constexpr std::array fileEventRows = {
     EventRow{"mnuRead_Click", mnuRead_Click},           EventRow{"mnuSave_Click", mnuSave_Click},
-    EventRow{"mnuOverplot_Click", mnuOverplot_Click},   EventRow{"mnuS1S2_Click", mnuS1S2_Click},
+    EventRow{"mnuOverplot_Click", mnuOverplot_Click},   EventRow{"mnuS1S2_Click", TickAmplitudes},
     EventRow{"mnuBatchFile_Click", mnuBatchFile_Click}, EventRow{"mnuSaveText_Click", mnuSaveText_Click},
 };
 

@@ -22,6 +22,37 @@ std::vector<std::pair<std::string, std::string>> RecordedPages() {
 
 /// Small runs of families and inputs that the recorded pages have not.
 const std::vector<std::pair<std::string, std::string>> furtherRuns = {
+    {"lee one",
+     "choose cboGraph Lee diagram: radius\nset cboWave 1\nset txtRstep 3\nset cboStep 0.5\nclick cmdNewPlot"},
+    {"lee colours", "choose cboGraph Lee diagram: radius\nset txtRstep 3\nset cboStep 0.5\nclick cmdNewPlot"},
+    {"lee index", "choose cboGraph Lee diagram: refractive index\nset txtRstep 3\nset cboStep 1\nclick cmdNewPlot"},
+    {"lee folded",
+     "choose cboGraph Lee diagram: radius\nset txtRadius 5\nset txtRmax 20\nset txtRstep 30\nset cboStep 0.5\nclick "
+     "cmdNewPlot\nclick optDisp\nset cboSD 20\nset cboN 10\nclick cmdReplot"},
+    {"map r", "choose cboGraph Map: angle v. radius\nset cboStep 0.5\nclick cmdNewPlot"},
+    {"map r colours", "choose cboGraph Map: angle v. radius\nset cboWave 3\nset cboStep 0.5\nclick cmdNewPlot"},
+    {"map ri", "choose cboGraph Map: angle v. RI of sphere\nset cboStep 0.5\nclick cmdNewPlot"},
+    {"map wl", "choose cboGraph Map: angle v. wavelength\nset cboStep 0.5\nclick cmdNewPlot"},
+    {"map Q", "choose cboGraph Map: Q v. RI & size x\nset cboStep 6\nclick cmdNewPlot"},
+    {"map RI x", "choose cboGraph Map: RI v. size x\nset cboStep 6\nclick cmdNewPlot"},
+    {"map Qri", "choose cboGraph Map: Q v. Real RI & Imag RI\nset cboStep 6\nclick cmdNewPlot"},
+    {"map cloud", "choose cboGraph Map: angle v. radius\nset cboStep 1\nclick optDisp\nset cboN 5\nclick cmdNewPlot"},
+    {"multimodal",
+     "click optDisp\ndialog dlogMultiModal ok chkMode2=on\nchoose cboDistrib Multimodal\nset cboStep 5\nclick "
+     "cmdNewPlot"},
+    {"x typed", "click mnuRadiusX\nset txtRadius 30\nset cboStep 2\nclick cmdNewPlot"},
+    {"formula", "dialog dlogRI_Formula ok\nclick mnuRI_Formula\nset cboStep 2\nclick cmdNewPlot"},
+    {"perm", "dialog dlogDielectric ok\nclick mnuRI_Perm1\nset cboStep 2\nclick cmdNewPlot"},
+    {"spectrum file", std::string("open ") + SourceFolder() +
+                          "/data/examples/white_led.spe\ndialog dlogSpectrumFile ok optNewFile=on\nset cboWave "
+                          "3\nclick mnuSpectrumFile\nset cboStep 2\nclick cmdNewPlot"},
+    {"size file low", std::string("dialog dlogDistOption ok\nopen ") + SourceFolder() +
+                          "/data/examples/spray.dis\nclick optDisp\nchoose cboDistrib Special\nset cboWave Low\nset "
+                          "cboStep 5\nclick cmdNewPlot"},
+    {"elev",
+     "set cboWave 3\ndialog dlogWernand ok txtElevation=20\nclick mnuSpectrumWernand2\nset cboStep 5\nclick "
+     "cmdNewPlot"},
+    {"colour since", "set cboWave 3\nset cboStep 1\nclick cmdNewPlot\nclick mnuSaturated\n set cboBright 5"},
     {"cumulative", "choose cboGraph CPDF\nset cboStep 1\nset txtXmin 20\nset txtXmax 160\nclick cmdNewPlot"},
     {"cloud matrix",
      "choose cboGraph Scattering matrix\nclick optDisp\nset cboN 5\nset txtRadius 2\nset cboStep 1\n"

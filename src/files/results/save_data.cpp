@@ -166,9 +166,4 @@ void mnuSave_Click(Session& session) {
   select_save_filename(session, SaveKind::Results);
 }
 
-void mnuS1S2_Click(Session& session) {
-  auto& entry = session.form1.mnuS1S2;
-  entry.Checked = !entry.Checked;
-}
-
 }  // namespace lumivex

@@ -23,7 +23,4 @@ void TakeLook(const InputState& from, InputState& to, LookPart part);
 /// Asks for a name and saves the results under it.
 void mnuSave_Click(Session& session);
 
-/// Ticks whether S1 and S2 are written with the numbers: into results, reports and the output of batches.
-void mnuS1S2_Click(Session& session);
-
 }  // namespace lumivex
