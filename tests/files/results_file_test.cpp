@@ -215,7 +215,8 @@ TEST_F(ResultsFiles, MenusAskForNames) {
   Do("set txtRadius 2\nset cboStep 2\nclick cmdNewPlot\nsave " + Path("menu") + "\nclick mnuSave\nset txtRadius 5\n" +
      "open " + Path("menu.lvx") + "\nclick mnuRead");
   EXPECT_EQ(Get("txtRadius"), "2");
-  EXPECT_TRUE(Get("cmdReplot.Enabled") != "0");
+  EXPECT_TRUE(runner.Current().form1.cmdReplot.Enabled);
+  EXPECT_FALSE(runner.Current().form1.Frame6.Visible) << "parameters of another run are on show";
   Do("click mnuUndo");
   EXPECT_EQ(Get("txtRadius"), "5") << "reading is one step of undo";
   Do("click mnuSave");

@@ -146,9 +146,10 @@ void Apply(Session& session, LoadedFile& file, Onto onto) {
     CompareLimits(session, sheet);
     TakeLook(PresentInputs(session), file.shown, LookPart::Whole);
   }
-  if (session.form1.Frame6.Visible) session.events.Raise("cmdInfo_Click");
   RestoreInputs(sheet, file.shown);
   file.sheet->PutInto(session);
+  // The parameters on show are those of the run before.
+  session.form1.Frame6.Visible = session.form1.mnuInfo.Checked = false;
   if (!over) {
     if (file.whole) {
       static_cast<ScaleMemory&>(s) = file.scales.scale;
