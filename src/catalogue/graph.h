@@ -122,6 +122,10 @@ struct Graph {
         return false;
     }
   }
+  /// Quantities that can be told per volume of the spheres.
+  bool TakesVolume() const {
+    return family == Family::Axis && (quantity == Quantity::Efficiencies || quantity == Quantity::CrossSections);
+  }
   /// Intensity against the size of the sphere.
   bool IntensityBySize() const { return SizeAxis() && family == Family::Axis && quantity == Quantity::Intensity; }
   /// Efficiencies of a spectrum: Q, C, Qback and Qradar.

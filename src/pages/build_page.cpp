@@ -2,6 +2,7 @@
 
 #include "pages/bars/bar_colours.h"
 #include "pages/bars/bar_light.h"
+#include "pages/curves/curve_limits.h"
 #include "pages/curves/curve_path.h"
 #include "pages/curves/spectrum_graph.h"
 #include "pages/frame/frame.h"
@@ -48,8 +49,8 @@ std::string NameOfSizes(const RunWords& words) {
 /// A run in words; what the look makes of its curves tells it from others too.
 PageRun WordsOf(const RunToDraw& run) {
   const Results& results = run.results;
-  PageRun words{RunTitleOf(results), MethodLabelOf(results), ParameterLinesOf(results), MarksOf(results),
-                FinerMarksOf(results)};
+  PageRun words{RunTitleOf(results), MethodLabelOf(results), ParameterLinesOf(results),
+                MarksOf(results),    FinerMarksOf(results),  PlaceMarksOf(results)};
   const bool disc = run.look.sun.disc && results.asked.graph.AgainstAngle();
   words.marks.emplace_back(disc ? "disc of the sun" : "");
   words.marks.push_back(run.look.averageWidth ? "mean over " + Significant(*run.look.averageWidth, 8) : "");
@@ -159,6 +160,7 @@ Page DrawOver(const Page& page, const Results& results, const Look& look) {
   if (page.Empty() || !SharesAxes(page.kind, KindOf(run))) return BuildPage(results, look, page.geometry, page.scale);
   Page both = WithLook(page, look);
   AddRun(both, run);
+  FitOverplot(both, look);
   const PageGeometry geometry = both.geometry;
   return PlacePage(std::move(both), geometry);
 }

@@ -50,6 +50,7 @@ struct MapSeries {
 struct BarScale {
   double reference = 0;        ///< sum that has full brightness
   bool invWavelength = false;  ///< of intensities freed of the square of the wave number
+  bool weighted = false;       ///< of a sum over a spectrum, weighed by the light source
 };
 
 /// Colours of bars, Lee diagrams and maps.

@@ -192,6 +192,25 @@ void AddSphere(const Results& results, const std::string& middle, std::vector<st
   AddIndex(results, false, middle, lines);
 }
 
+/// The share of its cube that the spheres of a volume fill, in percent: those of a radius, or of sizes about it.
+double FilledBy(const RunRequest& asked, const VolumeRun& volume, double radius) {
+  const CloudSamples samples = SamplesOf(asked.sizes, radius);
+  double cubes = 0, particles = samples.outside;
+  for (std::size_t i = 1; i < samples.radius.size(); ++i) {
+    cubes += samples.weight[i] * std::pow(samples.radius[i] / volume.side, 3);
+    particles += samples.weight[i];
+  }
+  return particles > 0 ? 100 * volume.count * 4.0 / 3 * 3.14159265358979324 * cubes / particles : 0;
+}
+
+std::string FilledWords(const RunRequest& asked, const VolumeRun& volume, double radius) {
+  const auto filled = [&](double r) { return Significant(FilledBy(asked, volume, r), 3) + " %"; };
+  const std::string start = "Spheres fill ", end = " of the cube";
+  if (asked.graph.axis == AxisVariable::Radius)
+    return start + filled(volume.axis.xmin) + " to " + filled(volume.axis.xmax) + end;
+  return start + filled(radius) + end + (asked.graph.axis == AxisVariable::Number ? ", all of them" : "");
+}
+
 /// The cube of spheres: how many, how full it is, how they move.
 void AddVolume(const Results& results, std::vector<std::string>& lines) {
   const RunRequest& asked = results.asked;
@@ -203,16 +222,12 @@ void AddVolume(const Results& results, std::vector<std::string>& lines) {
                               : volume->count == 1 ? "1 sphere at a random place"
                                                    : std::to_string(volume->count) + " spheres at random places";
   lines.push_back(spheres + " in a cube of " + Number(volume->side) + " \u00B5m, seed " + std::to_string(volume->seed));
-  const double radius = results.last.radius;
-  if (asked.Cloud() || axis == AxisVariable::Radius) {
-    if (axis == AxisVariable::Time) lines.emplace_back("Brownian motion in water at 20 \u00B0C");
-    return;
-  }
-  const double filled = volume->count * 4.0 / 3 * 3.14159265358979324 * std::pow(radius / volume->side, 3);
-  lines.push_back("   filled to " + Significant(100 * filled, 3) + " %" + (numbers ? " by all of them" : ""));
-  if (axis == AxisVariable::Time)
-    lines.push_back("Brownian motion in water at 20 \u00B0C: D = " + Significant(DiffusionCoefficient(radius), 4) +
-                    " \u00B5m\u00B2/s");
+  const double radius = asked.particle.radius;
+  lines.push_back(FilledWords(asked, *volume, radius));
+  if (axis != AxisVariable::Time) return;
+  const std::string motion = "Brownian motion in water at 20 \u00B0C";
+  lines.push_back(
+      asked.Cloud() ? motion : motion + ": D = " + Significant(DiffusionCoefficient(radius), 4) + " \u00B5m\u00B2/s");
 }
 
 /// Whether a material is a number that was typed.
@@ -357,16 +372,14 @@ std::vector<std::string> ChangeLinesOf(const Results& results, const Look& look)
 std::vector<std::string> MarksOf(const Results& results) {
   const RunRequest& asked = results.asked;
   const bool oneWavelength = !asked.light.spectrum && !asked.graph.WavelengthAxis();
-  return {MethodMark(asked),
-          asked.method.divideBySize ? "divided by x" : "",
-          SizeMark(results),
-          MaterialMark(results, false),
-          MaterialMark(results, true),
-          oneWavelength ? Number(1000 * asked.light.lambda) + " nm" : "",
-          AnglesAsked(asked),
-          CountMark(asked),
-          SideMark(asked),
-          SeedMark(asked)};
+  return {MethodMark(asked),           asked.method.divideBySize ? "divided by x" : "",
+          SizeMark(results),           MaterialMark(results, false),
+          MaterialMark(results, true), oneWavelength ? Number(1000 * asked.light.lambda) + " nm" : "",
+          AnglesAsked(asked),          CountMark(asked)};
+}
+
+std::vector<std::string> PlaceMarksOf(const Results& results) {
+  return {SideMark(results.asked), SeedMark(results.asked)};
 }
 
 std::vector<std::string> FinerMarksOf(const Results& results) {

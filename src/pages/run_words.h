@@ -23,6 +23,7 @@ std::vector<std::string> ChangeLinesOf(const Results& results, const Look& look)
 /// What may tell a run from others on its page, and what tells it from those that agree in all of that: see PageRun.
 std::vector<std::string> MarksOf(const Results& results);
 std::vector<std::string> FinerMarksOf(const Results& results);
+std::vector<std::string> PlaceMarksOf(const Results& results);
 
 /// "12 ms" or "3.2 s".
 std::string TimeWords(double seconds);

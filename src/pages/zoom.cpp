@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "pages/bars/bar_colours.h"
+#include "pages/curves/curve_limits.h"
 #include "pages/curves/curve_path.h"
 #include "pages/frame/scale.h"
 #include "pages/read_out.h"
@@ -15,31 +16,6 @@ namespace {
 
 /// A zoom is resolved to a thousandth of what is shown.
 constexpr int digitsOfRange = 4;
-
-/// Limits for the part of the curves in view.
-void ChooseLimitsInView(Page& page, std::size_t index, const Look& look) {
-  PagePanel& panel = page.panels[index];
-  double top = 0, bottom = 1e30;
-  for (const auto& curve : page.curves) {
-    if (curve.panel != index) continue;
-    const RowSpan rows = RowsWithin(curve.x, {panel.limits.xmin, panel.limits.xmax});
-    for (std::size_t i = rows.first; i <= rows.last; ++i) {
-      if (!std::isfinite(curve.y[i])) continue;
-      top = AMAX(top, curve.y[i]);
-      bottom = AMIN(bottom, curve.y[i]);
-    }
-  }
-  if (!(top > 0)) return;
-  ScaleLook scale = look.scale;
-  scale.logY = page.kind.logY;
-  scale.polar = page.kind.polar;
-  page.autoTop = top;
-  page.autoBottom = bottom;
-  panel.limits.ymax = GridYmax(scale, top, page.scale);
-  panel.limits.ymin = GridYmin(scale, bottom, panel.limits.ymax, page.scale);
-  FitFlatAlbedo(page.kind, scale, bottom, top, panel.limits);
-  panel.limits = RepairedLimits(panel.limits, page.kind.logX, panel.logY);
-}
 
 /// Where the computed rows of a curve begin and end, and the distance of the last two.
 struct Extent {

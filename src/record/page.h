@@ -144,6 +144,7 @@ struct PageCurve {
                              ///< is a phase, the radius (um) of a two-angle chart; otherwise empty
   double averageRows = 0;    ///< rows of the running mean; 0 without
   bool interpolate = false;  ///< cubic interpolation between the points
+  bool alone = false;        ///< of the spheres of a volume each for itself, wherever they stand
   bool wraps = false;        ///< an angle: it goes on at 0 after 360
   bool markers = false;      ///< marks instead of lines
   Colour colour;
@@ -161,6 +162,8 @@ struct PageRun {
   std::vector<std::string> marks;
   /// The same for what tells runs apart that agree in all marks: indices, steps.
   std::vector<std::string> finerMarks;
+  /// The same for where the spheres of a volume stand.
+  std::vector<std::string> placeMarks;
 };
 
 /// Which terms of a phasor diagram have their number beside the dot.

@@ -23,6 +23,7 @@ struct DialogSettings {
   Colour pickedLineColour;
   double barReference = 0;
   int barReferencePerWaveNumber = 0;
+  int barReferenceWeighted = 0;
   double mapReference = 0, mapReferenceThird = 0;
   int mapReferenceKind = 0;
   SellmeierChoice sellmeier;

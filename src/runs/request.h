@@ -118,6 +118,8 @@ struct Sweep {
   double low = 1, high = 20;  ///< in the unit of the quantity
   int steps = 4;              ///< one less than the samples
   bool geometric = false;     ///< equal ratios in place of equal differences
+  bool fromZero = false;      ///< 0 was asked for: `low` stands in its place, and is shown as 0
+  double LowShown() const { return fromZero ? 0 : low; }
   int Count() const { return steps + 1; }
   double At(int sample) const;  ///< first index 0
 };

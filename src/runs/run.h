@@ -30,6 +30,10 @@ inline constexpr double mostMapCells = 8e6;
 /// Cells of a map; 0 for any other run.
 double MapCells(const FamilyRun& run);
 
+/// Why the largest spheres of a volume cannot be calculated, so that nobody waits for them; empty where they can, and
+/// for any other run.
+Refusal BeyondVolume(const RunRequest& request);
+
 /// Rows from 0 to 90 degrees of a two-angle run: steps of 0.1 degrees.
 inline constexpr int twoAngleRowsTo90 = 901;
 

@@ -150,7 +150,6 @@ class OverRadii {
 
   FamilyEnd Run() {
     if (first_.failure != SizeFailure::None) return {false, RefusalOf(first_.failure)};
-    if (Refusal beyond = Beyond(); !beyond.text.empty()) return {false, std::move(beyond)};
     const double ofSums = SumsWork(AxisVariable::Radius, volume_.run) / std::max(PairTermsOf(volume_.request), 1.0);
     const VolumeSpheres spheres(volume_.run, first_, perMetre * base_.WaveNumber());
     phases_ = SumPhases(spheres, {0, ofSums}, volume_.pool);
@@ -171,16 +170,6 @@ class OverRadii {
   CloudSamples SamplesAt(std::size_t point) const { return SamplesOf(volume_.request.sizes, found_.x[point]); }
   Setting SettingAt(std::size_t point) const {
     return SettingAtPoint(volume_.request, AxisVariable::Radius, found_.x[point], base_).setting;
-  }
-
-  /// Why the largest spheres cannot be calculated, so that nobody waits for it.
-  Refusal Beyond() const {
-    std::vector<Setting> largest;
-    AddSettings(SettingAt(points_), SamplesAt(points_), largest);
-    for (const Setting& one : largest)
-      if (Refusal beyond = BeyondLimits(volume_.request.method, one.x, one.mRe, one.mIm); !beyond.text.empty())
-        return beyond;
-    return {};
   }
 
   /// @return false after a Stop, or with a refusal.
@@ -229,7 +218,22 @@ class OverRadii {
 
 }  // namespace
 
+Refusal BeyondVolume(const RunRequest& request) {
+  const auto* run = std::get_if<VolumeRun>(&request.run);
+  if (run == nullptr) return {};
+  SettingResult at = SettingAt(request, request.light.lambda);
+  if (!at.Good()) return at.refusal;
+  if (request.graph.axis == AxisVariable::Radius)
+    at = SettingAtPoint(request, AxisVariable::Radius, run->axis.xmax, at.setting);
+  std::vector<Setting> largest;
+  AddSettings(at.setting, SamplesOf(request.sizes, at.setting.radius), largest);
+  for (const Setting& one : largest)
+    if (Refusal beyond = BeyondLimits(request.method, one.x, one.mRe, one.mIm); !beyond.text.empty()) return beyond;
+  return {};
+}
+
 FamilyEnd RunVolume(const RunRequest& request, const VolumeRun& run, TaskPool& pool, Results& results) {
+  if (Refusal beyond = BeyondVolume(request); !beyond.text.empty()) return {false, std::move(beyond)};
   const SettingResult at = SettingAt(request, request.light.lambda);
   if (!at.Good()) return {false, at.refusal};
   const Volume volume(request, run, pool, results);

@@ -7,6 +7,7 @@
 #include "pages/page_table.h"
 #include "record/number_text.h"
 #include "record/recording_surface.h"
+#include "runs/curves.h"
 #include "runs/results.h"
 #include "session/inputs/graph_types.h"
 #include "session/inputs/methods.h"
@@ -19,7 +20,7 @@ std::string YesNo(bool value) {
   return value ? "true" : "false";
 }
 
-std::string Row(std::initializer_list<double> values) {
+std::string Row(const std::vector<double>& values) {
   std::string line;
   for (const double value : values) line += (line.empty() ? "" : ",") + Exact(value);
   return line + "\n";
@@ -163,11 +164,20 @@ std::string CurveTable(const Session& session) {
   // A chart of two signals has as many curves as indices, a map tables of cells.
   const Drawing drawing = s.LastResults ? s.LastResults->asked.graph.drawing : Drawing::Curves;
   if (drawing == Drawing::TwoAngleChart || drawing == Drawing::ColourImage) return TableAsCsv(session.page);
-  std::string text = "x,perpendicular,parallel,unpolarised,extra1,extra2,extra3\n";
   const RowRange rows = DisplayedRows(s);
+  const bool volume = s.LastResults && s.LastResults->asked.graph.family == Family::Volume;
+  const PageKind& kind = session.page.kind;
+  const Curves curves = volume ? CurvesOf(*s.LastResults, {kind.amplitude, kind.invWavelength}) : Curves();
+  std::string text = "x,perpendicular,parallel,unpolarised,extra1,extra2,extra3";
+  if (volume) text += ",alone perpendicular,alone parallel,alone unpolarised";
+  text += "\n";
   for (int row = rows.first; row <= rows.last; ++row) {
     const auto j = static_cast<std::size_t>(row);
-    text += Row({s.XValues[j], s.Iperp[j], s.Ipar[j], s.Iunpol[j], s.Extra1[j], s.Extra2[j], s.Extra3[j]});
+    std::vector<double> values = {s.XValues[j], s.Iperp[j],  s.Ipar[j],  s.Iunpol[j],
+                                  s.Extra1[j],  s.Extra2[j], s.Extra3[j]};
+    if (volume)
+      values.insert(values.end(), {curves.alonePerpendicular[j], curves.aloneParallel[j], curves.aloneUnpolarised[j]});
+    text += Row(values);
   }
   return text;
 }

@@ -77,10 +77,17 @@ struct ScriptCommands {
     if (text == nullptr || (list && !static_cast<SelectionList&>(control).Editable))
       throw Failure{name + " takes no text"};
     if (!control.Enabled) throw Failure{name + " is disabled"};
-    const bool visible = control.Visible;
+    if (control.Visible) {
+      UserTypes(run.Current(), control, rest);
+      return;
+    }
+    // No run reads what is hidden: the results stay those of the inputs that can be seen.
+    auto& replot = run.Current().form1.cmdReplot.Enabled;
+    const bool offered = replot;
     control.Visible = true;
     UserTypes(run.Current(), control, rest);
-    if (!visible) control.Visible = false;
+    control.Visible = false;
+    replot = offered;
   }
 
   static void Choose(ScriptRunner& run, std::string_view rest) {

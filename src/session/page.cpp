@@ -81,6 +81,7 @@ void TakeBarReference(Session& session) {
   const auto& bars = session.page.bars;
   s.BarReference = bars ? bars->reference : 0;
   s.BarReferencePerWaveNumber = bars && session.page.kind.invWavelength ? 1 : 0;
+  s.BarReferenceWeighted = bars && session.page.kind.wavelengths > 1 ? 1 : 0;
 }
 
 void TakeMapReference(Session& session) {

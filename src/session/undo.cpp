@@ -25,6 +25,7 @@ void RestoreSettings(MainFormState& s, const DialogSettings& settings) {
   s.PickedLineColour = settings.pickedLineColour;
   s.BarReference = settings.barReference;
   s.BarReferencePerWaveNumber = settings.barReferencePerWaveNumber;
+  s.BarReferenceWeighted = settings.barReferenceWeighted;
   s.MapReference = settings.mapReference;
   s.MapReferenceThird = settings.mapReferenceThird;
   s.MapReferenceKind = static_cast<MapValues>(settings.mapReferenceKind);
@@ -103,6 +104,7 @@ InputState PresentInputs(Session& session) {
                     s.PickedLineColour,
                     s.BarReference,
                     s.BarReferencePerWaveNumber,
+                    s.BarReferenceWeighted,
                     s.MapReference,
                     s.MapReferenceThird,
                     static_cast<int>(s.MapReferenceKind),
@@ -157,6 +159,15 @@ void RememberInputs(Session& session, std::string_view typedInto) {
   undo.typedInto = typedInto;
   if (goesOn) return;
   KeepStep(undo, PresentInputs(session));
+}
+
+void TakeBackGraph(Session& session) {
+  const auto& undo = session.undo;
+  if (undo.acting == 0 || undo.past.empty() || undo.past.back().graph == ChosenGraph(session.state).code) return;
+  const InputState before = undo.past.back();
+  RestoreInputs(session, before);
+  TakeTickedLook(session);
+  RenewLook(session);
 }
 
 void OfferHistory(Session& session) {

@@ -68,6 +68,10 @@ class DialogScope {
   std::optional<InputState> before_;
 };
 
+/// Puts the inputs of before the present action back where it has chosen another graph, as when that graph's dialog is
+/// cancelled. Does nothing outside an action.
+void TakeBackGraph(Session& session);
+
 /// Ends an action of the user: a step that changed nothing is forgotten, and Undo and Redo are enabled where they would
 /// do something.
 void OfferHistory(Session& session);

@@ -169,6 +169,17 @@ TEST_F(Axes, ALogarithmicXAxisPrintsWhatTheGridMenusAskFor) {
   EXPECT_FALSE(XLabels().empty()) << "0 has no logarithm: the axis begins further right";
 }
 
+// Within a decade there was not a number between the ends.
+TEST_F(Axes, AShortLogarithmicXAxisHasTheTicksOfALinearOne) {
+  form.optXLog.Select();
+  Range("130", "145");
+  EXPECT_THAT(XLabels(), ElementsAre("130", "132", "136", "140", "144", "145"));
+  Range("30", "180");
+  EXPECT_THAT(XLabels(), ElementsAre("30", "40", "80", "100", "120", "160", "180"));
+  Range("1", "10");
+  EXPECT_THAT(XLabels(), ElementsAre("1", "10")) << "a whole decade has its own";
+}
+
 TEST_F(Axes, ALinearAxisLabelsTheUpperSideOnly) {
   form.optLinear.Select();
   StoreAngles(0.1, [](double a) { return 0.8 - a / 180; });

@@ -258,6 +258,60 @@ TEST_F(Bars, CanBeNormalised) {
   EXPECT_EQ(BrightestOf(0), 255);
 }
 
+// A sum weighed by the light source was taken for the scale of one wavelength, which nothing weighs.
+TEST_F(Bars, ANormalisationHoldsForSumsOrForOneWavelength) {
+  Rainbow();
+  const double sums = Number("BarScale");
+  Do("click mnuSetNormal\nset cboWave 1\nclick cmdNewPlot");
+  if (Get("mnuInvWavelength") == "true") Do("click mnuInvWavelength\nclick cmdNewPlot");
+  EXPECT_EQ(Number("BarReference"), sums);
+  EXPECT_NE(Number("BarScale"), sums);
+  EXPECT_EQ(BrightestOf(0), 255);
+  RecordingSurface surface(19200, 15360);
+  Paint(Drawn(), surface);
+  EXPECT_NE(DrawingReader(surface).Text("Set normalisation is of intensities in another unit: own scale"), nullptr);
+  Do("click mnuSetNormal\nclick mnuSetNormal");
+  const double one = Number("BarReference");
+  EXPECT_EQ(Number("BarScale"), one);
+  Do("set txtRadius 40\nclick cmdNewPlot");
+  EXPECT_EQ(Number("BarScale"), one) << "another run of one wavelength";
+  Do("click mnuUndo\nclick mnuUndo\nclick mnuUndo");
+  EXPECT_EQ(Number("BarReference"), sums);
+  EXPECT_EQ(Number("BarReferenceWeighted"), 1);
+}
+
+// Blank paper looked like white light.
+TEST_F(Bars, AreHatchedWhereNothingWasCalculated) {
+  Rainbow();
+  const auto hatch = [&](double from, double to) {
+    RecordingSurface surface(Drawn().geometry.surfaceWidth, Drawn().geometry.surfaceHeight);
+    Paint(Drawn(), surface);
+    int lines = 0;
+    const auto boxes = *BarBoxes(Drawn());
+    const auto all = DrawingReader(surface).All(Kind::Line);
+    for (const GraphBox& box : boxes)
+      for (const auto& line : all) {
+        const auto &a = line.points[0], &b = line.points[1];
+        if (a.x == b.x || a.y == b.y || std::min(a.y, b.y) < box.top - 1 || std::max(a.y, b.y) > box.bottom + 1)
+          continue;
+        ++lines;
+        EXPECT_GE(std::min(a.x, b.x), from - 1);
+        EXPECT_LE(std::max(a.x, b.x), to + 1);
+        EXPECT_NEAR(std::abs(a.x - b.x), std::abs(a.y - b.y), 1e-6);
+      }
+    return lines;
+  };
+  const GraphBox bar = BarBoxes(Drawn())->front();
+  EXPECT_EQ(hatch(0, 0), 0);
+  Do("set txtXmin 129\nclick cmdReplot");
+  const double middle = 0.5 * (bar.left + bar.right);
+  EXPECT_GT(hatch(bar.left, middle), 30) << "down to 137 degrees";
+  Do("set txtXmin 137\nset txtXmax 153\nclick cmdReplot");
+  EXPECT_GT(hatch(middle, bar.right), 30);
+  Do("set txtXmin 20\nset txtXmax 30\nclick cmdReplot");
+  EXPECT_GT(hatch(bar.left, bar.right), 60);
+}
+
 TEST_F(Bars, TheFirstOnesSetANormalisationThatFoundNone) {
   Do("choose cboGraph Phase function\nset cboStep 1\nclick cmdNewPlot\nclick mnuSetNormal");
   EXPECT_FALSE(Drawn().bars);
@@ -286,6 +340,15 @@ TEST_F(Bars, TakeNoBrightnessThatIsNoNumber) {
   EXPECT_NE(negative, before);
   Do("set cboBright 2");
   EXPECT_EQ(Table().cells, negative) << "a brightness counts by its magnitude";
+  const auto two = Table().cells;
+  Do("set cboBright 1,5");
+  EXPECT_NE(Get("cboBright.BackColour"), "255") << "a comma that can only be a decimal mark";
+  const auto withComma = Table().cells;
+  EXPECT_NE(withComma, two);
+  Do("set cboBright 1.5");
+  EXPECT_EQ(Table().cells, withComma);
+  Do("set cboBright 1,500");
+  EXPECT_EQ(Get("cboBright.BackColour"), "255") << "one that may part thousands";
   // On one wavelength it is not on the screen, and stops no run.
   Do("set cboBright much\nset cboWave 1\nclick cmdNewPlot");
   EXPECT_NE(State().LastResults, results);
@@ -423,6 +486,24 @@ TEST_F(Bars, ShowTheBowsWhereTheSkyHasThem) {
   constexpr std::size_t at134 = 2681;
   EXPECT_LT(Channel(2, 1, at134), 0.03 * green.light) << "Alexander's band";
   EXPECT_LT(Channel(2, 1, at134), 0.2 * green2.light);
+}
+
+// The panel of the inputs ends at 2800, and the large numbers of slides reach up to the title.
+TEST_F(Bars, TheirAxisHasItsWholeTitleOnSlides) {
+  Do("set cboWave 3\nset cboStep 1\nclick cmdNewPlot");
+  for (const char* size : {"mnuLarge", "mnuSizeSpecial", "mnuSmall"}) {
+    SCOPED_TRACE(size);
+    Do(std::string("click ") + size);
+    RecordingSurface surface(Drawn().geometry.surfaceWidth, Drawn().geometry.surfaceHeight);
+    Paint(Drawn(), surface);
+    const DrawingReader read(surface);
+    const auto *upper = read.Text("Weighted"), *lower = read.Text("intensity");
+    ASSERT_TRUE(upper != nullptr && lower != nullptr);
+    EXPECT_GE(upper->points[0].y, 2800 - 20) << "but for the air over its letters";
+    EXPECT_GE(lower->points[0].y, upper->points[0].y + upper->height - 1);
+    EXPECT_EQ(upper->fontSize, lower->fontSize);
+    EXPECT_LE(lower->points[0].y + lower->height, Drawn().panels[0].box.top);
+  }
 }
 
 }  // namespace

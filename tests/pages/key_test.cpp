@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "pages/build_page.h"
+#include "pages/curves/curve_key.h"
 #include "pages/curves/curve_names.h"
 #include "pages/drawing_reader.h"
 #include "pages/page_table.h"
@@ -212,6 +213,29 @@ TEST_F(Key, CurvesOfARunHoldTheirAnglesOnce) {
   for (const auto& curve : Drawn().curves) EXPECT_TRUE(curve.x.SharesWith(Drawn().curves[0].x));
   const Page copy = Drawn();
   EXPECT_TRUE(copy.curves[1].y.SharesWith(Drawn().curves[1].y));
+}
+
+// Three polarisations of seven wavelengths were 21 names of seven pens, in letters that nobody could read.
+TEST_F(Key, NamesAWavelengthOnceForAllItsCurves) {
+  const auto entries = [&] {
+    std::vector<std::string> names;
+    const double below = Drawn().panels[0].box.bottom + 400;
+    for (const auto& text : Read().All(DrawnOperation::Kind::Text))
+      if (text.points[0].y > below && text.text.ends_with(" nm")) {
+        names.push_back(text.text);
+        EXPECT_GE(text.fontSize, 7);
+      }
+    return names;
+  };
+  Do("set cboWave RGB\nset cboStep 2\nchoose cboPol All 3\nclick cmdNewPlot");
+  EXPECT_THAT(entries(), testing::UnorderedElementsAre("650 nm", "510 nm", "440 nm"));
+  EXPECT_THAT(Columns(), testing::Contains("650 nm: Perpendicular polarisation")) << "tables name each curve";
+  EXPECT_EQ(EntriesInKey(Drawn()), 3U);
+  Do("choose cboPol Parallel");
+  EXPECT_THAT(entries(), testing::IsEmpty()) << "of one polarisation the name tells it";
+  EXPECT_NE(Read().Text("650 nm: Parallel polarisation"), nullptr);
+  Do("choose cboPol Both\nset cboWave 20\nclick cmdNewPlot");
+  EXPECT_EQ(EntriesInKey(Drawn()), 2U) << "sums have no wavelength";
 }
 
 }  // namespace

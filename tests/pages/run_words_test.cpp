@@ -3,6 +3,7 @@
 
 #include "pages/drawing_reader.h"
 #include "pages/page_table.h"
+#include "pages/run_words.h"
 #include "session/session_fixture.h"
 #include "source_folder.h"
 
@@ -96,6 +97,14 @@ TEST_F(RunWordsTest, ChecksOfFunctionsAreAPageBelowTheInputs) {
   Do("click cmdOverPlot");
   EXPECT_TRUE(Drawn().sheet.empty()) << "nothing can be drawn over numbers";
   EXPECT_EQ(Drawn().panels.size(), 1U);
+}
+
+TEST(TimeWords, AreInMillisecondsBelowASecond) {
+  EXPECT_EQ(TimeWords(0.0005), "0.5 ms");
+  EXPECT_EQ(TimeWords(0.25), "250 ms");
+  EXPECT_EQ(TimeWords(0.999), "1000 ms");
+  EXPECT_EQ(TimeWords(1), "1 s");
+  EXPECT_EQ(TimeWords(12.34), "12.3 s");
 }
 
 }  // namespace

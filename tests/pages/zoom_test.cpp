@@ -228,5 +228,22 @@ TEST_F(Zoom, PolarRadiusAndRingsFollowTheScale) {
   EXPECT_EQ(AngleDelta(session), 139);
 }
 
+// A pan moves by its part of the box, and stops at the ends of the frame.
+TEST_F(Zoom, APanOfTheVerticalAxisStopsAtTheFrame) {
+  const AxisLimits whole = page.panels[0].limits;
+  const double height = page.panels[0].box.Height();
+  ASSERT_TRUE(page.panels[0].logY);
+  EXPECT_EQ(PanYBy(page, height / 2).xmin, whole.ymin) << "all of it is in view";
+  const double low = std::sqrt(whole.ymin * whole.ymax);
+  ShowView(session, {page.home, XRange{low, 10 * low}});
+  const XRange moved = PanYBy(page, height / 4);
+  EXPECT_NEAR(moved.xmin / (low * std::pow(10, 0.25)), 1, 1e-9);
+  EXPECT_NEAR(moved.xmax / moved.xmin, 10, 1e-9);
+  const XRange top = PanYBy(page, 100 * height), bottom = PanYBy(page, -100 * height);
+  EXPECT_EQ(top.xmax, whole.ymax);
+  EXPECT_NEAR(top.xmin * 10 / whole.ymax, 1, 1e-9);
+  EXPECT_EQ(bottom.xmin, whole.ymin);
+}
+
 }  // namespace
 }  // namespace lumivex

@@ -401,6 +401,7 @@ TEST_F(SizeDistribution, ANumberOutsideTheTableKeepsTheSamplesBefore) {
   Do("click optDisp\nset cboN 10\nset cboN 7\nset txtRadius 1\nset cboStep 10\nclick cmdNewPlot");
   EXPECT_EQ(State().NumberSamples, 10);
   EXPECT_EQ(State().LastResults->asked.words.sizes, "Log-normal, Std Dev % 5, 10 samples") << "those that were taken";
+  EXPECT_EQ(Get("cboN"), "10") << "and what the list shows";
   Do("set cboSD 3\nchoose cboDistrib Multimodal\nset cboN 10\nclick cmdNewPlot");
   EXPECT_EQ(State().RelativeSD, 0.03);
 }

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "runs/map_sums.h"
 #include "runs/run_fixture.h"
 
 namespace lumivex {
@@ -85,6 +86,29 @@ TEST(FoldSizes, SizesBeyondTheColumnsAreLeftOutAndTold) {
   single.done = 41;
   EXPECT_EQ(FoldSizes(single, RadiiOf(request), NormalSizes{{0, 1, -1}, 1.5, false}).failure,
             SizeFailure::NegativeRadius);
+}
+
+// Radii of 10, 20 and 40 um, and sizes half a step or a whole one above and below each, by hand.
+TEST(FoldSizes, SizesBetweenTwoColumnsAreSharedByThem) {
+  const Sweep radii{Swept::Radius, 10, 40, 2, true};
+  MapFound map = EmptyMap(3, 1, 1, false);
+  map.done = 3;
+  map.panels[0].value = {1, 10, 100};
+  const auto folded = [&](double factor) { return FoldSizes(map, radii, NormalSizes{{0, 1, -1}, factor - 1, true}); };
+  const FoldedMap whole = folded(2);
+  EXPECT_NEAR(whole.found.panels[0].value[0], 10, 1e-4) << "10 um: only 20 um is there";
+  EXPECT_NEAR(whole.found.panels[0].value[1], (1 + 100) / 2.0, 1e-4);
+  EXPECT_NEAR(whole.found.panels[0].value[2], 10, 1e-4);
+  EXPECT_NEAR(whole.share, 1.0 / 3, 1e-6);
+  const FoldedMap half = folded(std::sqrt(2));
+  EXPECT_NEAR(half.found.panels[0].value[0], (1 + 10) / 2.0, 1e-4);
+  EXPECT_NEAR(half.found.panels[0].value[1], (1 + 2 * 10 + 100) / 4.0, 1e-4);
+  EXPECT_NEAR(half.found.panels[0].value[2], (10 + 100) / 2.0, 1e-4);
+  EXPECT_NEAR(half.share, 1.0 / 3, 1e-6);
+  map.done = 2;
+  const FoldedMap stopped = folded(2);
+  EXPECT_NEAR(stopped.found.panels[0].value[1], 1, 1e-6) << "40 um is not calculated";
+  EXPECT_NEAR(stopped.share, 0.5, 1e-6);
 }
 
 }  // namespace

@@ -2,9 +2,12 @@
 
 #include <cmath>
 
+#include "pages/zoom.h"
 #include "session/inputs/graph_types.h"
+#include "session/inputs/look/read_look.h"
 #include "session/inputs/methods.h"
 #include "session/session_fixture.h"
+#include "session/view.h"
 #include "solvers/angles/scattering_pattern.h"
 
 namespace lumivex {
@@ -241,6 +244,78 @@ TEST_F(AxisGraphs, EveryMethodAnswersAtTheAngleTyped) {
     Do("click cmdNewPlot");
     EXPECT_NEAR(std::sqrt(State().Iperp[1]) / between, 1, 1e-3);
   }
+}
+
+// Steps of 2.7 degrees became 2.727 quietly, and each fault of the range was told as another.
+TEST_F(AxisGraphs, ScatteredPowerTakesAnglesThatItCanSumOver) {
+  struct Case {
+    const char *lines, *message, *marked;
+  };
+  for (const auto& c : {Case{"set txtF9_step 2.7", "Must be a sub-multiple of 90 degrees", "txtF9_step"},
+                        Case{"set txtF9_step 0", "Step size must be greater than zero", "txtF9_step"},
+                        Case{"set txtF9_min -1", "Minimum angle < 0 degrees", "txtF9_min"},
+                        Case{"set txtF9_max 180.5", "Maximum angle > 180 degrees", "txtF9_max"},
+                        Case{"set txtF9_min 180", "Minimum value must be less than maximum value", "txtF9_min"}}) {
+    SCOPED_TRACE(c.lines);
+    Do("reset\nchoose cboGraph Scattered power v. radius\nset cboStep 5");
+    const auto before = State().LastResults;
+    Do(std::string(c.lines) + "\nclick cmdNewPlot");
+    EXPECT_EQ(LastText(), c.message);
+    EXPECT_EQ(Get(std::string(c.marked) + ".BackColour"), "255");
+    EXPECT_EQ(State().LastResults, before);
+  }
+  runner.World().messages.clear();
+  Do("set txtF9_min 0\nset txtF9_step 7.5\nclick cmdNewPlot");
+  EXPECT_TRUE(Shown().empty()) << LastText();
+}
+
+// The scale fits an albedo that hardly changes so closely that another one was drawn outside.
+TEST_F(AxisGraphs, AnOverplottedAlbedoStaysInTheBox) {
+  Do("choose cboGraph Albedo v. radius\nclick mnuRI_Fixed1\nset txtXmin 20\nset cboStep 50\n"
+     "set txtRefractImag 0.5\nclick cmdNewPlot");
+  const Page& page = runner.Current().page;
+  const AxisLimits first = page.panels[0].limits;
+  EXPECT_GT(first.ymin, 0.5);
+  const auto inside = [&] {
+    const AxisLimits& limits = page.panels[0].limits;
+    for (const PageCurve& curve : page.curves)
+      for (std::size_t i = 1; i < curve.y.size(); ++i)
+        if (!(curve.y[i] >= limits.ymin && curve.y[i] <= limits.ymax)) return false;
+    return true;
+  };
+  EXPECT_TRUE(inside());
+  Do("click cmdOverPlot");
+  EXPECT_EQ(page.panels[0].limits, first) << "the same curve changes nothing";
+  Do("set txtRefractImag 0.0001\nclick cmdOverPlot");
+  ASSERT_EQ(page.runs.size(), 3U);
+  EXPECT_TRUE(inside());
+  EXPECT_EQ(page.homeY.xmax, page.panels[0].limits.ymax) << "where a zoom goes home to";
+  // Limits that were typed are meant.
+  Do("set cboYmin 0.5\nset cboYmax 0.6\nset txtRefractImag 0.5\nclick cmdNewPlot\n"
+     "set txtRefractImag 0.0001\nclick cmdOverPlot");
+  EXPECT_EQ(page.panels[0].limits.ymax, 0.6);
+}
+
+// A zoom is calculated anew where it has fewer points than can be seen, in steps of 1, 2 or 5.
+TEST_F(AxisGraphs, AZoomIsCalculatedAnewWhereItHasFewPoints) {
+  Do("set cboStep 1\nclick cmdNewPlot");
+  auto& session = runner.Current();
+  const auto run = [&](double low, double high) {
+    session.page = WithView(session.page, {XRange{low, high}, {}}, ReadLook(session));
+    const auto found = RunOfView(session);
+    return found ? found->xmin + " " + found->xmax + " " + found->step : "";
+  };
+  EXPECT_EQ(run(0, 180), "") << "no zoom";
+  EXPECT_EQ(run(100, 149), "") << "fifty points";
+  EXPECT_EQ(run(100, 148), "100 148 0.05") << "500 of them in steps of 1, 2 or 5";
+  EXPECT_EQ(run(100.02, 110.013), "100.02 110.02 0.01") << "ends on steps";
+  EXPECT_EQ(run(100, 125), "100 125 0.05");
+  EXPECT_EQ(run(100, 150), "");
+  Do("set txtXmin 90\nclick cmdNewPlot");
+  EXPECT_EQ(run(50, 150), "50 150 0.2") << "below 90 degrees nothing is there";
+  CalculateView(session, *RunOfView(session));
+  EXPECT_TRUE(Shown().empty()) << LastText();
+  EXPECT_EQ(Get("txtXmin") + " " + Get("txtXmax") + " " + Get("cboStep"), "50 150 0.2");
 }
 
 }  // namespace

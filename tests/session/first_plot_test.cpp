@@ -123,5 +123,21 @@ TEST(StartUp, TellsOfSmallScreensAndCommaSystemsAndGoesOn) {
   }
 }
 
+TEST_F(FirstPlot, LimitsAreThoseTypedOrOfTheCurvesAndAnOverplotKeepsThem) {
+  const auto limits = [&] { return Get("Ymin") + " " + Get("Ymax"); };
+  Do("set cboStep 1\nset cboYmin 10\nset cboYmax 1e6\nclick cmdNewPlot");
+  EXPECT_EQ(limits(), "10 1000000");
+  Do("set cboYmax 1e4\nclick cmdOverPlot");
+  EXPECT_EQ(limits(), "10 1000000") << "the frame of the graph";
+  Do("set txtRadius 20\nset cboYmin Automatic\nclick cmdOverPlot");
+  EXPECT_EQ(limits(), "10 1000000");
+  Do("click cmdNewPlot");
+  EXPECT_EQ(Number("Ymax"), 1e4);
+  EXPECT_NE(Number("Ymin"), 10);
+  Do("set cboYmin 100\nset cboYmax Automatic\nclick cmdNewPlot");
+  EXPECT_EQ(Number("Ymin"), 100);
+  EXPECT_GT(Number("Ymax"), 1e6);
+}
+
 }  // namespace
 }  // namespace lumivex

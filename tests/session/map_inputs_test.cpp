@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
+
 #include "record/catalogue/graph_texts.h"
+#include "record/recording_surface.h"
 #include "session/session_fixture.h"
 
 namespace lumivex {
@@ -261,8 +265,12 @@ TEST_F(MapSession, BadInputIsRefused) {
   constexpr const char* tooMany = "Increase the step size or reduce the maximum/minimum range";
   refuse({{"set txtRmax 5", "set txtRmax 20", "Minimum value >= Maximum value"},
           {"set txtRadius 0", "set txtRadius 10", "Value must be positive"},
-          {"set txtRstep 0", "set txtRstep 4", "Value must be positive"},
+          {"set txtRstep 0", "set txtRstep 4", "Number of steps must be 1 or more"},
+          {"set txtRstep -3", "set txtRstep 4", "Number of steps must be 1 or more"},
           {"set txtRstep 0.5", "set txtRstep 4", "Number of steps not valid"},
+          {"set txtRstep 2.7", "set txtRstep 4", "Number of steps not valid"},
+          {"set txtRstep 0\nset txtRmax 10", "set txtRstep 4\nset txtRmax 20", "Minimum value >= Maximum value"},
+          {"set txtRstep 400.5\nset txtRmax 9", "set txtRstep 4\nset txtRmax 20", "Minimum value >= Maximum value"},
           {"set txtRstep 401", "set txtRstep 4", "Maximum number of steps = 400"},
           {"set txtRstep 1000000", "set txtRstep 4", "Maximum number of steps = 400"},
           {"set txtXmax 136", "set txtXmax 139", "Minimum angle > Maximum angle"},
@@ -292,6 +300,63 @@ TEST_F(MapSession, BadInputIsRefused) {
           {"set txtF9_max 1e5", "set txtF9_max 2", "Value must not be greater than 1000"},
           {"choose cboType Airy", "choose cboType Mie",
            "Selected graph type is available only for Mie and Debye calculations"}});
+}
+
+// Both fields of steps turned red, whichever was at fault.
+TEST_F(MapSession, TheSideWithMoreCellsIsTheOneAtFault) {
+  Choose("Map: Q v. RI & size x");
+  const auto& form = TheSession().form1;
+  const auto marked = [&](const Control& control) { return control.BackColour == colours::BadInput; };
+  Do("set txtF9_step 1000000\nset cboStep 100\nclick cmdNewPlot");
+  EXPECT_TRUE(marked(form.txtF9_step) && !marked(form.cboStep));
+  Do("set txtF9_step 100\nset cboStep 1000000\nclick cmdNewPlot");
+  EXPECT_TRUE(!marked(form.txtF9_step) && marked(form.cboStep));
+  EXPECT_EQ(LastText(), "Increase the step size or reduce the maximum/minimum range");
+}
+
+// Headings, tables and read-outs said "1E-12" for a 0 that was typed.
+TEST_F(MapSession, AnAxisFromZeroReadsZero) {
+  Choose("Map: Q v. Imag RI & size x");
+  Do("set txtF9_step 4\nset cboStep 2\nset txtXmin 0\nclick cmdNewPlot");
+  const Page& page = TheSession().page;
+  ASSERT_TRUE(page.map);
+  const auto& lines = page.runs.front().parameters;
+  for (const char* line : {"Imaginary refractive index: 0 to 0.5 in 4 steps", "Size parameter x: 0 to 20 in 2 steps"})
+    EXPECT_EQ(std::ranges::count(lines, line), 1) << line;
+  output.str("");
+  Do("table");
+  EXPECT_NE(output.str().find("Imaginary refractive index,0,0.125,0.25,0.375,0.5\n0,"), std::string::npos)
+      << output.str();
+  EXPECT_NE(output.str().find("\n10,"), std::string::npos);
+  EXPECT_EQ(Number("AxisMin"), 1e-12) << "what is calculated with";
+}
+
+// One row filled the height of any range, that of other angles too.
+TEST_F(MapSession, ARowIsShownWhereItIs) {
+  Choose("Map: angle v. radius");
+  Do("set txtXmin 137.1\nset txtXmax 137.2\nset cboStep 0.5\nclick cmdNewPlot");
+  ASSERT_NE(Map(), nullptr) << LastText();
+  ASSERT_EQ(Map()->rows, 1);
+  const auto& map = TheSession().page.map;
+  EXPECT_EQ(map->up.samples.count, 1);
+  EXPECT_EQ(map->up.samples.At(0), 137);
+  EXPECT_FALSE(map->pictures.front().cells->empty());
+  Do("set txtXmin 136.6\nset txtXmax 136.8\nclick cmdReplot");
+  EXPECT_EQ(map->up.samples.count, 1) << "the row reaches down to 136.75";
+  Do("set txtXmin 137.3\nset txtXmax 137.7\nclick cmdReplot");
+  EXPECT_EQ(map->up.samples.count, 0) << "and up to 137.25";
+  EXPECT_TRUE(map->pictures.front().cells->empty());
+}
+
+// What a script sets of another graph's inputs is none of the results'.
+TEST_F(MapSession, AHiddenInputLeavesReplotOffered) {
+  Choose("Map: angle v. radius");
+  Coarse();
+  Do("click cmdNewPlot\nset txtRmax 30\nset txtAngle 20");
+  EXPECT_EQ(Get("cmdReplot.Enabled"), "true");
+  EXPECT_EQ(Get("txtRmax"), "30");
+  Do("set txtF9_max 30");
+  EXPECT_EQ(Get("cmdReplot.Enabled"), "false");
 }
 
 TEST_F(MapSession, OneColumnMoreThanNoneAndFineStepsAreDrawn) {
@@ -413,6 +478,64 @@ TEST_F(MapSession, UndoTakesTheGraphAndItsInputsBack) {
   EXPECT_TRUE(TheSession().form1.txtRmax.Visible);
   Do("click mnuRedo");
   EXPECT_EQ(Text("Label30"), "Refractive index (real)");
+}
+
+// Where the rows and columns of a map stand, as scripts find them.
+TEST_F(MapSession, TheRecordTellsWhereCellsStand) {
+  Choose("Lee diagram: radius");
+  Coarse();
+  Do("set cboWave RGB\nclick cmdNewPlot");
+  const auto& s = TheSession().state;
+  EXPECT_EQ(s.LeeRowStart, 275) << "137 degrees in steps of 0.5, from row 1 at 0";
+  EXPECT_EQ(s.LeeRowEnd, 279);
+  EXPECT_EQ(s.LeeRowOffset, 274) << "rows below the first that is stored";
+  EXPECT_EQ(s.RowIndex, 4);
+  for (const std::size_t column : {0U, 4U}) {
+    std::array<double, 3> most{};
+    for (std::size_t cell = 5 * column; cell < 5 * (column + 1); ++cell) {
+      const auto& first = Map()->panels[0];
+      const auto& second = Map()->panels[1];
+      for (const auto list : {&MapPanel::red, &MapPanel::green, &MapPanel::blue}) {
+        const double a = double{(first.*list)[cell]}, b = double{(second.*list)[cell]};
+        most = {std::max(most[0], a), std::max(most[1], b), std::max(most[2], (a + b) / 2)};
+      }
+    }
+    for (std::size_t panel = 0; panel < 3; ++panel)
+      EXPECT_EQ(s.LeeColumnMaximum.At(column, panel), most[panel]) << column << " " << panel;
+  }
+  Choose("Map: RI v. size x");
+  Do("set cboStep 4\nset txtF9_step 4\nset txtAngle 170\nclick cmdNewPlot");
+  EXPECT_EQ(Number("SelectedAngleIndex"), 17001) << "rows of 0.01 degrees";
+  EXPECT_EQ(Number("LastPoint"), 5);
+}
+
+// What the strip beside the inputs tells while columns come in.
+TEST_F(MapSession, AColumnIsToldWhileItIsCalculated) {
+  double now = 0;
+  runner.World().clock = [&] { return now += 1; };
+  const auto texts = [&](const std::string& lines) {
+    std::string all;
+    runner.World().onYield = [&] {
+      for (const auto& drawn : static_cast<const RecordingSurface&>(*runner.Current().surface).Operations())
+        if (drawn.kind == DrawnOperation::Kind::Text) all += drawn.text + "|";
+    };
+    Do(lines + "\nclick cmdNewPlot");
+    runner.World().onYield = {};
+    return all;
+  };
+  Choose("Lee diagram: refractive index");
+  Coarse();
+  const std::string lee =
+      texts("set txtRadius 1.5\nset txtRmax 1.5004\nset txtRstep 40\nset cboWave 1\nset txtAngle 30");
+  for (const char* text :
+       {"|Step: ", "   Radius = 30|", "|   Wavelength = 650 nm|", "|   Ref Index = 1.5", "|   Imaginary RI = 0|"})
+    EXPECT_NE(lee.find(text), std::string::npos) << text;
+  const std::string several = texts("set cboWave RGB");
+  EXPECT_NE(several.find("|Wavelength #"), std::string::npos);
+  Choose("Map: Q v. RI & size x");
+  const std::string cells = texts("set txtF9_step 300\nset cboStep 300");
+  EXPECT_NE(cells.find("|Step: "), std::string::npos);
+  EXPECT_EQ(cells.find("   Radius = "), std::string::npos) << "a column of them has spheres of every size";
 }
 
 }  // namespace

@@ -396,5 +396,35 @@ TEST_F(RangeRules, NumbersAreWrittenBackClean) {
   EXPECT_EQ(Number("Radius"), 12.5);
 }
 
+// A logarithm has no 0 at either end; a linear scale has, and is what is chosen then.
+TEST_F(RangeRules, LimitsOfTheAmplitudeScaleSuitIt) {
+  struct Case {
+    const char *lines, *message, *marked;
+  };
+  for (const auto& c :
+       {Case{"set cboYmin 0", "Minimum amplitude <= 0 not valid for logarithmic scale", "cboYmin"},
+        Case{"set cboYmax 0", "Maximum amplitude <= 0 not valid for logarithmic scale", "cboYmax"},
+        Case{"set cboYmin -1\nset cboYmax -2", "Minimum amplitude <= 0 not valid for logarithmic scale", "cboYmin"},
+        Case{"set cboYmin 1\nset cboYmax -2", "Maximum amplitude <= 0 not valid for logarithmic scale", "cboYmax"}}) {
+    SCOPED_TRACE(c.lines);
+    Do("reset\nset cboStep 5\nclick OptLog");
+    runner.World().messages.clear();
+    Do(std::string(c.lines) + "\nclick cmdNewPlot");
+    ASSERT_EQ(Shown().size(), 1U);
+    EXPECT_EQ(LastText(), c.message);
+    EXPECT_EQ(Get(std::string(c.marked) + ".BackColour"), "255");
+    EXPECT_EQ(Get("optLinear"), "true") << "there the limit is good";
+  }
+  for (const char* good :
+       {"click OptLog\nset cboYmin 1e-9", "click OptLog\nset cboYmax 1e-9", "click optLinear\nset cboYmin 0",
+        "click optLinear\nset cboYmin -5\nset cboYmax 0", "click OptLog\nset cboYmin 1\nset cboYmax 1.001"}) {
+    SCOPED_TRACE(good);
+    Do("reset\nset cboStep 5");
+    runner.World().messages.clear();
+    Do(std::string(good) + "\nclick cmdNewPlot");
+    EXPECT_TRUE(Shown().empty()) << LastText();
+  }
+}
+
 }  // namespace
 }  // namespace lumivex

@@ -162,5 +162,19 @@ TEST_F(RunControl, InfoTellsTheRunInWords) {
   EXPECT_NE(Get("Frame6").find("Radius: 12.5"), std::string::npos) << Get("Frame6");
 }
 
+// Hours are told where there are any, one of them in the singular, and minutes in whole ones.
+TEST_F(RunControl, ExpectedTimesAreToldInHoursAndMinutes) {
+  struct Case {
+    const char *radius, *words;
+  };
+  for (const auto& c : {Case{"2500", "1 hour 29 minutes"}, Case{"4000", "3 hours 20 minutes"}}) {
+    Do("reset");
+    runner.Current().state.SecondsPerPairTerm = 1;
+    Do(std::string("set cboStep 0.01\nset txtRadius ") + c.radius + "\nanswer no\nclick cmdNewPlot");
+    EXPECT_EQ(LastText(),
+              std::string("Expected duration is ") + c.words + "\nwith 600 MHz Pentium\n\nDo you want to continue ?");
+  }
+}
+
 }  // namespace
 }  // namespace lumivex

@@ -1,8 +1,10 @@
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <set>
 
 #include "materials/material_fixture.h"
+#include "pages/build_page.h"
 #include "pages/page_table.h"
 #include "pages/read_out.h"
 #include "record/layout/menu_tree.h"
@@ -11,6 +13,7 @@
 #include "session/driver/read_run.h"
 #include "session/info.h"
 #include "session/inputs/graph_types.h"
+#include "session/inputs/look/read_look.h"
 #include "session/inputs/sizes/size_menus.h"
 #include "session/page.h"
 
@@ -354,6 +357,68 @@ TEST_F(Spectrum, LeeDiagramsTakeOneSize) {
             "Lee diagrams are calculated for monodisperse droplets\n"
             "After this calculation, select \"Disperse\" and use the \"Replot\" command");
   EXPECT_EQ(Get("optMono"), "true");
+}
+
+// Up to seven wavelengths have curves of their own, in a frame that holds them all; more are shown as their sum.
+TEST_F(Spectrum, SevenWavelengthsAreDrawnApartAndEightAsOne) {
+  for (const int count : {2, 7, 8}) {
+    SCOPED_TRACE(count);
+    Do("set cboStep 2\nset cboWave " + std::to_string(count) + "\nclick cmdNewPlot");
+    const Page& page = runner.Current().page;
+    ASSERT_EQ(page.curves.size(), count > 7 ? 2U : 2U * static_cast<std::size_t>(count));
+    const AxisLimits& limits = page.panels[0].limits;
+    double most = 0, least = 1e300;
+    std::vector<std::string> names;
+    for (const PageCurve& curve : page.curves) {
+      EXPECT_EQ(std::ranges::count(names, curve.name), 0) << curve.name;
+      names.push_back(curve.name);
+      for (std::size_t i = 1; i < curve.y.size(); ++i) {
+        if (!std::isfinite(curve.y[i])) continue;
+        most = std::max(most, curve.y[i]);
+        least = std::min(least, curve.y[i]);
+      }
+    }
+    EXPECT_GE(limits.ymax, most);
+    EXPECT_LT(limits.ymax, 10.1 * most) << "and no wider than the next decade";
+    EXPECT_LE(limits.ymin, least * 1.0001);
+    EXPECT_GT(limits.ymin, least / 10.1);
+  }
+}
+
+// A stop after the first wavelength leaves its curves, one before it nothing.
+TEST_F(Spectrum, OneWavelengthOfSeveralIsAPage) {
+  Do("set cboWave 3\nset cboStep 2\nclick cmdNewPlot");
+  Results stopped = *State().LastResults;
+  const auto page = [&](int done) {
+    std::get<SpectrumFound>(stopped.found).done = done;
+    return BuildPage(stopped, ReadLook(Now()), Now().page.geometry, {});
+  };
+  const Page one = page(1);
+  ASSERT_EQ(one.curves.size(), 2U);
+  EXPECT_EQ(one.curves[0].name, Now().page.curves[0].name);
+  EXPECT_TRUE(one.bars);
+  EXPECT_EQ(page(2).curves.size(), 4U);
+  const Page none = page(0);
+  EXPECT_TRUE(none.curves.empty() && none.Empty());
+  EXPECT_FALSE(none.bars);
+}
+
+// A column a radius, times the wavelengths, and a factor for the range of angles.
+TEST_F(Spectrum, TheExpectedTimeOfALeeDiagramAddsUpItsColumns) {
+  Do("choose cboGraph Lee diagram: radius\nset cboWave 1\nset txtLambda 0.5");
+  double columns = 0, debye = 0;
+  for (int i = 0; i <= 4; ++i) {
+    const double r = 10 * std::pow(2, i / 4.0);
+    columns += (5.3394821 + 0.9759082 * r - 8.895773e-5 * r * r + 7.10891e-8 * r * r * r) * 40 / 6000;
+    debye += (7.76814 + 1.81405 * r + 1.369248e-5 * r * r) * 40 / 18000;
+  }
+  const double ofRange = (1 + 0.42613778 * std::pow(std::log10(2 / 10.0), 4)) * 0.65 / 0.5;
+  EXPECT_NEAR(ReferenceSeconds(*ReadRun(Now())) / (columns * ofRange), 1, 1e-12);
+  Do("choose cboType Debye\nset cboRays -2");
+  EXPECT_NEAR(ReferenceSeconds(*ReadRun(Now())) / (3 * debye * ofRange), 1, 1e-12) << "p = 0, 1 and 2";
+  Do("choose cboGraph Map: angle v. wavelength\nchoose cboType Mie\nset txtAngle 20\nset txtXmin 170\nset txtXmax 180");
+  const double r = 20, one = (5.3394821 + 0.9759082 * r - 8.895773e-5 * r * r + 7.10891e-8 * r * r * r) * 200 / 6000;
+  EXPECT_NEAR(ReferenceSeconds(*ReadRun(Now())) / (5 * one * 0.65 / 0.55), 1, 1e-12) << "the wavelength in the middle";
 }
 
 }  // namespace

@@ -179,6 +179,20 @@ TEST_F(TwoAngles, HasLimitsOfWork) {
   EXPECT_NE(answer("0.00251", "0.00045"), "Increase the step size or reduce the maximum/minimum range");
 }
 
+TEST_F(TwoAngles, TakesAMillionSpheresAndNoMore) {
+  Choose("txtRImin=1 txtRImax=4 txtRIstep=1 txtRmin=1 txtRstep=1");
+  auto& session = runner.Current();
+  const auto spheres = [&](const char* largest) {
+    session.forms.dlogTwoAngle.txtRmax.Text = largest;
+    const auto inputs = ReadTwoAngleInputs(session);
+    return inputs ? inputs->index.size() * inputs->radius.size() : 0;
+  };
+  EXPECT_EQ(spheres("250000"), 1000000U);
+  EXPECT_TRUE(Shown().empty());
+  EXPECT_EQ(spheres("250001"), 0U);
+  EXPECT_EQ(LastText(), "Increase the step size or reduce the maximum/minimum range");
+}
+
 TEST_F(TwoAngles, NeedsOneSphereOfTheMieSeriesAtATime) {
   Choose();
   Do("click optDisp\nclick cmdNewPlot");

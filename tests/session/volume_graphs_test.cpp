@@ -1,9 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
+#include <sstream>
 
 #include "pages/zoom.h"
 #include "record/layout/menu_tree.h"
+#include "record/recording_surface.h"
 #include "session/inputs/look/read_look.h"
 #include "session/session_fixture.h"
 #include "session/view.h"
@@ -91,6 +94,135 @@ TEST_F(VolumeGraphs, AskForTheirCubeAgainAndTellRunsApart) {
   EXPECT_TRUE(told("Number of spheres N: 1 to 100 in steps of 1"));
   Do("dialog dlogVolume cancel\nclick mnuVolumeNumber");
   EXPECT_EQ(Get("dlogVolume.txtSeed"), "4");
+  EXPECT_EQ(Get("GraphType"), "31") << "the graph was there already";
+}
+
+// Cancel left another graph than the one on the screen.
+TEST_F(VolumeGraphs, ACancelledDialogChoosesNoGraph) {
+  Do("choose cboGraph Intensity v. radius\nset txtXmax 7\nclick cmdNewPlot");
+  const std::string drawing = Drawing();
+  for (const char* entry : {"mnuVolumePlace", "mnuVolumeRadius"}) {
+    Do("dialog dlogVolume cancel txtSeed=8\nclick " + std::string(entry));
+    EXPECT_EQ(Get("GraphType") + " " + Get("cboGraph"), "11 Intensity v. radius");
+    EXPECT_EQ(Get("txtXmax") + " " + Get("Label3") + " " + Get("txtRadius.Visible"), "7 Minimum (\u00B5m) false");
+    EXPECT_EQ(Get("cmdReplot.Enabled"), "true") << "the results are those of the inputs";
+    EXPECT_EQ(Get("dlogVolume.txtSeed"), "1");
+    EXPECT_EQ(Drawing(), drawing);
+  }
+  Choose("mnuVolumePlace");
+  Do("dialog dlogVolume cancel\nchoose cboGraph Vol: Int v. xPart");
+  EXPECT_EQ(Get("GraphType"), "30");
+  Do("click mnuUndo");
+  EXPECT_EQ(Get("GraphType") + " " + Get("txtXmax"), "11 7");
+}
+
+// Two seeds had the same pens, and what no place of a sphere changes was drawn and named twice.
+TEST_F(VolumeGraphs, OverplottedSeedsAreToldApart) {
+  Choose("mnuVolumeNumber", "txtSeed=1");
+  Do("click cmdNewPlot");
+  Choose("mnuVolumeNumber", "txtSeed=2");
+  Do("click cmdOverPlot");
+  Choose("mnuVolumeNumber", "txtSeed=3");
+  Do("click cmdOverPlot");
+  const auto& curves = Drawn().curves;
+  ASSERT_EQ(curves.size(), 8U) << "three runs of two, and two without interference";
+  for (std::size_t i = 0; i < curves.size(); ++i)
+    for (std::size_t j = 0; j < i; ++j)
+      EXPECT_TRUE(curves[i].colour != curves[j].colour || curves[i].drawStyle != curves[j].drawStyle) << i << " " << j;
+  const std::string table = Table();
+  EXPECT_NE(table.find("\tParallel polarisation: N|S|\u00B2\t"), std::string::npos) << "of no seed";
+  EXPECT_NE(table.find("\tseed 3: Parallel polarisation"), std::string::npos);
+  // Other spheres send other light alone.
+  Do("set txtRadius 5\nclick cmdOverPlot");
+  EXPECT_EQ(Drawn().curves.size(), 12U);
+  EXPECT_NE(Table().find("r = 5 \u00B5m: Parallel polarisation: N|S|\u00B2"), std::string::npos);
+  // A pen that was picked is the user's own.
+  Do("click mnuGreenLine\nclick cmdOverPlot");
+  const Colour picked = Drawn().curves.back().colour;
+  Do("click cmdNewPlot");
+  EXPECT_EQ(Drawn().curves.back().colour, picked);
+}
+
+TEST_F(VolumeGraphs, TablesOfScriptsHaveTheLightWithoutInterference) {
+  Choose("mnuVolumeNumber");
+  Do("set txtXmax 3\nclick cmdNewPlot");
+  output.str("");
+  Do("table");
+  std::istringstream lines(output.str());
+  std::string line;
+  ASSERT_TRUE(std::getline(lines, line));
+  EXPECT_EQ(line,
+            "x,perpendicular,parallel,unpolarised,extra1,extra2,extra3,alone perpendicular,alone parallel,alone "
+            "unpolarised");
+  double one = 0;
+  for (int n = 1; n <= 3; ++n) {
+    ASSERT_TRUE(std::getline(lines, line));
+    std::vector<double> cells;
+    std::istringstream row(line);
+    for (std::string cell; std::getline(row, cell, ',');) cells.push_back(Val(cell));
+    ASSERT_EQ(cells.size(), 10U);
+    if (n == 1) one = cells[1];
+    EXPECT_EQ(cells[0], n);
+    EXPECT_NEAR(cells[7] / (n * one), 1, 1e-12) << "of one sphere its own intensity";
+    EXPECT_NEAR(cells[9], (cells[7] + cells[8]) / 2, 1e-9 * cells[9]);
+  }
+}
+
+TEST_F(VolumeGraphs, TellHowFullTheCubeIs) {
+  const auto told = [&](const std::string& line) {
+    const auto& lines = Drawn().runs.back().parameters;
+    return std::ranges::find(lines, line) != lines.end();
+  };
+  // 4/3 pi r^3 N over the cube's volume.
+  Choose("mnuVolumeRadius", "txtCount=100 txtSide=100");
+  Do("set txtXmin 1\nset txtXmax 2\nset cboStep 0.25\nclick cmdNewPlot");
+  EXPECT_TRUE(told("Spheres fill 0.0419 % to 0.335 % of the cube"));
+  Choose("mnuVolumeNumber");
+  Do("set txtRadius 1\nclick cmdNewPlot");
+  EXPECT_TRUE(told("Spheres fill 0.0419 % of the cube, all of them"));
+  // Of a log-normal cloud the mean of the cubes counts, which is above that of the mean size.
+  Choose("mnuVolumePlace");
+  Do("set txtRadius 1\nset cboStep 1\nclick optDisp\nset cboSD 50\nset cboN 50\nclick cmdNewPlot");
+  EXPECT_FALSE(told("Spheres fill 0.0419 % of the cube"));
+  double cubes = 0;
+  for (std::size_t i = 1; i < State().DistRadius.size(); ++i) cubes += std::pow(State().DistRadius[i], 3) / 50;
+  EXPECT_TRUE(told("Spheres fill " + Significant(0.0418879 * cubes, 3) + " % of the cube"));
+}
+
+// Numbers of spheres had ticks at 1.5 and 2.5.
+TEST_F(VolumeGraphs, TicksOfNumbersAreWhole) {
+  Choose("mnuVolumeNumber");
+  for (const char* most : {"2", "3", "5", "9"}) {
+    Do(std::string("set txtXmax ") + most + "\nclick cmdNewPlot");
+    const double bottom = Drawn().panels[0].box.bottom;
+    int labels = 0;
+    for (const auto& text : static_cast<const RecordingSurface&>(*runner.Current().surface).Operations()) {
+      if (text.kind != DrawnOperation::Kind::Text || text.points[0].y < bottom || text.points[0].y > bottom + 200)
+        continue;
+      ++labels;
+      EXPECT_EQ(text.text.find('.'), std::string::npos) << text.text;
+    }
+    EXPECT_GE(labels, 2) << most;
+  }
+}
+
+// Hours were asked for before the spheres were refused.
+TEST_F(VolumeGraphs, WhatCannotBeCalculatedAsksForNoTime) {
+  for (const char* lines : {"click mnuVolumeRadius\nset txtXmax 1e7\nset cboStep 1000",
+                            "click mnuVolumeTime\nset txtRadius 1e7", "click mnuVolumePlace\nset txtRadius 1e7"}) {
+    runner.World().messages.clear();
+    Do(std::string("dialog dlogVolume ok\n") + lines + "\nclick cmdNewPlot");
+    ASSERT_EQ(Shown().size(), 1U) << lines;
+    EXPECT_EQ(LastText(), "Reduce radius or increase wavelength");
+  }
+}
+
+TEST_F(VolumeGraphs, FewerSpheresTakeTheMarkOffTheStep) {
+  Choose("mnuVolumeTime");
+  Do("set dlogVolume.txtCount 1000000\nclick cmdNewPlot");
+  EXPECT_EQ(Get("cboStep.BackColour"), "255");
+  Choose("mnuVolumeTime", "txtCount=10");
+  EXPECT_EQ(Get("cboStep.BackColour"), "16777215");
 }
 
 TEST_F(VolumeGraphs, MotionIsToldWithItsDiffusion) {
@@ -128,6 +260,7 @@ TEST_F(VolumeGraphs, BadInputsAreToldAndLeaveTheGraph) {
         Case{"mnuVolumeNumber", "txtXmin", "1.5", wrong},
         Case{"mnuVolumeNumber", "txtXmax", "2000000", "Value must not be greater than 1000000"},
         Case{"mnuVolumeNumber", "cboStep", "0.5", wrong},
+        Case{"mnuVolumeNumber", "cboStep", "100", "Select a smaller step size"},
         Case{"mnuVolumeTime", "dlogVolume.txtCount", "1000000",
              "Increase the step size or reduce the maximum/minimum range"},
         Case{"mnuVolumeRadius", "txtXmin", "0", "Value must be positive"}}) {

@@ -431,6 +431,46 @@ TEST(Airy, TheBowOutshinesTheAxis) {
   EXPECT_GT(HighestOf(waves.S1, request.window).modulus, 50);
 }
 
+// After a Stop the rows told as done are those that were added to, and no others.
+TEST(Airy, AStopTellsTheRowsThatAreDone) {
+  class StopAt final : public RunMonitor {
+   public:
+    explicit StopAt(std::size_t look) : look_(look) {}
+    bool Report(std::size_t index, std::size_t count) override {
+      indices.push_back(index);
+      counts = count;
+      return indices.size() < look_;
+    }
+    std::vector<std::size_t> indices;
+    std::size_t counts = 0;
+
+   private:
+    std::size_t look_;
+  };
+  std::vector<int> selected(400, 0);
+  for (std::size_t p = 2; p < 300; ++p) selected[p] = 1;
+  const AngleGrid grid(9001);
+  AiryRequest request;
+  request.x = 1000;
+  request.m = 1.333;
+  request.grid = grid;
+  request.window = {8000, 10000};
+  request.selected = selected;
+  for (const std::size_t look : {1U, 2U, 3U}) {
+    AmplitudeTable S1(grid.RowCount()), S2(grid.RowCount());
+    StopAt monitor(look);
+    const RowsDone done = SolveAiry(request, S1, S2, monitor);
+    ASSERT_EQ(monitor.indices.size(), look) << "looks are a bounded number of rows apart";
+    EXPECT_EQ(monitor.counts, 2001U);
+    EXPECT_EQ(monitor.indices.front(), 0U) << "the first look comes before any work";
+    for (int row = 1; row <= grid.RowCount(); ++row) {
+      const bool added = S1.Re(row) != 0 || S1.Im(row) != 0;
+      ASSERT_EQ(done.Contains(row), added) << row << ", stopped at look " << look;
+      ASSERT_EQ(added, row >= 8000 && row < 8000 + static_cast<int>(monitor.indices.back())) << row;
+    }
+  }
+}
+
 TEST(Airy, SeveralRainbowsAddAndFarAwayNothingFails) {
   std::feclearexcept(FE_ALL_EXCEPT);
   const auto solve = [](const std::vector<int>& selected) {

@@ -23,6 +23,10 @@ void ForEachSetting(DialogSettings& s, Visitor&& visit) {
   visit("CatalogueIndex", s.catalogueIndex);
   visit("BarReference", s.barReference);
   visit("BarReferencePerWaveNumber", s.barReferencePerWaveNumber);
+  visit("BarReferenceWeighted", s.barReferenceWeighted);
+  visit("MapReference", s.mapReference);
+  visit("MapReferenceThird", s.mapReferenceThird);
+  visit("MapReferenceKind", s.mapReferenceKind);
   visit("SellmeierName", s.sellmeier.name);
   visit("SellmeierB1", s.sellmeier.terms.B1);
   visit("SellmeierB2", s.sellmeier.terms.B2);

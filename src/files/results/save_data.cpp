@@ -116,6 +116,10 @@ void TakeLook(const InputState& from, InputState& to, LookPart part) {
   to.settings.pickedLineColour = from.settings.pickedLineColour;
   to.settings.barReference = from.settings.barReference;
   to.settings.barReferencePerWaveNumber = from.settings.barReferencePerWaveNumber;
+  to.settings.barReferenceWeighted = from.settings.barReferenceWeighted;
+  to.settings.mapReference = from.settings.mapReference;
+  to.settings.mapReferenceThird = from.settings.mapReferenceThird;
+  to.settings.mapReferenceKind = from.settings.mapReferenceKind;
 }
 
 std::string ResultsText(Session& session, std::string& failure) {

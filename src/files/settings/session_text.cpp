@@ -36,6 +36,7 @@ void ForEachSetting(Settings& s, Visitor&& visit) {
   visit("PickedLineColour", s.pickedLineColour.value);
   visit("BarReference", s.barReference);
   visit("BarReferencePerWaveNumber", s.barReferencePerWaveNumber);
+  visit("BarReferenceWeighted", s.barReferenceWeighted);
   visit("MapReference", s.mapReference);
   visit("MapReferenceThird", s.mapReferenceThird);
   visit("MapReferenceKind", s.mapReferenceKind);

@@ -79,9 +79,9 @@ void PlotBow(PageBars& bars, const ColourRules& rules) {
   PaintRows(bars, rules, {bars.reference, bars.reference, bars.reference});
 }
 
-void PlotBow2(PageBars& bars, const ColourLook& look, bool invWavelength) {
+void PlotBow2(PageBars& bars, const ColourLook& look, const BarScale& unit) {
   const auto& set = look.barScale;
-  bars.otherUnit = set && set->invWavelength != invWavelength;
+  bars.otherUnit = set && (set->invWavelength != unit.invWavelength || set->weighted != unit.weighted);
   bars.referenceIsSet = set && !bars.otherUnit;
   bars.ownUnpolarised = look.normaliseUnpolarised;
   bars.reference = bars.referenceIsSet ? set->reference : std::max(bars.greatest[0], bars.greatest[1]);
@@ -99,7 +99,7 @@ void ColourBars(Page& page, const ColourLook& look) {
   // The brightness is not offered with one wavelength: what is left in its box from before counts for nothing.
   if (page.kind.wavelengths == 1) wanted.rules.brightness = 1;
   if (wanted.barScale || wanted.normaliseUnpolarised)
-    PlotBow2(bars, wanted, page.kind.invWavelength);
+    PlotBow2(bars, wanted, {0, page.kind.invWavelength, page.kind.wavelengths > 1});
   else
     PlotBow(bars, wanted.rules);
   MakeColumns(bars, page.kind.logX);

@@ -17,7 +17,7 @@ void PlotBow(PageBars& bars, const ColourRules& rules);
 
 /// Bars on another scale: P is the one set before, where the look has one in the unit of the page; and where it wants
 /// that, the unpolarised bar is held against its own greatest channel.
-/// @param invWavelength  whether the sums are of intensities freed of the square of the wave number.
-void PlotBow2(PageBars& bars, const ColourLook& look, bool invWavelength);
+/// @param unit  the unit of the sums; its reference counts for nothing.
+void PlotBow2(PageBars& bars, const ColourLook& look, const BarScale& unit);
 
 }  // namespace lumivex

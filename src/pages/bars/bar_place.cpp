@@ -5,6 +5,7 @@
 
 #include "axes/panel_map.h"
 #include "pages/bars/bar_light.h"
+#include "pages/curves/curve_key.h"
 #include "pages/frame/frame.h"
 #include "pages/items/readings.h"
 #include "record/number_text.h"
@@ -28,13 +29,16 @@ constexpr double titleRoom = 640, titleRoomSlide = 1040;
 /// put between the title and themselves comes to it.
 constexpr double airOfBars = 100;
 
-/// For the key below the bars, more for many curves in their smallest letters, as far as the graph can spare it.
-constexpr double oneLineOfKey = 270, twoLinesOfKey = 470, mostForKey = 1000;
-constexpr double curvesInLine = 6, leastLine = 125;
+/// For the key below the bars, more for many names in letters that can be read, as far as the graph can spare it.
+constexpr double oneLineOfKey = 270, twoLinesOfKey = 470, mostForKey = 1100;
+constexpr double namesInLine = 4, readableLine = 170;
 
 double RoomForKey(const Page& page) {
-  const double lines = std::ceil(static_cast<double>(page.curves.size()) / curvesInLine);
-  return std::clamp(leastLine * lines, twoLinesOfKey, mostForKey);
+  // So many curves fill the key whatever they are called.
+  constexpr std::size_t surelyMost = 100;
+  if (page.curves.size() > surelyMost) return mostForKey;
+  const double lines = std::ceil(static_cast<double>(EntriesInKey(page)) / namesInLine);
+  return std::clamp(readableLine * lines, twoLinesOfKey, mostForKey);
 }
 
 double WantedHeight(const Page& page) {
@@ -79,18 +83,30 @@ void PrintTitle(DrawingSurface& surface, const GraphBox& box, std::string_view t
   surface.Print(title, false);
 }
 
+/// Slanting lines where nothing was calculated: no light looks like them, while blank paper would be white light.
+void Hatch(DrawingSurface& surface, const GraphBox& part) {
+  constexpr double between = 180;
+  const double height = part.Height();
+  const Colour before = surface.ForeColour;
+  surface.ForeColour = RGB(150, 150, 150);
+  for (double x = between * std::ceil((part.left - height) / between); x < part.right; x += between) {
+    const double from = std::max(x, part.left), to = std::min(x + height, part.right);
+    if (from < to) surface.Line(from, part.bottom - (from - x), to, part.bottom - (to - x));
+  }
+  surface.ForeColour = before;
+}
+
 void PaintBar(DrawingSurface& surface, const Page& page, const GraphBox& box, std::size_t bar) {
   const PageBars& bars = *page.bars;
   const auto& columns = bars.columns[bar];
-  if (!columns.empty()) {
+  if (columns.empty()) {
+    Hatch(surface, box);
+  } else {
     const PanelMap axis = AxisOf(page, box);
-    const CellBlock block{axis.X(bars.covered.xmin),
-                          box.top,
-                          axis.X(bars.covered.xmax),
-                          box.bottom,
-                          static_cast<int>(columns.size()),
-                          1,
-                          bars.part};
+    const double left = axis.X(bars.covered.xmin), right = axis.X(bars.covered.xmax);
+    Hatch(surface, {box.left, left, box.top, box.bottom});
+    Hatch(surface, {right, box.right, box.top, box.bottom});
+    const CellBlock block{left, box.top, right, box.bottom, static_cast<int>(columns.size()), 1, bars.part};
     surface.Image(block, columns);
   }
   surface.ForeColour = colours::Black;

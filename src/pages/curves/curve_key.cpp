@@ -2,7 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "pages/bars/bar_place.h"
@@ -55,6 +58,28 @@ int LineOf(const Page& page, const PageCurve& curve) {
   return page.kind.second == SecondPanel::Polarisation ? belowKinds : curve.kind + 1;
 }
 
+/// Curves of one wavelength have its colour, whatever their polarisation: one entry names the wavelength for all.
+void MergeWavelengths(std::vector<Entry>& entries) {
+  constexpr std::string_view behind = ": ";
+  const auto wavelength = [&](const Entry& entry) { return entry.name.substr(0, entry.name.find(behind)); };
+  std::map<std::string, int> curves;
+  for (const Entry& entry : entries)
+    if (entry.name.find(behind) != std::string::npos) ++curves[wavelength(entry)];
+  std::vector<Entry> merged;
+  for (Entry& entry : entries) {
+    // Sums are of no wavelength; of one that is named already the other polarisations are passed over.
+    if (const auto found = curves.find(wavelength(entry)); found != curves.end()) {
+      if (found->second == 0) continue;
+      if (std::exchange(found->second, found->second > 1 ? 0 : 1) > 1) {
+        entry.name = found->first;
+        entry.line = 1;
+      }
+    }
+    merged.push_back(std::move(entry));
+  }
+  entries = std::move(merged);
+}
+
 /// All that the key says, each pen and name once.
 std::vector<Entry> EntriesOf(const Page& page) {
   std::vector<Entry> entries;
@@ -64,6 +89,7 @@ std::vector<Entry> EntriesOf(const Page& page) {
     const Entry entry{names.InKey(curve), curve.colour, curve.drawStyle, curve.drawWidth, LineOf(page, curve)};
     if (std::ranges::find(entries, entry) == entries.end()) entries.push_back(entry);
   }
+  if (page.kind.wavelengths > 1) MergeWavelengths(entries);
   std::ranges::stable_sort(entries, {}, &Entry::line);
   return entries;
 }
@@ -186,6 +212,10 @@ void PrintEntry(DrawingSurface& surface, const Entry& entry, Colour ground, Surf
 }
 
 }  // namespace
+
+std::size_t EntriesInKey(const Page& page) {
+  return HasKey(page) ? EntriesOf(page).size() : 0;
+}
 
 void PaintKey(DrawingSurface& surface, const Page& page, const TickLabels& polarLabels) {
   if (!HasKey(page)) return;

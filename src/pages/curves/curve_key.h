@@ -13,4 +13,7 @@ namespace lumivex {
 /// @param polarLabels  numbers of a polar plot, which the key stands below.
 void PaintKey(DrawingSurface& surface, const Page& page, const TickLabels& polarLabels);
 
+/// How many names the key has.
+std::size_t EntriesInKey(const Page& page);
+
 }  // namespace lumivex

@@ -32,18 +32,22 @@ std::string Joined(const std::string& run, const std::string& name) {
 
 }  // namespace
 
-CurveNames::CurveNames(const Page& page) : runs_(page.runs.size()) {
+CurveNames::CurveNames(const Page& page) : runs_(page.runs.size()), alone_(page.runs.size()) {
   // A run whose curves have left the page is not told from.
   std::vector<std::size_t> shown;
   for (std::size_t run = 0; run < page.runs.size(); ++run)
     if (std::ranges::any_of(page.curves, [run](const PageCurve& curve) { return curve.run == run; }))
       shown.push_back(run);
   if (shown.size() < 2) return;
-  AddDifferences(page, shown, &PageRun::marks, runs_);
-  std::map<std::string, std::vector<std::size_t>> alike;
-  for (const std::size_t run : shown) alike[runs_[run]].push_back(run);
-  for (const auto& [words, runs] : alike)
-    if (runs.size() > 1) AddDifferences(page, runs, &PageRun::finerMarks, runs_);
+  AddDifferences(page, shown, &PageRun::marks, alone_);
+  runs_ = alone_;
+  AddDifferences(page, shown, &PageRun::placeMarks, runs_);
+  for (auto* names : {&runs_, &alone_}) {
+    std::map<std::string, std::vector<std::size_t>> alike;
+    for (const std::size_t run : shown) alike[(*names)[run]].push_back(run);
+    for (const auto& [words, runs] : alike)
+      if (runs.size() > 1) AddDifferences(page, runs, &PageRun::finerMarks, *names);
+  }
 }
 
 const std::string& CurveNames::OfRun(std::size_t run) const {
@@ -51,12 +55,16 @@ const std::string& CurveNames::OfRun(std::size_t run) const {
   return run < runs_.size() ? runs_[run] : none;
 }
 
+const std::string& CurveNames::RunOf(const PageCurve& curve) const {
+  return curve.alone && curve.run < alone_.size() ? alone_[curve.run] : OfRun(curve.run);
+}
+
 std::string CurveNames::Of(const PageCurve& curve) const {
-  return Joined(OfRun(curve.run), curve.name);
+  return Joined(RunOf(curve), curve.name);
 }
 
 std::string CurveNames::InKey(const PageCurve& curve) const {
-  return Joined(OfRun(curve.run), curve.keyName.empty() ? curve.name : curve.keyName);
+  return Joined(RunOf(curve), curve.keyName.empty() ? curve.name : curve.keyName);
 }
 
 }  // namespace lumivex

@@ -24,7 +24,10 @@ class CurveNames {
   std::string InKey(const PageCurve& curve) const;
 
  private:
+  const std::string& RunOf(const PageCurve& curve) const;
+
   std::vector<std::string> runs_;
+  std::vector<std::string> alone_;  ///< the same without where spheres stand
 };
 
 }  // namespace lumivex

@@ -42,6 +42,22 @@ LinePair PenColours(const RunToDraw& run) {
   return LineColour(run.look.pen, TrueWavelength(run.results));
 }
 
+bool LookAlike(Colour a, Colour b) {
+  constexpr int apart = 200;
+  return std::abs(a.Red() - b.Red()) + std::abs(a.Green() - b.Green()) + std::abs(a.Blue() - b.Blue()) < apart;
+}
+
+/// Three colours that can be told apart on every background, and from a line colour.
+std::array<Colour, 3> ColoursBeside(Colour line) {
+  static constexpr std::array others = {Colour{0xE06020}, Colour{0x009000}, Colour{0x0000E0}, Colour{0xA000A0}};
+  std::array<Colour, 3> chosen;
+  chosen.fill(line);
+  std::size_t next = 0;
+  for (const Colour other : others)
+    if (next < chosen.size() && !LookAlike(other, line)) chosen[next++] = other;
+  return chosen;
+}
+
 /// Graphs of which one curve tells all: quantities without polarisation, and all of a sphere without absorption.
 bool HasOneCurve(const Results& results) {
   const Graph& graph = results.asked.graph;
@@ -91,6 +107,15 @@ void TakeComplexAmplitude(const AngleFound& found, PageCurve& curve) {
   curve.y = std::move(y);
 }
 
+/// Whether such a curve without interference is there already: places of spheres do not matter to it.
+bool IsDrawn(const Page& page, const PageCurve& alone) {
+  const auto same = [](double a, double b) { return a == b || (std::isnan(a) && std::isnan(b)); };
+  return std::ranges::any_of(page.curves, [&](const PageCurve& curve) {
+    return curve.alone && curve.kind == alone.kind && std::ranges::equal(curve.x, alone.x, same) &&
+           std::ranges::equal(curve.y, alone.y, same);
+  });
+}
+
 /// What the spheres of a volume would send without interference: the pens of their curves in another style.
 void DrawAlone(Page& page, const RunToDraw& run, const Curves& curves) {
   const std::size_t own = page.runs.empty() ? 0 : page.runs.size() - 1;
@@ -106,12 +131,25 @@ void DrawAlone(Page& page, const RunToDraw& run, const Curves& curves) {
     constexpr int solid = 0, dashed = 1;
     alone.drawStyle = alone.drawStyle == dashed ? solid : dashed;
     alone.markers = false;
-    page.curves.push_back(std::move(alone));
+    alone.alone = true;
+    if (!IsDrawn(page, alone)) page.curves.push_back(std::move(alone));
   }
 }
 
+/// Speckle of the same light at other places looks like the first: where no pen is picked, each run of it gets a colour
+/// of its own.
+LinePair PenOfRun(const Page& page, const RunToDraw& run) {
+  const LinePair pen = PenColours(run);
+  const bool first = page.runs.size() < 2;
+  if (first || !run.look.pen.trueColour || run.results.asked.graph.family != Family::Volume) return pen;
+  const auto others = ColoursBeside(pen.first);
+  const std::size_t place = (page.runs.size() - 1) % (others.size() + 1);
+  if (place == 0) return pen;
+  return {others[place - 1], HalfOf(others[place - 1])};
+}
+
 void DrawCurves(Page& page, const RunToDraw& run, const Curves& curves) {
-  const LinePair colours = PenColours(run);
+  const LinePair colours = PenOfRun(page, run);
   const bool shaded = run.look.WantsSeveral();
   // Black cannot be seen on black.
   const Colour third = page.style.ground == colours::Black ? colours::White : colours::Black;
@@ -145,24 +183,9 @@ void DrawPhases(Page& page, const RunToDraw& run, const Curves& curves) {
   }
 }
 
-bool LookAlike(Colour a, Colour b) {
-  constexpr int apart = 200;
-  return std::abs(a.Red() - b.Red()) + std::abs(a.Green() - b.Green()) + std::abs(a.Blue() - b.Blue()) < apart;
-}
-
-/// Three colours that can be told apart on every background, and from the line colour, which the curve above has.
-std::array<Colour, 3> RatioColours(Colour line) {
-  static constexpr std::array others = {Colour{0xE06020}, Colour{0x009000}, Colour{0x0000E0}, Colour{0xA000A0}};
-  std::array<Colour, 3> chosen;
-  chosen.fill(line);
-  std::size_t next = 0;
-  for (const Colour other : others)
-    if (next < chosen.size() && !LookAlike(other, line)) chosen[next++] = other;
-  return chosen;
-}
-
 void DrawRatios(Page& page, const RunToDraw& run, const Curves& curves) {
-  const std::array<Colour, 3> colours = RatioColours(PenColours(run).first);
+  // The curve above has the colour of the line.
+  const std::array<Colour, 3> colours = ColoursBeside(PenColours(run).first);
   const std::array ratios = {&curves.extra1, &curves.extra2, &curves.extra3};
   for (const int kind : {3, 2, 1}) {
     const auto i = static_cast<std::size_t>(kind - 1);
@@ -233,9 +256,8 @@ PageKind KindOf(const RunToDraw& run) {
   kind.amplitude = look.amplitude;
   kind.invWavelength = look.invWavelength;
   kind.fourier = look.fourier;
-  const bool ofVolume =
-      asked.graph.quantity == Quantity::Efficiencies || asked.graph.quantity == Quantity::CrossSections;
-  if (const auto* axis = std::get_if<AxisRun>(&asked.run)) kind.perVolume = ofVolume && axis->constantVolume;
+  if (const auto* axis = std::get_if<AxisRun>(&asked.run))
+    kind.perVolume = asked.graph.TakesVolume() && axis->constantVolume;
   if (const auto* angles = std::get_if<TwoAngleRun>(&asked.run)) {
     kind.xTitle = TwoAngleXTitle(*angles);
     kind.yTitle = TwoAngleYTitle(*angles);

@@ -96,9 +96,17 @@ void PaintTwoAngleTitle(FramePaint& paint, double top, double line) {
   PrintAbove(paint, top - 600, range, widest);
 }
 
+/// Where the panel of the inputs ends, which covers what is above.
+constexpr double endOfPanel = 2800;
+
 /// Two lines above the axis, the lower one in its place.
 void PaintTwoLines(FramePaint& paint, double y, std::string_view upper, std::string_view lower) {
-  const std::string_view widest = paint.surface.TextWidth(upper) > paint.surface.TextWidth(lower) ? upper : lower;
+  auto& surface = paint.surface;
+  const std::string_view widest = surface.TextWidth(upper) > surface.TextWidth(lower) ? upper : lower;
+  // Between the panel and the large numbers of slides there is less room.
+  const double highest = paint.labels.HighestTop(0, paint.Box().left, paint.Box().top);
+  const double room = highest - aboveNumbers - endOfPanel;
+  while (2 * surface.TextHeight("X") > room && surface.FontSize > smallestFont) surface.FontSize -= 0.5;
   PrintAbove(paint, y, lower, widest);
   PrintAbove(paint, y - paint.surface.TextHeight("X"), upper, widest);
 }

@@ -62,6 +62,7 @@ LinearTicks ChooseTicks(FramePaint& paint) {
     step = 1;
     labelStep = 5;
   }
+  if (paint.kind.graph.axis == AxisVariable::Number && step < 1) step = labelStep = 1;
   return {step, labelStep, TickDecimals(range, limits.xmax, step)};
 }
 
@@ -133,6 +134,21 @@ bool IsTwoOrFive(double fraction) {
   return (fraction > 0.698 && fraction < 0.7) || (fraction > 0.3 && fraction < 0.302);
 }
 
+/// An axis of less than a decade may hold none: between its ends it has the ticks of a linear one.
+void PaintWithinDecade(FramePaint& paint, bool gridLines) {
+  const auto& limits = paint.map.limits;
+  const LinearTicks ticks = ChooseTicks(paint);
+  const auto inside = [&](double value) { return value > limits.xmin && value < limits.xmax; };
+  ForEachTick(ticks.step, ticks.decimals, limits, [&](double value) {
+    if (!inside(value)) return;
+    if (gridLines) paint.VerticalLine(paint.map.X(value), paint.style.gridColour);
+    paint.TickBelow(paint.map.X(value), 50);
+  });
+  ForEachTick(ticks.labelStep, ticks.decimals, limits, [&](double value) {
+    if (inside(value)) paint.LabelBelow(TickText(value), paint.map.X(value), TopOfNumbers(paint, logLabelBelowBox));
+  });
+}
+
 void PaintLogarithmic(FramePaint& paint) {
   const auto& limits = paint.map.limits;
   const bool minor = paint.style.gridLines.minorX;
@@ -151,6 +167,7 @@ void PaintLogarithmic(FramePaint& paint) {
     const std::string text = end >= scientificFrom ? Format(end, "Scientific") : std::string(Trim(Str(end)));
     paint.LabelBelow(text, paint.map.X(end), TopOfNumbers(paint, logLabelBelowBox));
   }
+  if (limits.xmax < 10 * limits.xmin) return PaintWithinDecade(paint, major);
   if (!minor) return;
   ForEachLogTick(limits, [&](double value, double fraction) {
     if (IsTwoOrFive(fraction)) GridXLabel(paint, value);

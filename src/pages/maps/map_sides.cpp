@@ -29,7 +29,7 @@ constexpr std::array sideTexts = {
 
 MapSide SideOf(const Sweep& sweep) {
   const auto text = std::ranges::find(sideTexts, sweep.quantity, &SideText::quantity);
-  return {{sweep.low, sweep.high, sweep.Count(), sweep.geometric},
+  return {{sweep.LowShown(), sweep.high, sweep.Count(), sweep.geometric},
           std::string(text->title),
           std::string(text->firstLine),
           std::string(text->secondLine),
@@ -55,7 +55,7 @@ bool Sweeps(const FamilyRun& run, Swept quantity) {
 std::string SweepWords(const Sweep& sweep) {
   const MapSide side = SideOf(sweep);
   const auto number = [](double value) { return Significant(value, 8); };
-  return side.name + ": " + number(sweep.low) + " to " + number(sweep.high) +
+  return side.name + ": " + number(sweep.LowShown()) + " to " + number(sweep.high) +
          (side.unit.empty() ? "" : " " + side.unit) + " in " + CountOf(sweep.steps, "step") +
          (sweep.geometric && sweep.steps > 1 ? " of equal ratio" : "");
 }

@@ -31,12 +31,13 @@ XRange AnglesShown(const MapToDraw& map, const AngleRows& rows) {
 /// The stored rows of which something is within the range.
 ShownRows RowsWithin(const MapFound& found, const AngleRows& rows, XRange range) {
   constexpr double rounding = 1e-6;
-  const SampleAxis stored = SideOf(rows, found.firstRow, found.rows).samples;
-  const bool apart = stored.PlaceOf(range.xmax) < -0.5 || stored.PlaceOf(range.xmin) > found.rows - 0.5;
-  if (found.rows < 1 || (apart && found.rows > 1)) return {0, 0};
-  const auto clamped = [&](double row) { return std::clamp(static_cast<int>(row), 0, std::max(found.rows - 1, 0)); };
-  const int first = clamped(std::floor(stored.PlaceOf(range.xmin) + 0.5 + rounding));
-  const int last = clamped(std::ceil(stored.PlaceOf(range.xmax) - 0.5 - rounding));
+  // A row reaches half a step to both sides, also where it is the only one.
+  const auto placeOf = [&](double angle) { return angle / rows.step - (found.firstRow - 1); };
+  const double lowest = placeOf(range.xmin), highest = placeOf(range.xmax);
+  if (found.rows < 1 || highest < -0.5 || lowest > found.rows - 0.5) return {0, 0};
+  const auto clamped = [&](double row) { return std::clamp(static_cast<int>(row), 0, found.rows - 1); };
+  const int first = clamped(std::floor(lowest + 0.5 + rounding));
+  const int last = clamped(std::ceil(highest - 0.5 - rounding));
   return {first, std::max(last - first + 1, 0)};
 }
 

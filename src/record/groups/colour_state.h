@@ -29,6 +29,7 @@ struct ColourState {
   float CellBlue = 0;
   double BarReference = 0;            ///< BarScale kept for later bars; 0 for none
   int BarReferencePerWaveNumber = 0;  ///< 1: it is of intensities freed of the square of the wave number
+  int BarReferenceWeighted = 0;       ///< 1: it is of a sum over a spectrum, weighed by the light source
 };
 
 template <class Group, class Visitor>
@@ -52,6 +53,7 @@ void ForEachField(Group& g, Visitor&& visit) {
   visit("CellBlue", g.CellBlue);
   visit("BarReference", g.BarReference);
   visit("BarReferencePerWaveNumber", g.BarReferencePerWaveNumber);
+  visit("BarReferenceWeighted", g.BarReferenceWeighted);
 }
 
 }  // namespace lumivex

@@ -26,6 +26,13 @@ struct AxisWords {
   std::string_view tooFine = "Select a larger step size";  ///< of equal steps
 };
 
+/// Whether steps of so many degrees come to 90 degrees, where rows of angles are mirrored.
+bool ComeTo90(double step) {
+  constexpr double tolerance = 0.001;
+  const double steps = 90 / step;
+  return steps - Int(steps) <= tolerance;
+}
+
 /// Whether the axis has steps that the user gives; terms of a series have none.
 bool HasSteps(const Graph& graph) {
   return graph.family == Family::Axis || graph.family == Family::EfficiencyPulse;
@@ -202,12 +209,14 @@ Verdict NumericInputs(Check& check) {
 Verdict LeeDiagramAxis(Check& check) {
   auto& form = check.form;
   if (!form.cboGraph.Text.starts_with("Lee diagram")) return Verdict::GoOn;
-  for (TextInput* input : {&form.txtRmax, &form.txtRstep})
-    if (!getval(check.session, *input, largestInput, NumberSign::Positive)) return Verdict::End;
+  if (!getval(check.session, form.txtRmax, largestInput, NumberSign::Positive)) return Verdict::End;
+  if (!getval(check.session, form.txtRstep, largestInput, NumberSign::Any)) return Verdict::End;
   const double steps = Val(form.txtRstep.Text);
-  if (steps < 1 || steps != Int(steps)) return Refuse(check, {&form.txtRstep}, "Number of steps not valid");
+  if (steps < 1) form.txtRstep.BackColour = colours::BadInput;
   if (Val(form.txtRadius.Text) >= Val(form.txtRmax.Text))
     return Refuse(check, {&form.txtRadius, &form.txtRmax}, "Minimum value >= Maximum value");
+  // How many whole steps there may be is told with their upper limit.
+  if (steps != Int(steps)) return Refuse(check, {&form.txtRstep}, "Number of steps not valid");
   return Verdict::GoOn;
 }
 
@@ -249,9 +258,10 @@ Verdict MapSize(Check& check) {
   if (cells && !countable(step)) return Refuse(check, {&form.cboStep}, "Number of steps must be 1 or more");
   const double finest = 180.0 / (mostSpectrumRows - 1);
   const double rows = cells ? step + 1 : (check.Xmax - check.Xmin + 0.5) / std::max(step, finest) + 1;
-  if (rows * (columns + 1) > mostMapCells)
-    return Refuse(check, {&steps, &form.cboStep}, "Increase the step size or reduce the maximum/minimum range");
-  return Verdict::GoOn;
+  if (rows * (columns + 1) <= mostMapCells) return Verdict::GoOn;
+  // The side that has more is the one to make coarser.
+  Control& greater = columns + 1 >= rows ? static_cast<Control&>(steps) : form.cboStep;
+  return Refuse(check, {&greater}, "Increase the step size or reduce the maximum/minimum range");
 }
 
 Verdict LeeSteps(Check& check) {
@@ -273,9 +283,14 @@ Verdict AxisStepCount(Check& check) {
   if (axis != Verdict::GoOn) return axis;
   if (graph.quantity != Quantity::Power) return Verdict::GoOn;
   const double low = Val(form.txtF9_min.Text), high = Val(form.txtF9_max.Text), step = Val(form.txtF9_step.Text);
-  if (low >= high || low < 0 || high > 180)
+  if (low >= high)
     return Refuse(check, {&form.txtF9_min, &form.txtF9_max}, "Minimum value must be less than maximum value");
-  if (!(step > 0) || (high - low) / step > mostSteps) return Refuse(check, {&form.txtF9_step}, tooMany);
+  if (low < 0) return Refuse(check, {&form.txtF9_min}, "Minimum angle < 0 degrees");
+  if (high > 180) return Refuse(check, {&form.txtF9_max}, "Maximum angle > 180 degrees");
+  if (!(step > 0)) return Refuse(check, {&form.txtF9_step}, "Step size must be greater than zero");
+  if ((high - low) / step > mostSteps) return Refuse(check, {&form.txtF9_step}, tooMany);
+  // The sum goes over rows of angles that are mirrored at 90 degrees: other steps would quietly become other ones.
+  if (!ComeTo90(step)) return Refuse(check, {&form.txtF9_step}, "Must be a sub-multiple of 90 degrees");
   return Verdict::GoOn;
 }
 
@@ -285,10 +300,8 @@ Verdict AngularStep(Check& check) {
   auto& list = check.form.cboStep;
   const double step = Val(list.Text);
   if (!(step > 0)) return Refuse(check, {&list}, "Step size must be greater than zero");
-  constexpr double submultipleTolerance = 0.001;
-  const double steps = 90 / step;
-  if (steps - Int(steps) > submultipleTolerance) return Refuse(check, {&list}, "Must be a sub-multiple of 90 degrees");
-  if (2 * steps + 1 > mostAngleRows) return Refuse(check, {&list}, "Select a larger step size");
+  if (!ComeTo90(step)) return Refuse(check, {&list}, "Must be a sub-multiple of 90 degrees");
+  if (2 * 90 / step + 1 > mostAngleRows) return Refuse(check, {&list}, "Select a larger step size");
   if (!graph.AgainstAngle()) return Verdict::GoOn;
   // What is stored of several wavelengths must fit into the memory of any computer in use.
   const double rows = (check.Xmax - check.Xmin) / std::max(step, 180.0 / (mostSpectrumRows - 1)) + 1;

@@ -36,7 +36,8 @@ Verdict Steps(Check& check, double range) {
   if (range / step > mostSteps) return Refuse(check, {&list}, tooMany);
   const bool whole = ChosenGraph(check.state).axis == AxisVariable::Number;
   if (whole && step != Int(step)) return Refuse(check, {&list}, notWhole);
-  if (!whole && step > largestShareOfRange * range) return Refuse(check, {&list}, "Select a smaller step size");
+  // Numbers from 1 to 2 are an axis, and steps that pass its end leave one point of it.
+  if (step > (whole ? 1 : largestShareOfRange) * range) return Refuse(check, {&list}, "Select a smaller step size");
   return Verdict::GoOn;
 }
 

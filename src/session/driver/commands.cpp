@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "record/number_text.h"
+#include "runs/run.h"
 #include "session/checks/range_check.h"
 #include "session/driver/display_run.h"
 #include "session/driver/duration.h"
@@ -46,9 +47,14 @@ bool InputsHold(Session& session) {
 
 namespace {
 
-/// A series can take long, and so can very many spheres; nothing else does.
+/// A series can take long, and so can very many spheres; nothing else does. Nobody is asked for time that no run takes.
 bool LeaveGiven(Session& session, const RunRequest& request) {
   auto& s = session.state;
+  if (const Refusal beyond = BeyondVolume(request); !beyond.text.empty()) {
+    session.platform.Message(beyond.title, beyond.text);
+    s.CommandAborted = 1;
+    return false;
+  }
   if (TraitsOf(s.CalcMethod).series || request.graph.family == Family::Volume) Duration(session, request);
   return s.CommandAborted == 0;
 }

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "record/number_text.h"
 #include "runs/run.h"
 #include "session/driver/keep_results.h"
 #include "session/driver/progress.h"
@@ -12,14 +11,6 @@
 namespace lumivex {
 
 namespace {
-
-/// Limits that are typed stand at once; an overplot keeps those of the graph.
-void ReadLimits(Session& session) {
-  auto& s = session.state;
-  const auto& form = session.form1;
-  if (form.cboYmin.Text != "Automatic") s.Ymin = Val(form.cboYmin.Text);
-  if (form.cboYmax.Text != "Automatic") s.Ymax = Val(form.cboYmax.Text);
-}
 
 void ShowRunning(Session& session) {
   auto& form = session.form1;

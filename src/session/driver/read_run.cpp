@@ -31,9 +31,17 @@ int WavelengthsOf(const Session& session, const Graph& graph) {
   return std::min(WavelengthCount(session.form1.cboWave.Text, RadiusInUse(session)), mostWavelengths);
 }
 
+/// Of a number of samples that no table has, those of before are taken: the list tells how many they are.
+void TellSamplesTaken(Session& session) {
+  const SizeDistribution sizes = ChosenSizes(session);
+  const auto* normal = std::get_if<NormalSizes>(&sizes);
+  if (normal != nullptr && normal->z.size() > 1) session.form1.cboN.Text = std::to_string(normal->z.size() - 1);
+}
+
 void RepairInputs(Session& session, const Graph& graph) {
   auto& form = session.form1;
   if (graph.family == Family::Lee) RefuseDisperseLeeDiagram(session);
+  TellSamplesTaken(session);
   const bool several = WavelengthsOf(session, graph) > 1;
   if (!several && !graph.ColumnsOfAngles()) return;
   if (several && form.cboWave.Text == "RGB") form.chkComponents.Checked = true;

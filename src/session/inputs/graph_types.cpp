@@ -255,6 +255,7 @@ void ShowFamilyInputs(Session& session) {
   form.Label24.Visible = form.txtRmax.Visible = form.lblRstep.Visible = form.txtRstep.Visible =
       chosen.family == Family::Lee;
   form.cboWave.Enabled = true;
+  form.mnuConstantVolume.Enabled = chosen.TakesVolume();
   ShowSizeInputs(session);
   ShowAxisInputs(session);
   form.Frame3.Caption = "Drop size";

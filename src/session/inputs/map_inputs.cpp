@@ -49,7 +49,9 @@ void Show(std::initializer_list<Control*> controls, bool visible) {
 
 Sweep SweepFrom(Swept quantity, const TextInput& low, const TextInput& high, double steps, bool geometric) {
   const double lowest = Val(low.Text);
-  return {quantity, lowest == 0 ? leastSwept : lowest, Val(high.Text), ToWhole(std::clamp(steps, 0.0, 1e9)), geometric};
+  const bool fromZero = lowest == 0;
+  return {quantity, fromZero ? leastSwept : lowest, Val(high.Text), ToWhole(std::clamp(steps, 0.0, 1e9)), geometric,
+          fromZero};
 }
 
 /// The value at which a sphere stands before a sweep moves it: held still, or the start of the sweep.

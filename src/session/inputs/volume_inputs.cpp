@@ -7,6 +7,7 @@
 #include "session/checks/number_input.h"
 #include "session/inputs/dialog_use.h"
 #include "session/inputs/graph_types.h"
+#include "session/undo.h"
 
 namespace lumivex {
 
@@ -54,7 +55,15 @@ VolumeRun ReadVolume(const Session& session, const AxisRun& axis) {
 void AskVolume(Session& session) {
   auto& dialog = session.forms.dlogVolume;
   dialog.lblCount.Visible = dialog.txtCount.Visible = AsksForCount(session);
-  if (AskIn(session, dialog)) RaiseInputsChanged(session);
+  if (!AskIn(session, dialog)) {
+    // Whoever has chosen the graph and then cancels its dialog wants neither.
+    if (session.state.RestoringSettings == 0) TakeBackGraph(session);
+    return;
+  }
+  // So many steps may be too many for the spheres of before alone.
+  auto& step = session.form1.cboStep;
+  if (step.BackColour == colours::BadInput) step.BackColour = colours::White;
+  RaiseInputsChanged(session);
 }
 
 void RestoreVolume(Session& session) {

@@ -18,7 +18,8 @@ bool VolumeHolds(Session& session);
 /// The cube of the dialog with the axis of the panel.
 VolumeRun ReadVolume(const Session& session, const AxisRun& axis);
 
-/// Shows the dialog, unless settings are being restored.
+/// Shows the dialog, unless settings are being restored. A graph that has just been chosen and is cancelled here gives
+/// way to the one before, with all its inputs.
 void AskVolume(Session& session);
 
 /// What stands in the dialog at the start.

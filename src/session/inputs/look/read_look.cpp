@@ -127,7 +127,7 @@ ColourLook ReadColours(const Session& session) {
   colours.paleEnd = form.mnuGrey.Checked;
   colours.normaliseUnpolarised = form.mnuNormalised.Checked;
   if (form.mnuSetNormal.Checked && s.BarReference > 0)
-    colours.barScale = BarScale{s.BarReference, s.BarReferencePerWaveNumber == 1};
+    colours.barScale = BarScale{s.BarReference, s.BarReferencePerWaveNumber == 1, s.BarReferenceWeighted == 1};
   if (form.mnuMapNormalise.Checked) colours.series = MapSeries{s.MapReference, s.MapReferenceThird, s.MapReferenceKind};
   return colours;
 }
