@@ -166,8 +166,6 @@ void TakeBackGraph(Session& session) {
   if (undo.acting == 0 || undo.past.empty() || undo.past.back().graph == ChosenGraph(session.state).code) return;
   const InputState before = undo.past.back();
   RestoreInputs(session, before);
-  TakeTickedLook(session);
-  RenewLook(session);
 }
 
 void OfferHistory(Session& session) {

@@ -39,7 +39,6 @@ void Tell(Session& session, const Refusal& refusal) {
 
 void ShowResults(Session& session, Results&& results, Onto onto) {
   KeepResults(session, std::move(results));
-  if (onto == Onto::FreshPage) ReadLimits(session);
   DisplayRun(session, onto);
 }
 
@@ -56,8 +55,7 @@ void Overplot(Session& session, const RunRequest& request, Onto onto) {
   else
     watch.Forget();
   if (end.hasResults) {
-    if (onto == Onto::FreshPage) ReadLimits(session);
-    // What was done before a Stop is on the page at once: page, tables and record tell of the same run.
+      // What was done before a Stop is on the page at once: page, tables and record tell of the same run.
     if (end.outcome == Outcome::Done)
       DisplayRun(session, onto);
     else
