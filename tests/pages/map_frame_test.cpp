@@ -160,13 +160,15 @@ TEST_F(MapFrames, OfSlidesKeepToThemselves) {
 // Every second tick of 5 to 8 um had its number as far as there was room: 5.2, 5.6, 6, 6.8 ...
 TEST_F(MapFrames, NumberTicksAtEqualDistances) {
   struct Case {
-    double low, high;
+    Sweep columns;
     std::vector<std::string> numbers;
   };
-  for (const Case& c : {Case{5, 8, {"5", "6", "7", "8"}}, Case{10, 15, {"10", "11", "12", "13", "14", "15"}}}) {
-    StoreValues({20, 1}, {Swept::Radius, c.low, c.high, 4, true}, [](int, int, double) { return 1; });
+  for (const Case& c : {Case{{Swept::Radius, 5, 8, 4, true}, {"5", "6", "7", "8"}},
+                        Case{{Swept::Radius, 10, 15, 4, true}, {"10", "11", "12", "13", "14", "15"}},
+                        Case{{Swept::Wavelength, 400, 700, 4}, {"400", "500", "600", "700"}}}) {
+    StoreValues({24, 1}, c.columns, [](int, int, double) { return 1; });
     Draw();
-    EXPECT_THAT(DrawingReader(surface).TextsIn({900, 5300, 9900, 10120}), ::testing::ElementsAreArray(c.numbers));
+    EXPECT_THAT(DrawingReader(surface).TextsIn({800, 5300, 9900, 10120}), ::testing::ElementsAreArray(c.numbers));
   }
 }
 

@@ -186,6 +186,10 @@ TEST(Maps, WhatIsTooLargeIsRefusedBeforeMemoryIsAskedFor) {
   // A column beyond the limits refuses all before any is calculated.
   request = AngleMapRequest({20, 1}, SweepOf(Swept::Radius, 1, 40000, 10, true), 3);
   EXPECT_EQ(RunSilently(request).refusal.text, "Reduce radius or increase wavelength");
+  // Of these cells only the one of the greatest index and size is.
+  request =
+      CellMapRequest({26, 1}, SweepOf(Swept::SphereIndex, 1, 2, 10), SweepOf(Swept::SizeParameter, 1, 100500, 10));
+  EXPECT_EQ(RunSilently(request).refusal.text, "Reduce radius or increase wavelength");
   request = AngleMapRequest({25, 1}, SweepOf(Swept::Wavelength, 400, 3000, 3));
   request.particle.sphere = MetalFilm{MetalName::Gold, TableRule::Linear};
   EXPECT_EQ(RunSilently(request).refusal.text, "Help! RI of sphere undefined");

@@ -77,7 +77,8 @@ std::string NumberText(double value, int decimals) {
 }
 
 /// How far apart the numbers of a side stand: at every tick where these are well apart, otherwise at every second,
-/// fifth or tenth one, where they have room and the first of them is at the beginning of the side, if any is.
+/// fifth or tenth one where they have room: at steps that end with the side if there are such, or else that begin with
+/// it.
 /// @param wanted  part of the side that a number takes, with air.
 double NumberStep(const AxisLimits& limits, bool logarithmic, double step, double labelStep, double wanted) {
   constexpr double rounding = 1e-6, air = 1.1, airAtTicks = 1.2, airAtUnequalTicks = 2;
@@ -85,13 +86,18 @@ double NumberStep(const AxisLimits& limits, bool logarithmic, double step, doubl
   // Equal steps of a logarithmic side come closer and closer, and look crowded before they are.
   if ((logarithmic ? airAtUnequalTicks : airAtTicks) * wanted <= step / range) return step;
   const double coarsest = 20 * step;
-  double roomy = 0;
+  double roomy = 0, fromBeginning = 0;
+  const auto isMultiple = [](double value, double of) {
+    return std::abs(value / of - std::round(value / of)) < rounding;
+  };
   for (const double candidate : {labelStep, 5 * step, 10 * step, coarsest}) {
     if (air * wanted > PartOfStep(limits, logarithmic, candidate)) continue;
     if (roomy == 0) roomy = candidate;
-    const double steps = limits.xmin / candidate;
-    if (2 * candidate <= range && std::abs(steps - std::round(steps)) < rounding) return candidate;
+    if (2 * candidate > range || !isMultiple(limits.xmin, candidate)) continue;
+    if (isMultiple(limits.xmax, candidate)) return candidate;
+    if (fromBeginning == 0) fromBeginning = candidate;
   }
+  if (fromBeginning > 0) return fromBeginning;
   return roomy > 0 ? roomy : coarsest;
 }
 
