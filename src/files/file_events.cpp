@@ -3,10 +3,14 @@
 #include <array>
 
 #include "files/batch/read_batch.h"
+#include "files/examples/example_events.h"
+#include "files/examples/gallery.h"
 #include "files/reports/save_text.h"
 #include "files/results/read_file.h"
 #include "files/results/save_data.h"
 #include "files/settings/settings_events.h"
+#include "session/recent_files.h"
+#include "session/user_folder.h"
 
 namespace lumivex {
 
@@ -29,11 +33,20 @@ constexpr std::array fileEventRows = {
     EventRow{"mnuBatchFile_Click", mnuBatchFile_Click}, EventRow{"mnuSaveText_Click", mnuSaveText_Click},
 };
 
+/// The menus of files are filled once the session stands.
+void Session_Loaded(Session& session) {
+  ShowRecentFiles(session);
+  if (session.settings.examplesFolder.empty()) session.settings.examplesFolder = FindGallery(ProgramFolder());
+  ShowExamples(session);
+}
+
 }  // namespace
 
 void AddFileEvents(OpenSession& open) {
   for (const auto& row : fileEventRows) open.Table().Add(row.name, row.handler);
   for (const auto& row : SettingsEvents()) open.Table().Add(row.name, row.handler);
+  for (const auto& row : ExampleEvents()) open.Table().Add(row.name, row.handler);
+  open.Table().Add("Session_Loaded", Session_Loaded);
 }
 
 }  // namespace lumivex

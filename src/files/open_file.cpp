@@ -7,6 +7,7 @@
 #include "session/dropped_files.h"
 #include "session/inputs/dialog_use.h"
 #include "session/inputs/dropped_file.h"
+#include "session/recent_files.h"
 #include "session/undo.h"
 
 namespace lumivex {
@@ -20,6 +21,7 @@ bool OpenFile(Session& session, const std::string& path) {
   RememberInputs(session, "");
   const bool read = batch || ReadResultsFile(session, path, Onto::FreshPage);
   if (batch) RunBatch(session, {path, std::nullopt, true});
+  if (read) NoteFile(session, batch ? FileKind::Batch : FileKind::Results, path);
   OfferHistory(session);
   return read;
 }

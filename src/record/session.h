@@ -1,6 +1,8 @@
 #pragma once
 
 #include <deque>
+#include <memory>
+#include <string>
 
 #include "record/drawing_surface.h"
 #include "record/events.h"
@@ -17,6 +19,12 @@ struct Window {
   Form* form = nullptr;
   DrawingSurface* surface = nullptr;
   Page page = {};
+};
+
+/// What the status line tells of the results on show in place of how they were calculated.
+struct Remark {
+  std::string text;
+  std::weak_ptr<const Results> of;  ///< it is told while these are the last ones
 };
 
 /// What every routine acts on: the record, the forms, the outside world, the windows and the events.
@@ -37,6 +45,7 @@ struct Session {
   Events& events;
   UndoHistory undo;
   Settings settings;
+  Remark remark;
 };
 
 }  // namespace lumivex

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -42,12 +41,11 @@ struct Settings {
   std::string folder;              ///< of "Lumivex.ini" and of the files of sessions; empty: nothing is kept
   std::string windowPlace;         ///< the window's size and place, in the words of the window system; empty: none yet
   std::vector<RecentFile> recent;  ///< the last first
-  /// The file in use of each kind, by FileKind: what a session that is continued reads again. Empty: none.
-  std::array<std::string, fileKinds> inUse;
   UnsavedSettings unsaved;
   ProgramIdentity program;      ///< this program
   std::string inputsAtStart;    ///< as text: a session in which nothing was changed is not worth keeping
   std::string sessionFile;      ///< what this program keeps its session in while it runs; empty: in none
+  std::string examplesFolder;   ///< where the examples of the menu lie; empty: there are none
   std::string lastSessionFile;  ///< what Continue last session reads; empty: there is nothing to continue
 };
 

@@ -54,6 +54,7 @@ std::string StatusText(const Session& session) {
   // Some graphs start with a range that is wider than the band of common materials.
   if (std::string wayOut = WayOutOfBand(session); !wayOut.empty()) return wayOut;
   if (!s.LastResults) return "Ready";
+  if (session.remark.of.lock() == s.LastResults) return session.remark.text;
   const bool stopped = s.StopAnswer != 0 || IsPart(*s.LastResults);
   return RunInShort(*s.LastResults) + FoldWords(session) + (stopped ? ", stopped" : "");
 }

@@ -28,7 +28,6 @@ void NoteFile(Session& session, FileKind kind, const std::string& path) {
   const auto absolute = std::filesystem::absolute(path, error);
   const RecentFile file{kind, error ? path : absolute.lexically_normal().string()};
   auto& settings = session.settings;
-  settings.inUse[static_cast<std::size_t>(kind)] = file.path;
   if (session.state.RestoringSettings != 0) return;
   PutFirst(settings.recent, file);
   PutFirst(settings.unsaved.recent, file);

@@ -7,9 +7,8 @@
 
 namespace lumivex {
 
-/// Notes that the user has read a file: it stands first in the menu of recent files, and is what a session that is
-/// continued reads again. Raises Settings_Changed. While settings are restored nobody has chosen a file,
-/// and the menu stays.
+/// Notes that the user has read a file: it stands first in the menu of recent files. Raises Settings_Changed. While
+/// settings are restored nobody has chosen a file, and the menu stays.
 void NoteFile(Session& session, FileKind kind, const std::string& path);
 
 /// Puts the recent files into their menu, which is disabled while there are none.

@@ -85,7 +85,7 @@ int RunWindow(const Arguments& arguments) {
   if (!arguments.file.empty())
     QTimer::singleShot(0, &program.Window(),
                        [&] { program.Gate().Do([&] { OpenFile(program.Current(), arguments.file); }); });
-  if (keeps) program.KeepSession();
+  if (keeps) program.KeepSession(arguments.file.empty());
   const int code = QApplication::exec();
   if (keeps) program.End();
   return code;

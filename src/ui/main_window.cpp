@@ -121,6 +121,8 @@ void MainWindow::MakeStatusLine() {
   MeasureProgress();
   progress_->hide();
   status_->setContentsMargins(4, 0, 0, 0);
+  // A long line is cut off; it makes no window wider.
+  status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   statusBar()->addWidget(readOut_);
   statusBar()->addWidget(status_, 1);
   statusBar()->addPermanentWidget(average_);

@@ -30,8 +30,8 @@ void WindowedSession::UseSettings(const std::string& folder) {
   window_.TakePlace(settings.windowPlace);
 }
 
-void WindowedSession::KeepSession() {
-  if (!BeginSession(open_.Get(), ThisProgram())) return;
+void WindowedSession::KeepSession(bool ask) {
+  if (!BeginSession(open_.Get(), ThisProgram()) || !ask) return;
   // Not here: a question in front of a window that is not there yet would be all that is seen.
   QTimer::singleShot(0, &window_, [this] {
     gate_.Do([this] {

@@ -19,8 +19,8 @@ class WindowedSession {
   /// it, or with an empty name, the program begins as on its first day and leaves nothing behind.
   void UseSettings(const std::string& folder);
   /// After Load: keeps the session too. One that was left by a crash is offered to the user as soon as the window is on
-  /// the screen.
-  void KeepSession();
+  /// the screen, unless it is not to be asked about: who opens a file wants that.
+  void KeepSession(bool ask = true);
   /// The program ends: writes the settings and the session.
   void End();
 

@@ -11,6 +11,7 @@
 #include "record/number_text.h"
 #include "record/pending_file.h"
 #include "session/driver/commands.h"
+#include "session/recent_files.h"
 
 namespace lumivex {
 
@@ -249,7 +250,9 @@ BatchEntries EntriesOfBatch(const std::string& file) {
 
 void Read_Batch(Session& session) {
   const auto file = apidialogbox(session, "*.min", "Lumivex batch file(*.min)", "Select a batch file", FileUse::Load);
-  if (file) RunBatch(session, {*file, std::nullopt, true});
+  if (!file) return;
+  NoteFile(session, FileKind::Batch, *file);
+  RunBatch(session, {*file, std::nullopt, true});
 }
 
 void mnuBatchFile_Click(Session& session) {

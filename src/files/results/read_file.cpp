@@ -16,6 +16,7 @@
 #include "session/driver/commands.h"
 #include "session/driver/read_run.h"
 #include "session/inputs/dialog_use.h"
+#include "session/recent_files.h"
 #include "session/undo.h"
 
 namespace lumivex {
@@ -198,7 +199,8 @@ void Read_File(Session& session) {
   const bool over = s.OverplotFromFile == 1;
   const auto path = apidialogbox(session, "*.lvx", "Lumivex file(*.lvx)",
                                  over ? "Select a file to overplot" : "Select a file of results", FileUse::Load);
-  if (path) ReadResultsFile(session, *path, over ? Onto::PageOnScreen : Onto::FreshPage);
+  if (path && ReadResultsFile(session, *path, over ? Onto::PageOnScreen : Onto::FreshPage))
+    NoteFile(session, FileKind::Results, *path);
   s.OverplotFromFile = 0;
 }
 

@@ -11,7 +11,7 @@ namespace lumivex {
 
 namespace {
 
-constexpr std::uintmax_t largestFile = 1U << 20U;
+constexpr std::uintmax_t largestFile = 1U << 24U;
 /// Far more than there are; a file of nothing but sections is damaged.
 constexpr std::size_t mostSections = 1000;
 

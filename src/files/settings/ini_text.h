@@ -50,7 +50,7 @@ class IniText {
 };
 
 /// The text of a file that the program wrote for itself; nothing where there is no regular file, it cannot be read, or
-/// it is larger than any of ours (a megabyte), so that whatever stands in its place costs no time.
+/// it is larger than any of ours (16 megabytes), so that whatever stands in its place costs no time.
 std::optional<std::string> ReadOwnFile(const std::string& path);
 
 }  // namespace lumivex

@@ -6,6 +6,7 @@
 #include <system_error>
 #include <vector>
 
+#include "files/settings/ini_text.h"
 #include "files/settings/session_text.h"
 #include "record/text_file.h"
 #include "session/undo.h"
@@ -16,7 +17,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view running = "Running";
 constexpr std::string_view fileStart = "Lumivex-", fileEnd = ".session";
 
 /// A name that two programs do not share, on however many machines.
@@ -27,14 +27,8 @@ std::string FileNameOf(const ProgramIdentity& program) {
   return std::string(fileStart) + host + '-' + program.process + std::string(fileEnd);
 }
 
-void Write(Session& session, const std::string& path, const ProgramIdentity* program) {
-  IniText text = InputsAsText(session);
-  if (program != nullptr) {
-    text.Set(running, "Host", program->host);
-    text.Set(running, "Boot", program->boot);
-    text.Set(running, "Process", program->process);
-  }
-  WriteWholeFile(path, Sealed(text));
+void Write(Session& session, const std::string& path, const ProgramIdentity& keeper) {
+  WriteWholeFile(path, Sealed(SessionText(session, keeper)));
 }
 
 /// Whether a file was left behind by a program that does not run any more. A damaged one was: files are renamed into
@@ -42,11 +36,9 @@ void Write(Session& session, const std::string& path, const ProgramIdentity* pro
 bool IsLeft(const fs::path& path, const ProgramIdentity& here) {
   const auto content = ReadOwnFile(path.string());
   const auto text = content ? Unsealed(*content) : std::nullopt;
-  if (!text) return true;
-  const auto value = [&](std::string_view key) { return text->Value(running, key).value_or(""); };
-  const ProgramIdentity program{value("Host"), value("Boot"), value("Process")};
+  const auto keeper = text ? KeeperOf(*text) : std::nullopt;
   // The number of a process comes again: a file that is there before this program has written any is not its own.
-  return program == here || !MayRun(program);
+  return !keeper || *keeper == here || !MayRun(*keeper);
 }
 
 std::vector<fs::path> LeftBehind(const std::string& folder, const ProgramIdentity& here) {
@@ -90,7 +82,7 @@ bool BeginSession(Session& session, const ProgramIdentity& program) {
   const bool recovered = Recover(LeftBehind(settings.folder, program), settings.lastSessionFile);
   if (!program.process.empty()) settings.sessionFile = (fs::path(settings.folder) / FileNameOf(program)).string();
   settings.program = program;
-  settings.inputsAtStart = InputsAsText(session).Write();
+  settings.inputsAtStart = SessionText(session, {});
   std::error_code error;
   session.form1.mnuContinueSession.Enabled = fs::is_regular_file(settings.lastSessionFile, error);
   return recovered;
@@ -98,13 +90,15 @@ bool BeginSession(Session& session, const ProgramIdentity& program) {
 
 void Run_Ended(Session& session) {
   const auto& settings = session.settings;
-  if (!settings.sessionFile.empty()) Write(session, settings.sessionFile, &settings.program);
+  // What a batch sets is not the user's.
+  if (session.state.BatchActive != 0 || settings.sessionFile.empty()) return;
+  Write(session, settings.sessionFile, settings.program);
 }
 
 void EndSession(Session& session) {
   auto& settings = session.settings;
   if (settings.lastSessionFile.empty()) return;
-  if (InputsAsText(session).Write() != settings.inputsAtStart) Write(session, settings.lastSessionFile, nullptr);
+  if (SessionText(session, {}) != settings.inputsAtStart) Write(session, settings.lastSessionFile, {});
   std::error_code ignored;
   if (!settings.sessionFile.empty()) fs::remove(settings.sessionFile, ignored);
   settings.sessionFile.clear();

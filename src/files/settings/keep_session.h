@@ -14,7 +14,8 @@ inline constexpr const char* lastSessionName = "Lumivex.session";
 /// @return whether a program has ended so, and its session may be offered to the user.
 bool BeginSession(Session& session, const ProgramIdentity& program);
 
-/// A run has ended: writes the inputs, so that they outlive a crash. Nothing is said of a failure.
+/// A run has ended: writes the inputs, so that they outlive a crash; not those of a batch. Nothing is said of a
+/// failure.
 void Run_Ended(Session& session);
 
 /// The program ends: its inputs become the last session, unless they are still those of the start.

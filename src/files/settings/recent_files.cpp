@@ -1,6 +1,6 @@
 #include "files/settings/recent_files.h"
 
-#include "session/dropped_files.h"
+#include "files/open_file.h"
 #include "session/inputs/materials/material_menus.h"
 #include "session/inputs/materials/read_ref_index.h"
 #include "session/recent_files.h"
@@ -16,7 +16,7 @@ void OpenRecentFile(Session& session, std::size_t place) {
   } else if (file.kind == FileKind::MediumIndex) {
     if (ReadRefIndex2(session, file.path)) UseFileTable2(session);
   } else {
-    DropFiles(session, {&file.path, 1});
+    OpenFile(session, file.path);
   }
 }
 

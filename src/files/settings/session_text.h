@@ -4,28 +4,26 @@
 #include <string>
 #include <string_view>
 
-#include "files/settings/ini_text.h"
 #include "record/session.h"
 
 namespace lumivex {
 
-/// The inputs of a session as text: every control that a user sets by the names of form and control, the codes of graph
-/// and method, the names and settings that follow from them, the captions of the panel, and the paths of the input
-/// files in use.
-IniText InputsAsText(Session& session);
+/// The inputs of a session as the text of a file: who keeps it, every control that a user sets, what follows from them,
+/// and the tables of the input files in use, so that nobody needs these again. The same lines as those of the inputs in
+/// a results file (files/results/own_block.h).
+/// @param keeper  the program that keeps it while it runs; without a process for a session that has ended.
+std::string SessionText(Session& session, const ProgramIdentity& keeper);
 
-/// The same back: what the text does not name, or names as nothing that there is, stays as it is in the session.
-InputState InputsFromText(Session& session, const IniText& text);
+/// The program that keeps a session; nothing where the text is none of a session.
+std::optional<ProgramIdentity> KeeperOf(const std::string& text);
 
-/// Names that follow from what the user did, beside the inputs: those of the record and the menu's of the materials.
-void RestoreNames(Session& session, const IniText& text);
-
-/// The path of the input file of that kind; empty for none.
-std::string FileIn(const IniText& text, FileKind kind);
+/// Puts the inputs of a text in the place of the session's. Events are held back, the page and the results stay.
+/// @return empty, or in a few words why nothing was changed.
+std::string TakeSession(Session& session, const std::string& text);
 
 /// A text with the sum over all of it at its end, by which a damaged one is told.
-std::string Sealed(const IniText& text);
-/// Nothing where the sum is missing or another.
-std::optional<IniText> Unsealed(std::string_view text);
+std::string Sealed(std::string text);
+/// The text without its seal; nothing where the sum is missing or another.
+std::optional<std::string> Unsealed(std::string_view text);
 
 }  // namespace lumivex

@@ -4,14 +4,12 @@
 #include "files/settings/keep_session.h"
 #include "files/settings/recent_files.h"
 #include "files/settings/save_ini.h"
-#include "session/recent_files.h"
 
 namespace lumivex {
 
 namespace {
 
 constexpr SettingsEvent rows[] = {
-    {"Session_Loaded", ShowRecentFiles},
     {"Settings_Changed", Save_ini},
     {"Run_Ended", Run_Ended},
     {"mnuContinueSession_Click", mnuContinueSession_Click},

@@ -17,6 +17,8 @@ struct Form1Menus : Form1Inputs {
   MenuEntry mnuRecent{*this, "mnuRecent", "Recent files"};
   NumberedEntries recentEntries{*this, recentEntryNames};
   MenuEntry mnuClearRecent{*this, "mnuClearRecent", "Clear this list"};
+  MenuEntry mnuExamples{*this, "mnuExamples", "Open example"};
+  NumberedEntries exampleEntries{*this, exampleEntryNames};
   MenuEntry mnuContinueSession{*this, "mnuContinueSession", "Continue last session", false,
                                "Every input as it was when the program was last closed"};
   MenuEntry mnuSavePicture{*this, "mnuSavePicture", "Save picture ..."};

@@ -21,6 +21,7 @@ constexpr std::array menuRows = {
     MenuRow{"File/Recent files", "mnuRecent#"},
     MenuRow{"File/Recent files", "-"},
     MenuRow{"File/Recent files", "mnuClearRecent"},
+    MenuRow{"File/Open example", "mnuExample#"},
     MenuRow{"File", "mnuContinueSession"},
     MenuRow{"File", "-"},
     MenuRow{"File", "mnuSavePicture", Always, "Ctrl+P"},
@@ -184,6 +185,7 @@ constexpr std::array menuRows = {
 
 constexpr std::array submenuRows = {
     SubmenuRow{"File/Recent files", "mnuRecent"},
+    SubmenuRow{"File/Open example", "mnuExamples"},
     SubmenuRow{"Light/Spectrum", "mnuSpectrum"},
     SubmenuRow{"Light/Illumination", "mnuIllumination"},
     SubmenuRow{"Colour/Gamma", "mnuGamma"},
@@ -201,6 +203,7 @@ struct NumberedRow {
 };
 constexpr std::array numberedRows = {
     NumberedRow{"mnuRecent#", recentEntryNames},
+    NumberedRow{"mnuExample#", exampleEntryNames},
 };
 
 }  // namespace
