@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 #include <QUrl>
 
+#include "files/results/save_data.h"
 #include "session/user_actions.h"
 #include "source_folder.h"
 #include "window_fixture.h"
@@ -52,6 +53,20 @@ TEST_F(DropTest, AFileIsReadAndPutToUse) {
   program.Window().ActionOf(Form().mnuUndo)->trigger();
   program.Window().ActionOf(Form().mnuUndo)->trigger();
   EXPECT_FALSE(Form().optDisp.Checked) << "a drop is one step of undo";
+}
+
+TEST_F(DropTest, ResultsComeBackAndCanBeUndone) {
+  const QTemporaryDir folder;
+  const QString path = folder.filePath("run.lvx");
+  ASSERT_EQ(Save_Data(Now(), path.toStdString()), "");
+  program.Gate().Do([this] { UserTypes(Now(), Form().txtRadius, "3"); });
+  EXPECT_FALSE(Form().cmdReplot.Enabled);
+  ASSERT_TRUE(Drop(path));
+  EXPECT_TRUE(messages.empty()) << messages.front();
+  EXPECT_EQ(Form().txtRadius.Text, "10");
+  EXPECT_TRUE(Form().cmdReplot.Enabled);
+  program.Window().ActionOf(Form().mnuUndo)->trigger();
+  EXPECT_EQ(Form().txtRadius.Text, "3");
 }
 
 TEST_F(DropTest, ASpectrumWaitsForAGraphOfSeveralWavelengthsAndSaysSo) {
