@@ -15,8 +15,8 @@ std::vector<std::string> RunParameters(const Session& session);
 void cmdInfo_Click(Session& session);
 
 /// What the status line tells: how far the present run is; between runs the wavelengths that would work, where the
-/// chosen axis goes beyond those of a material; otherwise the remark on the results on show, or method, terms and time of
-/// the last run.
+/// chosen axis goes beyond those of a material; otherwise the remark on the results on show, or method, terms and time
+/// of the last run.
 std::string StatusText(const Session& session);
 
 }  // namespace lumivex

@@ -132,7 +132,8 @@ bool ShapesThePage(std::string_view name) {
       "mnuDot",         "mnuSmall",         "mnuMedium",   "mnuLarge",     "mnuVLarge",
       "mnuWhite",       "mnuGrey",          "mnuBlack",    "mnuDefault",   "mnuRestoreDefaults",
       "mnuTrueColour",  "mnuDataVisible"};
-  constexpr std::string_view families[] = {"mnuSize", "mnuDrawWidth", "mnuMajor", "mnuMinor", "mnuLogo", "mnuHideLogo"};
+  constexpr std::string_view families[] = {"mnuSize", "mnuDrawWidth", "mnuMajor",  "mnuMinor",
+                                           "mnuLogo", "mnuHideLogo",  "mnuExample"};
   if (name == "mnuSize" || name == "mnuSizeDist") return false;
   return std::ranges::find(looks, name) != std::end(looks) || name.ends_with("Line") || name == "mnuMoreColours" ||
          std::ranges::any_of(families, [&](std::string_view family) { return name.starts_with(family); });

@@ -55,7 +55,7 @@ void Overplot(Session& session, const RunRequest& request, Onto onto) {
   else
     watch.Forget();
   if (end.hasResults) {
-      // What was done before a Stop is on the page at once: page, tables and record tell of the same run.
+    // What was done before a Stop is on the page at once: page, tables and record tell of the same run.
     if (end.outcome == Outcome::Done)
       DisplayRun(session, onto);
     else
