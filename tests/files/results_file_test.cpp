@@ -145,6 +145,25 @@ TEST_F(ResultsFiles, AFileThatFailsHalfwayLeavesTheSessionAsItWas) {
   }
 }
 
+// Each setting that came new would otherwise have closed every file of before.
+TEST_F(ResultsFiles, SettingsAreFoundByNameAndMayBeMissing) {
+  Do("set txtRadius 2\nset cboStep 30\nclick cmdNewPlot");
+  const std::string drawn = Drawn();
+  Save("good.lvx");
+  std::string text = Content("good.lvx");
+  const auto at = text.find("\nDistance ");
+  ASSERT_NE(at, std::string::npos);
+  text.replace(at, text.find('\n', at + 1) - at, "\nOfAnotherVersion 1e300");
+  Write("other.lvx", text);
+  Do("reset");
+  Load("other.lvx");
+  EXPECT_TRUE(Shown().empty()) << LastText();
+  EXPECT_EQ(Drawn(), drawn);
+  text.replace(text.find("\nIncidentDensity ") + 17, 1, "x");
+  Write("bad.lvx", text);
+  EXPECT_NE(Refused("bad.lvx").find("a number should stand there"), std::string::npos);
+}
+
 TEST_F(ResultsFiles, NoLineOfRubbishHarms) {
   Do("set txtRadius 2\nset cboStep 30\nclick cmdNewPlot");
   Save("good.lvx");

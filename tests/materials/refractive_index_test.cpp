@@ -327,6 +327,7 @@ TEST(IndexFormulas, AgreeWithPublishedIndices) {
   };
   for (const auto& row : published)
     EXPECT_NEAR(DispersionFormula(row.number, row.coefficients, row.lambda), row.n, 1e-5) << row.what;
+  EXPECT_NEAR(DispersionFormula(7, std::vector<double>{1, 0, 0, 0, 0, 0.01}, 2), 1.64, 1e-12) << "the sixth power";
   EXPECT_TRUE(std::isnan(DispersionFormula(10, silica, 0.5)));
   EXPECT_NEAR(AirIndex(0.5893, 15), 1.0002765, 1e-6);
   EXPECT_NEAR(AbsorptionOfDielectric(1.775744, 4.6906e-8), 4.6906e-8 / (2 * 1.332570), 1e-14);

@@ -251,6 +251,13 @@ TEST_F(Pages, ACloudAlongAnAxisKeepsTheSizesOfItsInputs) {
   EXPECT_LT(Drawn().histogram->high, 12);
 }
 
+TEST_F(Pages, SizesThatAreAllAlikeAreABarInTheMiddle) {
+  Do("click optDisp\nset cboN 5\nset cboSD 0\nclick cmdNewPlot");
+  ASSERT_TRUE(Drawn().histogram) << LastText();
+  EXPECT_NEAR(Drawn().histogram->low, 9, 1e-6);
+  EXPECT_NEAR(Drawn().histogram->high, 11, 1e-6);
+}
+
 TEST_F(Pages, ADebyeAnalysisIsSavedTermByTerm) {
   Do("choose cboType Debye\ndialog dlogDebyeSeq ok txtLimit=4\nclick mnuDebyeSequence\nclick cmdNewPlot\n"
      "click mnuCopyData");

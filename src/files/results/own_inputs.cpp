@@ -1,6 +1,13 @@
 #include <algorithm>
 #include <array>
+#include <charconv>
+#include <cmath>
+#include <functional>
+#include <limits>
+#include <map>
 #include <memory>
+#include <string>
+#include <string_view>
 
 #include "files/results/own_block.h"
 #include "session/undo.h"
@@ -102,6 +109,45 @@ void ReadValues(FileLines& lines, std::vector<NamedValue> values) {
   }
 }
 
+void TakeSetting(FileLines&, const std::string& text, std::string& value) {
+  value = text;
+}
+
+template <class Number>
+void TakeSetting(FileLines& lines, const std::string& text, Number& value) {
+  double number = 0;
+  const auto [stop, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  constexpr double most = std::numeric_limits<Number>::max();
+  if (error != std::errc() || stop != text.data() + text.size() || !(std::abs(number) <= most))
+    lines.Refuse("a number should stand there");
+  value = static_cast<Number>(number);
+}
+
+/// Settings by name, as inputs are: one that a file does not have keeps its value, and one that nobody knows is passed
+/// over.
+void WalkSettings(FileLines& lines, DialogSettings& settings) {
+  constexpr int most = 1000;
+  int count = 0;
+  ForEachSetting(settings, [&](std::string_view, auto&) { ++count; });
+  lines.Field("Settings", count);
+  if (!lines.Reading()) {
+    ForEachSetting(settings, [&](std::string_view name, auto& field) { lines.Field(name, field); });
+    return;
+  }
+  if (count < 0 || count > most) lines.Refuse("there are not so many settings");
+  std::map<std::string, std::string, std::less<>> texts;
+  std::string line;
+  for (int i = 0; i < count; ++i) {
+    lines.Text(line);
+    const auto blank = line.find(' ');
+    if (blank == std::string::npos) lines.Refuse("the name of a setting and its value should stand there");
+    texts[line.substr(0, blank)] = line.substr(blank + 1);
+  }
+  ForEachSetting(settings, [&](std::string_view name, auto& field) {
+    if (const auto at = texts.find(name); at != texts.end()) TakeSetting(lines, at->second, field);
+  });
+}
+
 void WalkIndexTable(FileLines& lines, const std::string& name, std::shared_ptr<const IndexTable>& shared) {
   bool there = shared != nullptr;
   lines.Field(name, there);
@@ -166,7 +212,7 @@ void WalkInputState(FileLines& lines, Session& sheet, InputState& state) {
     ReadValues(lines, values);
   else
     WriteValues(lines, values);
-  ForEachSetting(state.settings, [&](std::string_view name, auto& field) { lines.Field(name, field); });
+  WalkSettings(lines, state.settings);
   int colour = static_cast<int>(state.settings.pickedLineColour.value & 0xFFFFFF);
   lines.Field("PickedLineColour", colour);
   state.settings.pickedLineColour.value = static_cast<std::uint32_t>(colour) & 0xFFFFFF;
