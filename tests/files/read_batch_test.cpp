@@ -113,6 +113,15 @@ TEST_F(ReadBatch, FilesThatAreNoBatchFilesChangeNothing) {
   EXPECT_EQ(runner.Current().form1.Snapshot(), before);
 }
 
+TEST_F(ReadBatch, TheOutputNeverTakesThePlaceOfTheCommands) {
+  const std::string commands = "Lumivex 4200 batch file\nxstep\n90\nrun\nstop\n";
+  Put("job.min", commands);
+  EXPECT_NE(RunBatch(runner.Current(), {Path("job.min"), Path("../") + folder.filename().string() + "/job.min", true}),
+            BatchEnd::Done);
+  EXPECT_NE(LastText().find("The output needs a name of its own"), std::string::npos) << LastText();
+  EXPECT_EQ(Content("job.min"), commands);
+}
+
 TEST_F(ReadBatch, AListRunsItsFilesIntoOutputsOfTheirOwn) {
   const std::string job = "Lumivex 3403 batch file\n" + std::string(quick) + "run\nStop\n";
   Put("one.min", job);

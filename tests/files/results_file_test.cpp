@@ -145,6 +145,21 @@ TEST_F(ResultsFiles, AFileThatFailsHalfwayLeavesTheSessionAsItWas) {
   }
 }
 
+TEST_F(ResultsFiles, ResultsThatUndoHasLeftAreSavedAllTheSame) {
+  Do("set txtRadius 3\nset cboStep 30\nclick cmdNewPlot");
+  Save("three.lvx");
+  Do("set txtRadius 7\nclick cmdNewPlot");
+  Load("three.lvx");
+  Do("click mnuUndo");
+  Save("again.lvx");
+  EXPECT_EQ(OwnBlockOf(Content("again.lvx")).find("Form1.txtRadius 7"), std::string::npos);
+  std::string rows = Content("three.lvx").substr(0, Content("three.lvx").find(ownBlockLine));
+  ASSERT_FALSE(rows.empty());
+  const auto last = rows.rfind('\n', rows.size() - 2);
+  Write("nan.lvx", rows.substr(0, last) + "\n nan  nan  nan \n");
+  EXPECT_NE(Refused("nan.lvx").find("3 numbers"), std::string::npos);
+}
+
 // Each setting that came new would otherwise have closed every file of before.
 TEST_F(ResultsFiles, SettingsAreFoundByNameAndMayBeMissing) {
   Do("set txtRadius 2\nset cboStep 30\nclick cmdNewPlot");

@@ -1,6 +1,8 @@
 #include "files/batch/read_batch.h"
 
+#include <filesystem>
 #include <fstream>
+#include <system_error>
 
 #include "files/batch/batch_commands.h"
 #include "files/batch/batch_settings.h"
@@ -165,6 +167,10 @@ BatchEnd RunCommands(Session& session, const std::string& file, BatchCommands& c
   s.BatchVersion = commands.Version();
   s.OutputFileName = outputName;
   s.StepActive = 0;
+  // The output would take the place of the commands.
+  std::error_code none;
+  if (std::filesystem::equivalent(file, outputName, none))
+    return Tell(session, ErrorText(file, "\nThe output needs a name of its own"));
   PendingFile output(outputName);
   if (!output.Failure().empty()) return Tell(session, output.Failure());
   const BatchEnd end = BatchRun(session, file, commands, output).Do();

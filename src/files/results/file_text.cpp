@@ -89,7 +89,7 @@ bool ParseNumber(std::string_view token, Value& value) {
   } else if (parsed.ptr != token.data() + token.size()) {
     return false;
   }
-  return parsed.ec == std::errc() && !std::isinf(value);
+  return parsed.ec == std::errc() && std::isfinite(value);
 }
 
 template <class Value>

@@ -60,12 +60,14 @@ void WriteLimits(Form1& form, const RunRequest& asked) {
 }
 
 /// A sheet with the inputs that the last results were asked with: the present ones or, where these have been changed
-/// since, those that Undo would bring back. Null where they are gone.
+/// since, those that Undo or Redo would bring back. Null where they are gone.
 std::unique_ptr<InputSheet> SheetOfResults(Session& session) {
   const auto& results = session.state.LastResults;
   std::vector<InputState> candidates = {PresentInputs(session)};
   for (auto past = session.undo.past.rbegin(); past != session.undo.past.rend(); ++past)
     if (past->replots.lock() == results) candidates.push_back(*past);
+  for (auto future = session.undo.future.rbegin(); future != session.undo.future.rend(); ++future)
+    if (future->replots.lock() == results) candidates.push_back(*future);
   for (const InputState& candidate : candidates) {
     auto sheet = std::make_unique<InputSheet>(session);
     RestoreInputs(sheet->Inputs(), candidate);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 #include <filesystem>
+#include <iterator>
 #include <system_error>
 #include <vector>
 
@@ -27,8 +28,14 @@ std::string FileNameOf(const ProgramIdentity& program) {
   return std::string(fileStart) + host + '-' + program.process + std::string(fileEnd);
 }
 
-void Write(Session& session, const std::string& path, const ProgramIdentity& keeper) {
-  WriteWholeFile(path, Sealed(SessionText(session, keeper)));
+/// @return whether the file stands there now; the one of before stays where it does not.
+bool Write(Session& session, const std::string& path, const ProgramIdentity& keeper) {
+  return WriteWholeFile(path, Sealed(SessionText(session, keeper))).empty();
+}
+
+bool IsWhole(const fs::path& path) {
+  const auto content = ReadOwnFile(path.string());
+  return content && Unsealed(*content);
 }
 
 /// Whether a file was left behind by a program that does not run any more. A damaged one was: files are renamed into
@@ -53,21 +60,22 @@ std::vector<fs::path> LeftBehind(const std::string& folder, const ProgramIdentit
   return left;
 }
 
-/// The youngest of the sessions that were left behind becomes the last session.
+/// The youngest whole one of the sessions that were left behind becomes the last session.
 bool Recover(const std::vector<fs::path>& left, const std::string& last) {
   std::error_code error;
   const auto age = [](const fs::path& path) {
     std::error_code ignored;
     return fs::last_write_time(path, ignored);
   };
-  const auto youngest = std::ranges::max_element(left, {}, age);
+  std::vector<fs::path> whole;
+  std::ranges::copy_if(left, std::back_inserter(whole), IsWhole);
+  const auto youngest = std::ranges::max_element(whole, {}, age);
   bool recovered = false;
-  if (youngest != left.end()) {
-    const auto content = ReadOwnFile(youngest->string());
-    if (content && Unsealed(*content)) {
-      fs::rename(*youngest, last, error);
-      recovered = !error;
-    }
+  if (youngest != whole.end()) {
+    fs::rename(*youngest, last, error);
+    recovered = !error;
+    // Where the folder takes no change now, the next start finds it again.
+    if (!recovered) return false;
   }
   for (const auto& path : left) fs::remove(path, error);
   return recovered;
@@ -98,9 +106,10 @@ void Run_Ended(Session& session) {
 void EndSession(Session& session) {
   auto& settings = session.settings;
   if (settings.lastSessionFile.empty()) return;
-  if (SessionText(session, {}) != settings.inputsAtStart) Write(session, settings.lastSessionFile, {});
+  const bool kept = SessionText(session, {}) == settings.inputsAtStart || Write(session, settings.lastSessionFile, {});
+  // Of a session that could not be written at its end, what was kept after its last run is offered at the next start.
   std::error_code ignored;
-  if (!settings.sessionFile.empty()) fs::remove(settings.sessionFile, ignored);
+  if (kept && !settings.sessionFile.empty()) fs::remove(settings.sessionFile, ignored);
   settings.sessionFile.clear();
 }
 

@@ -249,6 +249,23 @@ TEST(KeepSession, WhatABatchSetsIsNotTheUsers) {
   EXPECT_EQ(folder.Files(), 0);
 }
 
+TEST(KeepSession, WhatCannotBeWrittenAtTheEndIsOfferedAtTheNextStart) {
+  const OwnFolder folder;
+  {
+    KeepingProgram program(folder, "5");
+    program.Do("set txtRadius 7\nclick cmdNewPlot");
+    // A folder in its place takes no file.
+    std::filesystem::create_directory(program.Now().settings.lastSessionFile);
+    EndSession(program.Now());
+    std::filesystem::remove(program.Now().settings.lastSessionFile);
+  }
+  folder.Write("Lumivex-host-99.session", "a younger one that is half a fi");
+  KeepingProgram next(folder, "6");
+  EXPECT_TRUE(next.recovered) << "the whole one, whatever is younger";
+  next.Do("click mnuContinueSession");
+  EXPECT_EQ(next.Now().form1.txtRadius.Text, "7");
+}
+
 TEST(KeepSession, ADamagedRestIsClearedAwayAndNotOffered) {
   const OwnFolder folder;
   folder.Write("Lumivex-host-5.session", "half a fi");
