@@ -160,6 +160,25 @@ TEST_F(ResultsFiles, ResultsThatUndoHasLeftAreSavedAllTheSame) {
   EXPECT_NE(Refused("nan.lvx").find("3 numbers"), std::string::npos);
 }
 
+TEST_F(ResultsFiles, InputsThatNoUserCanChooseAreRefused) {
+  Do("set txtRadius 2\nset cboStep 30\nclick cmdNewPlot");
+  Save("good.lvx");
+  const auto before = Everything();
+  for (const auto& [was, put] : {std::pair{"Form1.cboPol Both", "Form1.cboPol rubbish"},
+                                 {"Form1.cboDistrib Log-normal", "Form1.cboDistrib rubbish"},
+                                 {"Form1.optMono 1", "Form1.optMono 0"},
+                                 {"dlogTemp.txtTemp 5", "dlogTemp.txtTemp 500"},
+                                 {"dlogTemp.txtDensity 0.9999", "dlogTemp.txtDensity -1.999"}}) {
+    std::string text = Content("good.lvx");
+    for (auto at = text.find(was); at != std::string::npos; at = text.find(was, at + 1))
+      text.replace(at, std::string(was).size(), put);
+    ASSERT_NE(text, Content("good.lvx")) << was;
+    Write("bad.lvx", text);
+    EXPECT_NE(Refused("bad.lvx").find("cannot be run"), std::string::npos) << put << ": " << LastText();
+    EXPECT_TRUE(Everything() == before) << put;
+  }
+}
+
 // Each setting that came new would otherwise have closed every file of before.
 TEST_F(ResultsFiles, SettingsAreFoundByNameAndMayBeMissing) {
   Do("set txtRadius 2\nset cboStep 30\nclick cmdNewPlot");
