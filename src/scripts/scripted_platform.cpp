@@ -22,7 +22,8 @@ std::optional<Value> TakeFirst(std::deque<Value>& queue) {
 
 void ScriptedPlatform::Record(std::string_view title, std::string_view text) {
   messages.push_back({std::string(title), std::string(text)});
-  if (echo_ != nullptr) *echo_ << title << ": " << text << std::endl;
+  // One write a line, for processes that tell something at the same time.
+  if (echo_ != nullptr) *echo_ << std::string(title) + ": " + std::string(text) + "\n" << std::flush;
 }
 
 void ScriptedPlatform::Message(std::string_view title, std::string_view text) {

@@ -9,6 +9,7 @@
 #include <deque>
 #include <iostream>
 #include <map>
+#include <string>
 #include <thread>
 #include <vector>
 
@@ -21,6 +22,11 @@ extern char** environ;
 namespace lumivex {
 
 namespace {
+
+/// One write a line: processes that tell something at the same time do so line by line.
+void TellLine(const std::string& text) {
+  std::cerr << "lumivex-run: " + text + "\n" << std::flush;
+}
 
 struct Job {
   std::string file;
@@ -84,8 +90,8 @@ class JobQueue {
       return;
     }
     const bool startsAgain = !job.again && !WasInterrupted();
-    std::cerr << "lumivex-run: " << job.file << " was ended by signal " << WTERMSIG(status)
-              << (startsAgain ? " and is started again" : "") << std::endl;
+    TellLine(job.file + " was ended by signal " + std::to_string(WTERMSIG(status)) +
+             (startsAgain ? " and is started again" : ""));
     if (!startsAgain) return Fail(job, " failed");
     job.again = true;
     waiting_.push_front(job);
@@ -107,7 +113,7 @@ class JobQueue {
 
   void Fail(const Job& job, const std::string& what) {
     ++failed_;
-    std::cerr << "lumivex-run: " << job.file << what << std::endl;
+    TellLine(job.file + what);
   }
 
   const BatchJobs& batch_;
@@ -122,7 +128,7 @@ class JobQueue {
 
 bool RunBatchJobs(const BatchJobs& batch) {
   const BatchEntries entries = EntriesOfBatch(batch.list);
-  for (const auto& failure : entries.failures) std::cerr << "lumivex-run: " << failure << std::endl;
+  for (const auto& failure : entries.failures) TellLine(failure);
   WatchForInterrupt();
   const std::size_t failed = JobQueue(batch, entries.files).Do();
   return failed == 0 && entries.failures.empty();
