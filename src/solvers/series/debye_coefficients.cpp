@@ -7,6 +7,7 @@
 #include "solvers/functions/logarithmic_derivative.h"
 #include "solvers/functions/reciprocal_pair.h"
 #include "solvers/functions/spherical_bessel.h"
+#include "solvers/functions/wide_complex.h"
 
 namespace lumivex {
 
@@ -56,24 +57,6 @@ class RealFunctions {
 /// xi1, xi1', xi2, xi2' over F and tau = -4/F^2.
 struct Inside {
   ComplexD Xi1Z, DXi1Z, Xi2Z, DXi2Z, tau;
-};
-
-/// A complex number with an exponent of its own, value = mantissa 2^(512 exponent).
-struct WideComplex {
-  ComplexD mantissa;
-  int exponent = 0;
-
-  void Renew() {
-    constexpr double up = 0x1p512, down = 0x1p-512, high = 0x1p256, low = 0x1p-256;
-    const double size = std::fabs(mantissa.re) + std::fabs(mantissa.im);
-    if (size > high) {
-      mantissa = down * mantissa;
-      ++exponent;
-    } else if (size < low && size > 0.0) {
-      mantissa = up * mantissa;
-      --exponent;
-    }
-  }
 };
 
 /// The functions of a complex argument z = m x (or of a real one below x), n one after the other.
