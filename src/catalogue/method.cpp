@@ -10,7 +10,7 @@ constexpr auto yes = true;
 
 constexpr std::array rows = {
     MethodTraits{.method = Method::None},
-    MethodTraits{.method = Method::Mie, .series = yes, .efficiencies = yes, .beams = yes},
+    MethodTraits{.method = Method::Mie, .series = yes, .efficiencies = yes, .beams = yes, .divides = yes},
     MethodTraits{
         .method = Method::Debye, .series = yes, .showsP = yes, .needsP = yes, .efficiencies = yes, .beams = yes},
     MethodTraits{.method = Method::Rayleigh, .efficiencies = yes, .realIndexOnly = yes, .hasHidden = yes},
@@ -28,7 +28,7 @@ constexpr std::array rows = {
     MethodTraits{.method = Method::Aperture, .showsP = yes, .angleOnly = yes, .counts = Counted::Strips},
     MethodTraits{.method = Method::SurfaceWave, .showsP = yes, .beams = yes},
     MethodTraits{.method = Method::VanDeHulst, .angleOnly = yes},
-    MethodTraits{.method = Method::CoatedSphere, .series = yes, .efficiencies = yes, .layered = yes},
+    MethodTraits{.method = Method::CoatedSphere, .series = yes, .efficiencies = yes, .layered = yes, .divides = yes},
     MethodTraits{.method = Method::YoungAiry,
                  .showsP = yes,
                  .needsP = yes,

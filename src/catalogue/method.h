@@ -42,6 +42,7 @@ struct MethodTraits {
   bool angleOnly = false;         ///< is calculated against scattering angle only
   bool takesDiffraction = false;  ///< diffraction can be added
   bool hasHidden = false;         ///< offers the diagnostics
+  bool divides = false;           ///< its amplitudes can be divided by x
   Counted counts = Counted::Nothing;
 };
 

@@ -9,6 +9,7 @@
 #include "pages/frame/polar_plot.h"
 #include "pages/items/huygens_drawing.h"
 #include "pages/items/phasor_diagram.h"
+#include "pages/items/profile_graph.h"
 #include "pages/items/readings.h"
 #include "pages/items/size_histogram.h"
 #include "pages/items/two_angle_chart.h"
@@ -114,6 +115,7 @@ void Paint(const Page& page, DrawingSurface& surface) {
     PaintLee(surface, page);
   else
     for (std::size_t i = 0; i < page.panels.size(); ++i) PaintPanel(surface, page, i, polarLabels);
+  if (page.profile) PaintProfile(surface, *page.profile);
   PaintSheet(surface, page.sheet);
   if (page.phasors) PaintPhasors(surface, *page.phasors, page.style.ground);
   PaintTwoAngleNotes(surface, page);

@@ -35,7 +35,7 @@ std::string Materials(const RunWords& words) {
 }
 
 bool SumsSeries(const MethodOptions& method) {
-  return method.method == Method::Mie || method.method == Method::Debye || method.method == Method::CoatedSphere;
+  return method.method == Method::Mie || method.method == Method::Debye || TraitsOf(method.method).layered;
 }
 
 /// Shortest and longest of the first wavelengths of a spectrum.
@@ -107,11 +107,20 @@ int WavelengthsIn(const Results& results) {
   return std::max(found != nullptr ? found->done : results.asked.Wavelengths(), 1);
 }
 
+/// The lines of a text.
+void AddLines(std::string_view text, std::vector<std::string>& lines) {
+  while (!text.empty()) {
+    const auto end = text.find('\n');
+    lines.push_back("   " + std::string(text.substr(0, end)));
+    text = end == text.npos ? "" : text.substr(end + 1);
+  }
+}
+
 void AddMethod(const Results& results, std::vector<std::string>& lines) {
   const RunRequest& asked = results.asked;
   lines.push_back("Method: " + asked.words.method);
-  if (asked.method.method != Method::Mie && !asked.words.methodLabel.empty())
-    lines.push_back("   " + asked.words.methodLabel);
+  if (asked.method.method != Method::Mie) AddLines(asked.words.methodLabel, lines);
+  if (!asked.words.paths.empty()) lines.push_back("   Ray paths: " + asked.words.paths);
   lines.push_back("Graph: " + asked.words.graph);
   if (asked.light.spectrum) {
     const int done = WavelengthsIn(results);
@@ -181,6 +190,24 @@ void AddIndex(const Results& results, bool medium, const std::string& middle, st
   if (const std::string index = IndexOf(results, medium); !index.empty()) lines.push_back("   n = " + index + middle);
 }
 
+/// What of a cloud of coated spheres stays as it is.
+std::string VariationWords(const Particle& particle) {
+  if (!particle.core) return "";
+  switch (particle.core->sizes) {
+    case CoatedSizes::FixedCore:
+      break;
+    case CoatedSizes::FixedRatio:
+      return ", radii in a fixed ratio";
+    case CoatedSizes::FixedCoating:
+      return " of the cores, coating fixed";
+  }
+  return ", core fixed";
+}
+
+std::string LayersWords(const ProfileLayers& layers) {
+  return std::to_string(layers.layers) + " layers, " + (layers.byTangents ? "old code" : "new code");
+}
+
 void AddSphere(const Results& results, const std::string& middle, std::vector<std::string>& lines) {
   const RunRequest& asked = results.asked;
   if (HasRadius(asked)) {
@@ -188,7 +215,16 @@ void AddSphere(const Results& results, const std::string& middle, std::vector<st
     if (!WavelengthRange(asked) && !Sweeps(asked.run, Swept::MediumIndex))
       lines.push_back("Size parameter x: " + Number(results.last.sizeParameter) + middle);
   }
-  if (asked.Cloud()) lines.push_back("Sizes: " + SizesWords(asked));
+  if (asked.Cloud()) lines.push_back("Sizes: " + SizesWords(asked) + VariationWords(asked.particle));
+  if (asked.method.method == Method::InhomogeneousSphere) {
+    lines.push_back("Sphere: " + asked.words.sphere);
+    lines.push_back("   " + LayersWords(asked.method.layers));
+    return;
+  }
+  if (asked.particle.core) {
+    lines.push_back(asked.words.core);
+    lines.push_back("   n = " + IndexWords(results.last.core.n, results.last.core.k) + middle);
+  }
   AddIndex(results, false, middle, lines);
 }
 
@@ -259,8 +295,16 @@ std::string SizeMark(const Results& results) {
   return SizesWords(asked) + (radius.empty() ? "" : ", " + radius);
 }
 
+/// What tells spheres in layers from others; empty for a homogeneous one.
+std::string LayersMark(const RunRequest& asked) {
+  if (asked.method.method == Method::InhomogeneousSphere) return asked.words.sphereName;
+  if (!asked.particle.core) return "";
+  return asked.words.core + "; " + asked.words.sphere;
+}
+
 std::string MaterialMark(const Results& results, bool medium) {
   const RunRequest& asked = results.asked;
+  if (!medium && TraitsOf(asked.method.method).layered) return LayersMark(asked);
   const Material& material = medium ? asked.particle.medium : asked.particle.sphere;
   const bool varied = !medium && (asked.graph.VariesIndex() || std::holds_alternative<TwoAngleRun>(asked.run));
   const std::string name(Trim(medium ? asked.words.mediumName : asked.words.sphereName));
@@ -312,7 +356,9 @@ std::string RunTitleOf(const Results& results) {
 }
 
 std::string MethodLabelOf(const Results& results) {
-  return results.asked.words.methodLabel;
+  // Beside the title there is room for one line.
+  const std::string& label = results.asked.words.methodLabel;
+  return label.substr(0, label.find('\n'));
 }
 
 std::vector<std::string> ParameterLinesOf(const Results& results) {
@@ -390,11 +436,15 @@ std::vector<std::string> FinerMarksOf(const Results& results) {
   const AxisRun* axis = AxisOf(asked.run);
   if (axis != nullptr) step = axis->step;
   const bool logSteps = axis != nullptr && axis->logSteps;
-  return {sphere.empty() ? "" : "n = " + sphere, medium.empty() ? "" : "medium n = " + medium,
+  return {sphere.empty() ? "" : "n = " + sphere,
+          medium.empty() ? "" : "medium n = " + medium,
           step == 0  ? ""
           : logSteps ? CountOf(step, "step")
                      : "step " + Number(step),
-          asked.words.method, OnOneLine(asked.words.methodLabel)};
+          asked.words.method,
+          OnOneLine(asked.words.methodLabel),
+          asked.words.paths,
+          asked.method.method == Method::InhomogeneousSphere ? LayersWords(asked.method.layers) : ""};
 }
 
 std::string TimeWords(double seconds) {

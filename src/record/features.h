@@ -45,7 +45,7 @@ inline constexpr std::array availableFeatures = {
     Feature::DebyeSeries,    Feature::RayOptics,          Feature::AiryTheory,   Feature::SimpleScattering,
     Feature::AngleIntensity, Feature::AngleFamily,        Feature::AxisFamilies, Feature::VolumeGraphs,
     Feature::GraphLook,      Feature::SeveralWavelengths, Feature::ColourBars,   Feature::LeeDiagrams,
-    Feature::Maps,           Feature::BatchFiles,
+    Feature::Maps,           Feature::BatchFiles,         Feature::CoatedSphere, Feature::InhomogeneousSphere,
 };
 
 constexpr bool IsAvailable(Feature feature) {

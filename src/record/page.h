@@ -211,6 +211,13 @@ struct PageHistogram {
   std::string caption;
 };
 
+/// A refractive index against the distance from the centre of a sphere, 1 at its surface.
+struct PageProfile {
+  std::vector<double> r, n;        ///< points of the curve; not a number where there is no index: it breaks there
+  std::vector<double> layers;      ///< index of each of the layers of equal depth; empty where they are too many to see
+  double lowest = 1, highest = 2;  ///< ends of the vertical axis
+};
+
 /// A line of readings.
 struct PageLine {
   std::string text;
@@ -267,10 +274,11 @@ struct Page {
   std::vector<HuygensWave> wavefronts;  ///< in the strip over the graph
   std::vector<PageLine> readings;       ///< of the last run
   std::optional<PageHistogram> histogram;
-  std::optional<PageMap> map;      ///< a Lee diagram or a map, a panel a picture
-  std::vector<PageRun> runs;       ///< in the order drawn
-  std::size_t runsLeftOut = 0;     ///< oldest ones that gave way to others
-  std::vector<std::string> sheet;  ///< lines of text that stand in place of a graph
+  std::optional<PageProfile> profile;  ///< in place of a graph
+  std::optional<PageMap> map;          ///< a Lee diagram or a map, a panel a picture
+  std::vector<PageRun> runs;           ///< in the order drawn
+  std::size_t runsLeftOut = 0;         ///< oldest ones that gave way to others
+  std::vector<std::string> sheet;      ///< lines of text that stand in place of a graph
 
   /// Whether there is no graph.
   bool Empty() const { return panels.empty() && !phasors; }

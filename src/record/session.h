@@ -17,7 +17,7 @@ namespace lumivex {
 /// A window with a drawing: its form, what is drawn, and what it is drawn on.
 struct Window {
   Form* form = nullptr;
-  DrawingSurface* surface = nullptr;
+  DrawingSurface* surface = nullptr;  ///< null for a dialog with a picture: whoever shows it paints the page there
   Page page = {};
 };
 
@@ -31,7 +31,9 @@ struct Remark {
 /// Plain data; OpenSession (session/session_start) ties one together and starts it.
 struct Session {
   Session(Platform& outsideWorld, DrawingSurface& graphSurface, Events& eventTable)
-      : platform(outsideWorld), windows{Window{&forms.form1, &graphSurface}}, events(eventTable) {}
+      : platform(outsideWorld),
+        windows{Window{&forms.form1, &graphSurface}, Window{&forms.dlogInhomSphere}},
+        events(eventTable) {}
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
 

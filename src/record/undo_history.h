@@ -27,6 +27,7 @@ struct DialogSettings {
   double mapReference = 0, mapReferenceThird = 0;
   int mapReferenceKind = 0;
   SellmeierChoice sellmeier;
+  LayerLabels layers;
   bool operator==(const DialogSettings&) const = default;
 };
 

@@ -31,8 +31,12 @@ void AppendIntensities(const AmplitudeTable& S, RowWindow window, std::vector<do
 
 FamilyEnd RunOneSphere(const RunRequest& request, const AngleRows& rows, const Setting& setting, TaskPool& pool,
                        Results& results) {
-  SphereSolution sphere = SolveInParts(
-      request.method, {setting.x, setting.mRe, setting.mIm, AngleGrid(rows.NANG), rows.window, nullptr}, pool);
+  SphereAsked asked{setting.x, setting.mRe, setting.mIm, AngleGrid(rows.NANG), rows.window, nullptr};
+  AskForLayers(request.particle, setting, setting.radius, asked);
+  // Here, for the root of a profile that has none would count as an arithmetic failure of the task.
+  if (TraitsOf(request.method.method).layered)
+    if (Refusal beyond = BeyondLimits(request.method, asked); !beyond.text.empty()) return {false, std::move(beyond)};
+  SphereSolution sphere = SolveInParts(request.method, asked, pool);
   if (sphere.Refused()) return {false, sphere.refusal};
   if (sphere.rows.Empty()) return {};
   TellSphere(sphere, results.last);

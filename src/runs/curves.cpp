@@ -85,7 +85,7 @@ void Scale(Curves& curves, double factor) {
 
 /// |S|^2 of the sphere itself, also where the amplitudes were divided by x.
 double UndoDivision(const Results& results) {
-  const bool divided = results.asked.method.method == Method::Mie && SphereOptions(results.asked).divideBySize;
+  const bool divided = SphereOptions(results.asked).divideBySize;
   return divided ? results.last.sizeParameter * results.last.sizeParameter : 1;
 }
 

@@ -111,6 +111,37 @@ Sums SumDebye(const RunRequest& request, const Setting& setting, const Point& at
   return sums;
 }
 
+/// Of a coated sphere: the running sums of the whole, or of its selected terms.
+Sums SumCoated(const RunRequest& request, const Setting& setting, const Point& at, RunMonitor& monitor) {
+  SphereAsked asked{setting.x, setting.mRe, setting.mIm, AngleGrid(tenthsTo90), {}, nullptr};
+  AskForLayers(request.particle, setting, setting.radius, asked);
+  Sums sums;
+  sums.sphere = SolveSphere(request.method, asked, monitor);
+  sums.refusal = sums.sphere.refusal;
+  if (sums.sphere.Refused()) return sums;
+  sums.found.waves = CoatedWavesBeyond(request.method, asked, monitor);
+  ConvergenceSeries series = SumConvergence(sums.found.waves, at.angle);
+  sums.found.perpendicular = std::move(series.perpendicular);
+  sums.found.parallel = std::move(series.parallel);
+  sums.found.unpolarised = std::move(series.unpolarised);
+  sums.sphere.NSTOP = sums.found.waves.Terms();
+  sums.found.S1 = std::move(sums.sphere.S1);
+  sums.found.S2 = std::move(sums.sphere.S2);
+  SumAtAngle(sums.found, at, request.method.divideBySize ? 1 / setting.x : 1, monitor);
+  return sums;
+}
+
+Sums SumSeries(const RunRequest& request, const Setting& setting, const Point& at, RunMonitor& monitor) {
+  switch (request.method.method) {
+    case Method::Debye:
+      return SumDebye(request, setting, at, monitor);
+    case Method::CoatedSphere:
+      return SumCoated(request, setting, at, monitor);
+    default:
+      return SumMie(request, setting, at, monitor);
+  }
+}
+
 }  // namespace
 
 FamilyEnd RunConvergence(const RunRequest& request, const ConvergenceRun& run, TaskPool& pool, Results& results) {
@@ -122,8 +153,7 @@ FamilyEnd RunConvergence(const RunRequest& request, const ConvergenceRun& run, T
   TaskList one;
   one.count = 1;
   one.work = [&](std::size_t, std::size_t, RunMonitor& monitor) {
-    sums = request.method.method == Method::Debye ? SumDebye(request, at.setting, point, monitor)
-                                                  : SumMie(request, at.setting, point, monitor);
+    sums = SumSeries(request, at.setting, point, monitor);
     return monitor.Report(1, 1) && sums.refusal.text.empty();
   };
   one.take = [](std::size_t, std::size_t) { return true; };

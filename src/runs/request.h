@@ -12,6 +12,8 @@
 #include "materials/index/material.h"
 #include "particles/size_distribution.h"
 #include "solvers/angles/angle_grid.h"
+#include "solvers/layers/coated_paths.h"
+#include "solvers/layers/index_profile.h"
 #include "solvers/patterns/simple_scattering.h"
 #include "solvers/rays/ray_series.h"
 
@@ -25,6 +27,13 @@ struct PartialWaveRange {
   double first = 0.2, last = 0.4;
 };
 
+/// How a sphere whose index goes with the radius is taken apart into uniform layers.
+struct ProfileLayers {
+  IndexProfile profile;
+  int layers = 128;
+  bool byTangents = false;  ///< see LayeredSphereByTangents
+};
+
 /// How one sphere is calculated, whatever its size.
 struct MethodOptions {
   Method method = Method::Mie;
@@ -33,24 +42,43 @@ struct MethodOptions {
   Difference difference = Difference::None;
   std::optional<PartialWaveRange> partialWaves;
   bool byRatio = false;       ///< Debye coefficients by continued fractions
-  bool divideBySize = false;  ///< Mie amplitudes are divided by x
+  bool divideBySize = false;  ///< amplitudes of the Mie series, or of a coated sphere, are divided by x
   bool classicStart = false;  ///< see ComputeMieTruncation
   DiffractionForm diffraction = DiffractionForm::Disc;
   bool forwardEfficiency = false;  ///< Rayleigh's Qext from the amplitude straight forward
   int counted = 90;                ///< rays of a wavefront, strips of an aperture
   float Qmin = 1, Qmax = 1;        ///< amplitudes of the glory of a ring
   RayBeam beam;
+  std::optional<std::vector<WeightedPath>> paths;      ///< of a coated sphere: its Debye terms alone that are wanted
+  WaveRecursion recursion = WaveRecursion::Automatic;  ///< of those
+  ProfileLayers layers;
 
   /// Of p = 0 alone.
   bool OnlyReflected() const { return rays.size() == 1 && rays[0] != 0; }
 };
 
-/// The sphere and the medium about it.
+/// What of a coated sphere stays as it is while its size varies.
+enum class CoatedSizes {
+  FixedCore,     ///< the coating grows about it
+  FixedRatio,    ///< of both radii
+  FixedCoating,  ///< a core of another size has a coating of the same depth
+};
+
+/// The core of a coated sphere.
+struct SphereCore {
+  double radius = 7.5;  ///< um, less than that of the sphere
+  Material material = FixedIndex{1.5, 0};
+  CoatedSizes sizes = CoatedSizes::FixedCore;
+};
+
+/// The sphere and the medium about it. Of a coated sphere `sphere` is the coating; of one whose index is a profile it
+/// is the outermost layer.
 struct Particle {
   double radius = 10;               ///< um
   std::optional<double> sizeTyped;  ///< the size parameter, where that was given instead of a radius
   Material sphere = FixedIndex{1.33, 0};
   Material medium = Vacuum{};
+  std::optional<SphereCore> core = std::nullopt;
 };
 
 /// Wavelengths with their weights and colours; first index 1.
@@ -152,6 +180,8 @@ struct RunWords {
   std::string methodLabel;    ///< the method with its p, partial waves and differences
   std::string rays;           ///< the p selected: "0, 2"
   std::string sphereName, mediumName;
+  std::string core;            ///< of a coated sphere: "Core: r1 = 7.5 um, n1 = 1.5"
+  std::string paths;           ///< of a coated sphere: the ways whose Debye terms are added
   std::string sphere, medium;  ///< "Sphere: Water (IAPWS 5C Complex)"
   std::string light;           ///< source of a spectrum
   std::string sizes;           ///< of a cloud: "Log-normal, Std Dev % 5, 20 samples"

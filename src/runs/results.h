@@ -40,6 +40,7 @@ struct LastSphere {
   double sizeParameter = 0;
   double waveNumber = 0;  ///< in the medium (1/m)
   OpticalIndices indices;
+  IndexValue core{0, 0};  ///< of a coated sphere, whose coating `indices` are; otherwise 0
   double relativeRe = 1, relativeIm = 0;
   Efficiencies efficiencies;  ///< of the sphere, or means over the cloud
   int NSTOP = 0, NMX = 0;

@@ -43,6 +43,7 @@ void TellSetting(const Setting& setting, LastSphere& last) {
   last.sizeParameter = setting.x;
   last.waveNumber = setting.WaveNumber();
   last.indices = setting.indices;
+  last.core = setting.core;
   last.relativeRe = setting.mRe;
   last.relativeIm = setting.mIm;
 }

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "runs/sphere_solver.h"
+#include "runs/watched.h"
 #include "solvers/series/debye_series.h"
 #include "solvers/series/mie_point.h"
 #include "solvers/series/mie_series.h"
@@ -18,20 +19,6 @@ constexpr double opaque = 700;
 bool OneAngle(const AngleGrid& grid) {
   return grid.NANG == 1;
 }
-
-/// Passes reports on and remembers whether a Stop was asked for.
-class Watched final : public RunMonitor {
- public:
-  explicit Watched(RunMonitor& outer) : outer_(outer) {}
-  bool Report(std::size_t index, std::size_t count) override {
-    goesOn = outer_.Report(index, count) && goesOn;
-    return goesOn;
-  }
-  bool goesOn = true;
-
- private:
-  RunMonitor& outer_;
-};
 
 SphereSolution MieAtAngle(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor) {
   Watched watched(monitor);

@@ -1,6 +1,7 @@
 #include "runs/settings.h"
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 #include <mutex>
 #include <numbers>
@@ -74,15 +75,24 @@ Shared SharedOf(const SettingsPlan& plan, TaskPool& pool) {
   return shared;
 }
 
-SphereAsked AskedAt(const SettingsPlan& plan, const Setting& setting, double x, const Shared& shared) {
+SphereAsked AskedAt(const SettingsPlan& plan, const Setting& setting, double radius, double x, const Shared& shared) {
   const auto pieces = shared.pieces.find({setting.mRe, setting.mIm});
-  return {x,
-          setting.mRe,
-          setting.mIm,
-          plan.grid,
-          plan.window,
-          shared.cosines,
-          pieces == shared.pieces.end() ? nullptr : pieces->second};
+  SphereAsked asked{x,
+                    setting.mRe,
+                    setting.mIm,
+                    plan.grid,
+                    plan.window,
+                    shared.cosines,
+                    pieces == shared.pieces.end() ? nullptr : pieces->second};
+  AskForLayers(plan.request.particle, setting, radius, asked);
+  return asked;
+}
+
+Refusal BeyondLimits(const RunRequest& request, const Setting& setting, double radius, double x) {
+  if (!TraitsOf(request.method.method).layered) return BeyondLimits(request.method, x, setting.mRe, setting.mIm);
+  SphereAsked asked{x, setting.mRe, setting.mIm, {}, {}, nullptr};
+  AskForLayers(request.particle, setting, radius, asked);
+  return BeyondLimits(request.method, asked);
 }
 
 /// How much comes before each task, of a plan that knows it.
@@ -99,7 +109,7 @@ std::function<double(std::size_t)> WorkBeforeTasks(const SettingsPlan& plan, std
 Refusal BeyondLimits(const SettingsPlan& plan) {
   for (std::size_t i = 0; i < plan.settings.size(); ++i) {
     const Setting setting = plan.settings[i];
-    if (Refusal beyond = BeyondLimits(plan.request.method, setting.x, setting.mRe, setting.mIm); !beyond.text.empty())
+    if (Refusal beyond = BeyondLimits(plan.request, setting, setting.radius, setting.x); !beyond.text.empty())
       return beyond;
   }
   return {};
@@ -109,7 +119,7 @@ Refusal BeyondLimits(const SettingsPlan& plan) {
 class SamplesCache {
  public:
   const CloudSamples& At(const RunRequest& request, double radius) {
-    if (!samples_ || radius != radius_) samples_ = std::make_shared<CloudSamples>(SamplesOf(request.sizes, radius));
+    if (!samples_ || radius != radius_) samples_ = std::make_shared<CloudSamples>(SamplesAt(request, radius));
     radius_ = radius;
     return *samples_;
   }
@@ -124,6 +134,16 @@ double LargestOf(const CloudSamples& samples) {
   for (std::size_t i = 1; i < samples.radius.size(); ++i)
     if (samples.weight[i] > 0) largest = std::max(largest, samples.radius[i]);
   return largest;
+}
+
+/// A cloud whose cores are of one size has no spheres smaller than these.
+Refusal SmallerThanCore(const Particle& particle, const CloudSamples& samples) {
+  if (!particle.core || particle.core->sizes != CoatedSizes::FixedCore) return {};
+  for (std::size_t i = 1; i < samples.radius.size(); ++i)
+    if (samples.weight[i] > 0 && samples.radius[i] > 0 && samples.radius[i] <= particle.core->radius)
+      return {"Input error", "The radius of the core must be less than the radius of the overall particle",
+              InputAtFault::Distribution};
+  return {};
 }
 
 bool IsActual(const SizeDistribution& sizes) {
@@ -145,6 +165,36 @@ double Setting::WaveNumber() const {
 
 double SizeParameterOf(double radius, double medium, double lambda) {
   return twoPi * radius * medium / lambda;
+}
+
+double CoreRadius(const SphereCore& core, double radiusOfAll, double radius) {
+  switch (core.sizes) {
+    case CoatedSizes::FixedCore:
+      break;
+    case CoatedSizes::FixedRatio:
+      return core.radius / radiusOfAll * radius;
+    case CoatedSizes::FixedCoating:
+      return radius - (radiusOfAll - core.radius);
+  }
+  return core.radius;
+}
+
+void AskForLayers(const Particle& particle, const Setting& setting, double radius, SphereAsked& asked) {
+  asked.medium = setting.indices.MediumInUse();
+  if (!particle.core) return;
+  asked.coreRatio = CoreRadius(*particle.core, particle.radius, radius) / radius;
+  asked.core = {setting.core.n / asked.medium, setting.core.k / asked.medium};
+}
+
+CloudSamples SamplesAt(const RunRequest& request, double radius) {
+  const auto& core = request.particle.core;
+  const bool ofCores = core && core->sizes == CoatedSizes::FixedCoating;
+  return SamplesOf(request.sizes, ofCores ? CoreRadius(*core, request.particle.radius, radius) : radius);
+}
+
+double RadiusOfSample(const Particle& particle, double sample) {
+  const auto& core = particle.core;
+  return core && core->sizes == CoatedSizes::FixedCoating ? sample + (particle.radius - core->radius) : sample;
 }
 
 SettingList::SettingList(std::vector<Setting> settings)
@@ -171,6 +221,14 @@ SettingResult SettingAt(const RunRequest& request, double lambda) {
   setting.indices = found.indices;
   setting.mRe = found.indices.RelativeRe();
   setting.mIm = found.indices.RelativeIm();
+  if (const auto& core = request.particle.core) {
+    const auto index = IndexAt(core->material, lambda).value;
+    if (!index || index->n == 0 || !std::isfinite(index->n)) {
+      result.refusal = {"Error", "Help! RI of sphere undefined"};
+      return result;
+    }
+    setting.core = *index;
+  }
   const double medium = found.indices.MediumInUse();
   const auto& typed = request.particle.sizeTyped;
   setting.radius = typed ? *typed * lambda / (twoPi * medium) : request.particle.radius;
@@ -197,7 +255,7 @@ SettingsEnd RunSettings(const SettingsPlan& plan, TaskPool& pool) {
   tasks.shareOfRun = plan.shareOfRun;
   tasks.work = [&](std::size_t task, std::size_t slot, RunMonitor& monitor) {
     const Setting setting = plan.settings[task];
-    slots[slot] = SolveSphere(plan.request.method, AskedAt(plan, setting, setting.x, shared), monitor);
+    slots[slot] = SolveSphere(plan.request.method, AskedAt(plan, setting, setting.radius, setting.x, shared), monitor);
     if (slots[slot].Refused()) refusals.Note(task, slots[slot].refusal);
     return slots[slot].finished && !slots[slot].Refused();
   };
@@ -225,19 +283,22 @@ SettingsEnd DispCalc(const SettingsPlan& plan, TaskPool& pool) {
   SettingsEnd end;
   if (plan.settings.empty()) return end;
   double radiusOfLargest = plan.settings.front().radius;
-  const CloudSamples first = SamplesOf(plan.request.sizes, radiusOfLargest);
+  const Particle& particle = plan.request.particle;
+  const CloudSamples first = SamplesAt(plan.request, radiusOfLargest);
   if (first.failure != SizeFailure::None) {
     end.refusal = RefusalOf(first.failure);
     return end;
   }
+  if (Refusal small = SmallerThanCore(particle, first); !small.text.empty()) return {0, std::move(small)};
   double largest = LargestOf(first);
   for (std::size_t i = 0; i < plan.settings.size(); ++i) {
     const Setting setting = plan.settings[i];
     // The largest sphere of a cloud decides; of models and files it is the same everywhere.
-    if (setting.radius != radiusOfLargest) largest = LargestOf(SamplesOf(plan.request.sizes, setting.radius));
+    if (setting.radius != radiusOfLargest) largest = LargestOf(SamplesAt(plan.request, setting.radius));
     radiusOfLargest = setting.radius;
-    const double x = SizeParameterOf(largest, setting.indices.MediumInUse(), setting.lambda);
-    if (Refusal beyond = BeyondLimits(plan.request.method, x, setting.mRe, setting.mIm); !beyond.text.empty())
+    const double radius = RadiusOfSample(particle, largest);
+    const double x = SizeParameterOf(radius, setting.indices.MediumInUse(), setting.lambda);
+    if (Refusal beyond = BeyondLimits(plan.request, setting, radius, x); !beyond.text.empty())
       return {0, std::move(beyond)};
   }
   const auto perCloud = static_cast<std::size_t>(first.Count());
@@ -269,12 +330,12 @@ SettingsEnd DispCalc(const SettingsPlan& plan, TaskPool& pool) {
       return false;
     }
     const std::size_t sample = task % perCloud + 1;
-    slot.radius = samples.radius[sample];
+    slot.radius = RadiusOfSample(particle, samples.radius[sample]);
     slot.weight = samples.weight[sample];
-    slot.counts = slot.weight > 0 && slot.radius > 0;
+    slot.counts = slot.weight > 0 && samples.radius[sample] > 0;
     if (!slot.counts) return true;
     const double x = SizeParameterOf(slot.radius, setting.indices.MediumInUse(), setting.lambda);
-    slot.sphere = SolveSphere(options, AskedAt(plan, setting, x, shared), monitor);
+    slot.sphere = SolveSphere(options, AskedAt(plan, setting, slot.radius, x, shared), monitor);
     if (slot.sphere.Refused()) refusals.Note(task, slot.sphere.refusal);
     return slot.sphere.finished && !slot.sphere.Refused();
   };
@@ -293,7 +354,7 @@ SettingsEnd DispCalc(const SettingsPlan& plan, TaskPool& pool) {
     const std::size_t sample = task % perCloud + 1;
     const CloudSamples& samples = told.At(plan.request, setting.radius);
     TellPlace(setting, progress);
-    if (samples.failure == SizeFailure::None) progress.radius = samples.radius[sample];
+    if (samples.failure == SizeFailure::None) progress.radius = RadiusOfSample(particle, samples.radius[sample]);
     progress.sample = static_cast<int>(sample);
     if (plan.place) plan.place(task / perCloud, progress);
   };

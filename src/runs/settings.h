@@ -16,6 +16,7 @@ struct Setting {
   double lambda = 0.65;  ///< um in vacuo
   double radius = 10;    ///< um; of a cloud the one that its sizes lie about
   OpticalIndices indices;
+  IndexValue core{0, 0};      ///< of a coated sphere
   double mRe = 1, mIm = 0;    ///< relative index
   double x = 1;               ///< size parameter of the radius
   double WaveNumber() const;  ///< in the medium (1/m)
@@ -32,6 +33,18 @@ struct SettingResult {
   bool Good() const { return refusal.text.empty(); }
 };
 SettingResult SettingAt(const RunRequest& request, double lambda);
+
+/// The radius (um) of the core of a coated sphere of that radius.
+double CoreRadius(const SphereCore& core, double radiusOfAll, double radius);
+
+/// What a sphere of a radius (um) is, beyond its index: what a solver of spheres in layers is asked.
+void AskForLayers(const Particle& particle, const Setting& setting, double radius, SphereAsked& asked);
+
+/// The sizes of a cloud about a setting. Of coated spheres whose coating is fixed the distribution is that of the
+/// cores, otherwise that of the whole spheres.
+CloudSamples SamplesAt(const RunRequest& request, double radius);
+/// The radius of the sphere (um) that a sample stands for.
+double RadiusOfSample(const Particle& particle, double sample);
 
 /// What a run is refused with whose sizes cannot be used.
 Refusal RefusalOf(SizeFailure failure);

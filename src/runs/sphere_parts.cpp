@@ -65,7 +65,7 @@ void SumInParts(const MethodOptions& options, const SphereAsked& asked, SphereSo
   };
   solution.rows = {};
   solution.finished = pool.Do(tasks) == tasks.count;
-  if (!options.divideBySize || options.method != Method::Mie) return;
+  if (!options.divideBySize) return;
   solution.S1.Scale(1 / asked.x);
   solution.S2.Scale(1 / asked.x);
 }
@@ -125,8 +125,8 @@ std::shared_ptr<const RayPieces> PiecesInPool(const MethodOptions& options, doub
 }
 
 SphereSolution SolveInParts(const MethodOptions& options, const SphereAsked& asked, TaskPool& pool) {
-  const bool series =
-      options.method == Method::Mie || (options.method == Method::Debye && options.difference == Difference::None);
+  const bool series = options.method == Method::Mie || TraitsOf(options.method).layered ||
+                      (options.method == Method::Debye && options.difference == Difference::None);
   if (series) {
     SphereAsked noRows = asked;
     noRows.window = {};

@@ -15,12 +15,20 @@ struct SolverRow {
 
 // One row a method; the differences of the Debye series stand in the row of the series.
 constexpr SolverRow solverRows[] = {
-    {Method::Mie, BHMIE},         {Method::Debye, DebyeSeries},
-    {Method::Rayleigh, Rayleigh}, {Method::Diffraction, Diffraction},
-    {Method::Airy, Airy},         {Method::Descartes, GO},
-    {Method::Young, GO},          {Method::YoungMod, GO},
-    {Method::Huygens, Huygens},   {Method::Aperture, Aperture},
-    {Method::VanDeHulst, vdh},    {Method::YoungAiry, GO},
+    {Method::Mie, BHMIE},
+    {Method::Debye, DebyeSeries},
+    {Method::Rayleigh, Rayleigh},
+    {Method::Diffraction, Diffraction},
+    {Method::Airy, Airy},
+    {Method::Descartes, GO},
+    {Method::Young, GO},
+    {Method::YoungMod, GO},
+    {Method::Huygens, Huygens},
+    {Method::Aperture, Aperture},
+    {Method::VanDeHulst, vdh},
+    {Method::YoungAiry, GO},
+    {Method::CoatedSphere, Coated},
+    {Method::InhomogeneousSphere, Inhomogeneous},
 };
 
 }  // namespace

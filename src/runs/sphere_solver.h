@@ -6,6 +6,7 @@
 #include "runs/request.h"
 #include "runs/results.h"
 #include "solvers/angles/angle_cosines.h"
+#include "solvers/functions/complex_pairs.h"
 #include "solvers/run_monitor.h"
 
 namespace lumivex {
@@ -18,6 +19,9 @@ struct SphereAsked {
   RowWindow window{1, 1};                        ///< rows wanted
   std::shared_ptr<const AngleCosines> cosines;   ///< of the window, from a call before; may be empty
   std::shared_ptr<const RayPieces> pieces = {};  ///< of the rays selected, for this index; may be empty
+  double coreRatio = 0;                          ///< of a coated sphere: the radius of its core over its own
+  ComplexD core{1, 0};                           ///< relative index of the core; mRe, mIm are the coating's
+  double medium = 1;                             ///< index of the medium, which a profile is taken relative to
 };
 
 /// What a solver finds of one sphere.
@@ -46,6 +50,8 @@ SphereSolution SolveSphere(const MethodOptions& options, const SphereAsked& aske
 /// Why a sphere lies beyond the limits of the method; an empty text where it does not. A run of many asks for all of
 /// them first, so that nobody waits for a refusal.
 Refusal BeyondLimits(const MethodOptions& options, double x, double mRe, double mIm);
+/// The same for spheres in layers too.
+Refusal BeyondLimits(const MethodOptions& options, const SphereAsked& asked);
 
 // The methods.
 
@@ -96,6 +102,26 @@ SphereSolution Aperture(const MethodOptions& options, const SphereAsked& asked, 
 
 /// The glory of a ring with the amplitudes Qmin and Qmax, near 180 degrees.
 SphereSolution vdh(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor);
+
+/// A sphere with a core and one coating: the sum of both surfaces' partial waves or, where paths are selected, its
+/// Debye terms along those.
+SphereSolution Coated(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor);
+
+/// The whole coated sphere. Qext = 2/y^2 times the sum of (2n+1)(|a_n| + |b_n|) goes by the moduli of the coefficients:
+/// a bound of the extinction, not an efficiency. Qback = 4 |S1(180 degrees)|^2/y^2 is 4 pi times that of other
+/// spheres. With divideBySize the amplitudes are divided by y, and no efficiency is.
+SphereSolution CoatedSphereMie(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor);
+
+/// The selected ways through a coated sphere, each times its weight. Qext = 4 Re S(0)/y^2 and Qsca are those of the
+/// field of the selected terms, and mean something of whole sums only; Qback as above.
+SphereSolution CoatedSphereDebye(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor);
+
+/// A sphere whose index is a profile, in layers of equal depth.
+SphereSolution Inhomogeneous(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor);
+
+/// The coefficients of a coated sphere, or of its selected terms, for the running sums of a series: a fifth more terms
+/// than the amplitudes are summed of. None after a Stop.
+PartialWaves CoatedWavesBeyond(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor);
 
 /// Qsca and g by integration of the amplitudes over all angles, for methods that have no series for them:
 /// Qsca = 2/x^2 times the integral of (|S1|^2 + |S2|^2)/2 sin(theta).

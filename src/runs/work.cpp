@@ -19,6 +19,9 @@ constexpr double mieTerm = 80;
 constexpr double mieTermInLanes = 15;  // points of an axis, side by side in vector lanes
 constexpr double debyeTerm = 250;
 constexpr double debyeTermOfEachRay = 10;
+constexpr double coatedTerm = 400;
+constexpr double wayTerm = 10;     // each of the ways that are selected
+constexpr double layerTerm = 120;  // each layer of a profile
 constexpr double ratioTerm = 100;  // times x: continued fractions of an absorbing sphere
 
 /// Most settings, and most sizes of a cloud, that are looked at one by one.
@@ -47,6 +50,11 @@ double SphereWork(const MethodOptions& options, const Setting& setting, double x
   const double terms = NStopEstimate(x);
   const double mie = terms * (pairs + mieTerm);
   if (options.method == Method::Mie) return mie;
+  if (options.method == Method::CoatedSphere) {
+    const double ways = options.paths ? static_cast<double>(options.paths->size()) * wayTerm : 0;
+    return terms * (pairs + coatedTerm + ways);
+  }
+  if (options.method == Method::InhomogeneousSphere) return terms * (pairs + layerTerm * options.layers.layers);
   if (options.method != Method::Debye) return 0;
   const double fractions = options.byRatio && setting.mIm != 0 ? ratioTerm * x : 0;
   const double debye = terms * (pairs + debyeTerm + debyeTermOfEachRay * RaysOf(options) + fractions);
@@ -56,9 +64,9 @@ double SphereWork(const MethodOptions& options, const Setting& setting, double x
 /// A sphere, or the cloud about it.
 double SettingWork(const RunRequest& request, const MethodOptions& options, const Setting& setting, double pairs) {
   if (!request.Cloud()) return SphereWork(options, setting, setting.x, pairs);
-  const CloudSamples samples = SamplesOf(request.sizes, setting.radius);
+  const CloudSamples samples = SamplesAt(request, setting.radius);
   return SumOver(samples.Count(), [&](int i) {
-    const double radius = samples.radius[static_cast<std::size_t>(i)];
+    const double radius = RadiusOfSample(request.particle, samples.radius[static_cast<std::size_t>(i)]);
     const double x = SizeParameterOf(radius, setting.indices.MediumInUse(), setting.lambda);
     return radius > 0 ? SphereWork(options, setting, x, pairs) : 0;
   });

@@ -207,7 +207,10 @@ Window* FindWindow(Session& session, std::string_view form) {
 }
 
 std::string DrawingLines(const Window& window) {
-  RecordingSurface recording(window.surface->ScaleWidth(), window.surface->ScaleHeight());
+  constexpr double dialogWidth = 6300, dialogHeight = 3300;
+  const bool dialog = window.surface == nullptr;
+  RecordingSurface recording(dialog ? dialogWidth : window.surface->ScaleWidth(),
+                             dialog ? dialogHeight : window.surface->ScaleHeight());
   Paint(window.page, recording);
   std::string text;
   for (const auto& operation : recording.Operations()) text += operation.Describe() + "\n";

@@ -10,6 +10,8 @@
 #include "session/info.h"
 #include "session/inputs/graph_types.h"
 #include "session/inputs/input_events.h"
+#include "session/inputs/layers/coated_inputs.h"
+#include "session/inputs/layers/inhom_inputs.h"
 #include "session/inputs/look/look_menus.h"
 #include "session/inputs/materials/material_events.h"
 #include "session/inputs/methods.h"
@@ -51,6 +53,8 @@ constexpr EventRow eventRows[] = {
     {"mnuHuygens_Click", mnuHuygens_Click},
     {"mnuAperture_Click", mnuAperture_Click},
     {"mnuvdh_Click", mnuvdh_Click},
+    {"mnuCoatedSphere_Click", mnuCoatedSphere_Click},
+    {"mnuInhomSphere_Click", mnuInhomSphere_Click},
     {"mnuDebyeSequence_Click", mnuDebyeSequence_Click},
     {"dlogDebyeSeq.Show", AskDebyeSequence},
     {"chkComponents_Click", Scale_Click},
@@ -133,6 +137,8 @@ EventTable::EventTable() {
   for (const auto& row : LookEvents()) Add(row.name, row.handler);
   for (const auto& row : MaterialEvents()) Add(row.name, row.handler);
   for (const auto& row : SolverEvents()) Add(row.name, row.handler);
+  for (const auto& row : CoatedSphereEvents()) Add(row.name, row.handler);
+  for (const auto& row : InhomSphereEvents()) Add(row.name, row.handler);
 }
 
 void EventTable::Add(std::string_view name, Handler handler) {

@@ -12,6 +12,7 @@
 #include "session/driver/commands.h"
 #include "session/info.h"
 #include "session/inputs/graph_types.h"
+#include "session/inputs/layers/coated_inputs.h"
 #include "session/inputs/look/look_menus.h"
 #include "session/inputs/materials/sellmeier_catalogue.h"
 #include "session/inputs/methods.h"
@@ -218,6 +219,7 @@ void Form_Load(Session& session) {
   cmdNewPlot_Click(session);
 
   f.cboQmax.Items = f.cboQmin.Items = {"1", "2", "3", "4", "5", "10", "15", "20", "25"};
+  FillPathLists(session.forms.dlogCoatedSphere);
   f.mnuDrawWidth1.Checked = true;
   session.events.Raise("mnuLogoPositionBL_Click");
   WriteCaptions(f);

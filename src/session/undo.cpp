@@ -30,6 +30,7 @@ void RestoreSettings(MainFormState& s, const DialogSettings& settings) {
   s.MapReferenceThird = settings.mapReferenceThird;
   s.MapReferenceKind = static_cast<MapValues>(settings.mapReferenceKind);
   s.Sellmeier = settings.sellmeier;
+  s.Layers = settings.layers;
 }
 
 /// Replot draws the last results: it is there again once the inputs are those for which it was.
@@ -108,7 +109,8 @@ InputState PresentInputs(Session& session) {
                     s.MapReference,
                     s.MapReferenceThird,
                     static_cast<int>(s.MapReferenceKind),
-                    s.Sellmeier};
+                    s.Sellmeier,
+                    s.Layers};
   for (const Form* form : session.forms.All()) state.forms.push_back(form->Snapshot());
   ForEachCaption(session.form1, [&](Control&, const std::string& caption) { state.captions.push_back(caption); });
   return state;

@@ -9,6 +9,7 @@
 #include <QRadioButton>
 #include <QSignalBlocker>
 
+#include "ui/canvas.h"
 #include "ui/look.h"
 #include "ui/wrap_label.h"
 
@@ -62,6 +63,9 @@ ControlView::ControlView(Control& control, const ControlActions& actions, const 
       break;
     case ControlKind::CommandButton:
       MakeButton(actions);
+      break;
+    case ControlKind::Picture:
+      MakePicture();
       break;
     default:
       MakeLabel();
@@ -119,6 +123,15 @@ void ControlView::MakeButton(const ControlActions& actions) {
   button->setAutoDefault(false);
   ConnectClick(button, *control_, actions);
   widget_ = button;
+}
+
+void ControlView::MakePicture() {
+  constexpr int widthPx = 420, heightPx = 220;
+  auto* canvas = new Canvas;
+  canvas->setFocusPolicy(Qt::NoFocus);
+  canvas->setMinimumSize(widthPx, heightPx);
+  canvas->setAccessibleName(ToQString(control_->Tip));
+  widget_ = canvas;
 }
 
 void ControlView::MakeLabel() {
@@ -180,6 +193,8 @@ void ControlView::SyncValue() {
         button->setDefault(static_cast<CommandButton*>(control_)->Default);
       break;
     }
+    case ControlKind::Picture:
+      break;  // whoever has the page paints it
     default:
       SetCaption(static_cast<QLabel*>(widget_.data()), ToQString(control_->ShownCaption()));
       break;

@@ -38,6 +38,7 @@ class ControlView {
   void MakeCheckBox(const ControlActions& actions);
   void MakeButton(const ControlActions& actions);
   void MakeLabel();
+  void MakePicture();
   void SyncValue();
   void SyncList(SelectionList& list);
   void SyncLook();

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "record/number_text.h"
+#include "ui/canvas.h"
 #include "ui/look.h"
 
 namespace lumivex {
@@ -40,7 +41,7 @@ DialogView::DialogView(Form& form, Hooks hooks, QWidget* parent)
   column->addWidget(buttons);
   Sync();
   for (const auto& view : lines_->Views()) {
-    if (view->Of().Kind() == ControlKind::Label || view->Widget()->isHidden()) continue;
+    if (view->Widget()->focusPolicy() == Qt::NoFocus || view->Widget()->isHidden()) continue;
     view->Widget()->setFocus();
     break;
   }
@@ -76,6 +77,19 @@ void DialogView::TakeNewLook() {
 
 void DialogView::Sync() {
   lines_->Sync();
+  DrawPictures();
+}
+
+void DialogView::DrawPictures() {
+  for (const auto& view : lines_->Views()) {
+    if (view->Of().Kind() != ControlKind::Picture || !hooks_.draw) continue;
+    auto& canvas = static_cast<Canvas&>(*view->Widget());
+    canvas.SetNight(IsDark(palette()));
+    canvas.Renew();
+    hooks_.draw(form_, canvas.Surface());
+    canvas.ShowChanges();
+    canvas.resized = [this] { DrawPictures(); };
+  }
 }
 
 std::string DialogView::EventOf(std::string_view button) const {

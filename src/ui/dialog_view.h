@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <memory>
 
+#include "record/drawing_surface.h"
 #include "record/form.h"
 #include "ui/form_view.h"
 #include "ui/undo_keys.h"
@@ -18,7 +19,8 @@ class DialogView final : public QDialog {
  public:
   struct Hooks {
     ControlActions actions;
-    std::function<void(std::string_view event)> raise;  ///< "dlogTemp.OKButton_Click"
+    std::function<void(std::string_view event)> raise;               ///< "dlogTemp.OKButton_Click"
+    std::function<void(const Form& form, DrawingSurface& on)> draw;  ///< paints the page of a dialog with a picture
   };
   DialogView(Form& form, Hooks hooks, QWidget* parent);
 
@@ -34,6 +36,7 @@ class DialogView final : public QDialog {
  private:
   void BuildLines();
   void TakeNewLook();
+  void DrawPictures();
   std::string EventOf(std::string_view button) const;
 
   Form& form_;

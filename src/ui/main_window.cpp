@@ -22,6 +22,7 @@
 #include <utility>
 
 #include "files/open_file.h"
+#include "pages/build_page.h"
 #include "record/text_file.h"
 #include "session/info.h"
 #include "session/page.h"
@@ -362,9 +363,16 @@ void MainWindow::Refresh() {
   canvas_->ShowChanges();
 }
 
+DialogView::Hooks MainWindow::DialogHooks() {
+  const auto draw = [this](const Form& form, DrawingSurface& on) {
+    for (const Window& window : session_->windows)
+      if (window.form == &form) Paint(window.page, on);
+  };
+  return {Actions(), [this](std::string_view event) { Act([&] { session_->events.Raise(event); }); }, draw};
+}
+
 bool MainWindow::ShowDialog(Form& form) {
-  DialogView dialog(form, {Actions(), [this](std::string_view event) { Act([&] { session_->events.Raise(event); }); }},
-                    this);
+  DialogView dialog(form, DialogHooks(), this);
   dialogs_.push_back(&dialog);
   const DialogScope open(*session_, form);
   form.Visible = true;
@@ -384,8 +392,7 @@ void MainWindow::Show(Form& form) {
     return;
   }
   std::erase_if(windows_, [](const QPointer<DialogView>& view) { return view.isNull(); });
-  auto* view = new DialogView(
-      form, {Actions(), [this](std::string_view event) { Act([&] { session_->events.Raise(event); }); }}, this);
+  auto* view = new DialogView(form, DialogHooks(), this);
   view->setAttribute(Qt::WA_DeleteOnClose);
   form.Visible = true;
   connect(view, &QDialog::finished, this, [&form] { form.Visible = false; });

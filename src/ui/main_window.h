@@ -87,6 +87,7 @@ class MainWindow final : public QMainWindow {
   void NewPlot();
   void Resized();
   ControlActions Actions();
+  DialogView::Hooks DialogHooks();
 
   CommandGate& gate_;
   Session* session_ = nullptr;

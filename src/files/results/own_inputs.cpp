@@ -44,6 +44,10 @@ void ForEachSetting(DialogSettings& s, Visitor&& visit) {
   visit("SellmeierMin", s.sellmeier.lowest);
   visit("SellmeierMax", s.sellmeier.highest);
   visit("SellmeierQuiet", s.sellmeier.quiet);
+  visit("LayerSphereShown", s.layers.sphereShown);
+  visit("LayerSphereKept", s.layers.sphereKept);
+  visit("LayerMediumShown", s.layers.mediumShown);
+  visit("LayerMediumKept", s.layers.mediumKept);
 }
 
 bool HasText(ControlKind kind) {

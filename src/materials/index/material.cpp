@@ -21,6 +21,14 @@ const MetalTable& TableOf(MetalName name) {
   return name == MetalName::Gold ? GoldNK : name == MetalName::Silver ? SilverNK : CopperNK;
 }
 
+IndexFound ReadMetal(const MetalFilm& metal, double wavelength) {
+  const auto wanted = static_cast<float>(wavelength);
+  auto found = LookUpMetal(MetalLambda, TableOf(metal.name), wanted, metal.rule);
+  const bool cubicOrLast = metal.rule == TableRule::Cubic || wanted == MetalLambda[metalRows];
+  if (found && metal.layer && (metal.name == MetalName::Copper || !cubicOrLast)) found->k = 0;
+  return {found};
+}
+
 /// The water tables know straight lines only, and their search stops at the first hit.
 IndexFound ReadWaterTable(std::span<const float> lambda, std::span<const float> n, std::span<const float> k,
                           double wavelength, bool complex) {
@@ -50,9 +58,7 @@ struct Evaluate {
   }
   IndexFound operator()(const WaterKayeLaby&) const { return Real(WaterIndexKayeLaby(lambda)); }
   IndexFound operator()(const AirAt& m) const { return Real(AirIndex(lambda, m.temperature)); }
-  IndexFound operator()(const MetalFilm& m) const {
-    return {LookUpMetal(MetalLambda, TableOf(m.name), static_cast<float>(lambda), m.rule)};
-  }
+  IndexFound operator()(const MetalFilm& m) const { return ReadMetal(m, lambda); }
   IndexFound operator()(const IndexFromFile& m) const {
     if (!m.table) return {};
     const FileLookup found = LookUpFile(m.table->View(), lambda, m.rule, m.gate);

@@ -44,6 +44,9 @@ enum class MetalName { Gold, Silver, Copper };
 struct MetalFilm {
   MetalName name = MetalName::Gold;
   TableRule rule = TableRule::Linear;
+  /// Of a sphere in layers: read along straight lines it does not absorb, but gold and silver at exactly the last row;
+  /// copper never does. Results saved with coated metals rely on it.
+  bool layer = false;
 };
 struct IndexFromFile {
   std::shared_ptr<const IndexTable> table;

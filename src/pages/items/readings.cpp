@@ -132,7 +132,7 @@ struct EndIntensities {
 /// Those of a series.
 EndIntensities EndsOf(const Results& results, const PartialWaves& waves) {
   if (waves.Terms() < 1) return {};
-  const bool divided = results.asked.method.method == Method::Mie && results.asked.method.divideBySize;
+  const bool divided = results.asked.method.divideBySize;
   const double scale = divided ? results.last.sizeParameter * results.last.sizeParameter : 1;
   const ComplexD forward = ForwardAmplitude(waves), backward = BackwardAmplitude(waves);
   return {MeanIntensity(forward, forward) / scale, MeanIntensity(backward, backward) / scale};

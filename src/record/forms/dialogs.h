@@ -5,6 +5,7 @@
 #include "record/form.h"
 #include "record/forms/angle_dialogs.h"
 #include "record/forms/coated_dialog.h"
+#include "record/forms/inhom_dialog.h"
 #include "record/forms/light_dialogs.h"
 #include "record/forms/main_form.h"
 #include "record/forms/material_dialogs.h"
@@ -63,13 +64,15 @@ struct Forms : MaterialDialogs, LightDialogs, SizeDialogs, RayDialogs, AngleDial
   DlogAverage dlogAverage;
   DlogPlotColour dlogPlotColour;
   DlogCoatedSphere dlogCoatedSphere;
+  DlogInhomSphere dlogInhomSphere;
   DlogVolume dlogVolume;
   DlogCalibration dlogCalibration;
 
   /// All of them, the main window first.
   std::vector<Form*> All() {
-    std::vector<Form*> all = {&form1,          &dlogTemp,         &dlogSpectrumBand, &dlogAverage,
-                              &dlogPlotColour, &dlogCoatedSphere, &dlogVolume,       &dlogCalibration};
+    std::vector<Form*> all = {&form1,           &dlogTemp,       &dlogSpectrumBand,
+                              &dlogAverage,     &dlogPlotColour, &dlogCoatedSphere,
+                              &dlogInhomSphere, &dlogVolume,     &dlogCalibration};
     for (const auto& more : {MaterialForms(), LightForms(), SizeForms(), RayForms(), AngleForms()})
       all.insert(all.end(), more.begin(), more.end());
     return all;

@@ -141,6 +141,8 @@ struct Form1Menus : Form1Inputs {
   MenuEntry mnuHuygens{*this, "mnuHuygens", "Huygens' wavefronts"};
   MenuEntry mnuAperture{*this, "mnuAperture", "Aperture of strips"};
   MenuEntry mnuvdh{*this, "mnuvdh", "Glory of a ring (van de Hulst)"};
+  MenuEntry mnuCoatedSphere{*this, "mnuCoatedSphere", "Coated sphere ..."};
+  MenuEntry mnuInhomSphere{*this, "mnuInhomSphere", "Inhomogeneous sphere ..."};
   MenuEntry mnuBessel{*this, "mnuBessel", "Bessel functions"};
   MenuEntry mnuAiry{*this, "mnuAiry", "Airy function"};
   MenuEntry mnuReadDiff{*this, "mnuReadDiff", "Read a table of Bessel functions ..."};

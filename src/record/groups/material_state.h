@@ -21,6 +21,13 @@ struct SellmeierChoice {
   bool operator==(const SellmeierChoice&) const = default;
 };
 
+/// What a sphere in layers writes over the labels of the materials, and what stood there before. Empty while the label
+/// is the material's own.
+struct LayerLabels {
+  std::string sphereShown, sphereKept, mediumShown, mediumKept;
+  bool operator==(const LayerLabels&) const = default;
+};
+
 /// Refractive indices at the last wavelength looked up, the parameters of their models and the tables read from files.
 struct MaterialState {
   double RefractReal = 0;               ///< n of the sphere
@@ -36,6 +43,7 @@ struct MaterialState {
   int SphereIndexVaries = 0;            ///< 1 while the sphere is named after a graph that varies its index
   int MediumIndexTyped = 0;             ///< 1 from the typing of the medium's index to its next evaluation
   std::string SphereCaptionBefore;      ///< caption of lblSphere before an index was typed in
+  LayerLabels Layers;
 
   // The four points of the user-defined materials, first index 1; wavelengths in um.
   std::vector<double> UserLambda1 = std::vector<double>(5);
@@ -76,6 +84,10 @@ void ForEachField(Group& g, Visitor&& visit) {
   visit("SphereIndexVaries", g.SphereIndexVaries);
   visit("MediumIndexTyped", g.MediumIndexTyped);
   visit("SphereCaptionBefore", g.SphereCaptionBefore);
+  visit("LayerSphereShown", g.Layers.sphereShown);
+  visit("LayerSphereKept", g.Layers.sphereKept);
+  visit("LayerMediumShown", g.Layers.mediumShown);
+  visit("LayerMediumKept", g.Layers.mediumKept);
   visit("UserLambda1", g.UserLambda1);
   visit("UserRI1", g.UserRI1);
   visit("UserLambda2", g.UserLambda2);

@@ -166,6 +166,8 @@ constexpr std::array menuRows = {
     MenuRow{"Advanced/Further methods", "mnuHuygens", RayOptics},
     MenuRow{"Advanced/Further methods", "mnuAperture", SimpleScattering},
     MenuRow{"Advanced/Further methods", "mnuvdh", SimpleScattering},
+    MenuRow{"Advanced/Further methods", "mnuCoatedSphere", CoatedSphere},
+    MenuRow{"Advanced/Further methods", "mnuInhomSphere", InhomogeneousSphere},
     MenuRow{"Advanced", "mnuSurfaceWave", SurfaceWaves},
     MenuRow{"Advanced", "mnuMieGConv", Beams},
     MenuRow{"Advanced", "mnuMieGConv2", Beams},

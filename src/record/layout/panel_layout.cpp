@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "record/layout/angle_dialog_lines.h"
+#include "record/layout/layer_dialog_lines.h"
 #include "record/layout/light_dialog_lines.h"
 #include "record/layout/material_dialog_lines.h"
 #include "record/layout/ray_dialog_lines.h"
@@ -109,6 +110,7 @@ std::span<const DialogLayout> Dialogs() {
     add(angleDialogLayouts);
     add(volumeDialogLayouts);
     add(settingsDialogLayouts);
+    add(layerDialogLayouts);
     return layouts;
   }();
   return all;

@@ -42,6 +42,7 @@ bool IsAxisGraph(const RunState& s);
 // An input that is not on the screen is never the reason of a refusal.
 Verdict DecimalCommas(Check& check);
 Verdict CoatedSphereGraphs(Check& check);
+Verdict ProfileOfIndex(Check& check);
 Verdict SellmeierLimits(Check& check);
 Verdict BeamMethods(Check& check);
 Verdict NegativeAbsorption(Check& check);

@@ -70,6 +70,21 @@ MaterialBand BandOfFile(float low, float high, const std::string& name) {
   return {double{low}, double{high}, name, TitleOf(name), text, text, false};
 }
 
+/// Layers know the IAPWS' water and the metals.
+std::vector<MaterialBand> BandsOfLayers(const Session& session) {
+  const auto& d = session.forms.dlogCoatedSphere;
+  std::vector<MaterialBand> bands;
+  const auto used = [&d](std::string_view name) {
+    return d.cboRIcore.Text == name || d.cboRIshell.Text == name || d.cboRImedium.Text == name;
+  };
+  for (const WaterModel& model : WaterModels())
+    if (model.sphere == &Form1Menus::mnuRI_IAPWS && used("Water"))
+      bands.push_back({model.low, model.high, model.name, std::string(waterTitle), model.one, model.range, false});
+  for (const Metal& metal : metals)
+    if (used(metal.name)) bands.push_back(BandOfMetal(metal.name));
+  return bands;
+}
+
 float Rounded(double wavelength) {
   constexpr int decimals = 7;
   return static_cast<float>(RoundDecimals(wavelength, decimals));
@@ -84,9 +99,11 @@ bool MaterialBand::Holds(double lowest, double highest) const {
 std::vector<MaterialBand> BandsInUse(const Session& session) {
   const Form1& form = session.form1;
   const auto& s = session.state;
+  if (s.CalcMethod == Method::CoatedSphere) return BandsOfLayers(session);
   // A material whose index a map varies has no say.
   const Graph& graph = ChosenGraph(s);
-  const bool sphere = !graph.InColour() || !graph.VariesIndex(), medium = !graph.VariesMedium();
+  const bool sphere = (!graph.InColour() || !graph.VariesIndex()) && !TraitsOf(s.CalcMethod).layered,
+             medium = !graph.VariesMedium();
   std::vector<MaterialBand> bands;
   for (const WaterModel& model : WaterModels()) {
     const bool inSphere = sphere && (form.*model.sphere).Checked;

@@ -7,6 +7,8 @@
 #include "record/number_text.h"
 #include "session/checks/check.h"
 #include "session/checks/sphere_of_run.h"
+#include "session/inputs/layers/coated_inputs.h"
+#include "session/inputs/layers/inhom_inputs.h"
 #include "session/inputs/methods.h"
 #include "session/inputs/methods/rays_check.h"
 
@@ -61,7 +63,8 @@ Verdict CoatedSphereGraphs(Check& check) {
   const Graph& graph = ChosenGraph(s);
   if (graph.OfAngles() || graph.family == Family::Convergence || graph.family == Family::Impulse) {
     auto& dialog = check.session.forms.dlogCoatedSphere;
-    if (Val(dialog.txtCoreRadius.Text) < Val(dialog.txtMantleRadius.Text)) return Verdict::GoOn;
+    if (Val(dialog.txtCoreRadius.Text) < Val(dialog.txtMantleRadius.Text))
+      return CoatedSphereHolds(check.session) ? Verdict::GoOn : Verdict::End;
     Refuse(check, {&dialog.txtMantleRadius},
            "The radius of the core must be less than the radius of the overall particle");
     dialog.txtMantleRadius.BackColour = colours::White;
@@ -69,6 +72,12 @@ Verdict CoatedSphereGraphs(Check& check) {
   }
   return Refuse(check, {}, "Coated sphere calculations are not available for graph type " + check.form.cboGraph.Text,
                 "Error");
+}
+
+Verdict ProfileOfIndex(Check& check) {
+  // The field and its tip tell what is wrong; a message would tell no more.
+  if (check.state.CalcMethod != Method::InhomogeneousSphere || ProfileHolds(check.session)) return Verdict::GoOn;
+  return Verdict::End;
 }
 
 Verdict BeamMethods(Check& check) {

@@ -13,6 +13,7 @@ namespace {
 constexpr std::array rules = {
     DecimalCommas,  // all others read numbers
     CoatedSphereGraphs,
+    ProfileOfIndex,
     SellmeierLimits,
     BeamMethods,
     NegativeAbsorption,

@@ -55,7 +55,8 @@ bool LeaveGiven(Session& session, const RunRequest& request) {
     s.CommandAborted = 1;
     return false;
   }
-  if (TraitsOf(s.CalcMethod).series || request.graph.family == Family::Volume) Duration(session, request);
+  const MethodTraits& method = TraitsOf(s.CalcMethod);
+  if (method.series || method.layered || request.graph.family == Family::Volume) Duration(session, request);
   return s.CommandAborted == 0;
 }
 

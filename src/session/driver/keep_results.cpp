@@ -7,6 +7,7 @@
 #include "pages/run_words.h"
 #include "record/catalogue/map_inputs.h"
 #include "runs/run.h"
+#include "runs/settings.h"
 #include "session/driver/keep_curves.h"
 #include "session/driver/keep_map.h"
 #include "session/inputs/light/wavelength_list.h"
@@ -71,7 +72,7 @@ void KeepSizes(SizeState& sizes, RunState& run, const Results& results) {
     sizes.DistSample = normal->z;
     sizes.RelativeSD = normal->relativeSD;
   }
-  CloudSamples samples = SamplesOf(results.asked.sizes, results.last.radius);
+  CloudSamples samples = SamplesAt(results.asked, results.last.radius);
   run.NumberSamples = samples.Count();
   sizes.DistRadius = std::move(samples.radius);
   sizes.DistWeight = std::move(samples.weight);

@@ -6,6 +6,7 @@
 #include "session/driver/keep_results.h"
 #include "session/driver/progress.h"
 #include "session/info.h"
+#include "session/inputs/layers/layer_labels.h"
 #include "session/page.h"
 
 namespace lumivex {
@@ -44,6 +45,7 @@ void ShowResults(Session& session, Results&& results, Onto onto) {
 
 void Overplot(Session& session, const RunRequest& request, Onto onto) {
   auto& s = session.state;
+  ShowLayersOfRun(session);
   SessionWatch watch(session, request);
   const Page before = session.page;
   ShowRunning(session);

@@ -7,6 +7,8 @@
 #include "record/catalogue/method_texts.h"
 #include "record/number_text.h"
 #include "runs/run.h"
+#include "session/inputs/layers/layer_labels.h"
+#include "session/inputs/layers/read_layers.h"
 #include "session/inputs/light/wavelength_list.h"
 #include "session/inputs/map_inputs.h"
 #include "session/inputs/materials/read_material.h"
@@ -58,9 +60,25 @@ Light ReadLight(const Session& session, const Graph& graph) {
   return light;
 }
 
+/// A sphere whose materials are those of its own dialog.
+Particle ReadCoated(const Session& session) {
+  Particle particle{MantleRadius(session), std::nullopt, LayerMaterial(session, shellLayer),
+                    LayerMaterial(session, mediumLayer)};
+  particle.core = ReadCore(session);
+  return particle;
+}
+
+/// A profile has the index of its outermost layer for one.
+Material OutermostOf(const Session& session) {
+  const ProfileLayers layers = ReadProfile(session);
+  return FixedIndex{IndexAt(layers.profile, 1 - 0.5 / layers.layers), 0};
+}
+
 Particle ReadParticle(const Session& session, double lambda) {
+  if (session.state.CalcMethod == Method::CoatedSphere) return ReadCoated(session);
   const auto& form = session.form1;
   Particle particle{RadiusInUse(session), std::nullopt, SphereOfGraph(session), MediumOfGraph(session)};
+  if (session.state.CalcMethod == Method::InhomogeneousSphere) particle.sphere = OutermostOf(session);
   const auto heldSize = HeldValue(session, Swept::SizeParameter);
   if (!form.mnuRadiusX.Checked && !heldSize) return particle;
   particle.sizeTyped = heldSize.value_or(Val(form.txtRadius.Text));
@@ -144,6 +162,15 @@ RayInputs UpToTerm(int limit) {
   return {std::to_string(-limit), std::nullopt, {}};
 }
 
+void NameCoated(const Session& session, RunWords& words) {
+  words.sphereName = "Coated sphere";
+  words.mediumName = CoatedMediumName(session);
+  words.core = CoreLine(session);
+  words.sphere = CoatingLine(session);
+  words.medium = CoatedMediumCaption(session);
+  words.paths = PathWords(session);
+}
+
 RunWords ReadWords(const Session& session, const RunRequest& request) {
   const auto& form = session.form1;
   RunWords words;
@@ -157,6 +184,9 @@ RunWords ReadWords(const Session& session, const RunRequest& request) {
   words.mediumName = std::move(medium.name);
   words.sphere = std::move(sphere.caption);
   words.medium = std::move(medium.caption);
+  if (request.method.method == Method::CoatedSphere) NameCoated(session, words);
+  if (request.method.method == Method::InhomogeneousSphere)
+    words.sphereName = words.sphere = ProfileEquation(request.method.layers.profile);
   words.light = form.lblSpectrum.Caption;
   if (request.Cloud()) words.sizes = WordsForSizes(session);
   words.scale = form.Frame2.Caption;

@@ -6,6 +6,7 @@
 #include "record/number_text.h"
 #include "session/inputs/graph_types.h"
 #include "session/inputs/input_tips.h"
+#include "session/inputs/layers/layer_labels.h"
 #include "session/inputs/materials/refractive_index.h"
 #include "session/inputs/methods.h"
 
@@ -18,6 +19,7 @@ void ChooseSizeKind(Session& session, MenuEntry& chosen) {
   for (MenuEntry* entry : {&form.mnuRadius, &form.mnuDiameter, &form.mnuRadiusX}) entry->Checked = entry == &chosen;
   form.Label7.Caption = SizeCaption(form);
   WriteTips(session);
+  ShowLayers(session);
   Inputs_Changed(session);
 }
 
@@ -78,7 +80,8 @@ void txtLambda_change(Session& session) {
   if (session.state.LoadingFlag != 0) return;
   form.txtLambda.BackColour = colours::White;
   ShowIndexInputs(session);
-  const bool one = Trim(form.cboWave.Text) == "1";
+  const bool one = Trim(form.cboWave.Text) == "1" && !TraitsOf(session.state.CalcMethod).layered;
+  ShowLayers(session);
   if (one && IsNumber(form.txtLambda.Text) && !RefRel(session, Val(form.txtLambda.Text), LookupVoice::Quiet))
     form.txtLambda.BackColour = colours::Warning;
   Inputs_Changed(session);
@@ -99,6 +102,7 @@ std::string SizeCaption(const Form1& form) {
 
 void txtRadius_Change(Session& session) {
   session.form1.txtRadius.BackColour = colours::White;
+  if (session.state.CalcMethod == Method::CoatedSphere) TakeOuterRadius(session);
   Inputs_Changed(session);
 }
 

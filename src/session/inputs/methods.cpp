@@ -3,6 +3,9 @@
 #include "record/number_text.h"
 #include "session/inputs/dialog_use.h"
 #include "session/inputs/graph_types.h"
+#include "session/inputs/layers/coated_inputs.h"
+#include "session/inputs/layers/inhom_inputs.h"
+#include "session/inputs/layers/layer_labels.h"
 #include "session/inputs/light/wavelength_list.h"
 #include "session/inputs/map_inputs.h"
 #include "session/inputs/methods/debye_label.h"
@@ -49,6 +52,18 @@ void IlluminationOf(Session& session) {
   if (session.state.RestoringSettings == 0) form.txtAngle.Text = "90";
 }
 
+/// The dialog of a method whose sphere is in layers; true without one.
+bool AskForLayers(Session& session) {
+  switch (session.state.CalcMethod) {
+    case Method::CoatedSphere:
+      return AskCoatedSphere(session);
+    case Method::InhomogeneousSphere:
+      return AskInhomSphere(session);
+    default:
+      return true;
+  }
+}
+
 }  // namespace
 
 void TypeCalc(Session& session) {
@@ -68,8 +83,14 @@ void TypeCalc(Session& session) {
 void cboType_click(Session& session) {
   auto& form = session.form1;
   const auto& s = session.state;
+  const std::string_view before = TextOfMethod(s.CalcMethod, s.DiffractionVariant);
   form.lblDebyeRays.Caption.clear();
   TypeCalc(session);
+  const bool asked = AskForLayers(session);
+  if (!asked && !before.empty()) {
+    form.cboType.Text = before;
+    TypeCalc(session);
+  }
   const MethodTraits& method = TraitsOf(s.CalcMethod);
   form.cboRays.Visible = form.Label9.Visible = method.showsP;
   if (s.CalcMethod == Method::Airy && (form.cboRays.Text == "0" || form.cboRays.Text == "1")) form.cboRays.Text = "2";
@@ -85,8 +106,10 @@ void cboType_click(Session& session) {
   form.mnuSurfaceWave.Visible = surfaceWave;
   if (surfaceWave) form.txtSWAmp.Text = "1";
   ShowFamilyInputs(session);
+  ShowLayers(session);
   form.cmdNewPlot.Enabled = true;
   DebyeLabel(session);
+  if (asked && s.CalcMethod == Method::InhomogeneousSphere) RunProfile(session);
 }
 
 void ChooseMethod(Session& session, std::string_view text) {
@@ -114,6 +137,14 @@ void mnuAperture_Click(Session& session) {
 
 void mnuvdh_Click(Session& session) {
   ChooseMethod(session, "van de Hulst");
+}
+
+void mnuCoatedSphere_Click(Session& session) {
+  ChooseMethod(session, "Coated sphere");
+}
+
+void mnuInhomSphere_Click(Session& session) {
+  ChooseMethod(session, "Inhomogeneous sphere");
 }
 
 void mnuDebyeSequence_Click(Session& session) {
@@ -147,10 +178,16 @@ void ShowIndexInputs(Session& session) {
   const MapInputs* map = FindMapInputs(graph);
   const bool one = Trim(form.cboWave.Text) == "1";
   const bool swept = map != nullptr && graph.VariesIndex();
-  form.txtRefractReal.Visible = (one || form.mnuRI_Fixed1.Checked) && !swept;
-  form.txtRefractImag.Visible = form.txtRefractReal.Visible || (swept && map->absorption);
+  // Layers have indices of their own, and those of a coating a medium too.
+  const Method method = session.state.CalcMethod;
+  const bool layered = TraitsOf(method).layered;
+  form.txtRefractReal.Visible = (one || form.mnuRI_Fixed1.Checked) && !swept && !layered;
+  form.txtRefractImag.Visible = form.txtRefractReal.Visible || (swept && map->absorption && !layered);
   form.Label10.Visible = form.txtRefractImag.Visible;
-  form.txtRefractMedium.Visible = (one || form.mnuRI_Fixed2.Checked) && !graph.VariesMedium();
+  form.txtRefractMedium.Visible =
+      (one || form.mnuRI_Fixed2.Checked) && !graph.VariesMedium() && method != Method::CoatedSphere;
+  form.mnuSphere.Enabled = !layered;
+  form.mnuSurround.Enabled = method != Method::CoatedSphere;
 }
 
 void ShowWavelengthInputs(Session& session) {

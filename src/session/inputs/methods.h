@@ -14,7 +14,8 @@ namespace lumivex {
 /// not there, marks the list and reports "Unknown calculation method"; CalcMethod is then Method::None.
 void TypeCalc(Session& session);
 
-/// cboType_click: what shows and what is allowed with the chosen method.
+/// cboType_click: what shows and what is allowed with the chosen method. A sphere in layers asks for its layers first;
+/// who cancels has the method of before. After OK a profile is calculated at once.
 void cboType_click(Session& session);
 
 /// Chooses a method by its text, which joins the list where it is not in it: the way of the methods that have a menu
@@ -25,6 +26,8 @@ void mnuDiffractionNew_Click(Session& session);
 void mnuHuygens_Click(Session& session);
 void mnuAperture_Click(Session& session);
 void mnuvdh_Click(Session& session);
+void mnuCoatedSphere_Click(Session& session);
+void mnuInhomSphere_Click(Session& session);
 
 /// Asks how far the Debye terms of one point are followed, and chooses the graph that shows them.
 void mnuDebyeSequence_Click(Session& session);

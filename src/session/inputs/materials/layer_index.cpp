@@ -1,9 +1,7 @@
-#include <array>
 #include <string_view>
 
 #include "materials/index/index_formulas.h"
 #include "materials/index/water.h"
-#include "materials/tables/metals.h"
 #include "record/number_text.h"
 #include "session/inputs/materials/read_material.h"
 
@@ -11,12 +9,11 @@ namespace lumivex {
 
 namespace {
 
-std::optional<double> FixedLayer(Session& session, int layer) {
-  constexpr std::array<std::string_view, 3> fields = {"txtRIcore", "txtRIshell", "txtRImedium"};
-  const Form* dialog = session.forms.Find("dlogCoatedSphere");
-  if (dialog == nullptr || layer < 1 || layer > 3) return std::nullopt;
-  const Control* field = dialog->Find(fields[static_cast<std::size_t>(layer) - 1]);
-  return field == nullptr ? std::nullopt : std::optional(Val(field->Value().text));
+std::optional<double> FixedLayer(const Session& session, int layer) {
+  const auto& dialog = session.forms.dlogCoatedSphere;
+  if (layer == 1) return Val(dialog.txtRIcore.Text);
+  if (layer == 2) return Val(dialog.txtRIshell.Text);
+  return layer == 3 ? std::optional(Val(dialog.txtRImedium.Text)) : std::nullopt;
 }
 
 double WaterLayer(MaterialState& s, double wavelength) {
@@ -28,17 +25,13 @@ double WaterLayer(MaterialState& s, double wavelength) {
   return WaterIndexIapws(wavelength, density, ratio);
 }
 
-/// Read along straight lines a layer of metal has no k but at exactly the last row; copper has none by cubics either.
-/// Results saved with coated metals rely on it.
-std::optional<double> MetalLayer(Session& session, const MetalTable& table, double wavelength, bool keepsK) {
+std::optional<double> MetalLayer(Session& session, MetalName metal, double wavelength) {
   auto& s = session.state;
   s.LookupWavelength = static_cast<float>(wavelength);
-  const TableRule rule = RuleTicked(session.form1);
-  const auto found = LookUpMetal(MetalLambda, table, s.LookupWavelength, rule);
-  if (!keepsK) s.RefractImag = 0;
+  const auto found = IndexAt(MetalFilm{metal, RuleTicked(session.form1), true}, wavelength).value;
+  if (metal == MetalName::Copper) s.RefractImag = 0;
   if (!found) return std::nullopt;
-  const bool lastRow = s.LookupWavelength == MetalLambda[metalRows];
-  if (keepsK) s.RefractImag = rule == TableRule::Cubic || lastRow ? found->k : 0;
+  s.RefractImag = found->k;
   return found->n;
 }
 
@@ -49,9 +42,9 @@ std::optional<double> RIcoat(Session& session, int layer, double wavelength, std
   if (material == "Water") return WaterLayer(session.state, wavelength);
   if (material == "Vacuum") return 1;
   if (material == "Glass") return SellmeierIndex(CrownGlass, wavelength);
-  if (material == "Gold") return MetalLayer(session, GoldNK, wavelength, true);
-  if (material == "Silver") return MetalLayer(session, SilverNK, wavelength, true);
-  if (material == "Copper") return MetalLayer(session, CopperNK, wavelength, false);
+  if (material == "Gold") return MetalLayer(session, MetalName::Gold, wavelength);
+  if (material == "Silver") return MetalLayer(session, MetalName::Silver, wavelength);
+  if (material == "Copper") return MetalLayer(session, MetalName::Copper, wavelength);
   return std::nullopt;
 }
 

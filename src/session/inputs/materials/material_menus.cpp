@@ -186,6 +186,8 @@ void mnuRI_Fixed1_Click(Session& session) {
   if (!TraitsOf(s.CalcMethod).layered) {
     form.lblSphere.Caption = "Sphere: Fixed refractive index";
     form.lblSphere.ForeColour = colours::BadInput;
+  } else {
+    s.Layers.sphereKept = "Sphere: Fixed refractive index";
   }
   if (!WorksAtOneIndex(s)) form.txtRefractReal.Enabled = form.txtRefractImag.Enabled = true;
   Reevaluate(session);

@@ -1,7 +1,11 @@
 #include "session/inputs/methods/debye_label.h"
 
+#include <array>
+
 #include "record/number_text.h"
+#include "session/inputs/layers/read_layers.h"
 #include "session/inputs/methods/read_method.h"
+#include "session/inputs/methods/sphere_size.h"
 
 namespace lumivex {
 
@@ -62,34 +66,68 @@ std::string SurfaceWaveText(const Details& d) {
 std::string CoatedText(const Details::Coating& c) {
   const std::string name = c.version == 1 ? "Coated sphere 1" : "Coated sphere 2";
   if (!c.N) return name;
-  if (c.version == 2) return "Coated sphere 2: Debye N = " + *c.N;
-  return "Coated sphere 1: Debye N = " + *c.N + ", A = " + c.A + ", B = " + c.B;
+  return name + ": Debye N = " + *c.N + (c.A.empty() ? "" : ", A = " + c.A + ", B = " + c.B);
 }
 
 std::string ProfileText(const Details::RadialProfile& profile) {
   using enum Details::Profile;
   const std::string ends = "\nn1 = " + profile.n1 + " from r = 0 to r = " + profile.r1 + "\u00B5m\nn2 = " + profile.n2 +
-                           " from r = " + profile.r1 + "\u00B5m to r = " + profile.r2 + "\u00B5m";
+                           " from r = " + profile.r2 + "\u00B5m to r = " + profile.radius + "\u00B5m";
   const std::string name = "Inhomogeneous sphere";
   switch (profile.kind) {
     case Linear:
       return name + " (linear transition)" + ends;
-    case Sinusoidal:
+    case Cosine:
       return name + " (sinusoidal transition)" + ends;
     case ModLuneburg:
       return name + " (Mod. Luneburg)\nF = " + profile.F;
     case Exponential:
-      return name + " (exponential)\nB = " + profile.B + ", C = " + profile.C;
+      return name + " (exponential)";
     case Polynomial:
-      return name + " (polynomial)\nB = " + profile.B + ", C = " + profile.C;
+      return name + " (polynomial)";
     case Luneburg:
-      return name + " (Luneburg)";
+      return name + " (Luneburg)\nB = " + profile.B + ", C = " + profile.C;
     case ThreeLayer:
       return name + " (3-layer)";
+    case Sinusoidal:
+      return name + " (sinusoidal)";
     case None:
       break;
   }
   return name;
+}
+
+Details::Coating CoatingOf(const Session& session) {
+  Details::Coating coating;
+  // The second form goes downward; which way is taken by itself is no other series.
+  if (ReadRecursion(session.forms.dlogCoatedSphere) == WaveRecursion::Downwards) coating.version = 2;
+  const auto path = NumbersOfPath(session);
+  if (!path) return coating;
+  coating.N = path->N;
+  coating.A = path->A;
+  coating.B = path->B;
+  return coating;
+}
+
+Details::RadialProfile ProfileOf(const Session& session) {
+  constexpr std::array kinds = {Details::Profile::Linear,     Details::Profile::Cosine,
+                                Details::Profile::ThreeLayer, Details::Profile::ModLuneburg,
+                                Details::Profile::Luneburg,   Details::Profile::Exponential,
+                                Details::Profile::Polynomial, Details::Profile::Sinusoidal};
+  const IndexProfile profile = ReadProfile(session).profile;
+  const auto& v = profile.parameters;
+  Details::RadialProfile text;
+  text.kind = kinds[static_cast<std::size_t>(profile.shape)];
+  constexpr int digits = 6;
+  const double radius = RadiusInUse(session);
+  text.r1 = Significant(v[0] * radius, digits);
+  text.n1 = Shortest(v[1]);
+  text.r2 = Significant(v[2] * radius, digits);
+  text.n2 = Shortest(v[3]);
+  text.radius = Significant(radius, digits);
+  text.F = text.B = Shortest(v[0]);
+  text.C = Shortest(v[1]);
+  return text;
 }
 
 }  // namespace
@@ -141,6 +179,8 @@ std::string MethodLabel(const Session& session, const RayInputs& rays) {
   const auto& partial = session.forms.dlogPartial;
   if (partial.optPartial.Checked) details.partial = {partial.txtMin.Text, partial.txtMax.Text};
   details.diffraction = OffersDiffraction(session) && WithDiffraction(session);
+  if (details.method == Method::CoatedSphere) details.coating = CoatingOf(session);
+  if (details.method == Method::InhomogeneousSphere) details.profile = ProfileOf(session);
   if (!TakesDifferences(ChosenGraph(session.state))) return DebyeLabelText(details);
   if (form.mnuGODebye.Checked || form.mnuSWsub.Checked) details.difference = Details::Difference::MinusGo;
   if (form.mnuMieDebye.Checked) details.difference = Details::Difference::FromMie;

@@ -13,7 +13,7 @@ namespace lumivex {
 struct DebyeLabelDetails {
   enum class Beam { PlaneWave, Gaussian, TopHat };
   enum class Difference { None, MinusGo, FromMie };
-  enum class Profile { None, Linear, Sinusoidal, ModLuneburg, Exponential, Polynomial, Luneburg, ThreeLayer };
+  enum class Profile { None, Linear, Cosine, ModLuneburg, Exponential, Polynomial, Luneburg, ThreeLayer, Sinusoidal };
   enum class Path { ShortAndLong, Short, Long };
 
   struct BeamNumbers {
@@ -24,7 +24,8 @@ struct DebyeLabelDetails {
   struct PartialRange {
     std::string first, last;
   };
-  /// A coated sphere: version 1 or 2; N, A, B of its Debye series where that is what is summed.
+  /// A coated sphere: version 1 or 2; N, A, B of its Debye series where that is what is summed, N alone of several
+  /// ways.
   struct Coating {
     int version = 1;
     std::optional<std::string> N;
@@ -32,7 +33,8 @@ struct DebyeLabelDetails {
   };
   struct RadialProfile {
     Profile kind = Profile::None;
-    std::string n1, n2, r1, r2, B, C, F;
+    std::string n1, n2, r1, r2, radius;  ///< of two parts, the radii in um
+    std::string B, C, F;
   };
 
   Method method = Method::Mie;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "record/number_text.h"
+#include "session/inputs/layers/read_layers.h"
 #include "session/inputs/methods/rays_check.h"
 
 namespace lumivex {
@@ -50,10 +51,15 @@ MethodOptions ChosenMethod(const Session& session) {
     if (TakesDifferences(ChosenGraph(session.state))) options.difference = DifferenceTicked(form);
     options.partialWaves = PartialWavesOf(session.forms.dlogPartial);
   }
+  if (options.method == Method::CoatedSphere) {
+    options.paths = ReadPaths(session);
+    options.recursion = ReadRecursion(session.forms.dlogCoatedSphere);
+  }
+  if (options.method == Method::InhomogeneousSphere) options.layers = ReadProfile(session);
   options.byRatio = form.mnuDebyeRecursion.Checked;
   // Only the series that knows the division takes part in it: a difference of divided and undivided fields means
   // nothing.
-  options.divideBySize = form.mnuSize.Checked && options.method == Method::Mie;
+  options.divideBySize = form.mnuSize.Checked && traits.divides;
   options.classicStart = form.mnuClassicStart.Checked;
   if (session.state.DiffractionVariant == 1) options.diffraction = DiffractionForm::PartialWaves;
   options.forwardEfficiency = form.mnuHidden.Checked;

@@ -1,6 +1,7 @@
 #include "session/inputs/methods/sphere_size.h"
 
 #include "record/number_text.h"
+#include "session/inputs/layers/read_layers.h"
 #include "session/inputs/map_inputs.h"
 #include "session/inputs/sizes/read_sizes.h"
 
@@ -14,6 +15,7 @@ double MediumIndexInUse(const Session& session) {
 double SphereRadius(const Session& session) {
   const auto& form = session.form1;
   if (const auto ofMap = RadiusOfMap(session)) return *ofMap;
+  if (session.state.CalcMethod == Method::CoatedSphere) return MantleRadius(session);
   const double size = Val(form.txtRadius.Text);
   constexpr double twoPi = 6.28318530717958648;
   if (form.mnuRadiusX.Checked) return size * Val(form.txtLambda.Text) / (twoPi * MediumIndexInUse(session));

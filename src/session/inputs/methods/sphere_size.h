@@ -5,8 +5,9 @@
 namespace lumivex {
 
 /// The radius in micrometres that txtRadius means: itself, a diameter to be halved, or a size parameter, after which of
-/// mnuRadius, mnuDiameter and mnuRadiusX is ticked. Wavelength and medium are read from their fields. Of a map it
-/// is the radius that its own field means, or the smallest that it sweeps.
+/// mnuRadius, mnuDiameter and mnuRadiusX is ticked. Wavelength and medium are read from their fields. Of a coated
+/// sphere it is the outer radius of its dialog; of a map it is the radius that its own field means, or the smallest
+/// that it sweeps.
 double SphereRadius(const Session& session);
 
 /// That radius, or the one that stands for a size file.
