@@ -21,7 +21,7 @@ constexpr double debyeTerm = 250;
 constexpr double debyeTermOfEachRay = 10;
 constexpr double coatedTerm = 400;
 constexpr double wayTerm = 10;     // each of the ways that are selected
-constexpr double layerTerm = 120;  // each layer of a profile
+constexpr double layerTerm = 40;   // each layer of a profile
 constexpr double ratioTerm = 100;  // times x: continued fractions of an absorbing sphere
 
 /// Most settings, and most sizes of a cloud, that are looked at one by one.
