@@ -18,7 +18,7 @@ const fs::path sourceRoot = fs::path(lumivex::SourceFolder()) / "src";
 /// Folders from the bottom of the house to its top; what stands in one line stands on one height.
 const std::vector<std::vector<std::string>> storeys = {
     {"catalogue/", "axes/", "colour/"},
-    {"materials/", "particles/", "solvers/"},
+    {"materials/", "particles/", "solvers/", "timedomain/"},
     {"runs/"},
     {"record/"},
     {"pages/"},
