@@ -7,6 +7,8 @@
 #include <numbers>
 #include <random>
 
+#include "solvers/functions/random_fraction.h"
+
 namespace lumivex {
 
 namespace {
@@ -15,11 +17,6 @@ constexpr double pi = std::numbers::pi;
 constexpr std::uint64_t emptyCell = std::numeric_limits<std::uint64_t>::max();
 /// Rays of a bundle: so many in impact and in azimuth. Both halves of the azimuth are alike, so one is traced.
 constexpr int bundleSide = 400;
-
-/// 0..1, the same on every machine.
-double NextFraction(std::mt19937_64& generator) {
-  return static_cast<double>(generator() >> 11) * 0x1p-53;
-}
 
 /// Share of unpolarised light that passes two surfaces at incidence i and refraction r.
 double TransmissionOfBoth(double i, double r, double m) {

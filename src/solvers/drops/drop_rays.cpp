@@ -8,6 +8,7 @@
 #include <random>
 
 #include "solvers/functions/complex_algebra.h"
+#include "solvers/functions/random_fraction.h"
 
 namespace lumivex {
 
@@ -91,10 +92,6 @@ DropExit Leave(const DropLight& light, const Wave& wave, const SpaceVector& dire
     exit.parallel += power * (SquaredModulus(s) + SquaredModulus(p) - perpendicular);
   }
   return exit;
-}
-
-double NextFraction(std::mt19937_64& generator) {
-  return static_cast<double>(generator() >> 11) * 0x1p-53;
 }
 
 }  // namespace
