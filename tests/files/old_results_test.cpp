@@ -77,8 +77,8 @@ TEST_F(ResultsFiles, FormerNamesAreKnown) {
   EXPECT_EQ(Get("cboType"), "Mie");
   Write("unknown.lvx", OldFile{4400, "Intensity v. scattering angle", std::string(50, 'z')}.Text());
   EXPECT_EQ(Refused("unknown.lvx"), "File error: Unknown calculation method: \"" + std::string(40, 'z') + "\"");
-  Write("coated.lvx", OldFile{4400, "Intensity v. scattering angle", "Inhomogeneous sphere"}.Text());
-  EXPECT_NE(Refused("coated.lvx").find("\"Inhomogeneous sphere\", which this version"), std::string::npos);
+  Write("dew.lvx", OldFile{4400, "Intensity v. scattering angle", "Heiligenschein"}.Text());
+  EXPECT_NE(Refused("dew.lvx").find("\"Heiligenschein\", which this version"), std::string::npos);
 }
 
 TEST_F(ResultsFiles, SelectedRaysAreReadSinceTheyWereWritten) {
