@@ -41,9 +41,9 @@ const KindRow& RowOf(SaveKind kind) {
 }  // namespace
 
 std::optional<std::string> apidialogbox(Session& session, std::string_view pattern, std::string_view filter,
-                                        std::string_view title, FileUse use) {
-  const std::string ending(pattern.substr(1));
-  const FileDialog dialog{std::string(title), std::string(filter), use == FileUse::Save ? "lumivex" + ending : ""};
+                                        std::string_view title, FileUse use, const std::string& suggested) {
+  const std::string ending(pattern.substr(1)), name = suggested.empty() ? "lumivex" + ending : suggested;
+  const FileDialog dialog{std::string(title), std::string(filter), use == FileUse::Save ? name : ""};
   auto path = use == FileUse::Save ? session.platform.SaveFileName(dialog) : session.platform.OpenFileName(dialog);
   if (!path || path->empty()) {
     session.platform.Note("Lumivex", "No file was selected");
@@ -56,9 +56,14 @@ std::optional<std::string> apidialogbox(Session& session, std::string_view patte
   return path;
 }
 
-std::optional<std::string> AskSaveName(Session& session, SaveKind kind) {
+std::optional<std::string> cmdSelectOpen_Click(Session& session, std::string_view pattern, std::string_view filter,
+                                               std::string_view title) {
+  return apidialogbox(session, pattern, filter, title, FileUse::Load);
+}
+
+std::optional<std::string> AskSaveName(Session& session, SaveKind kind, const std::string& suggested) {
   const KindRow& row = RowOf(kind);
-  return apidialogbox(session, row.pattern, row.filter, row.title, FileUse::Save);
+  return apidialogbox(session, row.pattern, row.filter, row.title, FileUse::Save, suggested);
 }
 
 void select_save_filename(Session& session, SaveKind kind) {

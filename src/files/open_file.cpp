@@ -13,7 +13,8 @@
 namespace lumivex {
 
 bool OpenFile(Session& session, const std::string& path) {
-  const bool batch = EndsWith(path, ".min");
+  const bool known = IsResultsPath(path) || TakesDroppedFile(path);
+  const bool batch = EndsWith(path, ".min") || (!known && IsBatchFile(path));
   if (!batch && !IsResultsPath(path)) {
     DropFiles(session, std::span(&path, 1));
     return TakesDroppedFile(path);

@@ -34,7 +34,6 @@ enum class Feature {
   SeveralWavelengths,
   ColourBars,  ///< bars and maps in colour: brightness, saturation and gamma
   SizeDistributions,
-  ResultsFiles,
   BatchFiles,
   Simulation,
 };

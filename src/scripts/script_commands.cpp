@@ -1,9 +1,11 @@
 #include "scripts/script_commands.h"
 
 #include <algorithm>
+#include <span>
 #include <type_traits>
 
 #include "pages/build_page.h"
+#include "pages/curves/curve_rows.h"
 #include "pages/page_table.h"
 #include "record/number_text.h"
 #include "record/recording_surface.h"
@@ -134,7 +136,14 @@ struct RowRange {
 RowRange DisplayedRows(const MainFormState& s) {
   if (!HasResults(s)) return {};
   const int stored = static_cast<int>(s.XValues.size()) - 1;
-  if (!ResultGraph(s).OfAngles()) return {1, std::min(ToWhole(s.LastPoint), stored)};
+  if (!ResultGraph(s).OfAngles()) {
+    const RowRange all{1, std::min(ToWhole(s.LastPoint), stored)};
+    const auto* axis = s.LastResults->Find<AxisFound>();
+    if (axis == nullptr) return all;
+    // By the places of the points, which the look may show as their inverse.
+    const RowSpan shown = RowsWithin(std::span<const double>(axis->x), {s.PlotXmin, s.PlotXmax});
+    return {std::max(all.first, static_cast<int>(shown.first)), std::min(all.last, static_cast<int>(shown.last))};
+  }
   const int first = ToWhole(s.PlotXmin / s.Xstep) + 1, last = ToWhole(s.PlotXmax / s.Xstep) + 1;
   return {std::max(first, s.AngleLow), std::min({last, s.AngleHigh, stored})};
 }

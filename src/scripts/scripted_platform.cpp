@@ -39,7 +39,8 @@ std::optional<std::string> ScriptedPlatform::OpenFileName(const FileDialog&) {
   return TakeFirst(openPaths);
 }
 
-std::optional<std::string> ScriptedPlatform::SaveFileName(const FileDialog&) {
+std::optional<std::string> ScriptedPlatform::SaveFileName(const FileDialog& dialog) {
+  suggestedName = dialog.suggested;
   return TakeFirst(savePaths);
 }
 

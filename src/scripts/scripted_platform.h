@@ -46,6 +46,7 @@ class ScriptedPlatform final : public Platform {
   std::vector<std::string> helpPages;
   std::vector<std::string> shownForms;  ///< modeless windows, by name
   std::string copiedText;
+  std::string suggestedName;  ///< by the dialog for saving that was opened last
   int beeps = 0;
   bool quit = false;
   // What happens on a yield, how a dialog's field is set, how a picture is saved.

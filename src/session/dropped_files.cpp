@@ -22,6 +22,7 @@ void DropFiles(Session& session, std::span<const std::string> paths) {
   session.platform.Message("Dropped files", ReadablePath(FileNameOf(paths.front())) +
                                                 " is none of the files that can be dropped here:\n"
                                                 "results (.lvx)\n"
+                                                "batch (.min)\n"
                                                 "refractive indices (.rix, .csv, .yml, .yaml)\n"
                                                 "spectrum (.spe)\n"
                                                 "size distribution (.dis)");

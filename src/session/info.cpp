@@ -1,10 +1,12 @@
 #include "session/info.h"
 
+#include "materials/files/readable_text.h"
 #include "pages/run_words.h"
 #include "record/number_text.h"
 #include "session/checks/material_bands.h"
 #include "session/driver/fold_sizes.h"
 #include "session/driver/progress.h"
+#include "session/inputs/dialog_use.h"
 
 namespace lumivex {
 
@@ -30,6 +32,14 @@ bool IsPart(const Results& results) {
   return map != nullptr && map->done < map->columns;
 }
 
+/// "Batch rain.min, Radius 120   "; empty outside a batch.
+std::string BatchWords(const BatchState& batch) {
+  if (batch.BatchActive == 0) return {};
+  std::string words = "Batch " + Readable(FileNameOf(batch.BatchFileName));
+  if (batch.StepActive != 0) words += ", " + batch.StepName + " " + Significant(double{batch.StepValue}, 7);
+  return words + "   ";
+}
+
 }  // namespace
 
 std::vector<std::string> RunParameters(const Session& session) {
@@ -47,16 +57,21 @@ void cmdInfo_Click(Session& session) {
 
 std::string StatusText(const Session& session) {
   const auto& s = session.state;
+  const std::string batch = BatchWords(s);
   if (session.form1.txtProgress.Visible) {
     const std::string left = TimeLeftWords(s.SecondsLeft);
-    return session.form1.txtProgress.Text + (left.empty() ? "" : "   " + left);
+    return batch + session.form1.txtProgress.Text + (left.empty() ? "" : "   " + left);
   }
+  if (!batch.empty()) return std::string(Trim(batch));
   // Some graphs start with a range that is wider than the band of common materials.
   if (std::string wayOut = WayOutOfBand(session); !wayOut.empty()) return wayOut;
   if (!s.LastResults) return "Ready";
-  if (session.remark.of.lock() == s.LastResults) return session.remark.text;
+  const bool remarked = session.remark.of.lock() == s.LastResults;
+  if (remarked && session.remark.text != informationOff) return session.remark.text;
   const bool stopped = s.StopAnswer != 0 || IsPart(*s.LastResults);
-  return RunInShort(*s.LastResults) + FoldWords(session) + (stopped ? ", stopped" : "");
+  const bool off = remarked && !session.form1.Frame6.Visible;
+  return (off ? std::string(informationOff) + "   " : "") + RunInShort(*s.LastResults) + FoldWords(session) +
+         (stopped ? ", stopped" : "");
 }
 
 }  // namespace lumivex

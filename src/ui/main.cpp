@@ -21,7 +21,8 @@ constexpr int usageError = 2, noDisplay = 3;
 
 constexpr char usage[] =
     "Usage: lumivex [--fresh] [--timing] [--script FILE] [FILE]\n"
-    "  FILE           open it at the start: a batch file (.min), which asks for its output and runs, or an input file\n"
+    "  FILE           open it at the start: a results file (.lvx), a batch file (.min), which asks for its output and\n"
+    "                 runs, or an input file (.rix, .csv, .yml, .yaml, .spe, .dis)\n"
     "  --fresh        begin as on the first day: read no settings, and keep neither settings nor session\n"
     "  --timing       tell how long the first picture took, and end\n"
     "  --script FILE  run a script in the window, and end; without a display in one that is not shown\n"

@@ -71,6 +71,43 @@ kill -TERM $process
 wait $process; expect "an interrupted list" 1 $?
 expect "what was not begun" 1 "$(grep -c 'jobs/1.min was not begun' told)"
 
+# A process that dies is started once more, and what it leaves is as whole as any.
+child_of() { awk -v parent="$1" '$4 == parent { print $1 }' /proc/[0-9]*/stat 2> /dev/null; }
+another_child() { # OF OTHER_THAN
+  for _ in $(seq 600); do
+    found=$(child_of "$1")
+    [ -n "$found" ] && [ "$found" != "$2" ] && return
+    sleep 0.1
+  done
+}
+rm -f .lumivex*
+printf 'Lumivex 4200 batch file\nxstep\n1\nStep\nRadius\n20 40 0.01\nrun\n' > mortal.min
+"$program" --jobs 1 mortal.min > done 2> told &
+process=$!
+at_work
+kill -KILL "$(child_of $process)"
+wait $process; expect "a job that died once" 0 $?
+expect "that it was started again" 1 "$(grep -c 'mortal.min was ended by signal 9 and is started again' told)"
+expect "its output" 2001 "$(blocks mortal.mut)"
+"$program" --jobs 1 endless.min > /dev/null 2> told &
+process=$!
+first=none
+for _ in 1 2; do
+  another_child $process "$first"
+  first=$found
+  kill -KILL "$first"
+done
+wait $process; expect "a job that died twice" 1 $?
+expect "what is told of it" 1 "$(grep -c 'endless.min failed' told)"
+expect "no output of it" 0 "$(ls endless.mut 2> /dev/null | wc -l)"
+
+# A batch file is known by its first line, whatever its name.
+cp jobs/1.min job.txt
+"$program" job.txt; expect "a job of another name" 0 $?
+expect "its output" 1 "$(blocks job.txt.mut)"
+"$program" --threads 1 job.txt there.mut; expect "a job of another name with a place" 0 $?
+expect "its output" 1 "$(blocks there.mut)"
+
 for words in "" "--jobs" "--jobs 0 good.min" "--jobs x good.min" "--fly good.min" "a b c" "--threads 2 script.txt"; do
   # shellcheck disable=SC2086
   "$program" $words > /dev/null 2>&1; expect "called as '$words'" 1 $?

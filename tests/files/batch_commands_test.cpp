@@ -59,12 +59,12 @@ TEST(BatchCommands, AValueIsOneFiniteNumber) {
     const char* lines;
     const char* quoted;
   };
-  for (const Case c : {Case{"Radius\nten\n", "ten"}, Case{"SD\nnan\n", "nan"}, Case{"xmin\n1e999\n", "1e999"},
-                       Case{"Radius\nrun\n", "run"}, Case{"P\n1 2\n", "1 2"}, Case{"Wavelength\n", "Wavelength"},
-                       Case{"Step\nxmin\n1 2 1\n", "xmin"}, Case{"Step\nRadius\n1 2\n", "1 2"},
-                       Case{"Step\nRadius\n1 2 0\n", "1 2 0"}, Case{"Step\nRadius\n2 1 0.1\n", "2 1 0.1"},
-                       Case{"Step\nRadius\n1 2 nan\n", "1 2 nan"}, Case{"Step\nRadius\n1 2 1e-400\n", "1 2 1e-400"},
-                       Case{"Step\nRadius\n1 2 3 4\n", "1 2 3 4"}, Case{"Step\n", "Step"}}) {
+  for (const Case c :
+       {Case{"Radius\nten\n", "ten"}, Case{"SD\nnan\n", "nan"}, Case{"xmin\n1e999\n", "1e999"},
+        Case{"Radius\nrun\n", "run"}, Case{"P\n1 2\n", "1 2"}, Case{"Wavelength\n", "Wavelength"},
+        Case{"Step\nxmin\n1 2 1\n", "xmin"}, Case{"Step\nRadius\n1 2\n", "1 2"}, Case{"Step\nRadius\n1 2 0\n", "1 2 0"},
+        Case{"Step\nRadius\n1 2 nan\n", "1 2 nan"}, Case{"Step\nRadius\n1 2 1e-400\n", "1 2 1e-400"},
+        Case{"Step\nRadius\n1 2 3 4\n", "1 2 3 4"}, Case{"Step\n", "Step"}}) {
     const auto commands = CommandsOf(c.lines);
     EXPECT_EQ(commands[0].kind, Kind::Unknown) << c.lines;
     EXPECT_EQ(commands[0].line, c.quoted) << c.lines;

@@ -57,6 +57,12 @@ TEST_F(ResultsFiles, EveryVersionReads) {
     EXPECT_EQ(Get("dlogRI_User1.txtRI_1_4"), "1.495");
     // What a version lacks stays as it was.
     EXPECT_EQ(Get("mnuRI_Air2") == "true", version >= 201);
+    // Names follow the source; the index is the file's own.
+    const std::string complex = Get("dlogTemp.chkRI_Complex") == "true" ? " Complex" : "";
+    EXPECT_EQ(Get("SphereName"), "IAPWS 12C" + complex);
+    EXPECT_EQ(Get("lblSphere"), "Sphere: IAPWS 12C" + complex);
+    EXPECT_EQ(Get("MediumName"), "Air 10C");
+    EXPECT_EQ(Get("txtRefractReal"), "1.33");
     const auto& results = *runner.Current().state.LastResults;
     const auto* found = results.Find<AngleFound>();
     ASSERT_NE(found, nullptr);
@@ -81,6 +87,25 @@ TEST_F(ResultsFiles, FormerNamesAreKnown) {
   EXPECT_NE(Refused("dew.lvx").find("\"Heiligenschein\", which this version"), std::string::npos);
 }
 
+// A file that cannot say which p are ticked was refused while none was.
+TEST_F(ResultsFiles, RaysThatAFileDoesNotTellStayAsTheyAreTicked) {
+  for (const int version : {200, 3102}) {
+    SCOPED_TRACE(version);
+    Write("rays.lvx", OldFile{version, "Intensity v. scattering angle", "Debye", {"Multiple"}}.Text());
+    for (const auto& [ticks, rays] :
+         {std::pair{"", ""},
+          {"choose cboType Debye\ndialog dlogP ok chkRay0=on chkRay3=on\nset cboRays Multiple", "0, 3"}}) {
+      Do(std::string("reset\n") + ticks);
+      runner.World().messages.clear();
+      Load("rays.lvx");
+      EXPECT_TRUE(Shown().empty()) << LastText();
+      EXPECT_EQ(Get("cboRays"), "Multiple");
+      EXPECT_EQ(runner.Current().state.LastResults->asked.words.rays, rays);
+      EXPECT_NEAR(runner.Current().state.LastResults->Find<AngleFound>()->S1.Intensity(2), 100, 1e-12);
+    }
+  }
+}
+
 TEST_F(ResultsFiles, SelectedRaysAreReadSinceTheyWereWritten) {
   Write("rays.lvx", OldFile{4400, "Intensity v. scattering angle", "Debye", {" 2 ", " 0 ", " 3 "}}.Text());
   Load("rays.lvx");
@@ -92,20 +117,26 @@ TEST_F(ResultsFiles, SelectedRaysAreReadSinceTheyWereWritten) {
 
 TEST_F(ResultsFiles, TheLayoutAloneBringsTheCurves) {
   // Without our block, as other programs write it.
-  for (const char* run : {"set txtRadius 2\nset cboStep 5", "set cboWave 7\nset txtRadius 2\nset cboStep 10",
-                          "choose cboGraph Qext/Qsca/Qabs v. radius\nset cboStep 20",
-                          "choose cboGraph Scattering matrix: wavelength\nset cboStep 40",
-                          "choose cboGraph Map: angle v. radius\nset cboStep 0.5"}) {
+  for (const char* run :
+       {"set txtRadius 2\nset cboStep 5", "set cboWave 7\nset txtRadius 2\nset cboStep 10",
+        "choose cboGraph Qext/Qsca/Qabs v. radius\nset cboStep 20",
+        "choose cboGraph Scattering matrix: wavelength\nset cboStep 40",
+        "choose cboGraph Map: angle v. radius\nset cboStep 0.5", "choose cboGraph Map: RI v. size x\nset cboStep 6"}) {
     SCOPED_TRACE(run);
     Do("reset");
     Do(run);
     Do("click cmdNewPlot");
+    const std::string falseColours = Get("mnuFalseColours"), label = Get("lblSphere");
     const Curves asked = CurvesOf(*runner.Current().state.LastResults, {});
     Save("whole.lvx");
     const std::string whole = Content("whole.lvx");
     Write("lines.lvx", whole.substr(0, whole.find("Lumivex: every input")));
     Do("reset");
     Load("lines.lvx");
+    EXPECT_EQ(Get("mnuFalseColours"), falseColours);
+    if (label.find("IAPWS") == std::string::npos) {
+      EXPECT_EQ(Get("lblSphere"), label);
+    }
     const Curves read = CurvesOf(*runner.Current().state.LastResults, {});
     ASSERT_EQ(read.perpendicular.size(), asked.perpendicular.size());
     for (int i = asked.firstRow; i <= asked.lastRow; ++i) {

@@ -1,8 +1,11 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <algorithm>
+
 #include "files/batch_fixture.h"
 #include "files/open_file.h"
+#include "session/info.h"
 
 namespace lumivex {
 namespace {
@@ -64,6 +67,29 @@ TEST_F(ReadBatch, AStepRunsOnceAValueAndIsOverThen) {
   EXPECT_EQ(Lines("job.mut", "Calculation Method: Debye series (p = 2)"), 1);
 }
 
+// Steps that lead away from their end would have ended the batch as an error.
+TEST_F(ReadBatch, AStepWithoutAValueRunsNothingAndSaysSo) {
+  ASSERT_EQ(Run(std::string(quick) + "Step\nRadius\n5 1 1\nrun\nrun\n"), BatchEnd::Done);
+  EXPECT_EQ(Blocks(), 1) << "the step is over after its run";
+  EXPECT_NE(LastText().find("Line 11: there is no step from 5 to 1 by 1"), std::string::npos) << LastText();
+}
+
+TEST_F(ReadBatch, TheStatusLineTellsTheStep) {
+  std::vector<std::string> told;
+  runner.World().onYield = [&] {
+    const std::string text = StatusText(runner.Current());
+    if (told.empty() || told.back() != text) told.push_back(text);
+  };
+  ASSERT_EQ(Run(std::string(quick) + "run\nStep\nRadius\n2 3 0.5\nrun\n"), BatchEnd::Done);
+  const auto begins = [&](const std::string& text) {
+    return std::ranges::any_of(told, [&](const std::string& line) { return line.starts_with(text); });
+  };
+  EXPECT_TRUE(begins("Batch job.min   % complete"));
+  EXPECT_TRUE(begins("Batch job.min, Radius 2.5   % complete"));
+  EXPECT_EQ(told.back(), "Batch job.min, Radius 3");
+  EXPECT_EQ(StatusText(runner.Current()).find("Batch"), std::string::npos);
+}
+
 TEST_F(ReadBatch, ErrorsAreToldAndEndTheBatchAndWhatWasFinishedIsKept) {
   const std::string start = "Radius\n10\n" + std::string(quick) + "run\n",
                     name = "Error in batch file: " + Path("job.min");
@@ -111,6 +137,12 @@ TEST_F(ReadBatch, FilesThatAreNoBatchFilesChangeNothing) {
   EXPECT_EQ(Shown()[2].text, "Error in batch file: " + Path("zeros.min") + " is not a valid batch file");
   EXPECT_EQ(Shown()[5].text, "Error in batch file: " + Path("none.min") + "\nThe file is not there");
   EXPECT_EQ(runner.Current().form1.Snapshot(), before);
+}
+
+TEST_F(ReadBatch, AFullDiskIsTold) {
+  Put("job.min", "Lumivex 4200 batch file\n" + std::string(quick) + "run\n");
+  EXPECT_EQ(RunBatch(runner.Current(), {Path("job.min"), "/dev/full"}), BatchEnd::Failed);
+  EXPECT_NE(LastText().find("No space left"), std::string::npos) << LastText();
 }
 
 TEST_F(ReadBatch, TheOutputNeverTakesThePlaceOfTheCommands) {
@@ -169,6 +201,7 @@ TEST_F(ReadBatch, TheMenuAsksForBothFiles) {
   EXPECT_EQ(Blocks("out.mut"), 1);
   EXPECT_EQ(Get("mnuBatchFile"), "false");
   EXPECT_EQ(Get("OutputFileName"), Path("out.mut"));
+  EXPECT_EQ(runner.Current().form1.recentEntries.list[0].Caption, "job.min   (batch)");
   Do("click mnuUndo");
   EXPECT_EQ(Get("txtXmax"), "180") << "a batch is one step";
   Do("click mnuBatchFile");
@@ -183,6 +216,14 @@ TEST_F(ReadBatch, AFileThatIsNamedAtTheStartIsOpenedAsItsKindWantsIt) {
   runner.World().savePaths = {Path("out.mut")};
   OpenFile(runner.Current(), Path("job.min"));
   EXPECT_EQ(Blocks("out.mut"), 1);
+  EXPECT_EQ(runner.World().suggestedName, Path("job.mut")) << "the place where lumivex-run puts it";
+  EXPECT_EQ(runner.Current().form1.recentEntries.list[0].Caption, "job.min   (batch)");
+  fs::rename(Path("job.min"), Path("job.txt"));
+  runner.World().savePaths = {Path("other.mut")};
+  EXPECT_TRUE(OpenFile(runner.Current(), Path("job.txt"))) << "its first line tells what it is";
+  EXPECT_EQ(Blocks("other.mut"), 1);
+  EXPECT_EQ(runner.World().suggestedName, Path("job.txt.mut"));
+  EXPECT_EQ(runner.Current().settings.recent.front().kind, FileKind::Batch);
   Put("spray.dis", "Lumivex 300\n");
   OpenFile(runner.Current(), Path("spray.dis"));
   EXPECT_FALSE(Shown().empty()) << "it was read as a size distribution";

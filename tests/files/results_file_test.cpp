@@ -1,7 +1,11 @@
+#include <sys/stat.h>
 #include <unistd.h>
+
+#include <algorithm>
 
 #include "files/results/own_block.h"
 #include "files/results_fixture.h"
+#include "session/info.h"
 #include "source_folder.h"
 
 namespace lumivex {
@@ -198,6 +202,159 @@ TEST_F(ResultsFiles, SettingsAreFoundByNameAndMayBeMissing) {
   EXPECT_NE(Refused("bad.lvx").find("a number should stand there"), std::string::npos);
 }
 
+// A field that comes new would otherwise close every file to the programs of before.
+TEST_F(ResultsFiles, FieldsOfResultsThatNobodyKnowsArePassedOver) {
+  Do("set txtRadius 2\nset cboStep 30\nclick cmdNewPlot");
+  const std::string drawn = Drawn();
+  Save("good.lvx");
+  std::string text = Content("good.lvx");
+  for (const char* field : {"\nseconds ", "\nS1 ", "\nmirroredLow ", "\nwavefronts "}) {
+    ASSERT_NE(text.find(field), std::string::npos) << field;
+    text.insert(text.find(field), "\nOfAnotherVersion 3\n1 2 -3\nWithWords no numbers at all");
+  }
+  Write("other.lvx", text);
+  Do("reset");
+  Load("other.lvx");
+  EXPECT_TRUE(Shown().empty()) << LastText();
+  EXPECT_EQ(Drawn(), drawn);
+  text.replace(text.find("\nS1 "), 4, "\nXX ");
+  Write("bad.lvx", text);
+  EXPECT_NE(Refused("bad.lvx").find("\"S1\" should stand there"), std::string::npos) << LastText();
+}
+
+TEST_F(ResultsFiles, ValuesBelow0AreRefusedWhereNoneCanBe) {
+  /// Puts a minus before the first number behind a place of the file that is not 0.
+  const auto fails = [&](const std::string& run, const std::string& place) {
+    SCOPED_TRACE(run);
+    Do("reset\n" + run + "\nclick cmdNewPlot");
+    Save("good.lvx");
+    std::string text = Content("good.lvx");
+    const auto at = text.rfind(place);
+    ASSERT_NE(at, std::string::npos);
+    text.insert(text.find(' ', text.find('\n', at + 1)) + 1, "-");
+    Write("bad.lvx", text);
+    EXPECT_NE(Refused("bad.lvx").find("below 0"), std::string::npos) << LastText();
+  };
+  fails("choose cboGraph Qext/Qsca/Qabs v. radius\nset txtXmax 2\nset cboStep 20", "\nQsca ");
+  fails("choose cboGraph Scattered power v. radius\nset txtXmax 3\nset cboStep 0.5", "\npowerPerp ");
+  fails("set cboWave 3\nset cboStep 30", "\nparallel ");
+  // Of the lines before our block.
+  Do("reset\nset cboStep 30\nset txtRadius 2\nclick cmdNewPlot");
+  Save("good.lvx");
+  auto lines = LinesOf(Content("good.lvx"));
+  const auto last = std::ranges::find(lines, ownBlockLine) - 1;
+  last->front() = '-';
+  Write("bad.lvx", Joined(lines));
+  EXPECT_NE(Refused("bad.lvx").find("below 0"), std::string::npos) << LastText();
+  // What may lie there is read.
+  Do("reset\nchoose cboGraph Asymmetry g v. radius\nset txtXmin 0.01\nset txtXmax 0.5\nset cboStep 20\n"
+     "click mnuRI_Ag\nclick cmdNewPlot");
+  const auto& g = runner.Current().state.Iperp;
+  EXPECT_TRUE(std::ranges::any_of(g, [](double value) { return value < 0; }));
+  Save("g.lvx");
+  runner.World().messages.clear();
+  Load("g.lvx");
+  EXPECT_TRUE(Shown().empty()) << LastText();
+}
+
+// They are no numbers, and as such the file was refused.
+TEST_F(ResultsFiles, CellsThatAStopCameBeforeAreReadAsMissing) {
+  Do("click mnuTwoAngle\nstop-at 30\nclick cmdNewPlot");
+  const auto* found = runner.Current().state.LastResults->Find<TwoAngleFound>();
+  ASSERT_NE(found, nullptr);
+  ASSERT_LT(static_cast<std::size_t>(found->done), found->first.cells.size());
+  const std::string drawn = Drawn();
+  Save("part.lvx");
+  Do("reset");
+  runner.World().messages.clear();
+  Load("part.lvx");
+  EXPECT_TRUE(Shown().empty()) << LastText();
+  EXPECT_EQ(Drawn(), drawn);
+}
+
+TEST_F(ResultsFiles, DialogsOfTheRunAreHeldAgainstWhatTheyTakeAndOthersKeepTheirNumbers) {
+  const auto fails = [&](const std::string& runs, const std::string& was, const std::string& put) {
+    Do("reset\n" + runs + "\nclick cmdNewPlot");
+    Save("good.lvx");
+    std::string text = Content("good.lvx");
+    for (auto at = text.find(was); at != std::string::npos; at = text.find(was, at + 1))
+      text.replace(at, was.size(), put);
+    Write("bad.lvx", text);
+    return text == Content("good.lvx") ? "not there" : Refused("bad.lvx");
+  };
+  const std::string quick = "set txtRadius 2\nset cboStep 30\n", refused = "cannot be run";
+  EXPECT_NE(fails(quick + "set cboWave 3", "dlogSpectrumBand.txtSpectrumMin 380", "dlogSpectrumBand.txtSpectrumMin x")
+                .find(refused),
+            std::string::npos);
+  EXPECT_NE(fails(quick + "set cboWave 3\nclick mnuSpectrumWernand2", "dlogWernand.txtElevation 45",
+                  "dlogWernand.txtElevation 95")
+                .find(refused),
+            std::string::npos);
+  EXPECT_NE(
+      fails("choose cboGraph Watts/sq. m. v. scattering angle\n" + quick, "\nDistance 1", "\nDistance 0").find(refused),
+      std::string::npos);
+  // Of a dialog that the run did not ask.
+  Do("reset\n" + quick + "click cmdNewPlot");
+  Save("good.lvx");
+  std::string text = Content("good.lvx");
+  for (auto at = text.find("txtElevation 45"); at != std::string::npos; at = text.find("txtElevation 45"))
+    text.replace(at, 15, "txtElevation up");
+  Write("other.lvx", text);
+  Do("set dlogWernand.txtElevation 33");
+  runner.World().messages.clear();
+  Load("other.lvx");
+  EXPECT_TRUE(Shown().empty()) << LastText();
+  EXPECT_EQ(Get("dlogWernand.txtElevation"), "33");
+}
+
+TEST_F(ResultsFiles, TablesHaveTheRowsThatAReplotHadNarrowed) {
+  for (const char* graph : {"set txtRadius 2\nset cboStep 2\nclick cmdNewPlot\nset txtXmin 90\nset txtXmax 120",
+                            "choose cboGraph Intensity v. radius\nset txtXmax 3\nset cboStep 0.1\nclick cmdNewPlot\n"
+                            "set txtXmin 1\nset txtXmax 2"}) {
+    SCOPED_TRACE(graph);
+    const auto tables = [&] {
+      output.str("");
+      Do("table\namplitudes\nget PlotXmin\nget PlotXmax");
+      return output.str();
+    };
+    Do(std::string("reset\n") + graph + "\nclick cmdReplot");
+    const std::string before = tables();
+    EXPECT_LT(LinesOf(before).size(), 60U) << "rows that are not shown";
+    Save("narrow.lvx");
+    Do("reset");
+    Load("narrow.lvx");
+    EXPECT_EQ(tables(), before);
+  }
+}
+
+// Nobody types so much, and yet it may be pasted.
+TEST_F(ResultsFiles, ATextThatIsLongerThanALineIsCutWhereACharacterEnds) {
+  std::string name;
+  for (int i = 0; i < 3000; ++i) name += "\xC2\xB5";
+  Do("dialog dlogRI_User1 ok txtMaterial1=" + name + "\nclick mnuRI_User1\nset txtRadius 2\nset cboStep 30\n" +
+     "click cmdNewPlot");
+  Save("long.lvx");
+  Do("reset");
+  Load("long.lvx");
+  EXPECT_TRUE(Shown().empty()) << LastText();
+  const std::string read = Get("dlogRI_User1.txtMaterial1");
+  EXPECT_GT(read.size(), 4000U);
+  EXPECT_EQ(read, name.substr(0, read.size()));
+  EXPECT_EQ(read.size() % 2, 0U);
+}
+
+TEST_F(ResultsFiles, TheStatusLineSaysThatParametersAreOff) {
+  Do("set txtRadius 2\nset cboStep 30\nclick cmdNewPlot");
+  Save("run.lvx");
+  Load("run.lvx");
+  Session& session = runner.Current();
+  EXPECT_TRUE(StatusText(session).starts_with("Information OFF   Mie, ")) << StatusText(session);
+  Do("click mnuInfo");
+  EXPECT_TRUE(StatusText(session).starts_with("Mie, ")) << StatusText(session);
+  Do("click mnuInfo\nclick cmdNewPlot");
+  EXPECT_TRUE(StatusText(session).starts_with("Mie, ")) << StatusText(session);
+}
+
 TEST_F(ResultsFiles, NoLineOfRubbishHarms) {
   Do("set txtRadius 2\nset cboStep 30\nclick cmdNewPlot");
   Save("good.lvx");
@@ -243,6 +400,13 @@ TEST_F(ResultsFiles, WhatIsNoResultsFileIsTold) {
   EXPECT_NE(Refused("headed.lvx").find("longer"), std::string::npos);
   std::filesystem::create_directories(Path("folder.lvx"));
   EXPECT_NE(Refused("folder.lvx").find("folder"), std::string::npos);
+  ASSERT_EQ(mkfifo(Path("pipe.lvx").c_str(), 0600), 0);
+  EXPECT_NE(Refused("pipe.lvx").find("pipe.lvx: "), std::string::npos) << "nobody waits for its other end";
+  if (::geteuid() != 0) {
+    Write("closed.lvx", "Lumivex v4.4.00\n");
+    std::filesystem::permissions(Path("closed.lvx"), std::filesystem::perms::none);
+    EXPECT_NE(Refused("closed.lvx").find("closed.lvx: "), std::string::npos);
+  }
   EXPECT_NE(Refused("missing.lvx").find("not there"), std::string::npos);
   EXPECT_TRUE(Everything() == before);
 }
@@ -290,6 +454,11 @@ TEST_F(ResultsFiles, WhatCannotBeWrittenLosesNothing) {
   if (::geteuid() != 0) {
     std::filesystem::permissions(Path("kept.lvx"), std::filesystem::perms::owner_read);
     EXPECT_TRUE(fails(Path("kept.lvx")));
+    const auto folder = std::filesystem::path(Path("kept.lvx")).parent_path();
+    std::filesystem::permissions(folder, std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
+    EXPECT_TRUE(fails(Path("new.lvx"))) << "the folder takes no file";
+    std::filesystem::permissions(folder, std::filesystem::perms::owner_all);
+    EXPECT_FALSE(std::filesystem::exists(Path("new.lvx")));
   }
   EXPECT_EQ(Content("kept.lvx"), kept);
 }

@@ -38,6 +38,12 @@ std::string OnOneLine(std::string text) {
   return text;
 }
 
+/// The name of a material; of an index that the graph varies what its label says behind "Sphere: ".
+std::string NameOf(bool varies, std::string_view label, std::string_view name) {
+  const auto colon = label.find(": ");
+  return std::string(Trim(varies && colon != label.npos ? label.substr(colon + 2) : name));
+}
+
 /// The header of a block, group by group.
 class BlockHeader {
  public:
@@ -52,8 +58,8 @@ class BlockHeader {
     const std::string& label = asked_.words.methodLabel.empty() ? asked_.words.method : asked_.words.methodLabel;
     Line("Calculation Method: " + OnOneLine(label));
     EndGroup();
-    Line("Sphere: \t" + std::string(Trim(asked_.words.sphereName)));
-    Line("Medium: \t" + std::string(Trim(asked_.words.mediumName)));
+    Line("Sphere: \t" + NameOf(graph_.VariesIndex(), asked_.words.sphere, asked_.words.sphereName));
+    Line("Medium: \t" + NameOf(graph_.VariesMedium(), asked_.words.medium, asked_.words.mediumName));
     EndGroup();
     if (graph_.OfAngles() || graph_.family == Family::DebyeAnalysis || graph_.family == Family::Convergence)
       OfOneSphere();
@@ -77,7 +83,7 @@ class BlockHeader {
 
   /// What a map varies along one of its sides, or a chart of two angles; nothing for other graphs and quantities.
   std::optional<std::string> SweptSpan(Swept quantity) const {
-    const auto span = [](const Sweep& sweep) { return Span(sweep.low, sweep.high); };
+    const auto span = [](const Sweep& sweep) { return Span(sweep.LowShown(), sweep.high); };
     if (const auto* map = std::get_if<AngleMapRun>(&asked_.run); map != nullptr && map->columns.quantity == quantity)
       return span(map->columns);
     if (const auto* map = std::get_if<EfficiencyMapRun>(&asked_.run)) {

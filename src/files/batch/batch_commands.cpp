@@ -15,10 +15,13 @@ constexpr std::string_view commandEnding = ".min", outputEnding = ".mut";
 
 }  // namespace
 
+bool BatchSteps::End() const {
+  return by != 0 && std::isfinite((to - from) / by);
+}
+
 double BatchSteps::Count() const {
   const double steps = (to - from) / by + 0.5;
-  if (by == 0 || !std::isfinite(steps) || steps < 0) return 0;
-  return std::floor(steps) + 1;
+  return End() && steps >= 0 ? std::floor(steps) + 1 : 0;
 }
 
 float BatchSteps::At(double step) const {
@@ -77,7 +80,7 @@ BatchCommand BatchCommands::Next() {
     if (command.stepName == nullptr) return Unknown(name);
     const std::string numbers = NextLine().value_or(name);
     const auto steps = ReadBatchSteps(numbers);
-    if (!steps || steps->Count() == 0) return Unknown(numbers);
+    if (!steps || !steps->End()) return Unknown(numbers);
     command.steps = *steps;
   }
   return command;
@@ -87,6 +90,10 @@ std::optional<std::string> BatchOutputOf(std::string_view commandFile) {
   if (!commandFile.ends_with(commandEnding)) return std::nullopt;
   commandFile.remove_suffix(commandEnding.size());
   return std::string(commandFile) + std::string(outputEnding);
+}
+
+std::string BatchOutputBeside(const std::string& commandFile) {
+  return BatchOutputOf(commandFile).value_or(commandFile + std::string(outputEnding));
 }
 
 std::string BatchEntryPath(const std::string& listFile, const std::string& entry) {

@@ -18,7 +18,9 @@ namespace lumivex {
 struct BatchSteps {
   double from = 0, to = 0, by = 0;
 
-  /// How many values there are: while they are not beyond `to` + `by`/2. 0 where there is none or no end to them.
+  /// Whether they come to an end.
+  bool End() const;
+  /// How many values there are: while they are not beyond `to` + `by`/2. 0 where there is none, as from 5 to 1 by 1.
   double Count() const;
   /// Value `step`, from 0, in single precision: from + step by, so that no error adds up.
   float At(double step) const;
@@ -66,6 +68,10 @@ class BatchCommands {
 
 /// The output of an entry of a list: its name with ".mut" in place of ".min"; nothing for a name without.
 std::optional<std::string> BatchOutputOf(std::string_view commandFile);
+
+/// Where the output of a command file stands unless another place is named: beside it, with ".mut" in place of ".min",
+/// or after a name that ends otherwise.
+std::string BatchOutputBeside(const std::string& commandFile);
 
 /// A file of a list: where it stands, names being told from the folder of the list.
 std::string BatchEntryPath(const std::string& listFile, const std::string& entry);

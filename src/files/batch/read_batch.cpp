@@ -97,6 +97,11 @@ class BatchRun {
     if (state_.StepActive == 0) return RunOnce(line);
     const BatchStepName& name = *FindBatchStepName(state_.StepName);
     const double count = steps_.Count();
+    if (count == 0)
+      session_.platform.Note(messageTitle, ReadablePath(file_) + "\nLine " + std::to_string(line) +
+                                               ": there is no step from " + Significant(steps_.from, 7) + " to " +
+                                               Significant(steps_.to, 7) + " by " + Significant(steps_.by, 7) +
+                                               ", and nothing was run");
     for (double step = 0; step < count; ++step) {
       state_.StepValue = steps_.At(step);
       SetStep(session_, name, state_.StepValue);
@@ -214,7 +219,8 @@ BatchEnd RunFile(Session& session, const BatchJob& job) {
   OpenedBatch batch(job.file);
   if (batch.failure.empty() && batch.commands.IsList()) return RunList(session, job, batch.commands);
   if (const std::string fault = FaultOf(batch); !fault.empty()) return Tell(session, ErrorText(job.file, fault));
-  const auto output = job.output ? job.output : AskSaveName(session, SaveKind::BatchOutput);
+  const auto output =
+      job.output ? job.output : AskSaveName(session, SaveKind::BatchOutput, BatchOutputBeside(job.file));
   if (!output) return BatchEnd::Stopped;
   return RunCommands(session, job.file, batch.commands, *output, job.unfinishedInPlace);
 }
@@ -226,6 +232,11 @@ BatchEnd RunBatch(Session& session, const BatchJob& job) {
   session.platform.Beep();
   session.events.Raise("Run_Ended");
   return end;
+}
+
+bool IsBatchFile(const std::string& file) {
+  const OpenedBatch batch(file);
+  return batch.failure.empty() && (batch.commands.IsList() || batch.commands.Version() != 0);
 }
 
 bool IsBatchList(const std::string& file) {
@@ -255,7 +266,7 @@ BatchEntries EntriesOfBatch(const std::string& file) {
 }
 
 void Read_Batch(Session& session) {
-  const auto file = apidialogbox(session, "*.min", "Lumivex batch file(*.min)", "Select a batch file", FileUse::Load);
+  const auto file = cmdSelectOpen_Click(session, "*.min", "Lumivex batch file(*.min)", "Select a batch file");
   if (!file) return;
   NoteFile(session, FileKind::Batch, *file);
   RunBatch(session, {*file, std::nullopt, true});

@@ -31,6 +31,9 @@ struct BatchJob {
 /// Runs a command file or a list of them. Failures are told as messages.
 BatchEnd RunBatch(Session& session, const BatchJob& job);
 
+/// Whether a file can be read and begins as a command file or a list of them does, whatever its name.
+bool IsBatchFile(const std::string& file);
+
 /// Whether a file can be read and is a list of command files.
 bool IsBatchList(const std::string& file);
 

@@ -6,7 +6,6 @@
 #include <cstring>
 #include <limits>
 
-#include "files/results/file_text.h"
 #include "materials/files/readable_text.h"
 #include "record/number_text.h"
 
@@ -22,15 +21,6 @@ void FileLines::Whole(int& value, int lowest, int highest) {
   if (!Reading()) return;
   if (!(number >= lowest && number <= highest)) Refuse("a number that cannot stand there");
   value = static_cast<int>(std::lround(number));
-}
-
-void FileLines::Named(std::string_view name, std::string& value) {
-  std::string line = std::string(name) + " " + value;
-  Text(line);
-  if (!Reading()) return;
-  if (!line.starts_with(name) || line.size() <= name.size() || line[name.size()] != ' ')
-    Refuse("\"" + std::string(name) + "\" should stand there");
-  value = line.substr(name.size() + 1);
 }
 
 void FileLines::Field(std::string_view name, std::string& value) {
@@ -110,10 +100,27 @@ void FileLines::Field(std::string_view name, std::vector<std::uint16_t>& list) {
 
 // Writing.
 
+namespace {
+
+/// Readers take no longer line: what does not fit is left out, character by character.
+std::string_view Fitting(std::string_view line, bool latin) {
+  if (line.size() <= longestFileLine) return line;
+  std::size_t size = longestFileLine;
+  while (!latin && size > 0 && (static_cast<unsigned char>(line[size]) & 0xC0) == 0x80) --size;
+  return line.substr(0, size);
+}
+
+}  // namespace
+
 void WrittenLines::Text(std::string& text) {
-  const std::string line = OnOneLine(text);
-  content_ += exact_ ? line : ToFileText(line);
+  const std::string line = OnOneLine(text), written = exact_ ? line : ToFileText(line);
+  content_ += Fitting(written, written != line);
   content_ += '\n';
+}
+
+void WrittenLines::Named(std::string_view name, std::string& value) {
+  std::string line = std::string(name) + " " + value;
+  Text(line);
 }
 
 void WrittenLines::Numbers(std::span<double> row) {
@@ -195,6 +202,22 @@ void ReadLines::Text(std::string& text) {
   text = FromFileText(line);
 }
 
+void ReadLines::Named(std::string_view name, std::string& value) {
+  const int expected = line_ + 1;
+  const auto refuse = [&] {
+    throw BadFile{"Line " + std::to_string(expected) + " of the file: \"" + std::string(name) +
+                  "\" should stand there"};
+  };
+  std::string line;
+  for (;;) {
+    if (line_ >= expected && !Peek()) refuse();
+    Text(line);
+    if (line.starts_with(name) && line.size() > name.size() && line[name.size()] == ' ') break;
+    if (!passesOver_) refuse();
+  }
+  value = line.substr(name.size() + 1);
+}
+
 bool ReadLines::Word(std::string_view word, bool) {
   if (const auto line = Peek(); !line || *line != word) return false;
   Take();
@@ -204,7 +227,7 @@ bool ReadLines::Word(std::string_view word, bool) {
 template <class Value>
 void ReadLines::Row(std::span<Value> row) {
   const std::string_view line = Take();
-  if (!ParseRow(line, row)) {
+  if (!ParseRow(line, row, missing_)) {
     const std::string wanted = row.size() == 1 ? "a number" : std::to_string(row.size()) + " numbers";
     Refuse(wanted + " should stand there in place of \"" + Readable(line) + "\"");
   }

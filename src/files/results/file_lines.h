@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "files/results/file_text.h"
+
 namespace lumivex {
 
 /// What a results file does not hold as its layout has it, in words for the user.
@@ -37,6 +39,11 @@ class FileLines {
   virtual bool Word(std::string_view word, bool there) = 0;
   /// From here on all digits and UTF-8.
   virtual void Exactly() = 0;
+  /// From here on fields that are not known are passed over, each with the numbers in the lines after it: the lines up
+  /// to the name that is asked for.
+  virtual void PassOverUnknown() = 0;
+  /// Whether the numbers that follow may be missing: not calculated before a Stop.
+  virtual void MayMiss(bool missing) = 0;
 
   void Number(double& value) { Numbers({&value, 1}); }
   /// A whole number in a range.
@@ -44,7 +51,7 @@ class FileLines {
   /// Refuses the line that was read last.
   [[noreturn]] virtual void Refuse(std::string_view why) const;
 
-  // Fields by name, which the layout of our own block is made of. A name that is not the next one refuses the file.
+  // Fields by name, which the layout of our own block is made of. A name that is missing refuses the file.
   void Field(std::string_view name, double& value);
   void Field(std::string_view name, float& value);
   void Field(std::string_view name, int& value);
@@ -57,7 +64,7 @@ class FileLines {
 
  protected:
   /// A line of the name and a value after it.
-  void Named(std::string_view name, std::string& value);
+  virtual void Named(std::string_view name, std::string& value) = 0;
 
  private:
   template <class Value>
@@ -79,9 +86,13 @@ class WrittenLines final : public FileLines {
   void Singles(std::span<float> row) override;
   bool Word(std::string_view word, bool there) override;
   void Exactly() override { exact_ = true; }
+  void PassOverUnknown() override {}
+  void MayMiss(bool) override {}
   std::string Take() { return std::move(content_); }
 
  private:
+  void Named(std::string_view name, std::string& value) override;
+
   std::string content_;
   bool exact_ = false;
 };
@@ -96,6 +107,8 @@ class ReadLines final : public FileLines {
   void Singles(std::span<float> row) override;
   bool Word(std::string_view word, bool there) override;
   void Exactly() override {}
+  void PassOverUnknown() override { passesOver_ = true; }
+  void MayMiss(bool missing) override { missing_ = missing ? Missing::Allowed : Missing::Refused; }
   [[noreturn]] void Refuse(std::string_view why) const override;
 
   /// The next line without taking it; nothing at the end of the file.
@@ -104,6 +117,7 @@ class ReadLines final : public FileLines {
   void End();
 
  private:
+  void Named(std::string_view name, std::string& value) override;
   std::string_view Take();
   std::string_view Find();
   template <class Value>
@@ -113,7 +127,8 @@ class ReadLines final : public FileLines {
   std::vector<char> buffer_;
   std::size_t begin_ = 0, end_ = 0;
   std::string_view peeked_;
-  bool isPeeked_ = false, atEnd_ = false;
+  bool isPeeked_ = false, atEnd_ = false, passesOver_ = false;
+  Missing missing_ = Missing::Refused;
   int line_ = 0;  ///< of the line taken last, from 1
 };
 

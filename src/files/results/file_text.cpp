@@ -77,7 +77,7 @@ bool Parts(char c) {
 }
 
 template <class Value>
-bool ParseNumber(std::string_view token, Value& value) {
+bool ParseNumber(std::string_view token, Value& value, Missing missing) {
   if (token.starts_with('+')) token.remove_prefix(1);
   auto parsed = std::from_chars(token.data(), token.data() + token.size(), value);
   Digits plain{};
@@ -89,17 +89,17 @@ bool ParseNumber(std::string_view token, Value& value) {
   } else if (parsed.ptr != token.data() + token.size()) {
     return false;
   }
-  return parsed.ec == std::errc() && std::isfinite(value);
+  return parsed.ec == std::errc() && (std::isfinite(value) || (missing == Missing::Allowed && std::isnan(value)));
 }
 
 template <class Value>
-bool ParseValues(std::string_view line, std::span<Value> row) {
+bool ParseValues(std::string_view line, std::span<Value> row, Missing missing) {
   std::size_t at = 0;
   for (Value& value : row) {
     while (at < line.size() && Parts(line[at])) ++at;
     const std::size_t start = at;
     while (at < line.size() && !Parts(line[at])) ++at;
-    if (start == at || !ParseNumber(line.substr(start, at - start), value)) return false;
+    if (start == at || !ParseNumber(line.substr(start, at - start), value, missing)) return false;
   }
   while (at < line.size() && Parts(line[at])) ++at;
   return at == line.size();
@@ -161,12 +161,12 @@ void AppendExactRow(std::string& text, std::span<const float> row) {
   AppendExactValues(text, row);
 }
 
-bool ParseRow(std::string_view line, std::span<double> row) {
-  return ParseValues(line, row);
+bool ParseRow(std::string_view line, std::span<double> row, Missing missing) {
+  return ParseValues(line, row, missing);
 }
 
-bool ParseRow(std::string_view line, std::span<float> row) {
-  return ParseValues(line, row);
+bool ParseRow(std::string_view line, std::span<float> row, Missing missing) {
+  return ParseValues(line, row, missing);
 }
 
 }  // namespace lumivex

@@ -25,10 +25,12 @@ void AppendPrintedRow(std::string& text, std::span<const float> row);
 void AppendExactRow(std::string& text, std::span<const double> row);
 void AppendExactRow(std::string& text, std::span<const float> row);
 
-/// Reads a line of exactly as many numbers, parted by blanks, tabs or commas, with an exponent after e, E, d or D. Not
-/// a number reads as one of them, an infinite one does not.
+/// Whether a line of numbers may hold some that were not calculated: "nan".
+enum class Missing { Refused, Allowed };
+
+/// Reads a line of exactly as many numbers, parted by blanks, tabs or commas, with an exponent after e, E, d or D.
 /// @return whether that is what the line holds.
-bool ParseRow(std::string_view line, std::span<double> row);
-bool ParseRow(std::string_view line, std::span<float> row);
+bool ParseRow(std::string_view line, std::span<double> row, Missing missing = Missing::Refused);
+bool ParseRow(std::string_view line, std::span<float> row, Missing missing = Missing::Refused);
 
 }  // namespace lumivex

@@ -120,6 +120,44 @@ struct Fits {
   }
 };
 
+/// Values that cannot lie below 0 do not. What was not calculated counts as 0.
+struct Possible {
+  const Results& results;
+
+  static bool None(std::initializer_list<const std::vector<double>*> lists) {
+    return std::ranges::all_of(lists, [](const auto* list) { return std::ranges::none_of(*list, Below0<double>); });
+  }
+  template <class Value>
+  static bool Below0(Value value) {
+    return value < 0;
+  }
+  bool MayLie(std::size_t curve) const { return MayLieBelow0(results.asked.graph, results.asked.method.method, curve); }
+
+  bool operator()(const AngleFound&) const { return true; }
+  bool operator()(const SpectrumFound& found) const {
+    return None({&found.perpendicular, &found.parallel, &found.waveNumber});
+  }
+  bool operator()(const AxisFound& found) const {
+    const bool byTerms = results.asked.method.method == Method::Debye;
+    return None({&found.waveNumber, &found.radius, &found.size, &found.Qback, &found.powerPerp, &found.powerPar}) &&
+           (byTerms || None({&found.Qext, &found.Cext, &found.Qsca, &found.Csca}));
+  }
+  bool operator()(const ConvergenceFound& found) const {
+    return None({&found.perpendicular, &found.parallel, &found.unpolarised});
+  }
+  bool operator()(const DebyeAnalysisFound&) const { return true; }
+  bool operator()(const TwoAngleFound& found) const { return None({&found.first.cells, &found.second.cells}); }
+  bool operator()(const MapFound& found) const {
+    for (std::size_t i = 0; i < found.panels.size(); ++i) {
+      const MapPanel& panel = found.panels[i];
+      for (const auto* list : {&panel.value, &panel.red, &panel.green, &panel.blue})
+        if (!MayLie(list == &panel.value ? i : 0) && std::ranges::any_of(*list, Below0<float>)) return false;
+    }
+    return true;
+  }
+  bool operator()(const VolumeFound& found) const { return None({&found.alonePerp, &found.alonePar}); }
+};
+
 bool IsSphere(const LastSphere& last) {
   return last.lambda > 0 && last.NANG >= 1 && last.NANG <= 1'000'000 && last.NSTOP >= 0 && last.NMX >= 0 &&
          last.selectedRow >= 1 && last.selectedRow <= 2 * last.NANG - 1 && last.samples >= 0;
@@ -130,6 +168,9 @@ bool IsSphere(const LastSphere& last) {
 std::string MisfitOf(const Results& results) {
   if (!IsSphere(results.last)) return "The sphere of the file cannot be one";
   if (!std::visit(Fits{results}, results.found)) return "The numbers of the file are not as many as its inputs ask for";
+  const bool byTerms = results.asked.method.method == Method::Debye;
+  if ((results.last.efficiencies.Qsca < 0 && !byTerms) || !std::visit(Possible{results}, results.found))
+    return "The file holds values below 0 where none can be";
   return {};
 }
 

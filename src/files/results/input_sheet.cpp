@@ -1,10 +1,6 @@
 #include "files/results/input_sheet.h"
 
-#include <map>
-
-#include "materials/files/readable_text.h"
-#include "record/catalogue/graph_texts.h"
-#include "record/catalogue/method_texts.h"
+#include "files/results/input_faults.h"
 #include "record/number_text.h"
 #include "session/driver/commands.h"
 #include "session/undo.h"
@@ -40,48 +36,6 @@ void CopyLooks(Form& from, Form& to) {
   }
 }
 
-/// What no user can choose: a text that a list does not have, or none or several of options that exclude each other.
-std::string FaultOfChoices(Session& sheet) {
-  for (const Form* form : sheet.forms.All()) {
-    std::map<std::string, int> chosen;
-    for (const Control* control : form->Controls()) {
-      if (control->Kind() == ControlKind::SelectionList) {
-        const auto& list = static_cast<const SelectionList&>(*control);
-        // Menus choose graphs and methods that the lists do not have.
-        const bool ofMenus = (SameName(list.Name(), "cboGraph") && FindGraph(list.Text) != nullptr) ||
-                             (SameName(list.Name(), "cboType") && FindMethod(list.Text) != nullptr);
-        if (!ofMenus && !list.Editable && !list.Items.empty() && !list.Text.empty() && !list.Holds(list.Text))
-          return std::string(list.Name()) + " has no \"" + Readable(list.Text) + "\" to choose";
-      }
-      if (control->Kind() == ControlKind::OptionButton) {
-        const auto& option = static_cast<const OptionButton&>(*control);
-        chosen[option.Group] += option.Checked ? 1 : 0;
-      }
-    }
-    for (const auto& [group, count] : chosen)
-      if (count != 1) return "one of the options " + group + " should be chosen";
-  }
-  return {};
-}
-
-/// What the dialogs of materials would not take.
-std::string FaultOfMaterials(Session& sheet) {
-  const auto& f = sheet.forms;
-  const auto& form = sheet.form1;
-  const auto within = [](const TextInput& field, double low, double high) {
-    return IsNumber(field.Text) && Val(field.Text) >= low && Val(field.Text) <= high;
-  };
-  const auto water = [&](const auto& dialog) {
-    return within(dialog.txtTemp, 0, 100) && IsNumber(dialog.txtDensity.Text) && Val(dialog.txtDensity.Text) > 0;
-  };
-  constexpr double absoluteZero = -273.15, hottest = 1e4;
-  if ((form.mnuRI_IAPWS.Checked && !water(f.dlogTemp)) || (form.mnuRI_IAPWS2.Checked && !water(f.dlogTemp2)))
-    return "water of that temperature or density is not known";
-  const bool air = form.mnuRI_Air1.Checked || form.mnuRI_Air2.Checked;
-  if (air && !within(f.dlogAir.txtAirTemp, absoluteZero, hottest)) return "air of that temperature is not known";
-  return {};
-}
-
 void RaiseTicked(Session& session, const std::vector<MenuEntry*>& entries) {
   for (const MenuEntry* entry : entries)
     if (entry->Checked) {
@@ -115,6 +69,7 @@ void TickAlone(const std::vector<MenuEntry*>& entries, const MenuEntry& ticked) 
 InputSheet::InputSheet(Session& session)
     : surface_(session.surface->ScaleWidth(), session.surface->ScaleHeight()), open_(platform_, surface_) {
   Session& sheet = open_.Get();
+  NoteNumbers();
   CopyInputParts(session.state, sheet.state);
   sheet.state.Busy = 1;  // nothing is drawn
   sheet.state.RestoringSettings = 1;
@@ -122,6 +77,16 @@ InputSheet::InputSheet(Session& session)
   const auto from = session.forms.All(), to = sheet.forms.All();
   for (std::size_t i = 0; i < from.size(); ++i) CopyLooks(*from[i], *to[i]);
   RestoreInputs(sheet, PresentInputs(session));
+  for (Number& number : numbers_) number.present = number.field->Text;
+}
+
+void InputSheet::NoteNumbers() {
+  for (Form* form : Inputs().forms.All()) {
+    if (form == &Inputs().form1) continue;
+    for (Control* control : form->Controls())
+      if (control->Kind() == ControlKind::TextInput && IsNumber(static_cast<TextInput*>(control)->Text))
+        numbers_.push_back({static_cast<TextInput*>(control), {}});
+  }
 }
 
 void InputSheet::Settle() {
@@ -158,8 +123,7 @@ void InputSheet::Settle() {
 std::string InputSheet::Fault() {
   platform_.told.clear();
   Session& sheet = Inputs();
-  if (std::string fault = FaultOfChoices(sheet); !fault.empty()) return fault;
-  if (std::string fault = FaultOfMaterials(sheet); !fault.empty()) return fault;
+  if (std::string fault = FaultOfInputs(sheet); !fault.empty()) return fault;
   const bool good = InputsHold(sheet);
   if (good) return {};
   return platform_.told.empty() ? "an input that is marked as bad" : platform_.told.front();
@@ -167,6 +131,8 @@ std::string InputSheet::Fault() {
 
 void InputSheet::PutInto(Session& session) {
   Session& sheet = Inputs();
+  for (const Number& number : numbers_)
+    if (!Trim(number.field->Text).empty() && !IsNumber(number.field->Text)) number.field->Text = number.present;
   static_cast<MaterialState&>(session.state) = sheet.state;
   static_cast<LightState&>(session.state) = sheet.state;
   static_cast<SizeState&>(session.state) = sheet.state;

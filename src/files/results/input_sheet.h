@@ -46,13 +46,23 @@ class InputSheet {
   /// What the inputs are held to before a run: empty, or what the user would be told.
   std::string Fault();
 
-  /// Writes the inputs, and the tables and names that stand behind them, into a session. Its results stay.
+  /// Writes the inputs, and the tables and names that stand behind them, into a session. Its results stay. A number of
+  /// a dialog that the run did not need, and that is none, stays what it is in the session of the sheet.
   void PutInto(Session& session);
 
  private:
+  /// A field of a dialog that holds a number.
+  struct Number {
+    TextInput* field;
+    std::string present;  ///< as the session has it
+  };
+  /// Fields that hold numbers do so from the start.
+  void NoteNumbers();
+
   SilentPlatform platform_;
   RecordingSurface surface_;
   OpenSession open_;
+  std::vector<Number> numbers_;
 };
 
 /// The menu entries of the materials of the sphere and of the medium.

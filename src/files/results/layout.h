@@ -61,6 +61,15 @@ void WalkInputs(LayoutWalk& walk);
 /// Walks the curves: of angles, points or cells, and the amplitudes where the file has them.
 void WalkCurves(LayoutWalk& walk);
 
+/// Whether a value of a graph may lie below 0: asymmetries, what rounding leaves of an absorption, and the efficiencies
+/// of terms that are taken by themselves. Intensities and other efficiencies cannot.
+/// @param curve  0 to 2: perpendicular, parallel, unpolarised, or Qext, Qsca, Qabs.
+bool MayLieBelow0(const Graph& graph, Method method, std::size_t curve);
+
+/// Names sphere and medium as the lines of a file without our block have it: after the source and its temperature where
+/// it has one, otherwise by the names in the file. Graphs that vary an index say so in its label.
+void NameMaterials(Session& sheet, const std::string& sphereName, const std::string& mediumName);
+
 /// Wavelengths of the run that the inputs of the sheet ask for.
 int WavelengthsOf(const Session& sheet);
 

@@ -13,14 +13,22 @@ std::size_t At(int index) {
   return static_cast<std::size_t>(index);
 }
 
-/// A line of values, which are appended to the lists when they are read.
+void RefuseBelow0(FileLines& lines) {
+  lines.Refuse("a value below 0 cannot stand there");
+}
+
+/// A line of values, which are appended to the lists when they are read. Those of the curves are the last ones.
 template <std::size_t count>
-void WalkRow(FileLines& lines, const std::array<std::vector<double>*, count>& lists, std::size_t row) {
+void WalkRow(LayoutWalk& walk, const std::array<std::vector<double>*, count>& lists, std::size_t row) {
+  FileLines& lines = walk.lines;
   std::array<double, count> values{};
   if (!lines.Reading())
     for (std::size_t k = 0; k < count; ++k) values[k] = row < lists[k]->size() ? (*lists[k])[row] : 0;
   lines.Numbers(values);
   if (!lines.Reading()) return;
+  constexpr std::size_t places = count > 3 ? 1 : 0;  // of the axis, before the curves
+  for (std::size_t k = places; k < count; ++k)
+    if (values[k] < 0 && !MayLieBelow0(walk.Chosen(), walk.sheet.state.CalcMethod, k - places)) RefuseBelow0(lines);
   for (std::size_t k = 0; k < count; ++k) {
     if (lists[k]->size() <= row) lists[k]->resize(row + 1);
     (*lists[k])[row] = values[k];
@@ -40,11 +48,12 @@ void WalkAngles(LayoutWalk& walk) {
   FileLines& lines = walk.lines;
   RefuseBeams(lines);
   lines.Number(rows.Qsca);
+  if (rows.Qsca < 0 && walk.sheet.state.CalcMethod != Method::Debye && lines.Reading()) RefuseBelow0(lines);
   const RowWindow window = FileWindow(walk.sheet);
   const int wavelengths = WavelengthsOf(walk.sheet);
   if (wavelengths == 1) {
     for (int row = window.low; row <= window.high; ++row)
-      WalkRow(lines, std::array{&rows.perpendicular, &rows.parallel, &rows.unpolarised}, At(row));
+      WalkRow(walk, std::array{&rows.perpendicular, &rows.parallel, &rows.unpolarised}, At(row));
     return;
   }
   const std::size_t count = At(window.high - window.low + 1);
@@ -52,7 +61,7 @@ void WalkAngles(LayoutWalk& walk) {
     throw BadFile{"The file holds more intensities than a run can have"};
   for (std::size_t row = 0; row < count; ++row)
     for (std::size_t i = 0; i < At(wavelengths); ++i)
-      WalkRow(lines, std::array{&rows.perpendicular, &rows.parallel}, i * count + row);
+      WalkRow(walk, std::array{&rows.perpendicular, &rows.parallel}, i * count + row);
 }
 
 /// Points of an axis: place and three curves; of a cloud's spectrum the curves alone, of the matrix the amplitudes.
@@ -77,9 +86,9 @@ void WalkAxisRows(LayoutWalk& walk) {
       rows.S1.Set(point, values[0], values[1]);
       rows.S2.Set(point, values[2], values[3]);
     } else if (triple) {
-      WalkRow(lines, std::array{&rows.perpendicular, &rows.parallel, &rows.unpolarised}, At(point));
+      WalkRow(walk, std::array{&rows.perpendicular, &rows.parallel, &rows.unpolarised}, At(point));
     } else {
-      WalkRow(lines, std::array{&rows.x, &rows.perpendicular, &rows.parallel, &rows.unpolarised}, At(point));
+      WalkRow(walk, std::array{&rows.x, &rows.perpendicular, &rows.parallel, &rows.unpolarised}, At(point));
     }
   }
 }
@@ -128,8 +137,12 @@ void WalkCells(LayoutWalk& walk) {
     if (!lines.Reading())
       for (std::size_t k = 0; k < row.size(); ++k) row[k] = (*channels[k])[cell];
     lines.Singles(row);
-    if (lines.Reading())
-      for (std::size_t k = 0; k < row.size(); ++k) channels[k]->push_back(row[k]);
+    if (!lines.Reading()) continue;
+    for (std::size_t k = 0; k < row.size(); ++k) {
+      if (row[k] < 0 && !MayLieBelow0(walk.Chosen(), walk.sheet.state.CalcMethod, spectrum ? 0 : k))
+        RefuseBelow0(lines);
+      channels[k]->push_back(row[k]);
+    }
   }
   cells.done = cells.columns;
 }
@@ -162,6 +175,13 @@ void WalkAmplitudes(LayoutWalk& walk) {
 }
 
 }  // namespace
+
+bool MayLieBelow0(const Graph& graph, Method method, std::size_t curve) {
+  if (graph.quantity == Quantity::Asymmetry) return true;
+  const bool sections = graph.quantity == Quantity::Efficiencies || graph.quantity == Quantity::CrossSections;
+  if (sections && curve == 2) return true;
+  return method == Method::Debye && (sections || graph.quantity == Quantity::Albedo);
+}
 
 void WalkCurves(LayoutWalk& walk) {
   const Graph& graph = walk.Chosen();

@@ -74,14 +74,19 @@ double Root(double intensity) {
   return intensity > 0 ? std::sqrt(intensity) : 0;
 }
 
-/// The sphere of the request, as its run tells it: a plain run of a few angles.
+/// The sphere of the request, as its run tells it: a plain run of a few angles. Without a ray there is none to be run,
+/// and yet the sphere is known.
 LastSphere SphereOf(const RunRequest& request) {
   RunRequest one = request;
   one.graph = GraphOf({1, 1});
   one.light.spectrum.reset();
   one.run = AngleRun{{0, 180, 90, 2, {1, 3}, 1, 3}};
   SilentWatch watch;
-  return Run(one, watch).results.last;
+  if (RunEnd end = Run(one, watch); end.hasResults) return end.results.last;
+  one.method = {};
+  LastSphere sphere = Run(one, watch).results.last;
+  sphere.efficiencies = {};
+  return sphere;
 }
 
 struct FromRows {

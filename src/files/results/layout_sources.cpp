@@ -89,12 +89,44 @@ void WalkTable(LayoutWalk& walk, UserMaterialDialog& dialog, MenuEntry& entry, s
   }
 }
 
+std::string WithDegrees(std::string_view material, const TextInput& temperature) {
+  return std::string(material) + std::string(Trim(temperature.Text)) + "C";
+}
+
+bool IsNamed(const std::string& name) {
+  return !Trim(name).empty();
+}
+
 }  // namespace
 
 void WalkTick(FileLines& lines, bool& ticked) {
   int number = ticked ? 1 : 0;
   lines.Whole(number, -1, 1);
   ticked = number != 0;
+}
+
+void NameMaterials(Session& sheet, const std::string& sphereName, const std::string& mediumName) {
+  auto& s = sheet.state;
+  Form1& form = sheet.form1;
+  const Forms& f = sheet.forms;
+  std::string sphere, medium;
+  if (form.mnuRI_IAPWS.Checked)
+    sphere = WithDegrees("IAPWS ", f.dlogTemp.txtTemp) + (f.dlogTemp.chkRI_Complex.Checked ? " Complex" : "");
+  if (form.mnuRI_Air1.Checked) sphere = WithDegrees("Air ", f.dlogAir.txtAirTemp);
+  if (form.mnuRI_Air2.Checked) medium = WithDegrees("Air ", f.dlogAir.txtAirTemp);
+  if (form.mnuRI_IAPWS2.Checked) medium = WithDegrees("Water ", f.dlogTemp2.txtTemp);
+  const bool byFile = form.mnuRI_File1.Checked || form.mnuRI_Formula.Checked;
+  if (!sphere.empty() || (byFile && IsNamed(sphereName)))
+    form.lblSphere.Caption = "Sphere: " + (sphere.empty() ? sphereName : sphere);
+  if (!medium.empty()) form.lblRI_Medium.Caption = "Medium: " + medium;
+  if (!sphere.empty() || IsNamed(sphereName)) s.SphereName = sphere.empty() ? sphereName : sphere;
+  if (!medium.empty() || IsNamed(mediumName)) s.MediumName = medium.empty() ? mediumName : medium;
+  const Graph& graph = ChosenGraph(s);
+  if (graph.VariesIndex()) {
+    form.lblSphere.Caption = "Sphere: Variable refractive index";
+    s.SphereIndexVaries = 1;
+  }
+  if (graph.VariesMedium()) form.lblRI_Medium.Caption = "Medium: Variable refractive index";
 }
 
 void WalkSphereTable(LayoutWalk& walk) {

@@ -31,7 +31,9 @@ void WalkTable(FileLines& lines, const std::string& name, Table2D& table) {
   int rows = static_cast<int>(table.rows), columns = static_cast<int>(table.columns);
   lines.Field(name + "Rows", rows);
   lines.Field(name + "Columns", columns);
+  lines.MayMiss(true);
   lines.Field(name, table.cells);
+  lines.MayMiss(false);
   if (rows < 0 || columns < 0 || static_cast<double>(rows) * columns != static_cast<double>(table.cells.size()))
     lines.Refuse("rows and columns do not make the cells");
   table.rows = static_cast<std::size_t>(rows);
@@ -216,6 +218,7 @@ struct FoundOf {
 }  // namespace
 
 void WalkFound(FileLines& lines, Results& results) {
+  lines.PassOverUnknown();
   WalkLast(lines, results.last);
   lines.Field("seconds", results.seconds);
   if (lines.Reading()) {

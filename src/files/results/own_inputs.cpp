@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "files/results/own_block.h"
+#include "record/catalogue/graph_texts.h"
 #include "session/undo.h"
 
 namespace lumivex {
@@ -208,22 +209,7 @@ void WalkSizeTable(FileLines& lines, MainFormState& s) {
   s.SizeFileLoaded = 1;
 }
 
-}  // namespace
-
-void WalkInputState(FileLines& lines, Session& sheet, InputState& state) {
-  const auto values = NamedValues(sheet, state);
-  if (lines.Reading())
-    ReadValues(lines, values);
-  else
-    WriteValues(lines, values);
-  WalkSettings(lines, state.settings);
-  int colour = static_cast<int>(state.settings.pickedLineColour.value & 0xFFFFFF);
-  lines.Field("PickedLineColour", colour);
-  state.settings.pickedLineColour.value = static_cast<std::uint32_t>(colour) & 0xFFFFFF;
-  lines.Field("SphereName", state.sphereName);
-  lines.Field("MediumName", state.mediumName);
-}
-
+/// The tables of input files that the inputs use: indices, spectrum, sizes.
 void WalkTables(FileLines& lines, Session& sheet) {
   MainFormState& s = sheet.state;
   WalkIndexTable(lines, "IndexTableOfSphere", s.FileTable1);
@@ -249,6 +235,41 @@ void WalkTables(FileLines& lines, Session& sheet) {
   bool sizes = sheet.form1.cboDistrib.Text == "Special" && s.SizeFileLoaded != 0;
   lines.Field("Sizes", sizes);
   if (sizes) WalkSizeTable(lines, s);
+}
+
+}  // namespace
+
+void WalkInputState(FileLines& lines, Session& sheet, InputState& state) {
+  const auto values = NamedValues(sheet, state);
+  if (lines.Reading())
+    ReadValues(lines, values);
+  else
+    WriteValues(lines, values);
+  WalkSettings(lines, state.settings);
+  int colour = static_cast<int>(state.settings.pickedLineColour.value & 0xFFFFFF);
+  lines.Field("PickedLineColour", colour);
+  state.settings.pickedLineColour.value = static_cast<std::uint32_t>(colour) & 0xFFFFFF;
+  lines.Field("SphereName", state.sphereName);
+  lines.Field("MediumName", state.mediumName);
+}
+
+void WalkInputsAndTables(FileLines& lines, Session& sheet, InputState& state) {
+  WalkInputState(lines, sheet, state);
+  if (lines.Reading()) RestoreInputs(sheet, state);
+  WalkTables(lines, sheet);
+}
+
+void SettleInputs(InputSheet& sheet, std::initializer_list<InputState*> states) {
+  Session& inputs = sheet.Inputs();
+  sheet.Settle();
+  if (inputs.state.CalcMethod == Method::None || FindGraph(inputs.form1.cboGraph.Text) == nullptr)
+    throw BadFile{"there is no such method or graph"};
+  // Lists and menus say which graph and which method.
+  for (InputState* state : states) {
+    state->graph = {inputs.state.GraphType, inputs.state.GraphSubType};
+    state->method = inputs.state.CalcMethod;
+  }
+  RestoreInputs(inputs, **states.begin());
 }
 
 void WalkScaleFields(FileLines& lines, ScaleFields& fields) {

@@ -1,5 +1,6 @@
 #include "files/results/read_file.h"
 
+#include <array>
 #include <fstream>
 #include <memory>
 #include <new>
@@ -13,9 +14,12 @@
 #include "materials/files/input_items.h"
 #include "materials/files/readable_text.h"
 #include "record/number_text.h"
+#include "runs/curves.h"
 #include "session/driver/commands.h"
 #include "session/driver/read_run.h"
+#include "session/info.h"
 #include "session/inputs/dialog_use.h"
+#include "session/inputs/map_inputs.h"
 #include "session/recent_files.h"
 #include "session/undo.h"
 
@@ -29,6 +33,7 @@ struct LoadedFile {
   InputState shown;
   CurveRows rows;
   ScaleFields scales;
+  int version = newestFile;
   bool whole = false;       ///< with inputs, look and results of our own block
   bool hasResults = false;  ///< the layout keeps none of some graphs
   Results results;
@@ -52,34 +57,28 @@ int ReadVersion(ReadLines& lines, Session& session) {
   throw BadFile{"The selected file is not a valid Lumivex file", "Lumivex"};
 }
 
-/// Lists and menus say which graph and which method; their codes follow.
-void TakeCodes(const Session& sheet, InputState& state) {
-  state.graph = {sheet.state.GraphType, sheet.state.GraphSubType};
-  state.method = sheet.state.CalcMethod;
-}
-
-void ReadInputs(ReadLines& lines, LoadedFile& file, int version) {
+void ReadInputs(ReadLines& lines, LoadedFile& file) {
   Session& sheet = file.sheet->Inputs();
-  LayoutWalk walk{lines, sheet, file.rows, version};
+  LayoutWalk walk{lines, sheet, file.rows, file.version};
   WalkInputs(walk);
   WalkCurves(walk);
   file.whole = lines.Word(ownBlockLine, true);
   if (!file.whole) {
+    const std::string sphere = sheet.state.SphereName, medium = sheet.state.MediumName;
     file.sheet->Settle();
+    NameMaterials(sheet, sphere, medium);
+    // Which colours a map had is not among the lines: those that one begins with.
+    sheet.state.FalseColoursFollow = 1;
+    if (ChosenGraph(sheet.state).IsMap()) StartMapColours(sheet);
     file.shown = PresentInputs(sheet);
     return;
   }
   InputState inputs = PresentInputs(sheet);
-  WalkInputState(lines, sheet, inputs);
-  RestoreInputs(sheet, inputs);
-  WalkTables(lines, sheet);
+  WalkInputsAndTables(lines, sheet, inputs);
   file.shown = inputs;
   WalkInputState(lines, sheet, file.shown);
   WalkScaleFields(lines, file.scales);
-  file.sheet->Settle();
-  TakeCodes(sheet, inputs);
-  TakeCodes(sheet, file.shown);
-  RestoreInputs(sheet, inputs);
+  SettleInputs(*file.sheet, {&inputs, &file.shown});
 }
 
 void CheckTables(const LoadedFile& file) {
@@ -99,10 +98,10 @@ void CheckTables(const LoadedFile& file) {
 
 LoadedFile Load(Session& session, std::istream& stream) {
   ReadLines lines(stream);
-  const int version = ReadVersion(lines, session);
   LoadedFile file;
+  file.version = ReadVersion(lines, session);
   file.sheet = std::make_unique<InputSheet>(session);
-  ReadInputs(lines, file, version);
+  ReadInputs(lines, file);
   CheckTables(file);
   Session& sheet = file.sheet->Inputs();
   if (const std::string fault = file.sheet->Fault(); !fault.empty())
@@ -117,7 +116,7 @@ LoadedFile Load(Session& session, std::istream& stream) {
   } else {
     file.hasResults = FillFromRows(file.rows, file.results);
   }
-  if (version == newestFile) lines.End();
+  if (file.version == newestFile) lines.End();
   if (!file.hasResults) return file;
   if (const std::string misfit = MisfitOf(file.results); !misfit.empty()) throw BadFile{misfit};
   return file;
@@ -137,6 +136,32 @@ void CompareLimits(Session& session, const Session& sheet) {
   if (!differ) return;
   session.platform.Message("Overplot from file", "Incompatible x-values");
   for (TextInput* limit : limits) limit->BackColour = colours::White;
+}
+
+/// As after a Replot: the rows of the record and of its tables are those that the page shows, where a Replot had
+/// narrowed the limits of the run.
+void TakeLimits(Session& session) {
+  auto& s = session.state;
+  const FamilyRun& run = s.LastResults->asked.run;
+  if (RowsOf(run) == nullptr && AxisOf(run) == nullptr) return;
+  s.Xmin = s.PlotXmin = Val(session.form1.txtXmin.Text);
+  s.Xmax = s.PlotXmax = Val(session.form1.txtXmax.Text);
+}
+
+/// Keeps and shows the results of a file.
+void TakeFileResults(Session& session, LoadedFile& file, Onto onto) {
+  Form1& form = session.form1;
+  TextInput* const fields[] = {&form.txtRefractReal, &form.txtRefractImag, &form.txtRefractMedium};
+  std::array<std::string, std::size(fields)> indices;
+  for (std::size_t i = 0; i < indices.size(); ++i) indices[i] = fields[i]->Text;
+  TakeResults(session, std::move(file.results), onto);
+  // Without our block the file's own indices are those that its curves are known to be of.
+  const bool told[] = {!file.whole, !file.whole && Stands(FileItem::ImaginaryIndex, file.version),
+                       !file.whole && Stands(FileItem::MediumIndex, file.version)};
+  for (std::size_t i = 0; i < indices.size(); ++i)
+    if (told[i]) fields[i]->Text = indices[i];
+  if (onto == Onto::FreshPage) TakeLimits(session);
+  session.remark = {std::string(informationOff), session.state.LastResults};
 }
 
 void Apply(Session& session, LoadedFile& file, Onto onto) {
@@ -162,7 +187,7 @@ void Apply(Session& session, LoadedFile& file, Onto onto) {
     s.YAutoMax = file.rows.YAutoMax;
   }
   if (file.hasResults)
-    TakeResults(session, std::move(file.results), onto);
+    TakeFileResults(session, file, onto);
   else
     session.platform.Message("Read results",
                              "The file keeps the inputs of this graph and no numbers: New plot calculates them.");
@@ -197,8 +222,8 @@ void Read_File(Session& session) {
   auto& s = session.state;
   if (session.form1.mnuFFT.Checked) session.events.Raise("mnuFFT_Click");
   const bool over = s.OverplotFromFile == 1;
-  const auto path = apidialogbox(session, "*.lvx", "Lumivex file(*.lvx)",
-                                 over ? "Select a file to overplot" : "Select a file of results", FileUse::Load);
+  const auto path = cmdSelectOpen_Click(session, "*.lvx", "Lumivex file(*.lvx)",
+                                        over ? "Select a file to overplot" : "Select a file of results");
   if (path && ReadResultsFile(session, *path, over ? Onto::PageOnScreen : Onto::FreshPage))
     NoteFile(session, FileKind::Results, *path);
   s.OverplotFromFile = 0;

@@ -152,8 +152,7 @@ std::string ResultsText(Session& session, std::string& failure) {
   std::string lead(ownBlockLine);
   lines.Text(lead);
   lines.Exactly();
-  WalkInputState(lines, inputs, asked);
-  WalkTables(lines, inputs);
+  WalkInputsAndTables(lines, inputs, asked);
   InputState shown = ShownInputs(session, asked);
   WalkInputState(lines, inputs, shown);
   ScaleFields scales{s, s.LeeOverallMaximum};

@@ -9,7 +9,6 @@
 #include "files/results/input_sheet.h"
 #include "files/results/own_block.h"
 #include "files/settings/ini_text.h"
-#include "record/catalogue/graph_texts.h"
 #include "record/number_text.h"
 #include "session/undo.h"
 
@@ -57,16 +56,8 @@ void ReadInto(InputSheet& sheet, ReadLines& lines) {
   ProgramIdentity keeper;
   WalkKeeper(lines, keeper);
   InputState state = PresentInputs(inputs);
-  WalkInputState(lines, inputs, state);
-  RestoreInputs(inputs, state);
-  WalkTables(lines, inputs);
-  sheet.Settle();
-  if (inputs.state.CalcMethod == Method::None || FindGraph(inputs.form1.cboGraph.Text) == nullptr)
-    throw BadFile{"its method or graph is not known"};
-  // Lists and menus say which graph and which method; their codes follow.
-  state.graph = {inputs.state.GraphType, inputs.state.GraphSubType};
-  state.method = inputs.state.CalcMethod;
-  RestoreInputs(inputs, state);
+  WalkInputsAndTables(lines, inputs, state);
+  SettleInputs(sheet, {&state});
   WalkNames(lines, inputs);
   lines.End();
 }
@@ -78,8 +69,7 @@ std::string SessionText(Session& session, const ProgramIdentity& keeper) {
   ProgramIdentity program = keeper;
   WalkKeeper(lines, program);
   InputState state = PresentInputs(session);
-  WalkInputState(lines, session, state);
-  WalkTables(lines, session);
+  WalkInputsAndTables(lines, session, state);
   WalkNames(lines, session);
   return lines.Take();
 }

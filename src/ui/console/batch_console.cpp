@@ -19,7 +19,7 @@ bool RunConsoleBatch(const ConsoleBatch& batch) {
     if (WasInterrupted() && runner.Current().state.StopAnswer == 0) runner.Current().events.Raise("cmdStop_Click");
   };
   const bool list = IsBatchList(batch.file);
-  const auto output = batch.output || list ? batch.output : BatchOutputOf(batch.file);
+  const auto output = batch.output || list ? batch.output : BatchOutputBeside(batch.file);
   return RunBatch(runner.Current(), {batch.file, output, false}) == BatchEnd::Done;
 }
 

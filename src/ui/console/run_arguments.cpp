@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "files/batch/batch_commands.h"
+#include "files/batch/read_batch.h"
 
 namespace lumivex {
 
@@ -28,7 +29,9 @@ const char* const runUsage =
     "       lumivex-run --jobs N [--threads N] LIST.min\n"
     "       lumivex-run --entries LIST.min\n"
     "Runs the script FILE, one command a line ('-' is standard input), and prints what it asks for; or the batch file\n"
-    "JOB.min (output: JOB.mut), or a list of batch files, each with its own output.\n"
+    "JOB.min (output: JOB.mut), or a list of batch files, each with its own output. A batch file may have any name: "
+    "its\n"
+    "first line tells.\n"
     "  --threads N  use at most N threads\n"
     "  --jobs N     run each file of the list by itself, N at a time\n"
     "  --entries    print the files of the list, one a line\n"
@@ -65,7 +68,8 @@ std::optional<RunArguments> ReadRunArguments(int argc, char** argv) {
   }
   if (names.empty() || names.size() > 2) return std::nullopt;
   arguments.file = names[0];
-  const bool batch = BatchOutputOf(arguments.file).has_value();
+  // Of another name it is known by its first line. What is read from a pipe can be read once.
+  const bool batch = BatchOutputOf(arguments.file) || (arguments.file != "-" && IsBatchFile(arguments.file));
   if (batch && arguments.task == Task::Script) arguments.task = Task::Batch;
   if (names.size() == 2) arguments.output = names[1];
   const bool takesOutput = arguments.task == Task::Batch;
