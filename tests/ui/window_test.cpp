@@ -110,6 +110,7 @@ TEST_F(MainWindowTest, PicturesAreWrittenInAllThreeKinds) {
   EXPECT_NE(program.World().SavePicture("/nowhere/page.png"), "");
   std::filesystem::create_symlink("/dev/full", path("full.png"));
   EXPECT_NE(program.World().SavePicture(path("full.png")).find("No space left"), std::string::npos);
+  std::filesystem::remove(path("full.png"));
   EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 4) << "nothing half-written is left behind";
 }
 
