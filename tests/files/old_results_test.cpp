@@ -121,7 +121,11 @@ TEST_F(ResultsFiles, TheLayoutAloneBringsTheCurves) {
        {"set txtRadius 2\nset cboStep 5", "set cboWave 7\nset txtRadius 2\nset cboStep 10",
         "choose cboGraph Qext/Qsca/Qabs v. radius\nset cboStep 20",
         "choose cboGraph Scattering matrix: wavelength\nset cboStep 40",
-        "choose cboGraph Map: angle v. radius\nset cboStep 0.5", "choose cboGraph Map: RI v. size x\nset cboStep 6"}) {
+        "choose cboGraph Map: angle v. radius\nset cboStep 0.5", "choose cboGraph Map: RI v. size x\nset cboStep 6",
+        "dialog dlogCoatedSphere ok txtCoreRadius=2 txtMantleRadius=3 txtRIshell=1.4 chkDebye=on "
+        "optPQ=on\nchoose cboType Coated sphere\nset cboStep 10",
+        "dialog dlogInhomSphere ok optPolynomial=on txtL1=-0.2\n"
+        "choose cboType Inhomogeneous sphere\nset txtRadius 2\nset cboStep 10"}) {
     SCOPED_TRACE(run);
     Do("reset");
     Do(run);

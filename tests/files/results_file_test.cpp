@@ -82,6 +82,19 @@ const std::vector<std::pair<std::string, std::string>> furtherRuns = {
     {"user glass",
      "dialog dlogRI_User1 ok txtMaterial1=Glass of \xC2\xB5\nclick mnuRI_User1\nset cboStep 5\n"
      "set txtRadius 2\nclick cmdNewPlot"},
+    {"coated", "choose cboType Coated sphere\nset cboStep 2\nclick cmdNewPlot"},
+    {"coated ways",
+     "dialog dlogCoatedSphere ok cboRIcore=Gold cboRImedium=Water txtMantleRadius=9 chkDebye=on optPQR=on "
+     "cboRays=q1r1\nchoose cboType Coated sphere\nset cboWave 3\nset cboStep 2\nclick cmdNewPlot"},
+    {"coated cloud",
+     "dialog dlogCoatedSphere ok optFixedShell=on\nchoose cboType Coated sphere\nclick optDisp\nset cboN 5\n"
+     "set cboStep 5\nclick cmdNewPlot"},
+    {"profile",
+     "dialog dlogInhomSphere ok opt3Layer=on txt3N3=1.5 cboLayers=16 optOldCode=on\n"
+     "choose cboType Inhomogeneous sphere\nset cboStep 2\nclick cmdNewPlot"},
+    {"profile changed since",
+     "dialog dlogInhomSphere ok optLuneburg=on\nchoose cboType Inhomogeneous sphere\nset cboStep 2\n"
+     "click cmdNewPlot\nset txtRadius 7"},
     {"S1 and S2", "click mnuS1S2\nset txtRadius 2\nset cboStep 2\nclick cmdNewPlot"},
     {"changed since", "set txtRadius 2\nset cboStep 2\nclick cmdNewPlot\nset txtRadius 7\nset txtLambda 0.5"},
     {"narrowed since", "set txtRadius 2\nset cboStep 2\nclick cmdNewPlot\nset txtXmin 90\nclick cmdReplot"},

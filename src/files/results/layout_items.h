@@ -12,6 +12,8 @@ void WalkSphereSource(LayoutWalk& walk);
 void WalkMediumSource(LayoutWalk& walk);
 void WalkSizes(LayoutWalk& walk);
 void WalkRays(LayoutWalk& walk);
+void WalkCoatedSphere(LayoutWalk& walk);
+void WalkProfile(LayoutWalk& walk);
 
 /// A line that is read and written as a number: 1 for a tick.
 void WalkTick(FileLines& lines, bool& ticked);

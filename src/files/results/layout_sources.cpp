@@ -109,6 +109,8 @@ void NameMaterials(Session& sheet, const std::string& sphereName, const std::str
   auto& s = sheet.state;
   Form1& form = sheet.form1;
   const Forms& f = sheet.forms;
+  // The sphere in layers is named by the captions of its dialog.
+  if (TraitsOf(s.CalcMethod).layered) return;
   std::string sphere, medium;
   if (form.mnuRI_IAPWS.Checked)
     sphere = WithDegrees("IAPWS ", f.dlogTemp.txtTemp) + (f.dlogTemp.chkRI_Complex.Checked ? " Complex" : "");

@@ -220,6 +220,10 @@ struct FoundOf {
 void WalkFound(FileLines& lines, Results& results) {
   lines.PassOverUnknown();
   WalkLast(lines, results.last);
+  if (results.asked.particle.core) {
+    lines.Field("coreN", results.last.core.n);
+    lines.Field("coreK", results.last.core.k);
+  }
   lines.Field("seconds", results.seconds);
   if (lines.Reading()) {
     // Cells that the layout has brought already are kept.

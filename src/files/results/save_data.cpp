@@ -22,8 +22,8 @@ namespace lumivex {
 namespace {
 
 auto Words(const RunWords& w) {
-  return std::tie(w.method, w.graph, w.methodLabel, w.rays, w.sphereName, w.mediumName, w.sphere, w.medium, w.light,
-                  w.sizes, w.scale);
+  return std::tie(w.method, w.graph, w.methodLabel, w.rays, w.sphereName, w.mediumName, w.core, w.paths, w.sphere,
+                  w.medium, w.light, w.sizes, w.scale);
 }
 
 bool SameRows(const FamilyRun& a, const FamilyRun& b) {
@@ -38,10 +38,19 @@ bool SameRows(const FamilyRun& a, const FamilyRun& b) {
   return true;
 }
 
+bool SameLayers(const RunRequest& a, const RunRequest& b) {
+  const ProfileLayers &first = a.method.layers, &second = b.method.layers;
+  const bool sameCores = !a.particle.core || !b.particle.core ||
+                         (a.particle.core->radius == b.particle.core->radius &&
+                          a.particle.core->sizes == b.particle.core->sizes);
+  return first.profile == second.profile && first.layers == second.layers && first.byTangents == second.byTangents &&
+         a.method.recursion == b.method.recursion && sameCores;
+}
+
 /// Whether inputs ask for what was asked, as far as any of them can be told apart from others.
 bool AsksTheSame(const RunRequest& a, const RunRequest& b) {
   return a.graph == b.graph && a.method.method == b.method.method && a.method.rays == b.method.rays &&
-         a.method.difference == b.method.difference && a.particle.radius == b.particle.radius &&
+         a.method.difference == b.method.difference && SameLayers(a, b) && a.particle.radius == b.particle.radius &&
          a.light.lambda == b.light.lambda && a.Wavelengths() == b.Wavelengths() && a.run.index() == b.run.index() &&
          Words(a.words) == Words(b.words) && SameRows(a.run, b.run);
 }
