@@ -37,6 +37,18 @@ class BatchBlocks : public BatchSession {
   static double Field(const std::vector<double>& values, int row) { return values[static_cast<std::size_t>(row)]; }
 };
 
+TEST_F(BatchBlocks, OfASphereInLayersTellsWhatIsWithin) {
+  Do("dialog dlogCoatedSphere ok txtCoreRadius=2 txtMantleRadius=3 chkDebye=on optPQR=on cboRays=q1r1\n"
+     "choose cboType Coated sphere\nset cboStep 90");
+  const std::string coated = Block();
+  EXPECT_THAT(coated, HasSubstr("\nCore: \tRadius: \t2\t um\tReal part: \t1.5\tImaginary part: \t0\n"));
+  EXPECT_THAT(coated, HasSubstr("\nRay paths: \tq1r1: "));
+  Do("dialog dlogInhomSphere ok optCosine=on cboLayers=16\nchoose cboType Inhomogeneous sphere\nset cboStep 90");
+  const std::string profile = Block();
+  EXPECT_THAT(profile, HasSubstr("\nLayers: \t16\tnew code\n"));
+  EXPECT_THAT(profile, Not(HasSubstr("Core: ")));
+}
+
 TEST_F(BatchBlocks, OfOneSphereStandsWordForWord) {
   const std::string text = WithoutDate(Block("xmin\n10\nxmax\n11\nxstep\n0.5\n"));
   const auto& s = runner.Current().state;

@@ -184,12 +184,26 @@ class BlockHeader {
     WavelengthLine();
   }
 
+  /// What is within a sphere whose outermost layer the groups above tell.
+  void Layers() {
+    if (const auto& core = asked_.particle.core) {
+      const IndexValue& index = results_.last.core;
+      Line("Core: \tRadius: \t" + Number(core->radius) + "\t um\tReal part: \t" + Number(index.n) +
+           "\tImaginary part: \t" + Number(index.k));
+    }
+    if (!asked_.words.paths.empty()) Line("Ray paths: \t" + OnOneLine(asked_.words.paths));
+    if (asked_.method.method == Method::InhomogeneousSphere)
+      Line("Layers: \t" + std::to_string(asked_.method.layers.layers) + "\t" +
+           (asked_.method.layers.byTangents ? "old code" : "new code"));
+  }
+
   /// What the groups above have no place for.
   void Further() {
     const std::string before = text_;
     if (!graph_.OfAngles() && graph_.family != Family::DebyeAnalysis && graph_.family != Family::Convergence)
       Line("Refractive index (medium)\t" + MediumIndex());
     if (graph_.WavelengthAxis()) Line("Radius: \t" + Number(asked_.particle.radius) + "\t um");
+    Layers();
     if (asked_.Cloud()) Line("Size distribution: \t" + OnOneLine(asked_.words.sizes));
     if (asked_.light.spectrum) {
       Line("Wavelengths: \t" + std::to_string(asked_.Wavelengths()));

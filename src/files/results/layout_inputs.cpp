@@ -221,11 +221,9 @@ void WalkRaysIfThere(LayoutWalk& walk) {
 }
 
 constexpr void (*inputItems[])(LayoutWalk&) = {
-    WalkGraph,   WalkNames,        WalkSphereTable,         WalkMediumTable,
-    WalkMethod,  WalkCoatedSphere, WalkRaysIfThere,         WalkProfile,
-    WalkSizes,   WalkSphereSource, WalkMediumSourceIfThere, WalkLight,
-    WalkSize,    WalkAxis,         WalkSpectrum,            WalkScales,
-    WalkPoints,
+    WalkGraph,    WalkNames,  WalkSphereTable,  WalkMediumTable,         WalkMethod, WalkCoatedSphere, WalkRaysIfThere,
+    WalkProfile,  WalkSizes,  WalkSphereSource, WalkMediumSourceIfThere, WalkLight,  WalkSize,         WalkAxis,
+    WalkSpectrum, WalkScales, WalkPoints,
 };
 
 }  // namespace

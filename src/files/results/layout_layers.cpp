@@ -16,10 +16,10 @@ struct ProfileWord {
 };
 
 constexpr std::array profileWords = {
-    ProfileWord{"Cosine", &Profile::optCosine},           ProfileWord{"Linear", &Profile::optLinear},
-    ProfileWord{"3Layer", &Profile::opt3Layer},           ProfileWord{"Exponential", &Profile::optExponential},
-    ProfileWord{"Luneburg", &Profile::optLuneburg},       ProfileWord{"ModLuneburg", &Profile::OptModLuneburg},
-    ProfileWord{"Polynomial", &Profile::optPolynomial},   ProfileWord{"Sinusoidal", &Profile::optSinusoidal},
+    ProfileWord{"Cosine", &Profile::optCosine},         ProfileWord{"Linear", &Profile::optLinear},
+    ProfileWord{"3Layer", &Profile::opt3Layer},         ProfileWord{"Exponential", &Profile::optExponential},
+    ProfileWord{"Luneburg", &Profile::optLuneburg},     ProfileWord{"ModLuneburg", &Profile::OptModLuneburg},
+    ProfileWord{"Polynomial", &Profile::optPolynomial}, ProfileWord{"Sinusoidal", &Profile::optSinusoidal},
 };
 
 /// Which selection of ways the Debye terms are of, by number.

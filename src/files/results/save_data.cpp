@@ -40,9 +40,9 @@ bool SameRows(const FamilyRun& a, const FamilyRun& b) {
 
 bool SameLayers(const RunRequest& a, const RunRequest& b) {
   const ProfileLayers &first = a.method.layers, &second = b.method.layers;
-  const bool sameCores = !a.particle.core || !b.particle.core ||
-                         (a.particle.core->radius == b.particle.core->radius &&
-                          a.particle.core->sizes == b.particle.core->sizes);
+  const bool sameCores =
+      !a.particle.core || !b.particle.core ||
+      (a.particle.core->radius == b.particle.core->radius && a.particle.core->sizes == b.particle.core->sizes);
   return first.profile == second.profile && first.layers == second.layers && first.byTangents == second.byTangents &&
          a.method.recursion == b.method.recursion && sameCores;
 }
