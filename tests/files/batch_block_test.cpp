@@ -37,6 +37,14 @@ class BatchBlocks : public BatchSession {
   static double Field(const std::vector<double>& values, int row) { return values[static_cast<std::size_t>(row)]; }
 };
 
+// A range from 0 began at the 1E-12 that stands in its place, and the sphere had the name of a material.
+TEST_F(BatchBlocks, OfAMapOfIndicesTellsItsRangeAsItWasTyped) {
+  Do("choose cboGraph Map: Q v. Real RI & Imag RI\nset txtXmin 0\nset txtXmax 0.5\nset cboStep 2\nset txtF9_step 2");
+  const std::string text = Block();
+  EXPECT_THAT(text, HasSubstr("\nSphere: \tVariable refractive index\n"));
+  EXPECT_THAT(text, HasSubstr("\tImaginary part: \t0 to 0.5\n"));
+}
+
 TEST_F(BatchBlocks, OfASphereInLayersTellsWhatIsWithin) {
   Do("dialog dlogCoatedSphere ok txtCoreRadius=2 txtMantleRadius=3 chkDebye=on optPQR=on cboRays=q1r1\n"
      "choose cboType Coated sphere\nset cboStep 90");
