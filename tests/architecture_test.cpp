@@ -19,7 +19,7 @@ const fs::path sourceRoot = fs::path(lumivex::SourceFolder()) / "src";
 const std::vector<std::vector<std::string>> storeys = {
     {"catalogue/", "axes/", "colour/"},
     {"materials/", "particles/", "solvers/", "timedomain/"},
-    {"runs/"},
+    {"runs/", "sky/"},
     {"record/"},
     {"pages/"},
     {"session/"},

@@ -14,6 +14,7 @@
 #include "pages/items/size_histogram.h"
 #include "pages/items/two_angle_chart.h"
 #include "pages/maps/paint_lee.h"
+#include "pages/photograph/photograph_page.h"
 
 namespace lumivex {
 
@@ -104,6 +105,7 @@ void PaintStrip(DrawingSurface& surface, const Page& page) {
 }  // namespace
 
 void Paint(const Page& page, DrawingSurface& surface) {
+  if (page.photograph) return PaintPhotograph(page, surface);
   surface.BackColour = page.style.paper;
   surface.Cls();
   PaintGroundOfStrip(surface, page.style);

@@ -10,6 +10,7 @@
 #include "pages/curves/curve_path.h"
 #include "pages/items/phasor_diagram.h"
 #include "pages/maps/map_reading.h"
+#include "pages/photograph/photograph_page.h"
 #include "record/catalogue/graph_texts.h"
 #include "record/number_text.h"
 
@@ -133,6 +134,7 @@ std::string_view YUnit(const PageKind& kind, bool secondPanel) {
 }  // namespace
 
 std::optional<GraphReading> ReadAt(const Page& page, double surfaceX, double surfaceY) {
+  if (page.photograph) return ReadPhotograph(page, surfaceX, surfaceY);
   if (page.phasors) return ReadPhasors(*page.phasors, surfaceX, surfaceY);
   GraphReading reading;
   if (page.panels.empty()) return std::nullopt;

@@ -45,6 +45,7 @@ inline constexpr std::array availableFeatures = {
     Feature::AngleIntensity, Feature::AngleFamily,        Feature::AxisFamilies, Feature::VolumeGraphs,
     Feature::GraphLook,      Feature::SeveralWavelengths, Feature::ColourBars,   Feature::LeeDiagrams,
     Feature::Maps,           Feature::BatchFiles,         Feature::CoatedSphere, Feature::InhomogeneousSphere,
+    Feature::Simulation,
 };
 
 constexpr bool IsAvailable(Feature feature) {

@@ -14,6 +14,7 @@
 #include "record/groups/result_arrays.h"
 #include "record/groups/run_state.h"
 #include "record/groups/series_state.h"
+#include "record/groups/simulation_state.h"
 #include "record/groups/size_state.h"
 #include "record/groups/spectrum_results.h"
 
@@ -34,7 +35,8 @@ struct MainFormState : RunState,
                        ColourState,
                        GraphState,
                        RayState,
-                       BatchState {};
+                       BatchState,
+                       SimulationState {};
 
 /// Visits every field of the record as visit(name, field), group by group in the order above. State is MainFormState,
 /// const or not.
@@ -59,6 +61,7 @@ void ForEachStateField(State& state, Visitor&& visit) {
   group(as(std::type_identity<GraphState>{}));
   group(as(std::type_identity<RayState>{}));
   group(as(std::type_identity<BatchState>{}));
+  group(as(std::type_identity<SimulationState>{}));
 }
 
 }  // namespace lumivex

@@ -13,6 +13,7 @@
 #include "record/colour.h"
 #include "record/drawing_surface.h"
 #include "record/page_map.h"
+#include "record/page_photograph.h"
 #include "solvers/angles/amplitude_table.h"
 #include "solvers/rays/huygens_wave.h"
 
@@ -274,11 +275,12 @@ struct Page {
   std::vector<HuygensWave> wavefronts;  ///< in the strip over the graph
   std::vector<PageLine> readings;       ///< of the last run
   std::optional<PageHistogram> histogram;
-  std::optional<PageProfile> profile;  ///< in place of a graph
-  std::optional<PageMap> map;          ///< a Lee diagram or a map, a panel a picture
-  std::vector<PageRun> runs;           ///< in the order drawn
-  std::size_t runsLeftOut = 0;         ///< oldest ones that gave way to others
-  std::vector<std::string> sheet;      ///< lines of text that stand in place of a graph
+  std::optional<PageProfile> profile;        ///< in place of a graph
+  std::optional<PageMap> map;                ///< a Lee diagram or a map, a panel a picture
+  std::optional<PagePhotograph> photograph;  ///< fills the page of the simulation window, in place of everything else
+  std::vector<PageRun> runs;                 ///< in the order drawn
+  std::size_t runsLeftOut = 0;               ///< oldest ones that gave way to others
+  std::vector<std::string> sheet;            ///< lines of text that stand in place of a graph
 
   /// Whether there is no graph.
   bool Empty() const { return panels.empty() && !phasors; }

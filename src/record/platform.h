@@ -4,9 +4,12 @@
 #include <string>
 #include <string_view>
 
+#include "record/photograph.h"
+
 namespace lumivex {
 
 class Form;
+struct Page;
 
 /// What a file dialog asks for.
 struct FileDialog {
@@ -53,6 +56,18 @@ class Platform {
   /// Saves the present drawing as a picture file (the ending chooses the kind) or, for an empty path, copies it to the
   /// clipboard. Returns an empty text, or in one sentence what went wrong.
   virtual std::string SavePicture(std::string_view path) = 0;
+  /// Reads a picture file; one that cannot be read tells why.
+  virtual OpenedPhotograph OpenPhotograph(std::string_view) {
+    OpenedPhotograph none;
+    none.failure = "Photographs can be opened only where there is a window system";
+    return none;
+  }
+  /// Draws a page with a photograph in the photograph's size and writes it to the path at the end (whose ending
+  /// chooses the kind), with the notes of its camera where the kind takes them; copies it for an empty path. Returns an
+  /// empty text, or in one sentence what went wrong.
+  virtual std::string SavePhotograph(const Page&, std::string_view, std::string_view) {
+    return "Photographs can be saved only where there is a window system";
+  }
   /// Puts text on the clipboard.
   virtual void CopyText(std::string_view text) = 0;
   /// Ends the program.

@@ -8,6 +8,7 @@
 #include "record/events.h"
 #include "record/forms/dialogs.h"
 #include "record/main_form_state.h"
+#include "record/photograph.h"
 #include "record/platform.h"
 #include "record/settings.h"
 #include "record/undo_history.h"
@@ -48,6 +49,8 @@ struct Session {
   UndoHistory undo;
   Settings settings;
   Remark remark;
+  SimulationPictures simulation;
+  std::unique_ptr<DrawingSurface> simulationSurface;  ///< of the simulation window where no window system has one
 };
 
 }  // namespace lumivex

@@ -15,6 +15,7 @@
 #include "scripts/script_commands.h"
 #include "scripts/script_line.h"
 #include "session/checks/number_input.h"
+#include "session/simulation/simulation_events.h"
 #include "session/start_up.h"
 #include "session/undo.h"
 #include "session/user_actions.h"
@@ -185,6 +186,7 @@ struct ScriptCommands {
     const std::string x = TakeWord(rest);
     if (!IsNumber(x) || !IsNumber(rest)) throw Failure{"mouse takes X and Y in surface units"};
     if (IsMain(run)) Form_MouseDown(run.Current(), Val(x), Val(rest));
+    if (run.chosen_->page.photograph) picture1_mousedown(run.Current(), Val(x), Val(rest));
   }
 
   static void Read(ScriptRunner& run, std::string_view rest) {
@@ -223,6 +225,13 @@ struct ScriptCommands {
 
   static void Picture(ScriptRunner& run, std::string_view rest) {
     if (!run.window_.picture) throw Failure{"pictures need a window: lumivex --script"};
+    if (run.chosen_->page.photograph) {
+      const std::string file = PathIn(rest);
+      if (file.empty()) throw Failure{"picture needs the name of a file"};
+      const std::string fault = run.platform_.SavePhotograph(run.chosen_->page, run.Current().simulation.notes, file);
+      if (!fault.empty()) throw Failure{fault};
+      return;
+    }
     PixelSize size;
     const auto last = rest.find_last_of(" \t");
     if (const auto given = ReadSize(last == rest.npos ? rest : rest.substr(last + 1))) {

@@ -70,6 +70,7 @@ bool ScriptedPlatform::ShowModal(Form& form) {
 void ScriptedPlatform::Show(Form& form) {
   form.Visible = true;
   shownForms.emplace_back(form.Name());
+  if (showForm) showForm(form);
 }
 
 void ScriptedPlatform::Yield() {
@@ -83,6 +84,14 @@ double ScriptedPlatform::Timer() {
 
 std::string ScriptedPlatform::SavePicture(std::string_view path) {
   return savePicture ? savePicture(path) : "Pictures can be saved only where there is a window system";
+}
+
+OpenedPhotograph ScriptedPlatform::OpenPhotograph(std::string_view path) {
+  return openPhotograph ? openPhotograph(path) : Platform::OpenPhotograph(path);
+}
+
+std::string ScriptedPlatform::SavePhotograph(const Page& page, std::string_view notes, std::string_view path) {
+  return savePhotograph ? savePhotograph(page, notes, path) : Platform::SavePhotograph(page, notes, path);
 }
 
 }  // namespace lumivex

@@ -55,6 +55,9 @@ class ScriptedPlatform final : public Platform {
   std::function<void(Form&, const std::string& field, const std::string& text)> setField;
   std::function<void(Form&)> confirm;  // the OK button of a dialog is pressed
   std::function<std::string(std::string_view path)> savePicture;
+  std::function<void(Form&)> showForm;  ///< a modeless window is shown on a screen too
+  std::function<OpenedPhotograph(std::string_view path)> openPhotograph;
+  std::function<std::string(const Page& page, std::string_view notes, std::string_view path)> savePhotograph;
   std::function<std::shared_ptr<void>(Form&)> whileOpen;  ///< what a dialog holds while it is on the screen
 
   void Message(std::string_view title, std::string_view text) override;
@@ -72,6 +75,8 @@ class ScriptedPlatform final : public Platform {
   void Help(std::string_view page) override { helpPages.emplace_back(page); }
   void BringToFront(Form&) override {}
   std::string SavePicture(std::string_view path) override;
+  OpenedPhotograph OpenPhotograph(std::string_view path) override;
+  std::string SavePhotograph(const Page& page, std::string_view notes, std::string_view path) override;
   void CopyText(std::string_view text) override { copiedText = text; }
   void Quit() override { quit = true; }
 

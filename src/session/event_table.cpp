@@ -19,6 +19,7 @@
 #include "session/inputs/two_angle_inputs.h"
 #include "session/inputs/volume_inputs.h"
 #include "session/page.h"
+#include "session/simulation/simulation_events.h"
 #include "session/start_up.h"
 #include "session/undo.h"
 #include "session/window_events.h"
@@ -139,6 +140,7 @@ EventTable::EventTable() {
   for (const auto& row : SolverEvents()) Add(row.name, row.handler);
   for (const auto& row : CoatedSphereEvents()) Add(row.name, row.handler);
   for (const auto& row : InhomSphereEvents()) Add(row.name, row.handler);
+  for (const auto& row : SimulationEvents()) Add(row.name, row.handler);
 }
 
 void EventTable::Add(std::string_view name, Handler handler) {

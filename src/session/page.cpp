@@ -5,6 +5,7 @@
 #include "pages/build_page.h"
 #include "pages/frame/frame.h"
 #include "session/inputs/look/read_look.h"
+#include "session/simulation/paint_simulation.h"
 
 namespace lumivex {
 
@@ -107,6 +108,7 @@ void ShowPage(Session& session, Page page) {
   KeepScale(session.state, session.page);
   KeepLogo(session, session.page);
   KeepBars(session);
+  OfferSimulation(session);
   KeepSeries(session);
   DrawPage(session);
 }

@@ -70,11 +70,17 @@ void Canvas::resizeEvent(QResizeEvent*) {
 
 void Canvas::mousePressEvent(QMouseEvent* event) {
   const QPointF at = UnitsAt(event->position());
+  panFrom_ = at;
   if (event->button() == Qt::LeftButton && mouse.press) mouse.press(at.x(), at.y());
 }
 
 void Canvas::mouseMoveEvent(QMouseEvent* event) {
   const QPointF at = UnitsAt(event->position());
+  if (mouse.pan && event->buttons() & (Qt::RightButton | Qt::MiddleButton)) {
+    const QPointF by = at - std::exchange(panFrom_, at);
+    mouse.pan(by.x(), by.y());
+    return;
+  }
   const auto& act = event->buttons() & Qt::LeftButton ? mouse.drag : mouse.move;
   if (act) act(at.x(), at.y());
 }

@@ -26,6 +26,7 @@ struct CanvasMouse {
   /// False where the wheel is to scroll.
   std::function<bool(const CanvasWheel& wheel)> wheel;
   std::function<void()> leave;
+  std::function<void(double right, double down)> pan;  ///< moved with the right or middle button down, by so much
 };
 
 /// The widget that shows the drawing of the main window.
@@ -82,6 +83,7 @@ class Canvas final : public QWidget {
 
   double unitPx_ = 1.0 / 15;
   std::optional<SurfacePoint> mark_;
+  QPointF panFrom_;
   ImageSurface surface_;
   QTimer resizeTimer_;
 };

@@ -95,6 +95,7 @@ MainWindow::MainWindow(CommandGate& gate)
     if (canvas_->IsStale()) Resized();
   };
   gate_.stop = [this] {
+    if (session_->forms.form2.cmdStopSim.Enabled) UserClicks(*session_, session_->forms.form2.cmdStopSim);
     UserClicks(*session_, session_->form1.cmdStop);
     // Enter was meant for the run that is not wanted any more.
     if (session_->state.StopAnswer != 0) gate_.DropEnter();
@@ -153,9 +154,10 @@ void MainWindow::Attach(Session& session) {
   session_ = &session;
   pointer_.Attach(session);
   menuBar()->clear();
-  menu_ = std::make_unique<MenuView>(*menuBar(), session.form1,
+  menu_ = std::make_unique<MenuView>(*menuBar(), session.form1, OfferedMenu(),
                                      [this](Control& entry) { Act([this, &entry] { UserClicks(*session_, entry); }); });
   for (const auto& window : std::exchange(windows_, {})) delete window;
+  delete std::exchange(photograph_, nullptr);
   delete std::exchange(panel_, nullptr);
   RenewInfo();
   FitPanel();
@@ -209,7 +211,7 @@ void MainWindow::BuildPanel(std::size_t density) {
   if (dense.stretch != 100) font.setStretch(dense.stretch);
   canvas_->setFont(font);
   canvas_->setPalette(PanelPalette(QApplication::palette()));
-  panel_ = new PanelView(session_->form1, Actions(), dense.tight, canvas_);
+  panel_ = new PanelView(session_->form1, MainPanel(), Actions(), dense.tight, canvas_);
 
   const QSize needed = panel_->Needed();
   const double unit = std::max(needed.width() / panelUnits, needed.height() / panelHeight);
@@ -357,6 +359,7 @@ void MainWindow::Refresh() {
   for (DialogView* dialog : dialogs_) dialog->Sync();
   for (const auto& window : windows_)
     if (window) window->Sync();
+  if (photograph_) photograph_->Refresh();
   pointer_.Renew();
   ShowReadOut();
   ReserveRoom();
@@ -382,7 +385,21 @@ bool MainWindow::ShowDialog(Form& form) {
   return ok;
 }
 
+void MainWindow::BringToFront(const Form& form) {
+  QWidget* window = photograph_ && &form == &session_->forms.form2 ? static_cast<QWidget*>(photograph_) : this;
+  window->raise();
+  window->activateWindow();
+}
+
+void MainWindow::ShowPhotograph() {
+  if (!photograph_) photograph_ = new PhotographWindow(gate_, *session_, this);
+  photograph_->Refresh();
+  photograph_->Settle();
+  BringToFront(session_->forms.form2);
+}
+
 void MainWindow::Show(Form& form) {
+  if (&form == &session_->forms.form2) return ShowPhotograph();
   const auto open =
       std::ranges::find_if(windows_, [&](const QPointer<DialogView>& view) { return view && &view->Of() == &form; });
   if (open != windows_.end()) {
@@ -412,15 +429,16 @@ std::string MainWindow::SavePicture(std::string_view path, int widthPx, int heig
   return failure;
 }
 
-std::string MainWindow::SaveScreenshot(std::string_view path) {
+std::string MainWindow::SaveScreenshot(std::string_view path, QWidget* window) {
   Refresh();
   // What has just been shown or hidden finds its place when the event loop runs, which a script does not wait for.
   Settle();
+  if (photograph_ && window == photograph_) photograph_->Settle();
   const QByteArray kind = QFileInfo(ToQString(path)).suffix().toLatin1();
   QByteArray bytes;
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
-  if (!grab().save(&buffer, kind.isEmpty() ? "PNG" : kind.constData())) {
+  if (!(window ? window : this)->grab().save(&buffer, kind.isEmpty() ? "PNG" : kind.constData())) {
     return "The name of a screenshot ends in .png, .jpg or .bmp.";
   }
   return WriteWholeFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});

@@ -19,6 +19,7 @@
 #include "ui/page_picture.h"
 #include "ui/panel_density.h"
 #include "ui/panel_view.h"
+#include "ui/photograph_window.h"
 #include "ui/undo_keys.h"
 
 namespace lumivex {
@@ -43,14 +44,18 @@ class MainWindow final : public QMainWindow {
 
   /// Shows a window over a form of the layout and goes on; one that is open comes to the front.
   void Show(Form& form);
+  /// Brings the window of the form to the front.
+  void BringToFront(const Form& form);
+  /// The simulation window, null before it has been shown.
+  PhotographWindow* Photograph() const { return photograph_; }
   /// Shows a dialog and waits; true is OK.
   bool ShowDialog(Form& form);
   /// Size and scale of the page on the screen.
   PageFormat Page() const;
   /// Saves the page as a picture file, or copies it for an empty path; a sentence on what went wrong, or nothing.
   std::string SavePicture(std::string_view path, int widthPx = 0, int heightPx = 0);
-  /// Saves an image of the whole window.
-  std::string SaveScreenshot(std::string_view path);
+  /// Saves an image of the whole window, or of another one.
+  std::string SaveScreenshot(std::string_view path, QWidget* window = nullptr);
 
   /// The widget of a control of the panel, null where it has none.
   QWidget* WidgetOf(const Control& control) const;
@@ -72,6 +77,7 @@ class MainWindow final : public QMainWindow {
 
  private:
   void MakeStatusLine();
+  void ShowPhotograph();
   void FitPanel();
   void BuildPanel(std::size_t density);
   double UnitOf(std::size_t density);
@@ -107,6 +113,7 @@ class MainWindow final : public QMainWindow {
   QProgressBar* progress_ = nullptr;
   std::vector<DialogView*> dialogs_;
   std::vector<QPointer<DialogView>> windows_;  ///< modeless ones
+  PhotographWindow* photograph_ = nullptr;
   UndoKeys undoKeys_;
 };
 

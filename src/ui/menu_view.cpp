@@ -4,7 +4,6 @@
 #include <QMenu>
 #include <QMenuBar>
 
-#include "record/layout/menu_tree.h"
 #include "ui/look.h"
 
 namespace lumivex {
@@ -18,8 +17,9 @@ MenuEntry* EntryOf(Form& form, std::string_view name) {
 
 }  // namespace
 
-MenuView::MenuView(QMenuBar& bar, Form& form, const std::function<void(Control&)>& clicks) {
-  for (const auto& row : OfferedMenu()) {
+MenuView::MenuView(QMenuBar& bar, Form& form, const std::vector<MenuRow>& rows,
+                   const std::function<void(Control&)>& clicks) {
+  for (const auto& row : rows) {
     MenuEntry* entry = EntryOf(form, row.entry);
     if (!entry && row.entry != "-") continue;
     QMenu* menu = MenuOf(bar, ToQString(row.path));

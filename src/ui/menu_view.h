@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "record/form.h"
+#include "record/layout/menu_tree.h"
 
 class QAction;
 class QMenu;
@@ -16,8 +17,9 @@ namespace lumivex {
 /// The menu bar, built from its description; captions, ticks, visibility and availability follow the menu entries.
 class MenuView {
  public:
+  /// @param rows    the entries, of that form.
   /// @param clicks  called with the entry that the user chose.
-  MenuView(QMenuBar& bar, Form& form, const std::function<void(Control&)>& clicks);
+  MenuView(QMenuBar& bar, Form& form, const std::vector<MenuRow>& rows, const std::function<void(Control&)>& clicks);
 
   /// Shows every entry as it is now.
   void Sync();

@@ -59,14 +59,15 @@ class FrameBox final : public QWidget {
 
 }  // namespace
 
-PanelView::PanelView(Form& form, const ControlActions& actions, bool tight, QWidget* parent)
+PanelView::PanelView(Form& form, std::span<const FrameLayout> frames, const ControlActions& actions, bool tight,
+                     QWidget* parent)
     : QWidget(parent), tight_(tight) {
   setAutoFillBackground(true);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(tight ? 2 : 5, 4, tight ? 2 : 4, 1);
   row->setSpacing(tight ? 2 : 4);
   std::map<int, QWidget*> columns;
-  for (const auto& layout : MainPanel()) {
+  for (const auto& layout : frames) {
     QWidget*& column = columns[layout.column];
     if (!column) {
       column = new QWidget(this);

@@ -2,6 +2,7 @@
 
 #include <QWidget>
 #include <memory>
+#include <span>
 #include <vector>
 
 #include "record/controls.h"
@@ -11,11 +12,13 @@ class QLabel;
 
 namespace lumivex {
 
-/// The input panel over the top of the graph's surface: frames in columns, as the layout describes them.
+/// An input panel, such as that over the top of the graph's surface: frames in columns, as the layout describes them.
 class PanelView final : public QWidget {
  public:
-  /// @param tight  with less air about frames and inputs, for narrow windows.
-  PanelView(Form& form, const ControlActions& actions, bool tight, QWidget* parent);
+  /// @param frames  what stands where.
+  /// @param tight   with less air about frames and inputs, for narrow windows.
+  PanelView(Form& form, std::span<const FrameLayout> frames, const ControlActions& actions, bool tight,
+            QWidget* parent);
 
   /// The size (pixels) that the panel needs with everything shown that may ever be; it does not change with the graph.
   QSize Needed() const { return needed_; }

@@ -10,6 +10,7 @@
 
 #include "ui/guide_window.h"
 #include "ui/look.h"
+#include "ui/photograph_file.h"
 
 namespace lumivex {
 
@@ -101,10 +102,16 @@ void QtPlatform::Help(std::string_view page) {
   guide_->ShowPage(ToQString(page));
 }
 
-void QtPlatform::BringToFront(Form&) {
-  if (!window) return;
-  window->raise();
-  window->activateWindow();
+void QtPlatform::BringToFront(Form& form) {
+  if (bringToFront) bringToFront(form);
+}
+
+OpenedPhotograph QtPlatform::OpenPhotograph(std::string_view path) {
+  return ReadPhotographFile(path);
+}
+
+std::string QtPlatform::SavePhotograph(const Page& page, std::string_view notes, std::string_view path) {
+  return WritePhotographFile(page, notes, path);
 }
 
 std::string QtPlatform::SavePicture(std::string_view path) {

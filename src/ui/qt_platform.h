@@ -35,13 +35,16 @@ class QtPlatform final : public Platform {
   void Help(std::string_view page) override;
   void BringToFront(Form& form) override;
   std::string SavePicture(std::string_view path) override;
+  OpenedPhotograph OpenPhotograph(std::string_view path) override;
+  std::string SavePhotograph(const Page& page, std::string_view notes, std::string_view path) override;
   void CopyText(std::string_view text) override;
   void Quit() override;
 
   // What the main window does for it once it is there.
-  QPointer<QWidget> window;                                  ///< parent of every dialog
-  std::function<void(Form&)> show;                           ///< modeless
-  std::function<bool(Form&)> showModal;                      ///< true is OK
+  QPointer<QWidget> window;              ///< parent of every dialog
+  std::function<void(Form&)> show;       ///< modeless
+  std::function<bool(Form&)> showModal;  ///< true is OK
+  std::function<void(Form&)> bringToFront;
   std::function<std::string(std::string_view)> savePicture;  ///< returns a sentence on what went wrong
 
  private:

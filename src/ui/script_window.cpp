@@ -4,9 +4,11 @@
 #include <fstream>
 #include <iostream>
 
+#include "record/number_text.h"
 #include "scripts/script_file.h"
 #include "scripts/script_runner.h"
 #include "ui/main_window.h"
+#include "ui/photograph_file.h"
 
 namespace lumivex {
 
@@ -19,8 +21,18 @@ ScriptWindow FunctionsOf(MainWindow& window) {
   functions.picture = [&window](Form&, std::string_view file, int widthPx, int heightPx) {
     return window.SavePicture(file, widthPx, heightPx);
   };
-  functions.screenshot = [&window](Form&, std::string_view file) { return window.SaveScreenshot(file); };
-  functions.resize = [&window](Form&, int widthPx, int heightPx) {
+  const auto photograph = [&window](const Form& form) {
+    return SameName(form.Name(), "Form2") ? window.Photograph() : nullptr;
+  };
+  functions.screenshot = [&window, photograph](Form& form, std::string_view file) {
+    return window.SaveScreenshot(file, photograph(form));
+  };
+  functions.resize = [&window, photograph](Form& form, int widthPx, int heightPx) {
+    if (auto* second = photograph(form)) {
+      second->resize(widthPx, heightPx);
+      second->Settle();
+      return;
+    }
     window.resize(widthPx, heightPx);
     window.Settle();
   };
@@ -40,6 +52,12 @@ int RunScript(const std::string& path) {
   CommandGate gate;
   MainWindow window(gate);
   ScriptRunner runner(std::cout, std::cerr);
+  // Dialogs are answered by the script; this window is one to look at.
+  runner.World().showForm = [&window](Form& form) {
+    if (SameName(form.Name(), "Form2")) window.Show(form);
+  };
+  runner.World().openPhotograph = ReadPhotographFile;
+  runner.World().savePhotograph = WritePhotographFile;
   runner.UseWindow(window.Surface(), FunctionsOf(window));
   window.show();
   runner.Start();

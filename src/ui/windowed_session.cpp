@@ -14,6 +14,7 @@ WindowedSession::WindowedSession() : platform_(gate_), window_(gate_), open_(pla
   platform_.window = &window_;
   platform_.show = [this](Form& form) { window_.Show(form); };
   platform_.showModal = [this](Form& form) { return window_.ShowDialog(form); };
+  platform_.bringToFront = [this](Form& form) { window_.BringToFront(form); };
   platform_.savePicture = [this](std::string_view path) { return window_.SavePicture(path); };
   AddFileEvents(open_);
   window_.Attach(open_.Get());

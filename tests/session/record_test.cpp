@@ -6,6 +6,7 @@
 #include "files/file_events.h"
 #include "record/layout/menu_tree.h"
 #include "record/layout/panel_layout.h"
+#include "record/layout/simulation_layout.h"
 #include "session/open_session.h"
 #include "session/session_fixture.h"
 
@@ -40,6 +41,12 @@ TEST_F(Record, EveryMenuEntryThatIsOfferedIsDeclaredAndActs) {
     EXPECT_EQ(entry->Kind(), ControlKind::MenuEntry) << row.entry;
     EXPECT_TRUE(open.Table().Listens(std::string(row.entry) + "_Click")) << row.entry << " is dead";
   }
+  const Form& second = runner.Current().forms.form2;
+  for (const auto& row : simulationMenu) {
+    if (row.entry == "-") continue;
+    EXPECT_NE(second.Find(row.entry), nullptr) << row.entry;
+    EXPECT_TRUE(open.Table().Listens("Form2." + std::string(row.entry) + "_Click")) << row.entry << " is dead";
+  }
 }
 
 TEST_F(Record, TheLayoutNamesOnlyWhatThereIs) {
@@ -53,6 +60,7 @@ TEST_F(Record, TheLayoutNamesOnlyWhatThereIs) {
       }
   };
   for (const auto& frame : MainPanel()) check(runner.Current().form1, frame.lines);
+  for (const auto& frame : simulationFrames) check(runner.Current().forms.form2, frame.lines);
   for (const auto& dialog : Dialogs()) {
     const Form* form = runner.Current().forms.Find(dialog.form);
     ASSERT_NE(form, nullptr) << dialog.form;

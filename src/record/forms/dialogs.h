@@ -11,6 +11,7 @@
 #include "record/forms/material_dialogs.h"
 #include "record/forms/ray_dialogs.h"
 #include "record/forms/settings_dialogs.h"
+#include "record/forms/simulation_form.h"
 #include "record/forms/size_dialogs.h"
 #include "record/forms/volume_dialog.h"
 
@@ -59,6 +60,7 @@ struct DlogPlotColour final : Form {
 /// Every window and dialog of a session.
 struct Forms : MaterialDialogs, LightDialogs, SizeDialogs, RayDialogs, AngleDialogs {
   Form1 form1;
+  Form2 form2;
   DlogTemp dlogTemp;
   DlogSpectrumBand dlogSpectrumBand;
   DlogAverage dlogAverage;
@@ -70,9 +72,9 @@ struct Forms : MaterialDialogs, LightDialogs, SizeDialogs, RayDialogs, AngleDial
 
   /// All of them, the main window first.
   std::vector<Form*> All() {
-    std::vector<Form*> all = {&form1,           &dlogTemp,       &dlogSpectrumBand,
-                              &dlogAverage,     &dlogPlotColour, &dlogCoatedSphere,
-                              &dlogInhomSphere, &dlogVolume,     &dlogCalibration};
+    std::vector<Form*> all = {
+        &form1,           &dlogTemp,   &dlogSpectrumBand, &dlogAverage, &dlogPlotColour, &dlogCoatedSphere,
+        &dlogInhomSphere, &dlogVolume, &dlogCalibration,  &form2};
     for (const auto& more : {MaterialForms(), LightForms(), SizeForms(), RayForms(), AngleForms()})
       all.insert(all.end(), more.begin(), more.end());
     return all;

@@ -29,6 +29,7 @@ void LockOFF(Session& session) {
   const bool coloured = s.NumberWavelengths > 1 || graph.InColour();
   form.cboLee.Enabled = graph.InColour();
   form.cboBright.Enabled = coloured;
+  form.cmdSimulation.Enabled = form.cmdSimulation.Visible;
 }
 
 }  // namespace lumivex

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "colour/wavelength_colour.h"
+
+namespace lumivex {
+
+/// Light of the two polarisations: linear channels, of which 255 is full brightness; more than that is possible.
+struct PolarisedLight {
+  ColourTriple perpendicular, parallel;
+};
+
+/// The colours of a run by scattering angle, in linear channels, before any rule for too bright ones and before the
+/// transfer curve: light from two places can be added, and lies on a straight line between its rows.
+struct LightTable {
+  double first = 0;  ///< angle of the first row (degrees)
+  double step = 1;   ///< from row to row (degrees)
+  std::vector<PolarisedLight> rows;
+
+  double Last() const { return first + step * (rows.empty() ? 0.0 : static_cast<double>(rows.size() - 1)); }
+  bool Holds(double angle) const { return !rows.empty() && angle >= first && angle <= Last(); }
+};
+
+/// The light of a table at a scattering angle that it holds (degrees): the components times their weights, no channel
+/// below 0.
+ColourTriple SimPlot2(const LightTable& table, double angle, double perpendicular, double parallel);
+
+}  // namespace lumivex

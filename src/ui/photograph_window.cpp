@@ -1,0 +1,205 @@
+#include "ui/photograph_window.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QScrollArea>
+#include <QSignalBlocker>
+#include <QStatusBar>
+#include <QStyle>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "pages/photograph/photograph_page.h"
+#include "record/layout/simulation_layout.h"
+#include "record/number_text.h"
+#include "session/simulation/simulation_events.h"
+#include "session/simulation/simulation_page.h"
+#include "session/user_actions.h"
+#include "ui/look.h"
+
+namespace lumivex {
+
+namespace {
+
+constexpr QSize startSize{1240, 860};
+constexpr int sliderSteps = 400;
+constexpr double wheelFactor = 1.25;
+constexpr double unitsPerPixel = 15;
+/// Ends of the sliders.
+constexpr double shortestFocal = 8, longestFocal = 400, mostStrength = 3;
+
+}  // namespace
+
+PhotographWindow::PhotographWindow(CommandGate& gate, Session& session, QWidget* parent)
+    : QMainWindow(parent, Qt::Window), gate_(gate), session_(session), form_(session.forms.form2) {
+  auto* body = new QWidget(this);
+  auto* row = new QHBoxLayout(body);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(0);
+  panel_ = new PanelView(form_, simulationFrames, Actions(), false, nullptr);
+  auto* side = new QScrollArea(body);
+  side->setFrameShape(QFrame::NoFrame);
+  side->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  side->setWidgetResizable(true);
+  side->setWidget(panel_);
+  canvas_ = new Canvas(body);
+  canvas_->setAccessibleName("Photograph");
+  row->addWidget(side);
+  row->addWidget(canvas_, 1);
+  setCentralWidget(body);
+  reading_ = new QLabel(this);
+  reading_->setTextFormat(Qt::PlainText);
+  reading_->setContentsMargins(4, 0, 0, 0);
+  reading_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  statusBar()->addWidget(reading_, 1);
+  menu_ = std::make_unique<MenuView>(
+      *menuBar(), form_, std::vector<MenuRow>(std::begin(simulationMenu), std::end(simulationMenu)), Actions().clicks);
+  const double octaves = std::log(longestFocal / shortestFocal);
+  AddSlider(
+      form_.cboScale, [octaves](double place) { return RoundDecimals(shortestFocal * std::exp(octaves * place), 1); },
+      [octaves](double value) { return value > 0 ? std::log(value / shortestFocal) / octaves : 0; });
+  AddSlider(
+      form_.txtStrength, [](double place) { return RoundDecimals(mostStrength * place, 2); },
+      [](double value) { return value / mostStrength; });
+  panel_->Sync();
+  side->setFixedWidth(panel_->sizeHint().width() + side->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2);
+  follow_.setSingleShot(true);
+  connect(&follow_, &QTimer::timeout, this, [this] { Follow(); });
+  canvas_->resized = [this] {
+    if (!gate_.Running()) Act([this] { RenewDrawing(); });
+  };
+  ConnectMouse();
+  resize(startSize);
+}
+
+void PhotographWindow::ConnectMouse() {
+  canvas_->mouse.press = [this](double x, double y) { Act([this, x, y] { picture1_mousedown(session_, x, y); }); };
+  canvas_->mouse.move = [this](double x, double y) { Act([this, x, y] { picture1_mousemove(session_, x, y); }); };
+  // Of many places between two pictures only the last counts.
+  canvas_->mouse.drag = [this](double x, double y) {
+    draggedTo_ = SurfacePoint{x, y};
+    if (!follow_.isActive()) follow_.start(0);
+  };
+  canvas_->mouse.release = [this](double, double) { Follow(); };
+  canvas_->mouse.leave = [this] { form_.lblPosition.Caption.clear(), Refresh(); };
+  canvas_->mouse.pan = [this](double right, double down) {
+    Act([this, right, down] {
+      PanPhotograph(SimulationWindow(session_).page, right, down);
+      DrawSimulation(session_);
+    });
+  };
+  canvas_->mouse.wheel = [this](const CanvasWheel& wheel) {
+    Act([this, wheel] {
+      ZoomPhotograph(SimulationWindow(session_).page, {wheel.x, wheel.y}, std::pow(wheelFactor, wheel.steps));
+      DrawSimulation(session_);
+    });
+    return true;
+  };
+}
+
+void PhotographWindow::Follow() {
+  follow_.stop();
+  const auto place = std::exchange(draggedTo_, std::nullopt);
+  if (place) Act([this, place] { DragPoint(session_, place->x, place->y, false); });
+}
+
+void PhotographWindow::AddSlider(Control& input, std::function<double(double)> valueAt,
+                                 std::function<double(double)> placeOf) {
+  QWidget* field = panel_->WidgetOf(input);
+  auto* lines = field ? static_cast<QVBoxLayout*>(field->parentWidget()->layout()) : nullptr;
+  if (!lines) return;
+  auto* slider = new QSlider(Qt::Horizontal, field->parentWidget());
+  slider->setRange(0, sliderSteps);
+  slider->setAccessibleName(ToQString(input.Tip));
+  slider->setToolTip(ToQString(input.Tip));
+  int at = 0;
+  while (at < lines->count() && !(lines->itemAt(at)->layout() && lines->itemAt(at)->layout()->indexOf(field) >= 0))
+    ++at;
+  lines->insertWidget(at + 1, slider);
+  sliders_.push_back({&input, slider, std::move(valueAt), std::move(placeOf)});
+  const auto value = sliders_.back().valueAt;
+  connect(slider, &QSlider::valueChanged, this, [this, &input, value](int place) {
+    Act([&] { UserTypes(session_, input, Shortest(value(static_cast<double>(place) / sliderSteps))); });
+  });
+}
+
+void PhotographWindow::SyncSliders() {
+  for (const Slider& slider : sliders_) {
+    const double place = sliderSteps * slider.placeOf(Val(slider.input->Value().text));
+    const QSignalBlocker silent(slider.widget);
+    // A value that the slider has just typed comes back rounded: the handle stays where the hand is.
+    if (!slider.widget->isSliderDown())
+      slider.widget->setValue(static_cast<int>(std::lround(std::clamp(place, 0.0, double{sliderSteps}))));
+    slider.widget->setVisible(slider.input->Visible);
+    slider.widget->setEnabled(slider.input->Enabled);
+  }
+}
+
+ControlActions PhotographWindow::Actions() {
+  return {[this](Control& control, const std::string& text) {
+            Act([this, &control, &text] { UserTypes(session_, control, text); });
+          },
+          [this](SelectionList& list, const std::string& item) {
+            Act([this, &list, &item] { UserChooses(session_, list, item); });
+          },
+          [this](Control& control) {
+            // Stop acts inside the painting; the gate lets nothing else through.
+            if (gate_.Running() && &control == &form_.cmdStopSim) {
+              UserClicks(session_, control);
+            } else {
+              Act([this, &control] {
+                const auto stopButton = std::exchange(gate_.stopButton, panel_->WidgetOf(form_.cmdStopSim));
+                UserClicks(session_, control);
+                gate_.stopButton = stopButton;
+              });
+            }
+          }};
+}
+
+void PhotographWindow::Act(const CommandGate::Action& command) {
+  if (!gate_.Do(command)) Refresh();
+}
+
+void PhotographWindow::RenewDrawing() {
+  canvas_->Renew();
+  Window& window = SimulationWindow(session_);
+  window.surface = &canvas_->Surface();
+  if (window.page.photograph) window.page.photograph->unitsPerDot = unitsPerPixel / canvas_->devicePixelRatioF();
+  DrawSimulation(session_);
+  canvas_->update();
+}
+
+void PhotographWindow::Settle() {
+  QCoreApplication::sendPostedEvents();
+  centralWidget()->layout()->activate();
+  if (canvas_->IsStale()) RenewDrawing();
+}
+
+void PhotographWindow::Refresh() {
+  if (isVisible() != form_.Visible) setVisible(form_.Visible);
+  if (!form_.Visible) return;
+  panel_->Sync();
+  SyncSliders();
+  menu_->Sync();
+  const QString title = ToQString(form_.Caption), text = ToQString(form_.lblPosition.Caption);
+  if (windowTitle() != title) setWindowTitle(title);
+  if (reading_->text() != text) reading_->setText(text);
+  canvas_->ShowChanges();
+}
+
+void PhotographWindow::closeEvent(QCloseEvent* event) {
+  // The session closes it, when it is free to.
+  event->ignore();
+  if (!gate_.Running()) Act([this] { UserClicks(session_, form_.cmdExit2); });
+}
+
+void PhotographWindow::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return QMainWindow::keyPressEvent(event);
+  Actions().clicks(form_.cmdSimPlot);
+}
+
+}  // namespace lumivex
