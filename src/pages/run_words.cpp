@@ -75,6 +75,15 @@ std::string AnglesAsked(const RunRequest& asked) {
   return AxisRange(axis->range.low, axis->range.high, axis->range.step, false, "\u00B0");
 }
 
+/// What the running sums of a series run over.
+void AddTerms(const RunRequest& asked, const ConvergenceFound& terms, const std::string& start,
+              std::vector<std::string>& lines) {
+  const auto count = static_cast<double>(terms.perpendicular.size()) - 1;
+  const bool overM = std::get<ConvergenceRun>(asked.run).over == ConvergenceRun::Over::M;
+  const std::string name = asked.method.beam.Plane() ? start : overM ? "|M|: " : "L: ";
+  lines.push_back(name + AxisRange(terms.first, terms.first + count - 1, 1, false, ""));
+}
+
 void AddAxis(const Results& results, std::vector<std::string>& lines) {
   const RunRequest& asked = results.asked;
   if (const auto* analysis = std::get_if<DebyeAnalysisRun>(&asked.run)) {
@@ -97,8 +106,8 @@ void AddAxis(const Results& results, std::vector<std::string>& lines) {
     lines.push_back(start + AxisRange(rows->xmin, rows->xmax, rows->step, false, unit));
   else if (const AxisRun* axis = AxisOf(asked.run))
     lines.push_back(start + AxisRange(axis->xmin, axis->xmax, axis->step, axis->logSteps, unit));
-  else if (std::holds_alternative<ConvergenceRun>(asked.run))
-    lines.push_back(start + AxisRange(1, results.last.NSTOP, 1, false, ""));
+  else if (const auto* terms = results.Find<ConvergenceFound>())
+    AddTerms(asked, *terms, start, lines);
 }
 
 /// Wavelengths that are in the results: a run that was stopped has not come to all.
@@ -116,12 +125,37 @@ void AddLines(std::string_view text, std::vector<std::string>& lines) {
   }
 }
 
+/// The beam; empty in a plane wave.
+std::string BeamWords(const Illumination& light) {
+  if (light.Plane()) return "";
+  const bool disc = light.kind == Illumination::Kind::TopHat;
+  std::string words = std::string(disc ? "Top hat" : "Gaussian") + " beam: x0 = " + Number(light.x0) +
+                      ", y0 = " + Number(light.y0) + ", z0 = " + Number(light.z0) + ", w0 = " + Number(light.w0) +
+                      " \u00B5m";
+  if (light.oneBeam) words += ", tilt " + Number(light.phi * degreesPerRadian) + "\u00B0";
+  if (light.pair) words += ", multiple beams";
+  if (light.central) words += ", central beam";
+  return words;
+}
+
+/// What tells the series of a beam from others beside the beam itself: limits and sums that were typed.
+std::string BeamSumWords(const Illumination& light) {
+  std::string words;
+  if (light.limits)
+    words = "Lmax = " + std::to_string(light.limits->Lmax) + ", Mmax = " + std::to_string(light.limits->Mmax);
+  if (light.rule.closed) return words;
+  return words + (words.empty() ? "" : ", ") + "sums to j = " + std::to_string(light.rule.Jmax) + " or " +
+         Number(light.rule.error) + (light.rule.logarithms ? "" : " by factorials");
+}
+
 void AddMethod(const Results& results, std::vector<std::string>& lines) {
   const RunRequest& asked = results.asked;
   lines.push_back("Method: " + asked.words.method);
   if (asked.method.method != Method::Mie) AddLines(asked.words.methodLabel, lines);
   if (!asked.words.paths.empty()) lines.push_back("   Ray paths: " + asked.words.paths);
   lines.push_back("Graph: " + asked.words.graph);
+  if (const std::string beam = BeamWords(asked.method.beam); !beam.empty()) lines.push_back(beam);
+  if (const std::string sums = BeamSumWords(asked.method.beam); !sums.empty()) lines.push_back("   " + sums);
   if (asked.light.spectrum) {
     const int done = WavelengthsIn(results);
     lines.push_back(CountOf(done, asked.Wavelengths(), "wavelength") + ", " +
@@ -341,6 +375,8 @@ std::string RunTitleOf(const Results& results) {
   const bool varied = asked.graph.axis == AxisVariable::RefractiveIndex;
   switch (method.method) {
     case Method::Mie:
+      if (!method.beam.Plane())
+        return varied ? "Mie scattering (Gaussian beam)" : "Mie scattering (Gaussian beam):  " + materials;
       return varied ? "Mie scattering" : "Mie scattering:  " + materials;
     case Method::Rayleigh:
       return "Rayleigh scattering:  " + materials;
@@ -388,6 +424,12 @@ std::vector<std::string> ParameterLinesOf(const Results& results) {
   if (const auto* map = results.Find<MapFound>(); map != nullptr && map->done < map->columns)
     lines.push_back("Calculated: " + CountOf(map->done, map->columns, "column"));
   const bool terms = !spectrum && !asked.graph.InColour() && SumsSeries(asked.method);
+  const auto& beam = results.last.beam;
+  if (beam && !spectrum) {
+    lines.push_back("Series: L to " + std::to_string(beam->limits.Lmax) + ", M to " +
+                    std::to_string(beam->limits.Mmax) + ", " + time);
+    return lines;
+  }
   lines.push_back(terms ? "Series: " + std::to_string(results.last.NSTOP) + " terms, " + time
                         : "Calculated in " + time);
   return lines;
@@ -418,10 +460,15 @@ std::vector<std::string> ChangeLinesOf(const Results& results, const Look& look)
 std::vector<std::string> MarksOf(const Results& results) {
   const RunRequest& asked = results.asked;
   const bool oneWavelength = !asked.light.spectrum && !asked.graph.WavelengthAxis();
-  return {MethodMark(asked),           asked.method.divideBySize ? "divided by x" : "",
-          SizeMark(results),           MaterialMark(results, false),
-          MaterialMark(results, true), oneWavelength ? Number(1000 * asked.light.lambda) + " nm" : "",
-          AnglesAsked(asked),          CountMark(asked)};
+  return {MethodMark(asked),
+          asked.method.divideBySize ? "divided by x" : "",
+          BeamWords(asked.method.beam),
+          SizeMark(results),
+          MaterialMark(results, false),
+          MaterialMark(results, true),
+          oneWavelength ? Number(1000 * asked.light.lambda) + " nm" : "",
+          AnglesAsked(asked),
+          CountMark(asked)};
 }
 
 std::vector<std::string> PlaceMarksOf(const Results& results) {
@@ -444,6 +491,7 @@ std::vector<std::string> FinerMarksOf(const Results& results) {
           asked.words.method,
           OnOneLine(asked.words.methodLabel),
           asked.words.paths,
+          BeamSumWords(asked.method.beam),
           asked.method.method == Method::InhomogeneousSphere ? LayersWords(asked.method.layers) : ""};
 }
 

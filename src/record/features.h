@@ -40,12 +40,17 @@ enum class Feature {
 
 /// The one place that says what is there.
 inline constexpr std::array availableFeatures = {
-    Feature::Always,         Feature::MieSeries,          Feature::AllMaterials, Feature::SizeDistributions,
-    Feature::DebyeSeries,    Feature::RayOptics,          Feature::AiryTheory,   Feature::SimpleScattering,
-    Feature::AngleIntensity, Feature::AngleFamily,        Feature::AxisFamilies, Feature::VolumeGraphs,
-    Feature::GraphLook,      Feature::SeveralWavelengths, Feature::ColourBars,   Feature::LeeDiagrams,
-    Feature::Maps,           Feature::BatchFiles,         Feature::CoatedSphere, Feature::InhomogeneousSphere,
-    Feature::Simulation,
+    Feature::Always,         Feature::MieSeries,
+    Feature::AllMaterials,   Feature::SizeDistributions,
+    Feature::DebyeSeries,    Feature::RayOptics,
+    Feature::AiryTheory,     Feature::SimpleScattering,
+    Feature::AngleIntensity, Feature::AngleFamily,
+    Feature::AxisFamilies,   Feature::VolumeGraphs,
+    Feature::GraphLook,      Feature::SeveralWavelengths,
+    Feature::ColourBars,     Feature::LeeDiagrams,
+    Feature::Maps,           Feature::BatchFiles,
+    Feature::CoatedSphere,   Feature::InhomogeneousSphere,
+    Feature::Simulation,     Feature::Beams,
 };
 
 constexpr bool IsAvailable(Feature feature) {

@@ -77,7 +77,7 @@ struct PageKind {
   bool invWavelength = false;  ///< intensities freed of the square of the wave number
   bool perVolume = false;      ///< efficiencies per volume of the spheres
   bool fourier = false;        ///< frequencies instead of the quantity of the axis
-  std::string xTitle, yTitle;  ///< of a two-angle chart, which name its ranges; empty for other graphs
+  std::string xTitle, yTitle;  ///< of a two-angle chart, which name its ranges, and of a beam's sums; empty otherwise
 
   /// Scattering matrix: S11 above, the ratios of the other elements to it below.
   bool IsMatrix() const { return graph.drawing == Drawing::MatrixPanels; }

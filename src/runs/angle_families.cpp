@@ -31,8 +31,8 @@ void AppendIntensities(const AmplitudeTable& S, RowWindow window, std::vector<do
 
 FamilyEnd RunOneSphere(const RunRequest& request, const AngleRows& rows, const Setting& setting, TaskPool& pool,
                        Results& results) {
-  SphereAsked asked{setting.x, setting.mRe, setting.mIm, AngleGrid(rows.NANG), rows.window, nullptr};
-  AskForLayers(request.particle, setting, setting.radius, asked);
+  SphereAsked asked{setting.x, setting.mRe, setting.mIm, rows.Grid(), rows.window, nullptr};
+  AskForSphere(request.particle, setting, setting.radius, asked);
   // Here, for the root of a profile that has none would count as an arithmetic failure of the task.
   if (TraitsOf(request.method.method).layered)
     if (Refusal beyond = BeyondLimits(request.method, asked); !beyond.text.empty()) return {false, std::move(beyond)};
@@ -55,7 +55,7 @@ FamilyEnd RunOneSphere(const RunRequest& request, const AngleRows& rows, const S
 FamilyEnd RunOneCloud(const RunRequest& request, const AngleRows& rows, const Setting& setting, TaskPool& pool,
                       Results& results) {
   AngleFound found;
-  SettingsPlan plan{request, std::vector{setting}, AngleGrid(rows.NANG), rows.window, true, true, {}, {}};
+  SettingsPlan plan{request, std::vector{setting}, rows.Grid(), rows.window, true, true, {}, {}};
   plan.keep = [&](std::size_t, SettingFound&& cloud) {
     TellSphere(cloud.sphere, results.last);
     results.last.samples = cloud.samples;
@@ -81,7 +81,7 @@ FamilyEnd RunAngles(const RunRequest& request, const AngleRun& run, TaskPool& po
                                   : RunOneSphere(request, run.rows, at.setting, pool, results);
   if (!end.found) return end;
   auto& found = std::get<AngleFound>(results.found);
-  const int tableRows = AngleGrid(run.rows.NANG).RowCount() + spareRows;
+  const int tableRows = run.rows.Grid().RowCount() + spareRows;
   for (AmplitudeTable* table : {&found.S1, &found.S2}) Lengthen(*table, tableRows);
   return end;
 }
@@ -95,7 +95,7 @@ FamilyEnd RunSpectrum(const RunRequest& request, const SpectrumRun& run, TaskPoo
     if (!at.Good()) return {false, at.refusal};
     settings.push_back(at.setting);
   }
-  SettingsPlan plan{request, settings, AngleGrid(run.rows.NANG), window, false, false, {}, {}};
+  SettingsPlan plan{request, settings, run.rows.Grid(), window, false, false, {}, {}};
   SpectrumFound found;
   const auto rows = static_cast<std::size_t>(window.high - window.low + 1);
   const auto count = static_cast<std::size_t>(light.Count());

@@ -205,8 +205,8 @@ FamilyEnd RunAxis(const RunRequest& request, const AxisRun& run, TaskPool& pool,
   std::vector<Setting> settings;
   Refusal refusal = PlacePoints(request, run, settings, found);
   if (!refusal.text.empty()) return {false, std::move(refusal)};
-  const bool lanes =
-      request.method.method == Method::Mie && request.graph.quantity != Quantity::Power && !request.Cloud();
+  const bool lanes = request.method.method == Method::Mie && request.method.beam.Plane() &&
+                     request.graph.quantity != Quantity::Power && !request.Cloud();
   const std::vector<Setting> all = settings;
   refusal = lanes ? SolveLanes(request, run, settings, pool, found)
                   : SolvePoints(request, run, std::move(settings), pool, found, results.last);
@@ -215,7 +215,7 @@ FamilyEnd RunAxis(const RunRequest& request, const AxisRun& run, TaskPool& pool,
   TellSetting(all[i - 1], results.last);
   LastSphere& last = results.last;
   last.efficiencies = {found.Qext[i], found.Qsca[i], found.Qback[i], found.g[i]};
-  if (request.method.method == Method::Mie) last.NSTOP = NStopEstimate(all[i - 1].x);
+  if (request.method.method == Method::Mie && request.method.beam.Plane()) last.NSTOP = NStopEstimate(all[i - 1].x);
   if (request.graph.AtOneAngle()) TellAngle(run.angle, last);
   results.found = std::move(found);
   return {true, {}};

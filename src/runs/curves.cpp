@@ -99,7 +99,7 @@ double MeanOverSphere(const Results& results, const Curves& curves) {
 void ToWatts(const Results& results, const AngleRows& rows, Curves& curves) {
   const Light& light = results.asked.light;
   const double k = results.last.waveNumber;
-  const AngleGrid grid(rows.NANG);
+  const AngleGrid grid = rows.Grid();
   double all = 0, back = 0;
   for (int row = 1; row <= std::min(grid.RowCount(), rows.window.high); ++row) {
     const double power = curves.unpolarised[At(row)] * std::sin(grid.Angle(row));
@@ -282,7 +282,7 @@ Curves CurvesOfFound(const Results&, const CurveLook&, const ConvergenceFound& f
   curves.parallel = found.parallel;
   curves.unpolarised = found.unpolarised;
   curves.x.assign(size, 0);
-  for (std::size_t n = 1; n < size; ++n) curves.x[n] = static_cast<double>(n);
+  for (std::size_t n = 1; n < size; ++n) curves.x[n] = static_cast<double>(n) + found.first - 1;
   curves.lastRow = std::max(static_cast<int>(size) - 1, 0);
   return curves;
 }
@@ -398,9 +398,9 @@ Curves CurvesOfWavelength(const Results& results, const CurveLook& look, int wav
 
 std::vector<double> AnglesOf(const AngleRows& rows) {
   std::vector<double> x(At(2 * rows.NANG), notComputed);
-  const TypedValues typed(0, rows.step);
+  const TypedValues typed(rows.Origin(), rows.step);
   for (int row = std::max(rows.window.low, 1); row <= rows.window.high && At(row) < x.size(); ++row)
-    x[At(row)] = typed((row - 1) * rows.step);
+    x[At(row)] = typed(rows.Origin() + (row - 1) * rows.step);
   return x;
 }
 

@@ -6,6 +6,7 @@
 #include <span>
 #include <utility>
 
+#include "runs/beam_methods.h"
 #include "runs/sphere_solver.h"
 #include "runs/watched.h"
 #include "solvers/functions/complex_algebra.h"
@@ -84,6 +85,8 @@ Refusal BeyondProfile(const ProfileLayers& layers, const SphereAsked& asked) {
 
 Refusal BeyondLimits(const MethodOptions& options, const SphereAsked& asked) {
   if (options.method == Method::InhomogeneousSphere) return BeyondProfile(options.layers, asked);
+  const bool beam = !options.beam.Plane() && (options.method == Method::Mie || options.method == Method::Debye);
+  if (beam) return BeyondBeam(options, asked);
   if (options.method != Method::CoatedSphere) return BeyondLimits(options, asked.x, asked.mRe, asked.mIm);
   const bool good = CheckMieLimits(asked.x, asked.mRe, asked.mIm) == MieRefusal::None &&
                     CheckMieLimits(asked.x * asked.coreRatio, asked.core.re, asked.core.im) == MieRefusal::None;

@@ -293,7 +293,7 @@ FamilyEnd Overplot_Map(const RunRequest& request, const AngleMapRun& run, TaskPo
   ColumnSums sums(window, spectrum);
   SettingsPlan plan{request,
                     {columns.Count(), [&columns](std::size_t setting) { return columns.At(setting); }},
-                    AngleGrid(run.rows.NANG),
+                    run.rows.Grid(),
                     window,
                     false,
                     false,

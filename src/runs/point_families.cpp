@@ -6,9 +6,11 @@
 #include <numbers>
 #include <utility>
 
+#include "runs/beam_methods.h"
 #include "runs/families.h"
 #include "runs/run.h"
 #include "solvers/angles/angle_window.h"
+#include "solvers/functions/complex_algebra.h"
 #include "solvers/series/debye_series.h"
 #include "solvers/series/mie_series.h"
 
@@ -114,7 +116,7 @@ Sums SumDebye(const RunRequest& request, const Setting& setting, const Point& at
 /// Of a coated sphere: the running sums of the whole, or of its selected terms.
 Sums SumCoated(const RunRequest& request, const Setting& setting, const Point& at, RunMonitor& monitor) {
   SphereAsked asked{setting.x, setting.mRe, setting.mIm, AngleGrid(tenthsTo90), {}, nullptr};
-  AskForLayers(request.particle, setting, setting.radius, asked);
+  AskForSphere(request.particle, setting, setting.radius, asked);
   Sums sums;
   sums.sphere = SolveSphere(request.method, asked, monitor);
   sums.refusal = sums.sphere.refusal;
@@ -131,7 +133,71 @@ Sums SumCoated(const RunRequest& request, const Setting& setting, const Point& a
   return sums;
 }
 
+/// The parts of a double series one after the other.
+void SumParts(const std::vector<BeamSeries::Part>& parts, std::size_t begin, ConvergenceFound& found) {
+  ComplexD S1, S2;
+  std::vector<ComplexD> sums1, sums2;
+  for (std::size_t i = begin; i < parts.size(); ++i) {
+    const BeamSeries::Part& part = parts[i];
+    sums1.push_back(S1 = S1 + part.S1());
+    sums2.push_back(S2 = S2 + part.S2());
+  }
+  const auto modulus = [](const ComplexD& z) { return std::hypot(z.re, z.im); };
+  const auto fill = [&](const std::vector<ComplexD>& sums, const ComplexD& whole, std::vector<double>& intensity,
+                        ConvergenceFound::Terms& terms, auto ofPi, auto ofTau) {
+    intensity = {0};
+    terms = {{0}, {0}, {0}};
+    for (std::size_t i = 0; i < sums.size(); ++i) {
+      intensity.push_back(SquaredModulus(sums[i]));
+      terms.ofPi.push_back(modulus(ofPi(parts[begin + i])));
+      terms.ofTau.push_back(modulus(ofTau(parts[begin + i])));
+      terms.ratio.push_back(modulus(whole) > 0 ? modulus(sums[i]) / modulus(whole) : 0);
+    }
+  };
+  using Part = BeamSeries::Part;
+  fill(
+      sums1, S1, found.perpendicular, found.perpendicularTerms, [](const Part& p) { return p.pi1; },
+      [](const Part& p) { return p.tau1; });
+  fill(
+      sums2, S2, found.parallel, found.parallelTerms, [](const Part& p) { return p.pi2; },
+      [](const Part& p) { return p.tau2; });
+  for (std::size_t i = 0; i < found.perpendicular.size(); ++i)
+    found.unpolarised.push_back((found.perpendicular[i] + found.parallel[i]) / 2);
+}
+
+/// Of a beam: sums over L with all M, or over |M| with all L.
+Sums SumBeam(const RunRequest& request, const Setting& setting, const Point& at, RunMonitor& monitor) {
+  SphereAsked asked{setting.x, setting.mRe, setting.mIm, AngleGrid::At(at.angle), {1, 1}, nullptr};
+  AskForSphere(request.particle, setting, setting.radius, asked);
+  Sums sums;
+  const BeamScattering beam = ScatterBeam(request.method, asked, monitor);
+  sums.refusal = beam.refusal;
+  if (!beam.series) return sums;
+  sums.sphere = SolutionOf(beam, asked);
+  BeamSeries::Parts parts = beam.series->SumInParts(at.angle, monitor);
+  if (parts.ofL.empty()) return sums;
+  if (request.method.divideBySize)
+    for (auto* list : {&parts.ofL, &parts.ofM})
+      for (BeamSeries::Part& part : *list)
+        for (ComplexD* z : {&part.pi1, &part.tau1, &part.pi2, &part.tau2}) *z = (1 / setting.x) * *z;
+  const bool overL = std::get<ConvergenceRun>(request.run).over == ConvergenceRun::Over::L;
+  ConvergenceFound& found = sums.found;
+  found.first = overL ? 1 : 0;
+  SumParts(overL ? parts.ofL : parts.ofM, overL ? 1 : 0, found);
+  ComplexD S1, S2;
+  for (const BeamSeries::Part& part : parts.ofM) {
+    S1 = S1 + part.S1();
+    S2 = S2 + part.S2();
+  }
+  found.S1.Resize(2 * tenthsTo90 - 1);
+  found.S2.Resize(2 * tenthsTo90 - 1);
+  found.S1.Set(at.row, S1.re, S1.im);
+  found.S2.Set(at.row, S2.re, S2.im);
+  return sums;
+}
+
 Sums SumSeries(const RunRequest& request, const Setting& setting, const Point& at, RunMonitor& monitor) {
+  if (!request.method.beam.Plane()) return SumBeam(request, setting, at, monitor);
   switch (request.method.method) {
     case Method::Debye:
       return SumDebye(request, setting, at, monitor);
@@ -169,7 +235,8 @@ FamilyEnd RunConvergence(const RunRequest& request, const ConvergenceRun& run, T
 FamilyEnd RunDebyeAnalysis(const RunRequest& request, const DebyeAnalysisRun& run, TaskPool& pool, Results& results) {
   const SettingResult at = SettingAt(request, request.light.lambda);
   if (!at.Good()) return {false, at.refusal};
-  const SphereAsked asked{at.setting.x, at.setting.mRe, at.setting.mIm, AngleGrid::At(run.angle), {1, 1}, nullptr};
+  SphereAsked asked{at.setting.x, at.setting.mRe, at.setting.mIm, AngleGrid::At(run.angle), {1, 1}, nullptr};
+  AskForSphere(request.particle, at.setting, at.setting.radius, asked);
   DebyeAnalysisFound found;
   found.dots1.Resize(run.limit + 2);
   found.dots2.Resize(run.limit + 2);

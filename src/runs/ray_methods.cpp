@@ -4,6 +4,7 @@
 #include <numbers>
 #include <utility>
 
+#include "runs/beam_methods.h"
 #include "runs/sphere_solver.h"
 #include "solvers/rays/rainbow.h"
 #include "solvers/rays/ray_series.h"
@@ -61,7 +62,7 @@ void AddRays(const MethodOptions& options, const SphereAsked& asked, RayMethod m
   request.selected = options.rays;
   request.pieces = asked.pieces.get();
   request.method = method;
-  request.beam = options.beam;
+  request.beam = BeamOfRays(options.beam, asked.radius);
   request.grid = asked.grid;
   request.window = WindowOf(asked);
   request.parallelReversed = parallelReversed;

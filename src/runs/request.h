@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <numbers>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -12,10 +13,10 @@
 #include "materials/index/material.h"
 #include "particles/size_distribution.h"
 #include "solvers/angles/angle_grid.h"
+#include "solvers/beams/beam_shape.h"
 #include "solvers/layers/coated_paths.h"
 #include "solvers/layers/index_profile.h"
 #include "solvers/patterns/simple_scattering.h"
-#include "solvers/rays/ray_series.h"
 
 namespace lumivex {
 
@@ -34,6 +35,26 @@ struct ProfileLayers {
   bool byTangents = false;  ///< see LayeredSphereByTangents
 };
 
+/// The light that a sphere stands in: a plane wave, or beams along the same axis that are polarised along x. Lengths
+/// (um) from the centre of the sphere.
+struct Illumination {
+  enum class Kind { PlaneWave, Gaussian, TopHat };
+  Kind kind = Kind::PlaneWave;
+  double x0 = 0, y0 = 0, z0 = 0;  ///< of the focus
+  double w0 = 20;                 ///< half-width there
+  /// Azimuth of the scattering plane to the polarisation (radians).
+  double phi = std::numbers::pi / 2;
+  /// S2 is that of the very beam of S1; otherwise of one that is polarised along y.
+  bool oneBeam = false;
+  bool pair = false;                 ///< a second beam at (-x0, -y0, z0)
+  bool central = false;              ///< and one at (0, 0, z0)
+  std::optional<BeamLimits> limits;  ///< in place of those that follow from beam and sphere
+  BeamSumRule rule;
+
+  bool Plane() const { return kind == Kind::PlaneWave; }
+  bool operator==(const Illumination&) const = default;
+};
+
 /// How one sphere is calculated, whatever its size.
 struct MethodOptions {
   Method method = Method::Mie;
@@ -48,7 +69,7 @@ struct MethodOptions {
   bool forwardEfficiency = false;  ///< Rayleigh's Qext from the amplitude straight forward
   int counted = 90;                ///< rays of a wavefront, strips of an aperture
   float Qmin = 1, Qmax = 1;        ///< amplitudes of the glory of a ring
-  RayBeam beam;
+  Illumination beam;
   std::optional<std::vector<WeightedPath>> paths;      ///< of a coated sphere: its Debye terms alone that are wanted
   WaveRecursion recursion = WaveRecursion::Automatic;  ///< of those
   ProfileLayers layers;
@@ -105,6 +126,15 @@ struct AngleRows {
   int NANG = 901;                           ///< rows from 0 to 90 degrees
   RowWindow window{1, 1801};                ///< rows that are calculated: those shown and the neighbours averages need
   double firstPoint = 1, lastPoint = 1801;  ///< rows shown
+  /// Degrees of row 1 in a beam, whose two sides differ: NANG is then half of the rows. Otherwise rows begin at 0 and
+  /// are mirrored at 90 degrees.
+  std::optional<double> origin = std::nullopt;
+
+  double Origin() const { return origin.value_or(0); }
+  AngleGrid Grid() const {
+    constexpr double degree = std::numbers::pi / 180;
+    return origin ? AngleGrid::From(*origin * degree, step * degree, NANG) : AngleGrid(NANG);
+  }
 };
 
 // The families. One alternative each; what they share stands in RunRequest.
@@ -129,7 +159,10 @@ struct AxisRun {
   } range;                                   ///< of a scattered power
 };
 struct ConvergenceRun {
+  /// What the sums of a beam, which are double, run over; those of a plane wave have one number of terms.
+  enum class Over { L, M };
   double angle = 0;  ///< degrees
+  Over over = Over::L;
 };
 struct DebyeAnalysisRun {
   double angle = 0;  ///< radians
@@ -186,6 +219,7 @@ struct RunWords {
   std::string light;           ///< source of a spectrum
   std::string sizes;           ///< of a cloud: "Log-normal, Std Dev % 5, 20 samples"
   std::string scale;           ///< caption of the axis' inputs
+  bool diagnostics = false;    ///< numbers that the calculation went by are told as well
 };
 
 /// All that a run is asked.

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -9,6 +10,7 @@
 #include "axes/table2d.h"
 #include "runs/request.h"
 #include "solvers/angles/amplitude_table.h"
+#include "solvers/beams/beam_shape.h"
 #include "solvers/rays/huygens_wave.h"
 #include "solvers/series/angular_sum.h"
 #include "solvers/series/mie_efficiencies.h"
@@ -33,6 +35,17 @@ struct Refusal {
   InputAtFault at = InputAtFault::None;
 };
 
+/// What focused beams were calculated with.
+struct BeamNumbers {
+  double s = 0;       ///< confinement 1/(k w0)
+  double length = 0;  ///< w0/s, over which the beam spreads (um)
+  ComplexD Q;         ///< see BeamSpread
+  BeamLimits limits;
+  int Jmax = 0;  ///< highest j that a sum came to
+  // Seconds for T(q), for the shape coefficients, for those of the sphere, and for the sums over angles.
+  double functions = 0, shape = 0, waves = 0, angles = 0;
+};
+
 /// What a solver tells of the last sphere that it calculated.
 struct LastSphere {
   double lambda = 0;  ///< um in vacuo
@@ -47,7 +60,8 @@ struct LastSphere {
   int NANG = 2;         ///< rows from 0 to 90 degrees of its grid
   int selectedRow = 1;  ///< of one angle: the row of the grid nearest to it
   int partialWaveFirst = 0, partialWaveLast = 0;
-  int samples = 1;  ///< of its cloud
+  int samples = 1;                  ///< of its cloud
+  std::optional<BeamNumbers> beam;  ///< of a series
   // What rays and closed forms leave.
   double rainbowImpact = 1, rainbowAngle = 0, rayAngle = 0;  ///< sin i, radians, degrees
   std::vector<double> apertureCentre, apertureWeight, besselOrders;
@@ -90,6 +104,13 @@ struct ConvergenceFound {
   std::vector<double> perpendicular, parallel, unpolarised;
   AmplitudeTable S1, S2;
   PartialWaves waves;
+  int first = 1;  ///< what element 1 is: 0 of sums over |M|
+  /// Of the double series of a beam, for each polarisation: moduli of what the parts with pi and with tau add, and the
+  /// modulus of the sum so far over that of the whole.
+  struct Terms {
+    std::vector<double> ofPi, ofTau, ratio;
+  };
+  Terms perpendicularTerms = {}, parallelTerms = {};
 };
 
 /// Row 1 is the Mie amplitude of a point, row j what is left of it after the first j - 1 terms.

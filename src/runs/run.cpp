@@ -67,6 +67,7 @@ void TellSphere(const SphereSolution& sphere, LastSphere& last) {
   last.apertureCentre = sphere.apertureCentre;
   last.apertureWeight = sphere.apertureWeight;
   last.besselOrders = sphere.besselOrders;
+  last.beam = sphere.beam;
 }
 
 RunEnd Run(const RunRequest& request, RunWatch& watch, unsigned threads) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "runs/beam_methods.h"
 #include "runs/sphere_solver.h"
 #include "runs/watched.h"
 #include "solvers/series/debye_series.h"
@@ -63,13 +64,15 @@ RowWindow Both(const RowWindow& a, const RowWindow& b) {
   return {std::max(a.low, b.low), std::min(a.high, b.high)};
 }
 
-/// The series becomes the difference that is asked for.
+}  // namespace
+
 void TakeDifference(const MethodOptions& options, const SphereAsked& asked, SphereSolution& series,
                     RunMonitor& monitor) {
   const bool fromMie = options.difference == Difference::MieLessDebye;
   // What is taken away from the series are bare rays; where it is taken from rays, they may have diffraction with them,
   // as the series has in p = 0.
-  const auto solve = fromMie ? BHMIE : options.difference == Difference::RaysLessDebye ? GO : GO2;
+  const auto mie = options.beam.Plane() ? BHMIE : MIE_Gaussian;
+  const auto solve = fromMie ? mie : options.difference == Difference::RaysLessDebye ? GO : GO2;
   SphereSolution other = solve(options, asked, monitor);
   if (other.Refused()) {
     series.refusal = other.refusal;
@@ -92,11 +95,14 @@ void TakeDifference(const MethodOptions& options, const SphereAsked& asked, Sphe
   series.S2b = std::move(other.S2);
 }
 
-}  // namespace
+bool IsOpaque(const MethodOptions& options, const SphereAsked& asked) {
+  return options.OnlyReflected() && asked.x * asked.mIm > opaque;
+}
 
 Refusal BeyondLimits(const MethodOptions& options, double x, double mRe, double mIm) {
   const bool series = options.method == Method::Mie || options.difference == Difference::MieLessDebye;
-  if (series && CheckMieLimits(x, mRe, mIm) != MieRefusal::None) return BeyondMie();
+  if (series && CheckMieLimits(x, mRe, mIm) != MieRefusal::None)
+    return options.beam.Plane() ? BeyondMie() : BeyondMieInBeam();
   const bool opaqueSphere = options.OnlyReflected() && x * mIm > opaque;
   if (options.method == Method::Debye && !opaqueSphere && CheckDebyeLimits(x, mRe, mIm) != MieRefusal::None)
     return {"Error", "Reduce radius or increase wavelength"};
@@ -132,7 +138,7 @@ SphereSolution BHMIE(const MethodOptions& options, const SphereAsked& asked, Run
 }
 
 SphereSolution DebyeSeries(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor) {
-  if (options.OnlyReflected() && asked.x * asked.mIm > opaque) {
+  if (IsOpaque(options, asked)) {
     SphereSolution mie = BHMIE(options, asked, monitor);
     if (!mie.waves.aRe.empty() && mie.waves.Terms() > 0) mie.efficiencies = EfficienciesOf(mie.waves, asked.x);
     return mie;

@@ -84,14 +84,13 @@ SphereAsked AskedAt(const SettingsPlan& plan, const Setting& setting, double rad
                     plan.window,
                     shared.cosines,
                     pieces == shared.pieces.end() ? nullptr : pieces->second};
-  AskForLayers(plan.request.particle, setting, radius, asked);
+  AskForSphere(plan.request.particle, setting, radius, asked);
   return asked;
 }
 
 Refusal BeyondLimits(const RunRequest& request, const Setting& setting, double radius, double x) {
-  if (!TraitsOf(request.method.method).layered) return BeyondLimits(request.method, x, setting.mRe, setting.mIm);
   SphereAsked asked{x, setting.mRe, setting.mIm, {}, {}, nullptr};
-  AskForLayers(request.particle, setting, radius, asked);
+  AskForSphere(request.particle, setting, radius, asked);
   return BeyondLimits(request.method, asked);
 }
 
@@ -179,8 +178,9 @@ double CoreRadius(const SphereCore& core, double radiusOfAll, double radius) {
   return core.radius;
 }
 
-void AskForLayers(const Particle& particle, const Setting& setting, double radius, SphereAsked& asked) {
+void AskForSphere(const Particle& particle, const Setting& setting, double radius, SphereAsked& asked) {
   asked.medium = setting.indices.MediumInUse();
+  asked.radius = radius;
   if (!particle.core) return;
   asked.coreRatio = CoreRadius(*particle.core, particle.radius, radius) / radius;
   asked.core = {setting.core.n / asked.medium, setting.core.k / asked.medium};

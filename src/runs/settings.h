@@ -37,8 +37,9 @@ SettingResult SettingAt(const RunRequest& request, double lambda);
 /// The radius (um) of the core of a coated sphere of that radius.
 double CoreRadius(const SphereCore& core, double radiusOfAll, double radius);
 
-/// What a sphere of a radius (um) is, beyond its index: what a solver of spheres in layers is asked.
-void AskForLayers(const Particle& particle, const Setting& setting, double radius, SphereAsked& asked);
+/// What a sphere of a radius (um) is, beyond its index and size parameter: what a solver of spheres in layers or in
+/// beams is asked.
+void AskForSphere(const Particle& particle, const Setting& setting, double radius, SphereAsked& asked);
 
 /// The sizes of a cloud about a setting. Of coated spheres whose coating is fixed the distribution is that of the
 /// cores, otherwise that of the whole spheres.

@@ -1,8 +1,10 @@
 /// One sphere divided among threads.
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
+#include "runs/beam_methods.h"
 #include "runs/settings.h"
 #include "solvers/series/folded_series.h"
 
@@ -70,6 +72,44 @@ void SumInParts(const MethodOptions& options, const SphereAsked& asked, SphereSo
   solution.S2.Scale(1 / asked.x);
 }
 
+/// The coefficients once, the rows of the double series part by part.
+SphereSolution SolveBeamInParts(const MethodOptions& options, const SphereAsked& asked, TaskPool& pool) {
+  BeamScattering beam;
+  TaskList one;
+  one.count = 1;
+  one.shareOfRun = 0;
+  one.work = [&](std::size_t, std::size_t, RunMonitor& monitor) {
+    beam = ScatterBeam(options, asked, monitor);
+    return true;
+  };
+  one.take = [](std::size_t, std::size_t) { return true; };
+  if (pool.Do(one) == 0) beam.series.reset();
+  SphereSolution solution = SolutionOf(beam, asked);
+  if (!beam.series) return solution;
+  const auto start = std::chrono::steady_clock::now();
+  // Some ms of work in each part, and whole blocks of the inner loop.
+  constexpr double termsPerPart = 2e6;
+  constexpr int rowsOfBlock = 8, mostBlocks = 64;
+  const BeamLimits limits = beam.numbers.limits;
+  const double terms = static_cast<double>(limits.Lmax) * (limits.Mmax + 1) * rowsOfBlock;
+  const int blocks = static_cast<int>(std::clamp(termsPerPart / terms, 1.0, double{mostBlocks}));
+  const auto parts = PartsOf(WindowOf(asked), rowsOfBlock * blocks);
+  std::vector<RowsDone> done(parts.size());
+  TaskList tasks;
+  tasks.count = parts.size();
+  tasks.work = [&](std::size_t task, std::size_t, RunMonitor& monitor) {
+    done[task] = SumBeamRows(*beam.series, options, asked, parts[task], solution, monitor);
+    return done[task].Contains(parts[task].high);
+  };
+  tasks.take = [&](std::size_t task, std::size_t) {
+    solution.rows = Joined(solution.rows, done[task]);
+    return true;
+  };
+  solution.finished = pool.Do(tasks) == tasks.count;
+  solution.beam->angles = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  return solution;
+}
+
 /// Rays of one row know nothing of those of another.
 SphereSolution SolveRaysInParts(const MethodOptions& options, const SphereAsked& asked, TaskPool& pool) {
   constexpr int leastRows = 64, mostParts = 16;
@@ -127,6 +167,7 @@ std::shared_ptr<const RayPieces> PiecesInPool(const MethodOptions& options, doub
 SphereSolution SolveInParts(const MethodOptions& options, const SphereAsked& asked, TaskPool& pool) {
   const bool series = options.method == Method::Mie || TraitsOf(options.method).layered ||
                       (options.method == Method::Debye && options.difference == Difference::None);
+  if (series && !options.beam.Plane()) return SolveBeamInParts(options, asked, pool);
   if (series) {
     SphereAsked noRows = asked;
     noRows.window = {};

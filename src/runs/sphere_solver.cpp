@@ -2,21 +2,25 @@
 
 #include <algorithm>
 
+#include "runs/beam_methods.h"
 #include "solvers/angles/cross_section.h"
 
 namespace lumivex {
 
 namespace {
 
+using Solver = SphereSolution (*)(const MethodOptions&, const SphereAsked&, RunMonitor&);
+
 struct SolverRow {
   Method method;
-  SphereSolution (*solve)(const MethodOptions&, const SphereAsked&, RunMonitor&);
+  Solver solve;
+  Solver inBeam = nullptr;  ///< where a beam asks for another one
 };
 
 // One row a method; the differences of the Debye series stand in the row of the series.
 constexpr SolverRow solverRows[] = {
-    {Method::Mie, BHMIE},
-    {Method::Debye, DebyeSeries},
+    {Method::Mie, BHMIE, MIE_Gaussian},
+    {Method::Debye, DebyeSeries, DebyeGaussian},
     {Method::Rayleigh, Rayleigh},
     {Method::Diffraction, Diffraction},
     {Method::Airy, Airy},
@@ -34,8 +38,11 @@ constexpr SolverRow solverRows[] = {
 }  // namespace
 
 SphereSolution SolveSphere(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor) {
-  for (const auto& row : solverRows)
-    if (row.method == options.method) return row.solve(options, asked, monitor);
+  for (const auto& row : solverRows) {
+    if (row.method != options.method) continue;
+    const bool beam = row.inBeam != nullptr && !options.beam.Plane();
+    return (beam ? row.inBeam : row.solve)(options, asked, monitor);
+  }
   SphereSolution none;
   none.refusal = {"Error", "Unknown calculation method"};
   return none;

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "runs/request.h"
 #include "runs/results.h"
 #include "solvers/angles/angle_cosines.h"
 #include "solvers/functions/complex_pairs.h"
+#include "solvers/rays/ray_pieces.h"
 #include "solvers/run_monitor.h"
 
 namespace lumivex {
@@ -22,6 +24,7 @@ struct SphereAsked {
   double coreRatio = 0;                          ///< of a coated sphere: the radius of its core over its own
   ComplexD core{1, 0};                           ///< relative index of the core; mRe, mIm are the coating's
   double medium = 1;                             ///< index of the medium, which a profile is taken relative to
+  double radius = 1;                             ///< um, which the lengths of a beam are measured with
 };
 
 /// What a solver finds of one sphere.
@@ -38,13 +41,15 @@ struct SphereSolution {
   double rainbowImpact = 1, rainbowAngle = 0, rayAngle = 0;  ///< of the highest p: sin i, radians; degrees
   std::vector<HuygensWave> wavefronts;
   std::vector<double> apertureCentre, apertureWeight, besselOrders;
+  std::optional<BeamNumbers> beam;
 
   bool Refused() const { return !refusal.text.empty(); }
 };
 
 /// A sphere by the method of the options.
 ///
-/// Efficiencies of methods that have none are 0. A refusal, or a method without a solver, leaves the tables empty.
+/// In a beam the series are those of beam_methods.h, and rays are weighed with it. Efficiencies of methods that have
+/// none, and those in a beam, are 0. A refusal, or a method without a solver, leaves the tables empty.
 SphereSolution SolveSphere(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor);
 
 /// Why a sphere lies beyond the limits of the method; an empty text where it does not. A run of many asks for all of
@@ -74,6 +79,13 @@ SphereSolution DebyeSeries(const MethodOptions& options, const SphereAsked& aske
 /// In an absorbing sphere the parallel amplitude of rays alone has its sign changed; a sum with diffraction, or a
 /// difference, has the physical sign. See docs/physics_rays.md.
 SphereSolution GO(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor);
+
+/// The series becomes the difference that is asked for: what it leaves of another field.
+void TakeDifference(const MethodOptions& options, const SphereAsked& asked, SphereSolution& series,
+                    RunMonitor& monitor);
+
+/// Whether Debye terms are those of a sphere that lets nothing out: p = 0 alone with x mIm above 700.
+bool IsOpaque(const MethodOptions& options, const SphereAsked& asked);
 
 /// Whether a method traces rays at angles: one of its own, or a difference with them.
 bool TracesRays(const MethodOptions& options);

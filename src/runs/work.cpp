@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "runs/beam_methods.h"
 #include "runs/families.h"
 #include "runs/run.h"
 #include "runs/volume_sums.h"
@@ -24,6 +25,11 @@ constexpr double wayTerm = 10;     // each of the ways that are selected
 constexpr double layerTerm = 40;   // each layer of a profile
 constexpr double ratioTerm = 100;  // times x: continued fractions of an absorbing sphere
 
+// Of a double series: a term (L, M) at one row, its shape coefficients, and how many j a sum for them goes beyond M.
+constexpr double beamTerm = 4;
+constexpr double shapeTerm = 80;
+constexpr double jPerOrder = 20;
+
 /// Most settings, and most sizes of a cloud, that are looked at one by one.
 constexpr int mostLooks = 100;
 
@@ -41,12 +47,29 @@ double PairsOf(const AngleGrid& grid, RowWindow window) {
   return folded.Empty() ? 0 : folded.high - folded.low + 1;
 }
 
+/// Rows of a beam have no mirror.
+double PairsOf(const AngleRows& rows) {
+  return rows.origin ? std::max(rows.window.high - rows.window.low + 1, 0) : PairsOf(rows.Grid(), rows.window);
+}
+
+/// One sphere in a beam over so many rows.
+double BeamWork(const MethodOptions& options, double x, double radius, double rows) {
+  const BeamLimits limits = NumbersOfBeam(options.beam, x, radius).limits;
+  const double orders = limits.Mmax + 1, shapes = static_cast<double>(BeamsOf(options.beam, x / radius).size());
+  const double sums =
+      options.beam.rule.closed ? 0 : 2 * std::min(limits.Mmax * jPerOrder, double(options.beam.rule.Jmax));
+  const double waves = options.method == Method::Debye ? debyeTerm : mieTerm;
+  return limits.Lmax * (orders * (beamTerm * rows + shapes * (shapeTerm + sums)) + waves);
+}
+
 double RaysOf(const MethodOptions& options) {
   return static_cast<double>(std::ranges::count_if(options.rays, [](int p) { return p != 0; }));
 }
 
 /// One sphere over so many pairs of angles.
 double SphereWork(const MethodOptions& options, const Setting& setting, double x, double pairs) {
+  const bool series = options.method == Method::Mie || options.method == Method::Debye;
+  if (series && !options.beam.Plane()) return BeamWork(options, x, setting.radius * x / setting.x, pairs);
   const double terms = NStopEstimate(x);
   const double mie = terms * (pairs + mieTerm);
   if (options.method == Method::Mie) return mie;
@@ -78,11 +101,11 @@ double WorkAt(const RunRequest& request, double lambda, double pairs) {
 }
 
 double WorkOf(const RunRequest& request, const AngleRun& run) {
-  return WorkAt(request, request.light.lambda, PairsOf(AngleGrid(run.rows.NANG), run.rows.window));
+  return WorkAt(request, request.light.lambda, PairsOf(run.rows));
 }
 
 double WorkOf(const RunRequest& request, const SpectrumRun& run) {
-  const double pairs = PairsOf(AngleGrid(run.rows.NANG), run.rows.window);
+  const double pairs = PairsOf(run.rows);
   const SpectrumOfLight& light = *request.light.spectrum;
   return SumOver(light.Count(),
                  [&](int i) { return WorkAt(request, double{light.wavelength[static_cast<std::size_t>(i)]}, pairs); });
@@ -90,7 +113,7 @@ double WorkOf(const RunRequest& request, const SpectrumRun& run) {
 
 double WorkOf(const RunRequest& request, const AxisRun& run) {
   const bool power = request.graph.quantity == Quantity::Power;
-  const bool lanes = request.method.method == Method::Mie && !power && !request.Cloud();
+  const bool lanes = request.method.method == Method::Mie && request.method.beam.Plane() && !power && !request.Cloud();
   const PowerRows rows(run.range);
   // In lanes the whole cost of a term, its one angle with it, takes the place of that of a sphere alone.
   const double pairs = power ? PairsOf(rows.grid, rows.window) : lanes ? mieTermInLanes - mieTerm : 1;
@@ -175,7 +198,7 @@ double WorkOf(const RunRequest& request, const EfficiencyMapRun& run) {
 
 std::vector<double> WorkOfColumns(const RunRequest& request, const AngleMapRun& run) {
   constexpr int wavelengthLooks = 8;
-  const double pairs = PairsOf(AngleGrid(run.rows.NANG), run.rows.window);
+  const double pairs = PairsOf(run.rows);
   std::vector<double> work;
   for (int column = 0; column < run.columns.Count(); ++column) {
     const auto workAt = [&](double lambda) {

@@ -8,6 +8,7 @@
 #include "session/driver/display_run.h"
 #include "session/file_menu.h"
 #include "session/info.h"
+#include "session/inputs/beams/beam_menus.h"
 #include "session/inputs/graph_types.h"
 #include "session/inputs/input_events.h"
 #include "session/inputs/layers/coated_inputs.h"
@@ -138,6 +139,7 @@ EventTable::EventTable() {
   for (const auto& row : LookEvents()) Add(row.name, row.handler);
   for (const auto& row : MaterialEvents()) Add(row.name, row.handler);
   for (const auto& row : SolverEvents()) Add(row.name, row.handler);
+  for (const auto& row : BeamEvents()) Add(row.name, row.handler);
   for (const auto& row : CoatedSphereEvents()) Add(row.name, row.handler);
   for (const auto& row : InhomSphereEvents()) Add(row.name, row.handler);
   for (const auto& row : SimulationEvents()) Add(row.name, row.handler);

@@ -99,10 +99,9 @@ TEST_F(ReadBatch, ErrorsAreToldAndEndTheBatchAndWhatWasFinishedIsKept) {
       {"Step\nRadius\n1 2 0\nrun\n", name + "\n1 2 0 is not a valid parameter"},
       {std::string(100, 'x') + "\n", name + "\n" + std::string(40, 'x') + " is not a valid parameter"},
       {"\xFF\xFE\x01 mu\n", name + "\n??? mu is not a valid parameter"},
-      {"gaussian\nrun\n", name + "\nLine 11: Gaussian beams are not available"},
-      {"Step\ngaussian w0\n1 2 1\nrun\n", name + "\nLine 11: Gaussian beams are not available"},
       {"Step\nRadius\n-5 5 1\nrun\n", name + "\nLine 14: the run at Radius -5 was refused"},
       {"Radius\n-5\nrun\n", name + "\nLine 13: the run was refused"},
+      {"gaussian\ngaussian w0\n-1\nrun\n", name + "\nLine 14: the run was refused"},
   };
   for (const auto& [commands, text] : cases) {
     Put("job.mut", "before");
@@ -117,7 +116,7 @@ TEST_F(ReadBatch, ErrorsAreToldAndEndTheBatchAndWhatWasFinishedIsKept) {
   }
   // Where an output tells that all is done, the part of one stands beside it.
   Put("job.mut", "before");
-  EXPECT_EQ(Run("Radius\n5\n" + start + "Fly\n", false), BatchEnd::Failed);
+  EXPECT_EQ(Run("plane\nRadius\n5\n" + start + "Fly\n", false), BatchEnd::Failed);
   EXPECT_EQ(Content("job.mut"), "before");
   EXPECT_EQ(Blocks("job.mut.part"), 1);
 }

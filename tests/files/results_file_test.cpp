@@ -101,6 +101,26 @@ const std::vector<std::pair<std::string, std::string>> furtherRuns = {
     {"size file", "dialog dlogDistOption ok\nopen " + SourceFolder() +
                       "/data/examples/spray.dis\nclick optDisp\nchoose cboDistrib Special\nset cboStep 5\n"
                       "click cmdNewPlot"},
+    {"beam",
+     "dialog dlogGaussianBeam ok txtBeamYF=-3 txtBeamWo=2 chkLock=1 txtPhi=20\nclick mnuGaussian\nclick "
+     "mnuMultBeams\nset "
+     "txtXmin -90\nset txtXmax 180\nset txtRadius 3\nset cboStep 2\nclick mnuS1S2\nclick cmdNewPlot"},
+    {"beam of colours",
+     "dialog dlogGaussianBeam ok txtBeamYF=-3 txtBeamWo=3\nclick mnuGaussian\nset txtXmin -90\nset txtRadius 3\nset "
+     "cboWave 3\nset cboStep 2\nclick cmdNewPlot"},
+    {"beam of a cloud",
+     "choose cboType Debye\ndialog dlogGaussianBeam ok txtBeamYF=1 txtBeamWo=3\nclick mnuGaussian\nset txtRadius 3\n"
+     "click optDisp\nset cboN 5\nset cboStep 2\nclick cmdNewPlot"},
+    {"beam along an axis",
+     "dialog dlogGaussianBeam ok txtBeamYF=-3 txtBeamWo=3\nclick mnuGaussian\nchoose cboGraph Intensity v. radius\nset "
+     "txtXmax 4\nset cboStep 0.5\nclick cmdNewPlot"},
+    {"sums of a beam",
+     "dialog dlogGaussianBeam ok txtBeamYF=-3 txtBeamWo=3\nclick mnuGaussian\nclick mnuMieGConv2\nset txtRadius "
+     "3\nclick "
+     "cmdNewPlot"},
+    {"disc of rays",
+     "choose cboType Young mod\ndialog dlogGaussianBeam ok txtBeamWo=4\nclick mnuTopHat\nset cboStep 2\nclick "
+     "cmdNewPlot"},
     {"index file", "open " + SourceFolder() +
                        "/data/examples/crown_glass.rix\nclick mnuRI_File1\nset cboStep 5\nset txtRadius 2\n"
                        "click cmdNewPlot"},

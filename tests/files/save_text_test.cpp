@@ -50,7 +50,7 @@ TEST_F(TextReports, EachKindOfDataAsksInItsOwnWords) {
   EXPECT_EQ(ReportKindOf(asked), SaveKind::VolumeData);
   asked.graph = GraphOf({13, 1});
   EXPECT_EQ(ReportKindOf(asked), SaveKind::TextReport);
-  asked.method.beam.profile = RayBeam::Profile::Gaussian;
+  asked.method.beam.kind = Illumination::Kind::Gaussian;
   EXPECT_EQ(ReportKindOf(asked), SaveKind::GaussianConvergence);
   asked.graph = GraphOf({19, 1});
   EXPECT_EQ(ReportKindOf(asked), SaveKind::ImpulseData);

@@ -9,7 +9,6 @@ namespace lumivex {
 namespace {
 
 using enum BatchAction;
-using enum Feature;
 
 constexpr std::array keywords = {
     BatchKeyword{"Mie", ChooseMethod},
@@ -48,8 +47,8 @@ constexpr std::array keywords = {
 
     BatchKeyword{"plane", Click, "mnuPlaneWave"},
     BatchKeyword{"Plane", Click, "mnuPlaneWave"},
-    BatchKeyword{"gaussian", Click, "mnuGaussian", "", Beams},
-    BatchKeyword{"Gaussian", Click, "mnuGaussian", "", Beams},
+    BatchKeyword{"gaussian", Click, "mnuGaussian"},
+    BatchKeyword{"Gaussian", Click, "mnuGaussian"},
     BatchKeyword{"Disperse", Click, "optDisp"},
     BatchKeyword{"Monodisperse", Click, "optMono"},
     BatchKeyword{"Normal", Pick, "cboDistrib"},
@@ -57,14 +56,14 @@ constexpr std::array keywords = {
     BatchKeyword{"SD", Type, "cboSD"},
     BatchKeyword{"N", TypeSamples, "cboN"},
 
-    BatchKeyword{"gaussian x0", Type, "dlogGaussianBeam.txtBeamXF", "", Beams},
-    BatchKeyword{"Gaussian x0", Type, "dlogGaussianBeam.txtBeamXF", "", Beams},
-    BatchKeyword{"gaussian y0", Type, "dlogGaussianBeam.txtBeamYF", "", Beams},
-    BatchKeyword{"Gaussian y0", Type, "dlogGaussianBeam.txtBeamYF", "", Beams},
-    BatchKeyword{"gaussian z0", Type, "dlogGaussianBeam.txtBeamZF", "", Beams},
-    BatchKeyword{"Gaussian z0", Type, "dlogGaussianBeam.txtBeamZF", "", Beams},
-    BatchKeyword{"gaussian w0", Type, "dlogGaussianBeam.txtBeamWo", "", Beams},
-    BatchKeyword{"Gaussian w0", Type, "dlogGaussianBeam.txtBeamWo", "", Beams},
+    BatchKeyword{"gaussian x0", Type, "dlogGaussianBeam.txtBeamXF"},
+    BatchKeyword{"Gaussian x0", Type, "dlogGaussianBeam.txtBeamXF"},
+    BatchKeyword{"gaussian y0", Type, "dlogGaussianBeam.txtBeamYF"},
+    BatchKeyword{"Gaussian y0", Type, "dlogGaussianBeam.txtBeamYF"},
+    BatchKeyword{"gaussian z0", Type, "dlogGaussianBeam.txtBeamZF"},
+    BatchKeyword{"Gaussian z0", Type, "dlogGaussianBeam.txtBeamZF"},
+    BatchKeyword{"gaussian w0", Type, "dlogGaussianBeam.txtBeamWo"},
+    BatchKeyword{"Gaussian w0", Type, "dlogGaussianBeam.txtBeamWo"},
 
     BatchKeyword{"Step", Step},
     BatchKeyword{"step", Step},
@@ -87,14 +86,14 @@ constexpr std::array stepNames = {
     BatchStepName{"diameter", "txtRadius", "mnuDiameter"},
     BatchStepName{"Angle", "txtAngle"},
     BatchStepName{"angle", "txtAngle"},
-    BatchStepName{"gaussian x0", "dlogGaussianBeam.txtBeamXF", "", -1, Beams},
-    BatchStepName{"Gaussian x0", "dlogGaussianBeam.txtBeamXF", "", -1, Beams},
-    BatchStepName{"gaussian y0", "dlogGaussianBeam.txtBeamYF", "", -1, Beams},
-    BatchStepName{"Gaussian y0", "dlogGaussianBeam.txtBeamYF", "", -1, Beams},
-    BatchStepName{"gaussian z0", "dlogGaussianBeam.txtBeamZF", "", -1, Beams},
-    BatchStepName{"Gaussian z0", "dlogGaussianBeam.txtBeamZF", "", -1, Beams},
-    BatchStepName{"gaussian w0", "dlogGaussianBeam.txtBeamWo", "", -1, Beams},
-    BatchStepName{"Gaussian w0", "dlogGaussianBeam.txtBeamWo", "", -1, Beams},
+    BatchStepName{"gaussian x0", "dlogGaussianBeam.txtBeamXF"},
+    BatchStepName{"Gaussian x0", "dlogGaussianBeam.txtBeamXF"},
+    BatchStepName{"gaussian y0", "dlogGaussianBeam.txtBeamYF"},
+    BatchStepName{"Gaussian y0", "dlogGaussianBeam.txtBeamYF"},
+    BatchStepName{"gaussian z0", "dlogGaussianBeam.txtBeamZF"},
+    BatchStepName{"Gaussian z0", "dlogGaussianBeam.txtBeamZF"},
+    BatchStepName{"gaussian w0", "dlogGaussianBeam.txtBeamWo"},
+    BatchStepName{"Gaussian w0", "dlogGaussianBeam.txtBeamWo"},
     BatchStepName{"P", "cboRays"},
     BatchStepName{"p", "cboRays"},
 };

@@ -3,8 +3,6 @@
 #include <span>
 #include <string_view>
 
-#include "record/features.h"
-
 namespace lumivex {
 
 /// What a keyword of a command file does. All of them are rows of one table: a further keyword is a further row.
@@ -27,7 +25,6 @@ struct BatchKeyword {
   BatchAction action;
   std::string_view control = {};  ///< "txtLambda", "dlogGaussianBeam.txtBeamXF"
   std::string_view item = {};     ///< the text to be chosen, where it is another than the keyword's
-  Feature feature = Feature::Always;
 
   /// Whether a line with a number follows.
   bool TakesNumber() const {
@@ -46,7 +43,6 @@ struct BatchStepName {
   std::string_view control;
   std::string_view sizeKind = {};  ///< the menu entry that says what the size means
   int decimals = -1;               ///< to which values are rounded; negative: not at all
-  Feature feature = Feature::Always;
 };
 
 /// The parameter of that name; null for any other text.

@@ -72,8 +72,6 @@ class BatchRun {
 
   BatchEnd Carry(const BatchCommand& command) {
     const bool steps = command.keyword->action == BatchAction::Step;
-    if (!IsAvailable(command.keyword->feature) || (steps && !IsAvailable(command.stepName->feature)))
-      return Fail("\nLine " + std::to_string(command.lineNumber) + ": Gaussian beams are not available");
     if (command.keyword->action == BatchAction::Run) return Run(command.lineNumber);
     if (steps) {
       BeginSteps(command);

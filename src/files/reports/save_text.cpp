@@ -34,17 +34,40 @@ std::string TextReport(const Page& page, const Results* results) {
 
 SaveKind ReportKindOf(const RunRequest& asked) {
   const Family family = asked.graph.family;
-  const bool beam = asked.method.beam.profile == RayBeam::Profile::Gaussian;
+  const bool beam = asked.method.beam.kind == Illumination::Kind::Gaussian;
   if (family == Family::Volume) return SaveKind::VolumeData;
   if (family == Family::Convergence && beam) return SaveKind::GaussianConvergence;
   if (family == Family::Impulse || family == Family::EfficiencyPulse) return SaveKind::ImpulseData;
   return SaveKind::TextReport;
 }
 
+std::string Save_MieGConv(const Results& results, bool parallel) {
+  const auto* found = results.Find<ConvergenceFound>();
+  const auto& beam = results.last.beam;
+  if (found == nullptr || !beam) return "";
+  const ConvergenceFound::Terms& terms = parallel ? found->parallelTerms : found->perpendicularTerms;
+  if (terms.ratio.size() < 2) return "";
+  ResultColumns table;
+  table.first = 1;
+  table.last = terms.ratio.size() - 1;
+  std::vector<double> L(terms.ratio.size(), beam->limits.Lmax), M(terms.ratio.size(), beam->limits.Mmax);
+  const bool overL = std::get<ConvergenceRun>(results.asked.run).over == ConvergenceRun::Over::L;
+  for (std::size_t i = 1; i < terms.ratio.size(); ++i) (overL ? L : M)[i] = static_cast<double>(i) - 1 + found->first;
+  table.columns = {{"Term 1", terms.ofPi},
+                   {"Term 2", terms.ofTau},
+                   {"Term 3", terms.ratio},
+                   {"L", std::move(L)},
+                   {"M", std::move(M)}};
+  return TextOfColumns(table);
+}
+
 std::string Save_Text(Session& session, const std::string& path) {
   const auto& results = session.state.LastResults;
   const bool amplitudes = session.form1.mnuS1S2.Checked && results && Shows(session.page, *results);
-  return WriteWholeFile(path, TextReport(session.page, amplitudes ? results.get() : nullptr));
+  std::string text = TextReport(session.page, amplitudes ? results.get() : nullptr);
+  if (results && Shows(session.page, *results) && ReportKindOf(results->asked) == SaveKind::GaussianConvergence)
+    text += "\n" + Save_MieGConv(*results, session.form1.cboPol.Text == "Parallel");
+  return WriteWholeFile(path, text);
 }
 
 void mnuSaveText_Click(Session& session) {

@@ -13,6 +13,11 @@ namespace lumivex {
 /// @param results  where S1 and S2 are to follow: of the last run of the page; otherwise null.
 std::string TextReport(const Page& page, const Results* results);
 
+/// The convergence of a beam, row by row: moduli of what the parts with pi and with tau add, the sum so far over that
+/// of the whole, and the L and M up to which it goes.
+/// @param parallel  of the parallel polarisation in place of the perpendicular one.
+std::string Save_MieGConv(const Results& results, bool parallel);
+
 /// Under which kind a report of such a run is saved: many spheres in a volume, the convergence of a Gaussian beam and
 /// impulses have kinds of their own.
 SaveKind ReportKindOf(const RunRequest& asked);

@@ -4,6 +4,7 @@
 
 #include "files/results/own_block.h"
 #include "runs/curves.h"
+#include "solvers/series/mie_coefficients.h"
 
 namespace lumivex {
 
@@ -68,8 +69,20 @@ struct Fits {
   }
   bool operator()(const ConvergenceFound& found) const {
     const std::size_t size = found.perpendicular.size();
+    const int terms = static_cast<int>(size) - 1;
     return size >= 2 && SameSizes({&found.parallel, &found.unpolarised}, size) && Fit(found.waves) &&
-           found.S1.Rows() == found.S2.Rows() && results.last.NSTOP == static_cast<int>(size) - 1;
+           found.S1.Rows() == found.S2.Rows() &&
+           (results.last.beam ? FitsBeam(found, terms) : results.last.NSTOP == terms);
+  }
+  /// Sums over L or over |M| of a beam.
+  bool FitsBeam(const ConvergenceFound& found, int terms) const {
+    const BeamLimits& limits = results.last.beam->limits;
+    const bool overL = std::get<ConvergenceRun>(results.asked.run).over == ConvergenceRun::Over::L;
+    const auto fit = [&](const ConvergenceFound::Terms& list) {
+      return SameSizes({&list.ofPi, &list.ofTau, &list.ratio}, Size(terms));
+    };
+    return found.first == (overL ? 1 : 0) && terms == (overL ? limits.Lmax : limits.Mmax + 1) &&
+           fit(found.perpendicularTerms) && fit(found.parallelTerms);
   }
   bool operator()(const DebyeAnalysisFound& found) const {
     const int rows = std::get<DebyeAnalysisRun>(results.asked.run).limit + 2;
@@ -159,7 +172,9 @@ struct Possible {
 };
 
 bool IsSphere(const LastSphere& last) {
-  return last.lambda > 0 && last.NANG >= 1 && last.NANG <= 1'000'000 && last.NSTOP >= 0 && last.NMX >= 0 &&
+  const bool beam = !last.beam || (last.beam->limits.Lmax >= 1 && last.beam->limits.Lmax <= MaxSeriesTerms &&
+                                   last.beam->limits.Mmax >= 0 && last.beam->limits.Mmax <= last.beam->limits.Lmax);
+  return beam && last.lambda > 0 && last.NANG >= 1 && last.NANG <= 1'000'000 && last.NSTOP >= 0 && last.NMX >= 0 &&
          last.selectedRow >= 1 && last.selectedRow <= 2 * last.NANG - 1 && last.samples >= 0;
 }
 

@@ -7,6 +7,7 @@
 #include "record/catalogue/graph_texts.h"
 #include "record/catalogue/method_texts.h"
 #include "record/number_text.h"
+#include "session/inputs/beams/read_beam.h"
 #include "session/inputs/dialog_use.h"
 #include "session/inputs/methods.h"
 #include "session/undo.h"
@@ -57,6 +58,13 @@ std::string FaultOfMaterials(Session& sheet) {
   return {};
 }
 
+/// A light that menus cannot tick.
+std::string FaultOfLight(Session& sheet) {
+  const auto& form = sheet.form1;
+  const int ticked = int{form.mnuPlaneWave.Checked} + int{form.mnuGaussian.Checked} + int{form.mnuTopHat.Checked};
+  return ticked == 1 ? "" : "one kind of illumination should be ticked";
+}
+
 /// A dialog whose fields the run reads, and the event that marks those that it would not take.
 struct DialogInUse {
   bool used;
@@ -71,6 +79,8 @@ std::string FaultOfDialogs(Session& sheet) {
   const bool debye = sheet.state.CalcMethod == Method::Debye;
   const bool several = Trim(form.cboWave.Text) != "1" && TakesWavelengths(graph);
   const DialogInUse dialogs[] = {
+      {InBeam(form), f.dlogGaussianBeam, "OKButton_Click"},
+      {InBeam(form) && form.mnuHidden.Checked, f.dlogMmax, "OKButton_Click"},
       {several, f.dlogSpectrumBand, "OKButton_Click"},
       {several && form.mnuSpectrumWernand2.Checked, f.dlogWernand, "txtElevation_Change"},
       {several && form.mnuBlackBody.Checked, f.dlogBlackBody, "txtBlackBody_Change"},
@@ -99,7 +109,7 @@ std::string FaultOfDialogs(Session& sheet) {
 }  // namespace
 
 std::string FaultOfInputs(Session& sheet) {
-  for (const auto rule : {FaultOfChoices, FaultOfMaterials, FaultOfDialogs})
+  for (const auto rule : {FaultOfChoices, FaultOfMaterials, FaultOfLight, FaultOfDialogs})
     if (std::string fault = rule(sheet); !fault.empty()) return fault;
   return {};
 }

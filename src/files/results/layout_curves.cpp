@@ -1,9 +1,11 @@
 #include <algorithm>
 #include <array>
 
+#include "files/results/input_sheet.h"
 #include "files/results/layout.h"
 #include "record/number_text.h"
 #include "runs/run.h"
+#include "session/inputs/beams/read_beam.h"
 
 namespace lumivex {
 
@@ -35,19 +37,35 @@ void WalkRow(LayoutWalk& walk, const std::array<std::vector<double>*, count>& li
   }
 }
 
-/// What of a beam follows is passed over: no run here is lit by one.
-void RefuseBeams(FileLines& lines) {
-  for (const std::string_view beam : {"Gaussian beam", "Top hat"})
-    if (lines.Word(beam, false))
-      throw BadFile{"The file holds a run in a beam (" + std::string(beam) +
-                    "), which this version of Lumivex does not calculate"};
+void WalkChoice(FileLines& lines, std::string_view off, std::string_view on, bool& value) {
+  if (lines.Word(on, value))
+    value = true;
+  else if (lines.Word(off, true))
+    value = false;
+  else
+    lines.Refuse("\"" + std::string(off) + "\" or \"" + std::string(on) + "\" should follow it");
+}
+
+/// Whether a beam stands in the place of Qsca.
+bool WalkBeam(LayoutWalk& walk) {
+  FileLines& lines = walk.lines;
+  Form1& form = walk.Form();
+  DlogGaussianBeam& beam = walk.sheet.forms.dlogGaussianBeam;
+  const bool gaussian = lines.Word("Gaussian beam", form.mnuGaussian.Checked);
+  if (!gaussian && !lines.Word("Top hat", form.mnuTopHat.Checked)) return false;
+  TickAlone({&form.mnuPlaneWave, &form.mnuGaussian, &form.mnuTopHat}, gaussian ? form.mnuGaussian : form.mnuTopHat);
+  for (TextInput* field : {&beam.txtBeamXF, &beam.txtBeamYF, &beam.txtBeamZF, &beam.txtBeamWo, &beam.txtPhi})
+    lines.Text(field->Text);
+  WalkChoice(lines, "Single beam", "Multiple beams", form.mnuMultBeams.Checked);
+  WalkChoice(lines, "No central beam", "Central beam", form.mnuCentralBeam.Checked);
+  WalkChoice(lines, "Not Lock", "Lock", beam.chkLock.Checked);
+  return true;
 }
 
 void WalkAngles(LayoutWalk& walk) {
   CurveRows& rows = walk.rows;
   FileLines& lines = walk.lines;
-  RefuseBeams(lines);
-  lines.Number(rows.Qsca);
+  if (!WalkBeam(walk)) lines.Number(rows.Qsca);
   if (rows.Qsca < 0 && walk.sheet.state.CalcMethod != Method::Debye && lines.Reading()) RefuseBelow0(lines);
   const RowWindow window = FileWindow(walk.sheet);
   const int wavelengths = WavelengthsOf(walk.sheet);
@@ -157,15 +175,16 @@ void WalkAmplitudes(LayoutWalk& walk) {
   if (!lines.Word(heading, true)) return;
   const RowWindow window = FileWindow(walk.sheet);
   const double step = Val(walk.Form().cboStep.Text);
+  const double first = InBeam(walk.Form()) ? Val(walk.Form().txtXmin.Text) : 0;
   if (lines.Reading()) {
     rows.angleS1.Resize(window.high);
     rows.angleS2.Resize(window.high);
     walk.Form().mnuS1S2.Checked = true;
   }
   for (int row = window.low; row <= window.high; ++row) {
-    std::array<double, 5> values{(row - 1) * step};
+    std::array<double, 5> values{first + (row - 1) * step};
     if (row <= rows.angleS1.Rows())
-      values = {(row - 1) * step, rows.angleS1.Re(row), rows.angleS1.Im(row), rows.angleS2.Re(row),
+      values = {first + (row - 1) * step, rows.angleS1.Re(row), rows.angleS1.Im(row), rows.angleS2.Re(row),
                 rows.angleS2.Im(row)};
     lines.Numbers(values);
     if (!lines.Reading()) continue;
@@ -185,6 +204,12 @@ bool MayLieBelow0(const Graph& graph, Method method, std::size_t curve) {
 
 void WalkCurves(LayoutWalk& walk) {
   const Graph& graph = walk.Chosen();
+  // A beam is told of below, or in our block; without either the light is that of before beams.
+  if (walk.lines.Reading()) {
+    Form1& form = walk.Form();
+    TickAlone({&form.mnuPlaneWave, &form.mnuGaussian, &form.mnuTopHat}, form.mnuPlaneWave);
+    form.mnuMultBeams.Checked = form.mnuCentralBeam.Checked = false;
+  }
   if (graph.AgainstAngle()) {
     WalkAngles(walk);
     WalkAmplitudes(walk);

@@ -226,6 +226,7 @@ struct FromRows {
     found.parallel = rows.parallel;
     found.unpolarised = rows.unpolarised;
     results.last.NSTOP = static_cast<int>(rows.perpendicular.size()) - 1;
+    if (rows.x.size() > 1) found.first = ToWhole(rows.x[1]);
     results.found = std::move(found);
     return true;
   }

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <optional>
 
 #include "files/results/own_block.h"
 
@@ -95,6 +96,30 @@ void WalkLast(FileLines& lines, LastSphere& last) {
   lines.Field("besselOrders", last.besselOrders);
 }
 
+/// Of a run by a series in a beam; a cloud has no limits of its own.
+void WalkBeamNumbers(FileLines& lines, std::optional<BeamNumbers>& beam) {
+  bool there = beam.has_value();
+  lines.Field("beam", there);
+  if (!there) return beam.reset();
+  if (!beam) beam.emplace();
+  lines.Field("s", beam->s);
+  lines.Field("length", beam->length);
+  lines.Field("QRe", beam->Q.re);
+  lines.Field("QIm", beam->Q.im);
+  lines.Field("Lmax", beam->limits.Lmax);
+  lines.Field("Mmax", beam->limits.Mmax);
+  lines.Field("Jmax", beam->Jmax);
+  lines.Field("functionSeconds", beam->functions);
+  lines.Field("shapeSeconds", beam->shape);
+  lines.Field("waveSeconds", beam->waves);
+  lines.Field("angleSeconds", beam->angles);
+}
+
+bool IsSeriesInBeam(const RunRequest& asked) {
+  const Method method = asked.method.method;
+  return !asked.method.beam.Plane() && (method == Method::Mie || method == Method::Debye);
+}
+
 struct WalkFamily {
   FileLines& lines;
 
@@ -150,6 +175,13 @@ struct WalkFamily {
     WalkTable(lines, "S1", found.S1);
     WalkTable(lines, "S2", found.S2);
     WalkWaves(lines, found.waves);
+    if (!beam) return;
+    lines.Field("first", found.first);
+    for (ConvergenceFound::Terms* terms : {&found.perpendicularTerms, &found.parallelTerms}) {
+      lines.Field("ofPi", terms->ofPi);
+      lines.Field("ofTau", terms->ofTau);
+      lines.Field("ratio", terms->ratio);
+    }
   }
   void operator()(DebyeAnalysisFound& found) const {
     lines.Field("done", found.done);
@@ -199,7 +231,7 @@ struct WalkFamily {
     lines.Field("alonePar", found.alonePar);
   }
 
-  bool lee = false;
+  bool lee = false, beam = false;
 };
 
 /// The alternative of what is found by a family.
@@ -224,13 +256,15 @@ void WalkFound(FileLines& lines, Results& results) {
     lines.Field("coreN", results.last.core.n);
     lines.Field("coreK", results.last.core.k);
   }
+  const bool beam = IsSeriesInBeam(results.asked);
+  if (beam) WalkBeamNumbers(lines, results.last.beam);
   lines.Field("seconds", results.seconds);
   if (lines.Reading()) {
     // Cells that the layout has brought already are kept.
     FamilyFound empty = std::visit(FoundOf{}, results.asked.run);
     if (empty.index() != results.found.index()) results.found = std::move(empty);
   }
-  std::visit(WalkFamily{lines, results.asked.graph.family == Family::Lee}, results.found);
+  std::visit(WalkFamily{lines, results.asked.graph.family == Family::Lee, beam}, results.found);
 }
 
 }  // namespace lumivex

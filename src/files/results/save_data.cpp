@@ -29,8 +29,8 @@ auto Words(const RunWords& w) {
 bool SameRows(const FamilyRun& a, const FamilyRun& b) {
   const AngleRows *first = RowsOf(a), *second = RowsOf(b);
   if (first != nullptr && second != nullptr)
-    return first->step == second->step && first->NANG == second->NANG && first->window.low == second->window.low &&
-           first->window.high == second->window.high;
+    return first->step == second->step && first->NANG == second->NANG && first->origin == second->origin &&
+           first->window.low == second->window.low && first->window.high == second->window.high;
   const AxisRun *one = AxisOf(a), *other = AxisOf(b);
   if (one != nullptr && other != nullptr)
     return one->points == other->points && one->xmin == other->xmin && one->step == other->step &&
@@ -50,9 +50,10 @@ bool SameLayers(const RunRequest& a, const RunRequest& b) {
 /// Whether inputs ask for what was asked, as far as any of them can be told apart from others.
 bool AsksTheSame(const RunRequest& a, const RunRequest& b) {
   return a.graph == b.graph && a.method.method == b.method.method && a.method.rays == b.method.rays &&
-         a.method.difference == b.method.difference && SameLayers(a, b) && a.particle.radius == b.particle.radius &&
-         a.light.lambda == b.light.lambda && a.Wavelengths() == b.Wavelengths() && a.run.index() == b.run.index() &&
-         Words(a.words) == Words(b.words) && SameRows(a.run, b.run);
+         a.method.difference == b.method.difference && a.method.beam == b.method.beam && SameLayers(a, b) &&
+         a.particle.radius == b.particle.radius && a.light.lambda == b.light.lambda &&
+         a.Wavelengths() == b.Wavelengths() && a.run.index() == b.run.index() && Words(a.words) == Words(b.words) &&
+         SameRows(a.run, b.run);
 }
 
 void WriteNumber(TextInput& field, double value) {

@@ -16,8 +16,9 @@ constexpr std::size_t logColumns = 4096;
 constexpr double rounding = 1e-6;
 
 void TakeRowsInView(PageBars& bars, XRange shown) {
-  const double lowest = std::floor(shown.xmin / bars.step + 0.5 + rounding) + 1;
-  const double highest = std::ceil(shown.xmax / bars.step - 0.5 - rounding) + 1;
+  const double origin = AngleOfFirstRow(bars);
+  const double lowest = std::floor((shown.xmin - origin) / bars.step + 0.5 + rounding) + 1;
+  const double highest = std::ceil((shown.xmax - origin) / bars.step - 0.5 - rounding) + 1;
   const auto first = static_cast<double>(bars.first), last = static_cast<double>(bars.last);
   bars.firstShown = 1;
   bars.lastShown = 0;
@@ -25,8 +26,8 @@ void TakeRowsInView(PageBars& bars, XRange shown) {
   if (std::max(first, lowest) > std::min(last, highest)) return;
   bars.firstShown = static_cast<std::size_t>(std::max(first, lowest));
   bars.lastShown = static_cast<std::size_t>(std::min(last, highest));
-  const double left = (static_cast<double>(bars.firstShown) - 1.5) * bars.step;
-  const double right = (static_cast<double>(bars.lastShown) - 0.5) * bars.step;
+  const double left = origin + (static_cast<double>(bars.firstShown) - 1.5) * bars.step;
+  const double right = origin + (static_cast<double>(bars.lastShown) - 0.5) * bars.step;
   bars.covered = {std::max(shown.xmin, left), std::min(shown.xmax, right)};
   bars.part = {(bars.covered.xmin - left) / bars.step, 0, (bars.covered.xmax - left) / bars.step, 1};
 }
@@ -53,7 +54,7 @@ void PaintRows(PageBars& bars, const ColourRules& rules, const std::array<double
 
 /// The row on which an angle lies, counted from the first in view.
 std::size_t PlaceOf(const PageBars& bars, double angle) {
-  const double row = std::floor(angle / bars.step + 0.5) + 1;
+  const double row = std::floor((angle - AngleOfFirstRow(bars)) / bars.step + 0.5) + 1;
   const auto first = static_cast<double>(bars.firstShown), last = static_cast<double>(bars.lastShown);
   return static_cast<std::size_t>(std::clamp(row, first, last) - first);
 }
@@ -72,6 +73,12 @@ void MakeColumns(PageBars& bars, bool logarithmic) {
 }
 
 }  // namespace
+
+double AngleOfFirstRow(const PageBars& bars) {
+  if (bars.last < bars.first || bars.first >= bars.angle.size()) return 0;
+  const double angle = bars.angle[bars.first] - (static_cast<double>(bars.first) - 1) * bars.step;
+  return std::fabs(angle) < rounding * bars.step ? 0 : angle;
+}
 
 void PlotBow(PageBars& bars, const ColourRules& rules) {
   bars.reference = std::max(bars.greatest[0], bars.greatest[1]);

@@ -11,6 +11,9 @@ namespace lumivex {
 /// being the reference P.
 void ColourBars(Page& page, const ColourLook& look);
 
+/// Degrees of row 1: 0, but in a beam.
+double AngleOfFirstRow(const PageBars& bars);
+
 /// Bars on their own scale: P is the greatest channel of the perpendicular and parallel sums in view, which the
 /// unpolarised ones, being means, never pass.
 void PlotBow(PageBars& bars, const ColourRules& rules);

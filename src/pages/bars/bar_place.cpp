@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "axes/panel_map.h"
+#include "pages/bars/bar_colours.h"
 #include "pages/bars/bar_light.h"
 #include "pages/curves/curve_key.h"
 #include "pages/frame/frame.h"
@@ -170,7 +171,7 @@ std::optional<BarColumn> BarColumnAt(const Page& page, double surfaceX, double s
     if (!(*boxes)[k].Holds(surfaceX, surfaceY)) continue;
     const double angle = AxisOf(page, (*boxes)[k]).XAt(surfaceX);
     if (angle < bars.covered.xmin || angle > bars.covered.xmax) return std::nullopt;
-    const double row = std::floor(angle / bars.step + 0.5) + 1;
+    const double row = std::floor((angle - AngleOfFirstRow(bars)) / bars.step + 0.5) + 1;
     const auto first = static_cast<double>(bars.firstShown), last = static_cast<double>(bars.lastShown);
     return BarColumn{k, static_cast<std::size_t>(std::clamp(row, first, last))};
   }

@@ -258,6 +258,8 @@ PageKind KindOf(const RunToDraw& run) {
   kind.fourier = look.fourier;
   if (const auto* axis = std::get_if<AxisRun>(&asked.run))
     kind.perVolume = asked.graph.TakesVolume() && axis->constantVolume;
+  if (const auto* sums = std::get_if<ConvergenceRun>(&asked.run); sums != nullptr && !asked.method.beam.Plane())
+    kind.xTitle = sums->over == ConvergenceRun::Over::L ? "L" : "|M|";
   if (const auto* angles = std::get_if<TwoAngleRun>(&asked.run)) {
     kind.xTitle = TwoAngleXTitle(*angles);
     kind.yTitle = TwoAngleYTitle(*angles);
@@ -364,8 +366,7 @@ std::vector<double> SeenUnderSun(const RunToDraw& run, std::span<const double> y
   const AngleRows* rows = RowsOf(asked.run);
   if (!run.look.sun.disc || rows == nullptr) return {y.begin(), y.end()};
   // Of a beam, and of drops on a surface, angles of both signs differ.
-  const bool mirrored =
-      asked.method.method != Method::Heiligenschein && asked.method.beam.profile == RayBeam::Profile::PlaneWave;
+  const bool mirrored = asked.method.method != Method::Heiligenschein && asked.method.beam.Plane();
   return FoldedWithDisc(y, SunCorrection(run), mirrored ? static_cast<std::size_t>(2 * rows->NANG - 1) : 0);
 }
 

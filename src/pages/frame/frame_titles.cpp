@@ -57,8 +57,9 @@ void PaintXTitle(FramePaint& paint) {
   auto& surface = paint.surface;
   const auto& box = paint.Box();
   const PageKind& kind = paint.kind;
-  const std::string_view title =
-      kind.IsTwoAngle() ? kind.xTitle : XTitleOf(kind.graph, {kind.fourier, kind.invWavelength});
+  const std::string_view title = kind.IsTwoAngle() || !kind.xTitle.empty()
+                                     ? kind.xTitle
+                                     : XTitleOf(kind.graph, {kind.fourier, kind.invWavelength});
   PrintAt(surface, 0.5 * (box.left + box.right) - 0.5 * surface.TextWidth(title),
           TopOfXTitle(surface, paint.style, box), title);
 }

@@ -155,10 +155,28 @@ void AddEndIntensities(const Results& results, const EndIntensities& ends, Lines
   Add(lines, "X = " + Format(results.last.sizeParameter, "#,##0.######"));
 }
 
+/// What a beam was calculated with, for whoever wants to know.
+void AddBeam(const RunWords& words, const BeamNumbers& beam, Lines& lines) {
+  if (!words.diagnostics) return;
+  constexpr int decimals = 6;
+  const auto rounded = [](double value) { return Shortest(RoundDecimals(value, decimals)); };
+  Add(lines, "s = " + rounded(beam.s));
+  Add(lines, "Length = " + rounded(beam.length));
+  Add(lines, "Q = " + rounded(beam.Q.re) + " + i" + rounded(beam.Q.im));
+  if (beam.Jmax > 0) Add(lines, "jMax = " + std::to_string(beam.Jmax));
+  constexpr int digits = 3;
+  const std::initializer_list<std::pair<const char*, double>> times = {{"Modified Bessel functions: ", beam.functions},
+                                                                       {"Beam shape coefficients: ", beam.shape},
+                                                                       {"Riccati-Bessel functions: ", beam.waves},
+                                                                       {"Scattering calculations: ", beam.angles}};
+  for (const auto& [name, seconds] : times)
+    if (seconds > 0) Add(lines, name + Significant(seconds, digits) + " s");
+}
+
 bool HasEfficiencies(const MethodOptions& method) {
   const bool told =
       method.method == Method::Mie || method.method == Method::Debye || method.method == Method::CoatedSphere;
-  return told && method.beam.profile == RayBeam::Profile::PlaneWave;
+  return told && method.beam.Plane();
 }
 
 }  // namespace
@@ -175,6 +193,7 @@ std::vector<PageLine> VisibleData(const Results& results) {
     if (asked.light.spectrum) AddSpectrum(results, asked.light.spectrum->Count(), lines);
     return lines;
   }
+  if (results.last.beam) AddBeam(asked.words, *results.last.beam, lines);
   if (!HasEfficiencies(asked.method)) return lines;
   AddEfficiencies(results.last.efficiencies, lines);
   if (asked.graph.quantity == Quantity::Irradiance) {

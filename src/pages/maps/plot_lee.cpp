@@ -138,7 +138,7 @@ ShownRows TakeAngles(Page& page, PageMap& drawn, const MapToDraw& map, const Ang
   if (map.look.sun.disc) {
     // Of a beam, and of drops on a surface, angles of both signs differ.
     const MethodOptions& method = map.asked.method;
-    const bool mirrored = method.method != Method::Heiligenschein && method.beam.profile == RayBeam::Profile::PlaneWave;
+    const bool mirrored = method.method != Method::Heiligenschein && method.beam.Plane();
     drawn.values = std::make_shared<const MapFound>(
         SeenUnderDisc(*map.found, shown, DiscOf(map, rows), mirrored ? 2 * rows.NANG - 1 : 0));
     shown.lowest = 0;

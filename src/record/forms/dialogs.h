@@ -4,6 +4,7 @@
 
 #include "record/form.h"
 #include "record/forms/angle_dialogs.h"
+#include "record/forms/beam_dialogs.h"
 #include "record/forms/coated_dialog.h"
 #include "record/forms/inhom_dialog.h"
 #include "record/forms/light_dialogs.h"
@@ -58,7 +59,7 @@ struct DlogPlotColour final : Form {
 };
 
 /// Every window and dialog of a session.
-struct Forms : MaterialDialogs, LightDialogs, SizeDialogs, RayDialogs, AngleDialogs {
+struct Forms : MaterialDialogs, LightDialogs, SizeDialogs, RayDialogs, AngleDialogs, BeamDialogs {
   Form1 form1;
   Form2 form2;
   DlogTemp dlogTemp;
@@ -75,7 +76,7 @@ struct Forms : MaterialDialogs, LightDialogs, SizeDialogs, RayDialogs, AngleDial
     std::vector<Form*> all = {
         &form1,           &dlogTemp,   &dlogSpectrumBand, &dlogAverage, &dlogPlotColour, &dlogCoatedSphere,
         &dlogInhomSphere, &dlogVolume, &dlogCalibration,  &form2};
-    for (const auto& more : {MaterialForms(), LightForms(), SizeForms(), RayForms(), AngleForms()})
+    for (const auto& more : {MaterialForms(), LightForms(), SizeForms(), RayForms(), AngleForms(), BeamForms()})
       all.insert(all.end(), more.begin(), more.end());
     return all;
   }

@@ -115,11 +115,14 @@ struct Form1Menus : Form1Inputs {
   MenuEntry mnuSpectrumBand{*this, "mnuSpectrumBand", "Band ..."};
   MenuEntry mnuSun{*this, "mnuSun", "Sun Rectangular"};
   MenuEntry mnuIllumination{*this, "mnuIllumination", "Illumination"};
-  MenuEntry mnuPlaneWave{*this, "mnuPlaneWave", "Plane wave", true};
-  MenuEntry mnuGaussian{*this, "mnuGaussian", "Gaussian beam ..."};
-  MenuEntry mnuTopHat{*this, "mnuTopHat", "Top hat beam ..."};
-  MenuEntry mnuCentralBeam{*this, "mnuCentralBeam", "Central beam"};
-  MenuEntry mnuMultBeams{*this, "mnuMultBeams", "Multiple beams"};
+  MenuEntry mnuPlaneWave{*this, "mnuPlaneWave", "Plane wave", true, "Light from far away"};
+  MenuEntry mnuGaussian{*this, "mnuGaussian", "Gaussian beam ...", false,
+                        "A focused beam, whose place and width are asked for"};
+  MenuEntry mnuTopHat{*this, "mnuTopHat", "Top hat beam ...", false, "A beam of even brightness with a sharp edge"};
+  MenuEntry mnuCentralBeam{*this, "mnuCentralBeam", "Central beam", false,
+                           "One more beam on the axis; rays are then those of a plane wave"};
+  MenuEntry mnuMultBeams{*this, "mnuMultBeams", "Multiple beams", false,
+                         "A second beam on the other side of the axis, in phase with the first"};
 
   // Advanced: size, series, solvers.
   MenuEntry mnuRadiusDiameter{*this, "mnuRadiusDiameter", "Size of sphere"};
@@ -130,7 +133,8 @@ struct Form1Menus : Form1Inputs {
   MenuEntry mnuClassicStart{*this, "mnuClassicStart", "Classic start of the Mie recurrence", false,
                             "Start the logarithmic derivative from zero 20 terms above the series, to show what a "
                             "short start costs: wrong for large spheres"};
-  MenuEntry mnuHidden{*this, "mnuHidden", "Diagnostics"};
+  MenuEntry mnuHidden{*this, "mnuHidden", "Diagnostics", false,
+                      "Numbers that a calculation goes by, and the limits of a beam's series"};
   MenuEntry mnuMieDebye{*this, "mnuMieDebye", "Mie - Debye"};
   MenuEntry mnuGODebye{*this, "mnuGODebye", "GO - Debye"};
   MenuEntry mnuSWsub{*this, "mnuSWsub", "Debye series - GO"};
@@ -149,8 +153,10 @@ struct Form1Menus : Form1Inputs {
   MenuEntry mnuCalibration{*this, "mnuCalibration", "Speed of this machine ...", false,
                            "By which the time of a long calculation is told before it begins"};
   MenuEntry mnuSurfaceWave{*this, "mnuSurfaceWave", "Surface wave"};
-  MenuEntry mnuMieGConv{*this, "mnuMieGConv", "Convergence against L"};
-  MenuEntry mnuMieGConv2{*this, "mnuMieGConv2", "Convergence against M"};
+  MenuEntry mnuMieGConv{*this, "mnuMieGConv", "Convergence against L", false,
+                        "Sums of a beam at one angle over more and more partial waves L"};
+  MenuEntry mnuMieGConv2{*this, "mnuMieGConv2", "Convergence against M", false,
+                         "Sums of a beam at one angle over more and more azimuthal orders M"};
   MenuEntry mnuSizeDist{*this, "mnuSizeDist", "Size distribution from file ..."};
 
   // Advanced: many spheres in a volume.

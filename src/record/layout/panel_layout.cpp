@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "record/layout/angle_dialog_lines.h"
+#include "record/layout/beam_dialog_lines.h"
 #include "record/layout/layer_dialog_lines.h"
 #include "record/layout/light_dialog_lines.h"
 #include "record/layout/material_dialog_lines.h"
@@ -111,6 +112,7 @@ std::span<const DialogLayout> Dialogs() {
     add(volumeDialogLayouts);
     add(settingsDialogLayouts);
     add(layerDialogLayouts);
+    add(beamDialogLayouts);
     return layouts;
   }();
   return all;

@@ -10,6 +10,7 @@
 #include "session/checks/check.h"
 #include "session/checks/number_input.h"
 #include "session/driver/array_size.h"
+#include "session/inputs/beams/read_beam.h"
 #include "session/inputs/map_inputs.h"
 #include "session/inputs/methods/rays_check.h"
 #include "session/inputs/sizes/read_sizes.h"
@@ -301,7 +302,8 @@ Verdict AngularStep(Check& check) {
   const double step = Val(list.Text);
   if (!(step > 0)) return Refuse(check, {&list}, "Step size must be greater than zero");
   if (!ComeTo90(step)) return Refuse(check, {&list}, "Must be a sub-multiple of 90 degrees");
-  if (2 * 90 / step + 1 > mostAngleRows) return Refuse(check, {&list}, "Select a larger step size");
+  const double range = InBeam(check.form) ? check.Xmax - check.Xmin : 180;
+  if (range / step + 1 > mostAngleRows) return Refuse(check, {&list}, "Select a larger step size");
   if (!graph.AgainstAngle()) return Verdict::GoOn;
   // What is stored of several wavelengths must fit into the memory of any computer in use.
   const double rows = (check.Xmax - check.Xmin) / std::max(step, 180.0 / (mostSpectrumRows - 1)) + 1;
@@ -321,6 +323,12 @@ Verdict AngleScale(Check& check) {
     if (beyond && check.Xmin > 180) return refuse("Minimum angle > 180 degrees");
     if (check.Xmax < 0) return refuse("Maximum angle < 0 degrees");
     if (beyond && check.Xmax > 180) return refuse("Maximum angle > 180 degrees");
+  }
+  if (InBeam(form)) {
+    // Further round there is nothing new.
+    if (check.Xmin < -360) return refuse("Minimum angle < -360 degrees");
+    if (check.Xmax > 360) return refuse("Maximum angle > 360 degrees");
+    if (check.Xmax - check.Xmin > 360) return refuse("Scattering angles cover 360 degrees at most");
   }
   if (check.Xmin > check.Xmax) return refuse("Minimum angle > Maximum angle");
   if (check.Xmin == check.Xmax) return refuse("Minimum angle = Maximum angle");

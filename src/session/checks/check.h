@@ -45,6 +45,8 @@ Verdict CoatedSphereGraphs(Check& check);
 Verdict ProfileOfIndex(Check& check);
 Verdict SellmeierLimits(Check& check);
 Verdict BeamMethods(Check& check);
+Verdict BeamInputs(Check& check);
+Verdict BeamGraphs(Check& check);
 Verdict NegativeAbsorption(Check& check);
 Verdict MethodKnown(Check& check);
 Verdict LogarithmicSteps(Check& check);

@@ -7,6 +7,8 @@
 #include "record/number_text.h"
 #include "session/checks/check.h"
 #include "session/checks/sphere_of_run.h"
+#include "session/inputs/beams/beam_menus.h"
+#include "session/inputs/beams/read_beam.h"
 #include "session/inputs/layers/coated_inputs.h"
 #include "session/inputs/layers/inhom_inputs.h"
 #include "session/inputs/methods.h"
@@ -99,6 +101,25 @@ Verdict BeamMethods(Check& check) {
     return Verdict::End;
   }
   return Verdict::GoOn;
+}
+
+Verdict BeamInputs(Check& check) {
+  if (!InBeam(check.form) || !TraitsOf(check.state.CalcMethod).beams) return Verdict::GoOn;
+  return BeamHolds(check.session) ? Verdict::GoOn : Verdict::End;
+}
+
+Verdict BeamGraphs(Check& check) {
+  if (!InBeam(check.form) || !TraitsOf(check.state.CalcMethod).beams) return Verdict::GoOn;
+  const Graph& graph = ChosenGraph(check.state);
+  // What is summed over all directions, or told of two polarisations of one beam, would need the whole sphere of them.
+  const bool angles = graph.AgainstAngle() &&
+                      (graph.quantity == Quantity::Intensity || graph.quantity == Quantity::DifferentialCrossSection);
+  const bool points = graph.family == Family::Axis && graph.quantity == Quantity::Intensity;
+  if (angles || points || graph.family == Family::Convergence || graph.family == Family::DebyeAnalysis)
+    return Verdict::GoOn;
+  const std::string beam = check.form.mnuTopHat.Checked ? "Top hat beam" : "Gaussian beam";
+  return Refuse(check, {&check.form.cboGraph},
+                beam + " calculations are not available for graph type " + check.form.cboGraph.Text, "Error: " + beam);
 }
 
 Verdict NegativeAbsorption(Check& check) {

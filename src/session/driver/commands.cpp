@@ -12,6 +12,7 @@
 #include "session/driver/lock.h"
 #include "session/driver/overplot.h"
 #include "session/driver/read_run.h"
+#include "session/driver/settle_beam.h"
 #include "session/inputs/look/read_look.h"
 #include "session/inputs/methods.h"
 #include "session/inputs/two_angle_inputs.h"
@@ -63,6 +64,10 @@ bool LeaveGiven(Session& session, const RunRequest& request) {
 /// Reads the inputs into a request, once, and runs it where they hold and nobody minds the time.
 void RunInputs(Session& session, Onto onto) {
   if (!InputsHold(session)) return;
+  if (!SettleBeam(session)) {
+    session.state.CommandAborted = 1;
+    return;
+  }
   const auto request = ReadRun(session);
   if (!request || !LeaveGiven(session, *request)) return;
   LockON(session);

@@ -6,6 +6,7 @@
 
 #include "pages/run_words.h"
 #include "record/catalogue/map_inputs.h"
+#include "runs/beam_methods.h"
 #include "runs/run.h"
 #include "runs/settings.h"
 #include "session/driver/keep_curves.h"
@@ -38,11 +39,13 @@ void KeepSphere(MainFormState& s, const Results& results) {
   s.Gsca = last.efficiencies.g;
 }
 
-void KeepSeries(MainFormState& s, const LastSphere& last) {
+void KeepSeries(MainFormState& s, const Results& results) {
+  const LastSphere& last = results.last;
   // A method without a series leaves those of the last one.
   if (last.NSTOP > 0) s.NSTOP = last.NSTOP;
   if (last.NMX > 0) s.NMX = last.NMX;
-  const AngleGrid grid(last.NANG);
+  const AngleRows* rows = RowsOf(results.asked.run);
+  const AngleGrid grid = rows != nullptr ? rows->Grid() : AngleGrid(last.NANG);
   s.NANG = grid.NANG;
   s.NN = grid.RowCount();
   s.DANG = grid.DANG;
@@ -53,7 +56,14 @@ void KeepSeries(MainFormState& s, const LastSphere& last) {
 
 void KeepRays(RayState& rays, const Results& results) {
   const LastSphere& last = results.last;
-  rays.PlaneWaveFlag = results.asked.method.beam.profile == RayBeam::Profile::PlaneWave ? 0 : 1;
+  const Illumination& light = results.asked.method.beam;
+  rays.PlaneWaveFlag = light.Plane() ? 0 : 1;
+  if (!light.Plane() && last.radius > 0) {
+    const RayBeam beam = BeamOfRays(light, last.radius);
+    rays.BeamCentreOffset = beam.BeamCentreOffset;
+    rays.BeamWaist = beam.BeamWaist;
+    rays.BeamTilt = light.phi;
+  }
   if (!results.asked.method.rays.empty()) rays.RayIndex = static_cast<int>(results.asked.method.rays.size()) - 1;
   rays.RainbowImpact = last.rainbowImpact;
   rays.RainbowAngle = last.rainbowAngle;
@@ -168,10 +178,12 @@ struct KeepFound {
   void operator()(const ConvergenceFound& found) const {
     auto& s = session.state;
     auto& form = session.form1;
-    const int terms = results.last.NSTOP;
-    KeepPoints(s, 1, terms, 1, terms);
-    form.txtXmin.Text = form.cboStep.Text = "1";
-    form.txtXmax.Text = std::to_string(terms);
+    const int terms = std::max(static_cast<int>(found.perpendicular.size()) - 1, 0);
+    const int last = found.first + terms - 1;
+    KeepPoints(s, found.first, last, 1, terms);
+    form.txtXmin.Text = std::to_string(found.first);
+    form.cboStep.Text = "1";
+    form.txtXmax.Text = std::to_string(last);
     s.S1 = found.S1;
     s.S2 = found.S2;
     s.Waves = found.waves;
@@ -221,7 +233,7 @@ void KeepResults(Session& session, Results&& kept) {
   if (!results.asked.graph.InColour() || !results.asked.graph.VariesIndex())
     RefRel(session, results.last.lambda, LookupVoice::Quiet);
   KeepSphere(s, results);
-  KeepSeries(s, results.last);
+  KeepSeries(s, results);
   KeepRays(s, results);
   KeepSizes(s, s, results);
   KeepLight(s, results);

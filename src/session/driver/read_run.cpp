@@ -7,6 +7,7 @@
 #include "record/catalogue/method_texts.h"
 #include "record/number_text.h"
 #include "runs/run.h"
+#include "session/inputs/beams/read_beam.h"
 #include "session/inputs/layers/layer_labels.h"
 #include "session/inputs/layers/read_layers.h"
 #include "session/inputs/light/wavelength_list.h"
@@ -95,10 +96,10 @@ AngleRows ReadAngleRows(const Session& session, const Graph& graph) {
   rows.xmax = Val(form.txtXmax.Text);
   rows.step = Val(form.cboStep.Text);
   rows.NANG = ToWhole(90 / rows.step) + 1;
+  if (InBeam(form)) return RowsOfBeam(rows.xmin, rows.xmax, rows.step);
   const int last = 2 * rows.NANG - 1;
-  const bool planeWave = form.mnuPlaneWave.Checked;
-  rows.firstPoint = planeWave ? rows.xmin / rows.step + 1 : 1;
-  rows.lastPoint = planeWave ? rows.xmax / rows.step + 1 : (rows.xmax - rows.xmin) / rows.step + 1;
+  rows.firstPoint = rows.xmin / rows.step + 1;
+  rows.lastPoint = rows.xmax / rows.step + 1;
   // The neighbours that averages and the disc of the sun look at.
   const double margin = Int(0.25 / rows.step);
   rows.window = {std::max(1, ToWhole(rows.firstPoint - margin)), std::min(last, ToWhole(rows.lastPoint + margin))};
@@ -147,7 +148,8 @@ std::optional<FamilyRun> ReadFamily(Session& session, const RunRequest& request)
     case Family::EfficiencyMap:
       return EfficiencyMapRun{ReadColumns(session, graph), ReadRows(session, graph), angle * std::numbers::pi / 180};
     case Family::Convergence:
-      return ConvergenceRun{angle};
+      return ConvergenceRun{angle,
+                            session.form1.mnuMieGConv2.Checked ? ConvergenceRun::Over::M : ConvergenceRun::Over::L};
     case Family::DebyeAnalysis: {
       const double limit = Val(session.forms.dlogDebyeSeq.txtLimit.Text);
       return DebyeAnalysisRun{angle * degree, ToWhole(std::clamp(limit, 0.0, double{HighestRay}))};
@@ -190,6 +192,7 @@ RunWords ReadWords(const Session& session, const RunRequest& request) {
   words.light = form.lblSpectrum.Caption;
   if (request.Cloud()) words.sizes = WordsForSizes(session);
   words.scale = form.Frame2.Caption;
+  words.diagnostics = form.mnuHidden.Visible && form.mnuHidden.Checked;
   return words;
 }
 
@@ -204,6 +207,7 @@ std::optional<RunRequest> ReadRun(Session& session) {
   request.light = ReadLight(session, graph);
   request.particle = ReadParticle(session, request.light.lambda);
   request.sizes = ChosenSizes(session);
+  TakeTypedLimits(session, request);
   auto run = ReadFamily(session, request);
   if (!run) return std::nullopt;
   request.run = std::move(*run);

@@ -1,4 +1,5 @@
 #include "session/inputs/graph_types.h"
+#include "session/inputs/beams/beam_menus.h"
 
 #include <algorithm>
 #include <array>
@@ -264,6 +265,7 @@ void ShowFamilyInputs(Session& session) {
   ShowMapInputs(session);
   form.Frame3.Visible = form.txtRadius.Visible || form.optMono.Visible;
   form.Frame4.Visible = form.txtLambda.Visible || form.cboWave.Visible || form.optPoint.Visible;
+  ShowBeamEntries(session);
   WriteTips(session);
 }
 

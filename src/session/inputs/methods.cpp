@@ -1,6 +1,8 @@
 #include "session/inputs/methods.h"
 
 #include "record/number_text.h"
+#include "session/inputs/beams/beam_menus.h"
+#include "session/inputs/beams/read_beam.h"
 #include "session/inputs/dialog_use.h"
 #include "session/inputs/graph_types.h"
 #include "session/inputs/layers/coated_inputs.h"
@@ -40,10 +42,7 @@ void IlluminationOf(Session& session) {
   auto& form = session.form1;
   const MethodTraits& method = TraitsOf(session.state.CalcMethod);
   form.mnuIllumination.Enabled = method.beams;
-  if (!method.beams) {
-    form.mnuPlaneWave.Checked = true;
-    form.mnuGaussian.Checked = form.mnuTopHat.Checked = form.mnuCentralBeam.Checked = false;
-  }
+  if (!method.beams && InBeam(form)) mnuPlaneWave_Click(session);
   const bool rays = method.beams && method.takesDiffraction;
   form.mnuTopHat.Visible = rays;
   if (!rays) return;
@@ -96,9 +95,6 @@ void cboType_click(Session& session) {
   if (s.CalcMethod == Method::Airy && (form.cboRays.Text == "0" || form.cboRays.Text == "1")) form.cboRays.Text = "2";
   if (method.showsP) cborays_Click(session);
   form.chkDiffraction.Visible = OffersDiffraction(session);
-  form.mnuHidden.Visible = method.hasHidden;
-  for (MenuEntry* entry : {&form.mnuBessel, &form.mnuAiry, &form.mnuReadDiff})
-    entry->Visible = form.mnuHidden.Visible && form.mnuHidden.Checked;
   StripStartValues(session);
   IlluminationOf(session);
   const bool surfaceWave = s.CalcMethod == Method::SurfaceWave;

@@ -11,11 +11,12 @@ inline constexpr double AngleGridQuarterTurn = 1.570796326794895;
 /// The rows of scattering angles: NANG rows from 0 to 90 degrees inclusive, mirrored to 180 degrees.
 ///
 /// The first row is 1, at 0 degrees; row NANG is 90 degrees, row 2 NANG - 1 is 180 degrees. A grid of one angle (At)
-/// has row 1 alone, wherever that angle is.
+/// has row 1 alone, wherever that angle is. Rows of a beam, which has two sides, begin at any angle and go on by any
+/// step (From): nothing is mirrored there.
 struct AngleGrid {
   int NANG = 2;                        ///< Rows from 0 to 90 degrees, at least 2; 1 for a single angle.
   double DANG = AngleGridQuarterTurn;  ///< Step between rows, radians.
-  double first = 0.0;                  ///< Angle of row 1, radians; not 0 for a single angle only.
+  double first = 0.0;                  ///< Angle of row 1, radians: 0 where rows are mirrored.
 
   AngleGrid() = default;
 
@@ -27,6 +28,14 @@ struct AngleGrid {
     AngleGrid grid;
     grid.NANG = 1;
     grid.first = angle;
+    return grid;
+  }
+
+  /// 2 NANG - 1 rows from an angle on (radians).
+  static AngleGrid From(double angle, double step, int NANG) {
+    AngleGrid grid(NANG);
+    grid.first = angle;
+    grid.DANG = step;
     return grid;
   }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 #include "solvers/functions/complex_algebra.h"
 
@@ -54,11 +55,11 @@ BeamSeries::BeamSeries(const PartialWaves& waves, const BeamShape& shape, double
   }
 }
 
-bool BeamSeries::SumBlock(Lanes& lanes, RunMonitor& monitor) const {
+template <class Take>
+bool BeamSeries::Walk(Lanes& lanes, RunMonitor& monitor, const Take& take) const {
   using Row = Lanes::Row;
   lanes.first.fill(1.0);
   lanes.lifted.fill(0);
-  lanes.sums = {};
   for (int M = 1; M <= Mmax_; ++M) {
     const double grown = std::sqrt((2.0 * M - 1) / (2.0 * M));
     bool lifted = false;
@@ -73,7 +74,6 @@ bool BeamSeries::SumBlock(Lanes& lanes, RunMonitor& monitor) const {
     Row pi = lanes.first, before{};
     std::array<int, Block> lift = lanes.lifted;
     double root = 0.0;  // sqrt((L-1)^2 - M^2)
-    std::array<Row, 4> zero{};
     for (int L = M; L <= Lmax_; ++L) {
       const double next = std::sqrt(static_cast<double>(L - M) * (L + M));
       if (L > M) {
@@ -99,29 +99,14 @@ bool BeamSeries::SumBlock(Lanes& lanes, RunMonitor& monitor) const {
           lower[k] = lift[k] > 0 ? 0.0 : before[k];
         }
       }
-      const Weights& w = At(L, M);
-      for (std::size_t k = 0; k < Block; ++k) {
-        const double p = counted[k], tau = L * lanes.cosine[k] * p - next * lower[k];
-        lanes.sums[0][k] += w.pi1.re * p + w.tau1.re * tau;
-        lanes.sums[1][k] += w.pi1.im * p + w.tau1.im * tau;
-        lanes.sums[2][k] += w.pi2.re * p + w.tau2.re * tau;
-        lanes.sums[3][k] += w.pi2.im * p + w.tau2.im * tau;
-      }
-      if (M == 1) {
-        // tau(L, 0) = -sin sqrt(L (L+1)) pi(L, 1)
-        const Weights& w0 = At(L, 0);
-        const double scale = std::sqrt(static_cast<double>(L) * (L + 1));
-        for (std::size_t k = 0; k < Block; ++k) {
-          const double p = scale * pi[k];
-          zero[0][k] += w0.tau1.re * p;
-          zero[1][k] += w0.tau1.im * p;
-          zero[2][k] += w0.tau2.re * p;
-          zero[3][k] += w0.tau2.im * p;
-        }
-      }
-    }
-    for (std::size_t part = 0; M == 1 && part < 4; ++part) {
-      for (std::size_t k = 0; k < Block; ++k) lanes.sums[part][k] -= lanes.sine[k] * zero[part][k];
+      Row tau;
+      for (std::size_t k = 0; k < Block; ++k) tau[k] = L * lanes.cosine[k] * counted[k] - next * lower[k];
+      take(L, M, counted, tau);
+      if (M > 1) continue;
+      // tau(L, 0) = -sin sqrt(L (L+1)) pi(L, 1), and pi does not count
+      const double scale = -std::sqrt(static_cast<double>(L) * (L + 1));
+      for (std::size_t k = 0; k < Block; ++k) tau[k] = scale * lanes.sine[k] * pi[k];
+      take(L, 0, Row{}, tau);
     }
     lanes.terms += static_cast<std::size_t>(Lmax_ - M + 1) * Block;
     if (lanes.terms > TermsPerLook) {
@@ -130,6 +115,24 @@ bool BeamSeries::SumBlock(Lanes& lanes, RunMonitor& monitor) const {
     }
   }
   return true;
+}
+
+BeamSeries::Parts BeamSeries::SumInParts(double angle, RunMonitor& monitor) const {
+  Lanes lanes;
+  lanes.sine.fill(std::sin(angle));
+  lanes.cosine.fill(std::cos(angle));
+  Parts parts{std::vector<Part>(static_cast<std::size_t>(Lmax_) + 1),
+              std::vector<Part>(static_cast<std::size_t>(Mmax_) + 1)};
+  const bool whole = Walk(lanes, monitor, [&](int L, int M, const Lanes::Row& pi, const Lanes::Row& tau) {
+    const Weights& w = At(L, M);
+    for (Part* part : {&parts.ofL[static_cast<std::size_t>(L)], &parts.ofM[static_cast<std::size_t>(M)]}) {
+      part->pi1 = part->pi1 + pi[0] * w.pi1;
+      part->tau1 = part->tau1 + tau[0] * w.tau1;
+      part->pi2 = part->pi2 + pi[0] * w.pi2;
+      part->tau2 = part->tau2 + tau[0] * w.tau2;
+    }
+  });
+  return whole ? std::move(parts) : Parts{};
 }
 
 std::size_t BeamSeries::Sum(std::span<const double> angles, AmplitudeTable& S1, AmplitudeTable& S2,
@@ -142,7 +145,17 @@ std::size_t BeamSeries::Sum(std::span<const double> angles, AmplitudeTable& S1, 
       lanes.sine[k] = std::sin(angle);
       lanes.cosine[k] = std::cos(angle);
     }
-    if (!SumBlock(lanes, monitor)) return begin;
+    lanes.sums = {};
+    const bool whole = Walk(lanes, monitor, [&](int L, int M, const Lanes::Row& pi, const Lanes::Row& tau) {
+      const Weights& w = At(L, M);
+      for (std::size_t k = 0; k < Block; ++k) {
+        lanes.sums[0][k] += w.pi1.re * pi[k] + w.tau1.re * tau[k];
+        lanes.sums[1][k] += w.pi1.im * pi[k] + w.tau1.im * tau[k];
+        lanes.sums[2][k] += w.pi2.re * pi[k] + w.tau2.re * tau[k];
+        lanes.sums[3][k] += w.pi2.im * pi[k] + w.tau2.im * tau[k];
+      }
+    });
+    if (!whole) return begin;
     for (std::size_t k = 0; k < count; ++k) {
       const int row = static_cast<int>(begin + k) + 1;
       S1.Set(row, lanes.sums[0][k], lanes.sums[1][k]);

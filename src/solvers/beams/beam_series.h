@@ -23,11 +23,23 @@ class BeamSeries {
  public:
   BeamSeries(const PartialWaves& waves, const BeamShape& shape, double phi, bool oneBeam);
 
+  /// What one L, or one |M|, adds to the amplitudes: with pi and with tau.
+  struct Part {
+    ComplexD pi1, tau1, pi2, tau2;
+    ComplexD S1() const { return {pi1.re + tau1.re, pi1.im + tau1.im}; }
+    ComplexD S2() const { return {pi2.re + tau2.re, pi2.im + tau2.im}; }
+  };
+  /// The same sums taken apart: by L = 1..Lmax, index 0 unused, and by |M| = 0..Mmax.
+  struct Parts {
+    std::vector<Part> ofL, ofM;
+  };
+  /// At one angle (radians); both lists are empty after a Stop.
+  Parts SumInParts(double angle, RunMonitor& monitor) const;
+
   /// S1 and S2 at angles; row i of the tables is angles[i - 1].
   ///
   /// @param angles   radians, of any size: beyond 0..pi the direction lies on the other side of the axis, in the
-  /// azimuth
-  ///                 phi + pi, and the amplitudes go on without a step.
+  ///                 azimuth phi + pi, and the amplitudes go on without a step.
   /// @param monitor  asked after a bounded number of terms.
   /// @return the number of angles done, counted from the first; the others keep their values.
   std::size_t Sum(std::span<const double> angles, AmplitudeTable& S1, AmplitudeTable& S2, RunMonitor& monitor) const;
@@ -39,7 +51,9 @@ class BeamSeries {
     ComplexD pi1, tau1, pi2, tau2;
   };
   struct Lanes;
-  bool SumBlock(Lanes& lanes, RunMonitor& monitor) const;
+  /// Calls take(L, M, pi, tau) with the angular functions of all lanes, M = 0 among M = 1. False after a Stop.
+  template <class Take>
+  bool Walk(Lanes& lanes, RunMonitor& monitor, const Take& take) const;
 
   int Lmax_, Mmax_;
   std::vector<Weights> weights_;  // by M, then L; index L - 1

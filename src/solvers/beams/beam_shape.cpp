@@ -1,7 +1,9 @@
 #include "solvers/beams/beam_shape.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
+#include <complex>
 #include <numbers>
 
 #include "solvers/functions/complex_algebra.h"
@@ -13,14 +15,15 @@ namespace {
 constexpr ComplexD one(1.0, 0.0);
 constexpr double LeastMmax = 7;
 constexpr double LeastWidth = 6.5;
+constexpr int LastFactorial = 98;
+constexpr std::size_t TermsPerLook = 400'000;
+/// Logarithm of a field that is 0 as a double.
+constexpr double Darkness = -745;
+constexpr double LargeArgument = 1e6;
 
 ComplexD Exponential(const ComplexD& z) {
   const double size = std::exp(z.re);
   return {size * std::cos(z.im), size * std::sin(z.im)};
-}
-
-ComplexD SpreadOf(const FocusedBeam& beam) {
-  return Reciprocal({1.0, -2.0 * beam.Confinement() * beam.z0 / beam.w0});
 }
 
 /// The functions T(q) F of one L, q = -last..last.
@@ -32,12 +35,12 @@ class Azimuthal {
     for (int q = 0; q <= last; ++q) turns_.emplace_back(std::cos(q * phi0), -std::sin(q * phi0));
   }
 
-  void GoTo(int L, const BeamSumRule& rule) {
-    if (beam_.profile == FocusedBeam::Profile::TopHat) {
-      Disc(L);
-    } else {
-      Gaussian(L, rule);
-    }
+  /// @return false after a Stop.
+  bool GoTo(int L, const BeamSumRule& rule, RunMonitor& monitor) {
+    if (beam_.profile == FocusedBeam::Profile::Gaussian) return Gaussian(L, rule, monitor);
+    Disc(L);
+    terms_ += values_.size();
+    return GoesOn(monitor);
   }
 
   ComplexD operator()(int q) const {
@@ -47,34 +50,62 @@ class Azimuthal {
   int HighestJ() const { return highestJ_; }
 
  private:
-  void Gaussian(int L, const BeamSumRule& rule) {
+  bool GoesOn(RunMonitor& monitor) {
+    if (terms_ < TermsPerLook) return true;
+    terms_ = 0;
+    return monitor.Report(0, 1);
+  }
+
+  bool Gaussian(int L, const BeamSumRule& rule, RunMonitor& monitor) {
     const double s = beam_.Confinement(), rho = distance_ / beam_.w0, l = (L + 0.5) * s;
-    const ComplexD Q = SpreadOf(beam_);
+    const ComplexD Q = BeamSpread(beam_);
     const ComplexD phase(0.0, -beam_.z0 / (s * beam_.w0));
-    if (rule.closed) {
-      // Both exponentials and the growth of the Bessel function as one: none of them overflows by itself.
-      ScaledModifiedBessel(2.0 * l * rho * Q, last_, values_);
-      const ComplexD factor = Q * Exponential(-((rho - l) * (rho - l)) * Q + phase);
-      for (ComplexD& value : values_) value = factor * value;
-    } else {
+    if (!rule.closed) {
       const ComplexD factor = Q * Exponential(-(rho * rho + l * l) * Q + phase);
-      for (int q = 0; q <= last_; ++q) values_[static_cast<std::size_t>(q)] = factor * SumOverJ(l * rho * Q, q, rule);
+      for (int q = 0; q <= last_; ++q) {
+        values_[static_cast<std::size_t>(q)] = factor * SumOverJ(l * rho * Q, q, rule);
+        if (!GoesOn(monitor)) return false;
+      }
+      return true;
     }
+    // Both exponentials and the growth of the Bessel function as one: none of them overflows by itself.
+    const ComplexD exponent = -((rho - l) * (rho - l)) * Q;
+    if (!(exponent.re > Darkness)) {
+      std::ranges::fill(values_, ComplexD());
+      terms_ += values_.size();
+      return GoesOn(monitor);
+    }
+    const ComplexD z = 2.0 * l * rho * Q, factor = Q * Exponential(exponent + phase);
+    ScaledModifiedBessel(z, last_, values_);
+    for (ComplexD& value : values_) value = factor * value;
+    terms_ += values_.size() + static_cast<std::size_t>(std::min(std::sqrt(SquaredModulus(z)), LargeArgument));
+    return GoesOn(monitor);
+  }
+
+  /// w^q / q!, where the sum for I_q(2 w) begins.
+  static ComplexD FirstTerm(const ComplexD& w, int q, bool logarithms) {
+    if (q == 0) return one;
+    if (!(SquaredModulus(w) > 0)) return {};
+    if (logarithms) {
+      // Factors of very different size: their logarithms until a term is there.
+      const double size = 0.5 * std::log(SquaredModulus(w)), angle = q * std::atan2(w.im, w.re);
+      const double modulus = std::exp(q * size - std::lgamma(q + 1.0));
+      return {modulus * std::cos(angle), modulus * std::sin(angle)};
+    }
+    if (q > LastFactorial) return {};
+    ComplexD term = one;
+    for (int factor = 1; factor <= q; ++factor) term = (1.0 / factor) * (w * term);
+    return term;
   }
 
   /// I_q(2 w) as the sum over j = q, q + 2, ... of w^j / ((j-q)/2)! ((j+q)/2)!
   ComplexD SumOverJ(const ComplexD& w, int q, const BeamSumRule& rule) {
-    // Factors of very different size: their logarithms until a term is there.
-    const double size = 0.5 * std::log(SquaredModulus(w));
-    ComplexD term = q == 0 ? one : ComplexD();
-    if (q > 0 && SquaredModulus(w) > 0) {
-      const double angle = q * std::atan2(w.im, w.re), modulus = std::exp(q * size - std::lgamma(q + 1.0));
-      term = {modulus * std::cos(angle), modulus * std::sin(angle)};
-    }
-    ComplexD sum;
+    ComplexD term = FirstTerm(w, q, rule.logarithms), sum;
     const ComplexD step = w * w;
     for (int j = q; j <= rule.Jmax; j += 2) {
+      if (!rule.logarithms && (j + q) / 2 > LastFactorial) break;
       sum = sum + term;
+      ++terms_;
       highestJ_ = std::max(highestJ_, j);
       if (std::fabs(term.re) < rule.error && std::fabs(term.im) < rule.error) break;
       const double lower = (j - q) / 2 + 1.0, upper = (j + q) / 2 + 1.0;
@@ -104,9 +135,14 @@ class Azimuthal {
   int last_;
   std::vector<ComplexD> values_, turns_;
   int highestJ_ = 0;
+  std::size_t terms_ = 0;  // since the last look
 };
 
 }  // namespace
+
+ComplexD BeamSpread(const FocusedBeam& beam) {
+  return Reciprocal({1.0, -2.0 * beam.Confinement() * beam.z0 / beam.w0});
+}
 
 int BeamLmax(double x) {
   return static_cast<int>(std::nearbyint(x + 4.05 * std::cbrt(x) + 2.0));
@@ -114,7 +150,7 @@ int BeamLmax(double x) {
 
 int BeamMmax(const FocusedBeam& beam, int Lmax) {
   const double rho = std::hypot(beam.x0, beam.y0) / beam.w0;
-  const ComplexD W = (Lmax + 0.5) * 2.0 * beam.Confinement() * rho * SpreadOf(beam);
+  const ComplexD W = (Lmax + 0.5) * 2.0 * beam.Confinement() * rho * BeamSpread(beam);
   double most = LeastMmax;
   if (W.re >= LeastWidth) most = std::nearbyint(std::sqrt(W.re) * (6.5 + 2.0 * std::fabs(W.im) / W.re));
   return static_cast<int>(std::min<double>(most, std::max(Lmax, 1)));
@@ -126,15 +162,16 @@ BeamShape::BeamShape(BeamLimits limits) : limits_(limits) {
   te_.resize(size);
 }
 
-void BeamShape::Add(const FocusedBeam& beam, const BeamSumRule& rule, RunMonitor& monitor) {
+bool BeamShape::Add(const FocusedBeam& beam, const BeamSumRule& rule, RunMonitor& monitor) {
   // (-i)^(|M|-1); -1, the last entry, is i.
   constexpr ComplexD powers[] = {{1.0, 0.0}, {0.0, -1.0}, {-1.0, 0.0}, {0.0, 1.0}};
-  constexpr int LsPerLook = 16;
+  using Clock = std::chrono::steady_clock;
+  Clock::duration spent{};
   Azimuthal T(beam, limits_.Mmax + 1);
   for (int L = 1; L <= limits_.Lmax; ++L) {
-    if (L % LsPerLook == 0 && !monitor.Report(static_cast<std::size_t>(L), static_cast<std::size_t>(limits_.Lmax)))
-      return;
-    T.GoTo(L, rule);
+    const Clock::time_point before = Clock::now();
+    if (!T.GoTo(L, rule, monitor)) return false;
+    spent += Clock::now() - before;
     for (int M = -limits_.Mmax; M <= limits_.Mmax; ++M) {
       const ComplexD& power = powers[static_cast<std::size_t>((std::abs(M) + 3) % 4)];
       const ComplexD lower = T(M - 1), upper = T(M + 1);
@@ -144,13 +181,32 @@ void BeamShape::Add(const FocusedBeam& beam, const BeamSumRule& rule, RunMonitor
     }
   }
   highestJ_ = std::max(highestJ_, T.HighestJ());
+  seconds_ += std::chrono::duration<double>(spent).count();
+  return true;
 }
+
+namespace {
+
+/// exp(-z) I_q(z) of large z.
+ComplexD ScaledBesselOfLarge(const std::complex<double>& z, int order) {
+  const double q = order;
+  const std::complex<double> root = std::sqrt(z * z + q * q), t2 = q * q / (root * root);
+  const std::complex<double> exponent = q * q / (root + z) - q * std::asinh(q / z);
+  const std::complex<double> second = (3.0 - 5.0 * t2) / (24.0 * root);
+  return std::exp(exponent) / std::sqrt(2.0 * std::numbers::pi * root) * (1.0 + second);
+}
+
+}  // namespace
 
 void ScaledModifiedBessel(const ComplexD& z, int last, std::vector<ComplexD>& values) {
   values.assign(static_cast<std::size_t>(last) + 1, ComplexD());
   const double size = std::sqrt(SquaredModulus(z));
   if (size == 0.0) {
     values[0] = one;
+    return;
+  }
+  if (size > LargeArgument) {
+    for (int q = 0; q <= last; ++q) values[static_cast<std::size_t>(q)] = ScaledBesselOfLarge(z, q);
     return;
   }
   // Above |z| the functions fall faster than (|z|/2q)^q; along the positive axis, where they are a Gaussian in q, they

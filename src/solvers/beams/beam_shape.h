@@ -26,7 +26,11 @@ struct FocusedBeam {
 struct BeamLimits {
   int Lmax = 1;
   int Mmax = 1;
+  bool operator==(const BeamLimits&) const = default;
 };
+
+/// Q = 1/(1 - 2 i s z0/w0), what the beam has spread at the centre of the sphere: 1 for a focus there.
+ComplexD BeamSpread(const FocusedBeam& beam);
 
 /// Lmax = x + 4.05 x^(1/3) + 2 to the nearest whole number.
 int BeamLmax(double x);
@@ -39,7 +43,11 @@ int BeamMmax(const FocusedBeam& beam, int Lmax);
 struct BeamSumRule {
   int Jmax = 1000;       ///< last j
   double error = 1e-20;  ///< a sum ends where all parts of its terms are below
-  bool closed = true;    ///< the whole sum as a modified Bessel function instead, whatever Jmax and error
+  bool closed = true;    ///< the whole sum as a modified Bessel function instead, whatever the others are
+  /// Terms begin with logarithms; otherwise with powers and factorials, of which there are none above 98!, so that
+  /// further terms are 0.
+  bool logarithms = true;
+  bool operator==(const BeamSumRule&) const = default;
 };
 
 /// Beam shape coefficients g_TM and g_TE of L = 1..Lmax, M = -Mmax..Mmax in the localised approximation (Gouesbet,
@@ -64,11 +72,14 @@ class BeamShape {
   const ComplexD& TE(int L, int M) const { return te_[Index(L, M)]; }
   /// Highest j that a sum came to; 0 where none was formed.
   int HighestJ() const { return highestJ_; }
+  /// What of the time went into the functions T(q).
+  double SecondsOfFunctions() const { return seconds_; }
 
   /// Adds the field of a beam.
   ///
-  /// @param monitor  asked once every few L; after a Stop the coefficients are of no use.
-  void Add(const FocusedBeam& beam, const BeamSumRule& rule, RunMonitor& monitor);
+  /// @param monitor  asked after a bounded number of terms.
+  /// @return false after a Stop: the coefficients are then of no use.
+  bool Add(const FocusedBeam& beam, const BeamSumRule& rule, RunMonitor& monitor);
 
  private:
   std::size_t Index(int L, int M) const {
@@ -79,10 +90,12 @@ class BeamShape {
   BeamLimits limits_;
   std::vector<ComplexD> tm_, te_;
   int highestJ_ = 0;
+  double seconds_ = 0.0;
 };
 
 /// exp(-z) I_q(z) of q = 0..last for Re z >= 0, by downward recurrence normalised with I_0 + 2 (I_1 + I_2 + ...) =
-/// exp(z) (Abramowitz and Stegun 1964, 9.6.37).
+/// exp(z) (Abramowitz and Stegun 1964, 9.6.37). Above |z| = 1e6, where that would take very many steps, by the uniform
+/// expansion for large orders (9.7.7) with its first two terms: an error of 1e-13.
 void ScaledModifiedBessel(const ComplexD& z, int last, std::vector<ComplexD>& values);
 
 }  // namespace lumivex

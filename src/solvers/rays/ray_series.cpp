@@ -96,7 +96,9 @@ class OrderOfRows {
   }
 
  private:
-  int Side(const RayFold& fold, int side) const { return order_.family.P() == 0 ? side : -fold.q * side; }
+  /// On which side a ray enters that leaves at an angle of this sign: a reflected one leaves on its own side, while one
+  /// that goes straight through crosses over.
+  int Side(const RayFold& fold, int side) const { return order_.family.P() == 0 ? -side : -fold.q * side; }
 
   void AddPiece(const RayPiece& piece, Neighbour& neighbour, const RowAngle& row, RowSum& sum) const {
     const double target = DeviationAt(piece.fold, row.theta);

@@ -55,8 +55,9 @@ struct RayRequest {
 /// Rays so weak that they are lost in the rounding of those of lower p at the same angle are not traced: of 51 orders
 /// in water most are, after many weak reflections.
 ///
-/// In a beam the side of the sphere counts: rays p >= 1 with an unfolded deviation of the angle enter on the positive
-/// side, and so do all rays p = 0 at positive angles.
+/// In a beam the side of the sphere counts: at positive angles rays p >= 1 with an unfolded deviation of the angle
+/// enter on the positive side, and all rays p = 0 on the negative one, for they leave on the side where they are
+/// reflected.
 ///
 /// @param S1, S2   rows 1..window.high at least; what they hold is part of the sum.
 /// @param monitor  asked after a bounded number of rays; after a Stop the rows not done keep their values.

@@ -198,8 +198,10 @@ void Refuse(Session& session, std::string_view text) {
   session.platform.Message("Option not available", text);
 }
 
+/// Of a beam, whose sides differ, once round.
 bool RangeIsWhole(const Form1& form) {
-  return Val(form.txtXmin.Text) == 0 && Val(form.txtXmax.Text) == 180;
+  const double low = Val(form.txtXmin.Text), high = Val(form.txtXmax.Text);
+  return (low == 0 && high == 180) || (!form.mnuPlaneWave.Checked && high - low == 360);
 }
 
 }  // namespace

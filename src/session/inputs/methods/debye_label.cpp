@@ -3,6 +3,7 @@
 #include <array>
 
 #include "record/number_text.h"
+#include "session/inputs/beams/read_beam.h"
 #include "session/inputs/layers/read_layers.h"
 #include "session/inputs/methods/read_method.h"
 #include "session/inputs/methods/sphere_size.h"
@@ -109,6 +110,22 @@ Details::Coating CoatingOf(const Session& session) {
   return coating;
 }
 
+Details::BeamNumbers BeamNumbersOf(const Session& session, const Illumination& light) {
+  const auto& dialog = session.forms.dlogGaussianBeam;
+  const BeamLimits limits = LimitsNow(session);
+  Details::BeamNumbers numbers{dialog.txtBeamXF.Text,
+                               dialog.txtBeamYF.Text,
+                               dialog.txtBeamZF.Text,
+                               dialog.txtBeamWo.Text,
+                               std::to_string(limits.Lmax),
+                               std::to_string(limits.Mmax),
+                               std::to_string(StartOfLogarithms(limits))};
+  numbers.lockPolarisation = light.oneBeam;
+  numbers.multiple = light.pair;
+  numbers.central = light.central;
+  return numbers;
+}
+
 Details::RadialProfile ProfileOf(const Session& session) {
   constexpr std::array kinds = {Details::Profile::Linear,     Details::Profile::Cosine,
                                 Details::Profile::ThreeLayer, Details::Profile::ModLuneburg,
@@ -179,6 +196,10 @@ std::string MethodLabel(const Session& session, const RayInputs& rays) {
   const auto& partial = session.forms.dlogPartial;
   if (partial.optPartial.Checked) details.partial = {partial.txtMin.Text, partial.txtMax.Text};
   details.diffraction = OffersDiffraction(session) && WithDiffraction(session);
+  if (const Illumination light = ReadBeam(session); !light.Plane()) {
+    details.beam = light.kind == Illumination::Kind::TopHat ? Details::Beam::TopHat : Details::Beam::Gaussian;
+    details.beamNumbers = BeamNumbersOf(session, light);
+  }
   if (details.method == Method::CoatedSphere) details.coating = CoatingOf(session);
   if (details.method == Method::InhomogeneousSphere) details.profile = ProfileOf(session);
   if (!TakesDifferences(ChosenGraph(session.state))) return DebyeLabelText(details);

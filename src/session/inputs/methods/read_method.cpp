@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "record/number_text.h"
+#include "session/inputs/beams/read_beam.h"
 #include "session/inputs/layers/read_layers.h"
 #include "session/inputs/methods/rays_check.h"
 
@@ -19,14 +20,6 @@ Difference DifferenceTicked(const Form1& form) {
 std::optional<PartialWaveRange> PartialWavesOf(const DlogPartial& dialog) {
   if (!dialog.optPartial.Checked) return std::nullopt;
   return PartialWaveRange{Val(dialog.txtMin.Text), Val(dialog.txtMax.Text)};
-}
-
-RayBeam BeamOf(const Session& session) {
-  const auto& form = session.form1;
-  const auto& s = session.state;
-  if (form.mnuPlaneWave.Checked || form.mnuCentralBeam.Checked) return {};
-  return {form.mnuTopHat.Checked ? RayBeam::Profile::TopHat : RayBeam::Profile::Gaussian, s.BeamCentreOffset,
-          s.BeamWaist};
 }
 
 int CountTyped(const TextInput& field, int most) {
@@ -69,7 +62,7 @@ MethodOptions ChosenMethod(const Session& session) {
   if (counts && traits.counts == Counted::Strips) options.counted = CountTyped(form.txtAngle, mostStrips);
   options.Qmin = static_cast<float>(Val(form.cboQmin.Text));
   options.Qmax = static_cast<float>(Val(form.cboQmax.Text));
-  if (traits.beams) options.beam = BeamOf(session);
+  options.beam = ReadBeam(session);
   return options;
 }
 
