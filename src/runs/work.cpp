@@ -26,7 +26,7 @@ constexpr double layerTerm = 40;   // each layer of a profile
 constexpr double ratioTerm = 100;  // times x: continued fractions of an absorbing sphere
 
 // Of a double series: a term (L, M) at one row, its shape coefficients, and how many j a sum for them goes beyond M.
-constexpr double beamTerm = 4;
+constexpr double beamTerm = 12;
 constexpr double shapeTerm = 80;
 constexpr double jPerOrder = 20;
 
