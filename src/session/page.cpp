@@ -115,8 +115,10 @@ void ShowPage(Session& session, Page page) {
 
 void RenewLook(Session& session) {
   // The colours of cells are made of what they hold.
-  if (session.page.map && session.state.Busy == 0 && session.events.Raise("Map_Recoloured")) return;
-  ShowPage(session, WithLook(session.page, ReadLook(session)));
+  if (!session.page.map || session.state.Busy != 0 || !session.events.Raise("Map_Recoloured"))
+    ShowPage(session, WithLook(session.page, ReadLook(session)));
+  // The light of the simulation window follows the same rules.
+  if (session.simulation.picture) session.events.Raise("Form2.Inputs_Changed");
 }
 
 void RecolourPage(Session& session) {

@@ -137,7 +137,6 @@ void RestoreInputs(Session& session, const InputState& state) {
   OfferReplot(session, state);
   TakeTickedLook(session);
   RenewLook(session);
-  if (session.simulation.picture) session.events.Raise("Form2.Inputs_Changed");
 }
 
 DialogScope::DialogScope(Session& session, Form& form) : session_(session) {

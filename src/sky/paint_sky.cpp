@@ -54,10 +54,13 @@ SkyPainter::SkyPainter(const SkyPainting& painting)
       angles_(painting.sight.source),
       firstAngle_(painting.light->first),
       lastAngle_(painting.light->Last()) {
-  const bool bent = painting.gamma == GammaRule::IndividualRGB;
-  for (std::size_t c = 0; c < curves_.size(); ++c) {
-    const double back = painting.background[c];
-    curves_[c] = RoundedCurve(bent, (255 - back) / 255, back);
+  // A preview has a new painter for every picture, and each curve takes a millisecond.
+  static const RoundedCurve ofPhotographs;
+  if (painting.compositing == Compositing::Over) {
+    curves_ = {ofPhotographs};
+  } else {
+    const bool bent = painting.gamma == GammaRule::IndividualRGB;
+    for (const double back : painting.background) curves_.emplace_back(bent, (255 - back) / 255, back);
   }
   for (std::size_t i = 0; i < linear_.size(); ++i) linear_[i] = LinearOf(static_cast<double>(i));
   const auto channel = [&](std::size_t c) { return static_cast<std::uint32_t>(painting.background[c]); };
@@ -113,7 +116,8 @@ std::uint32_t SkyPainter::Added(ColourTriple light, std::uint32_t ground) const 
   ColourTriple sum{linear_[ChannelOf(ground, 0)] + f * light.r, linear_[ChannelOf(ground, 1)] + f * light.g,
                    linear_[ChannelOf(ground, 2)] + f * light.b};
   if (sum.r > 255 || sum.g > 255 || sum.b > 255) sum = Saturation(sum, painting_.saturation);
-  return OpaquePixel(photographCurve_(sum.r), photographCurve_(sum.g), photographCurve_(sum.b));
+  const RoundedCurve& curve = curves_.front();
+  return OpaquePixel(curve(sum.r), curve(sum.g), curve(sum.b));
 }
 
 void SkyPainter::PaintPart(const PictureWindow& window, double y, int first, int last, const std::uint32_t* ground,

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <vector>
 
 #include "colour/rounded_curve.h"
 #include "runs/task_pool.h"
@@ -79,9 +80,8 @@ class SkyPainter {
   SkyPainting painting_;
   AngleOfCosine angles_;
   double firstAngle_, lastAngle_;
-  std::array<RoundedCurve, 3> curves_;
-  RoundedCurve photographCurve_;
-  std::array<double, 256> linear_;  ///< light of a channel of the photograph
+  std::vector<RoundedCurve> curves_;  ///< a channel each, of light on the background; of the photograph one alone
+  std::array<double, 256> linear_;    ///< light of a channel of the photograph
   std::uint32_t backgroundPixel_;
 };
 

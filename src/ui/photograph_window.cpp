@@ -35,7 +35,14 @@ constexpr double shortestFocal = 8, longestFocal = 400, mostStrength = 3;
 }  // namespace
 
 PhotographWindow::PhotographWindow(CommandGate& gate, Session& session, QWidget* parent)
-    : QMainWindow(parent, Qt::Window), gate_(gate), session_(session), form_(session.forms.form2) {
+    : QMainWindow(parent, Qt::Window),
+      gate_(gate),
+      session_(session),
+      form_(session.forms.form2),
+      undoKeys_([this](bool redo) {
+        auto& main = session_.form1;
+        Act([&] { UserClicks(session_, redo ? main.mnuRedo : main.mnuUndo); });
+      }) {
   auto* body = new QWidget(this);
   auto* row = new QHBoxLayout(body);
   row->setContentsMargins(0, 0, 0, 0);
@@ -66,6 +73,7 @@ PhotographWindow::PhotographWindow(CommandGate& gate, Session& session, QWidget*
       form_.txtStrength, [](double place) { return RoundDecimals(mostStrength * place, 2); },
       [](double value) { return value / mostStrength; });
   panel_->Sync();
+  undoKeys_.Watch(*panel_);
   side->setFixedWidth(panel_->sizeHint().width() + side->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2);
   follow_.setSingleShot(true);
   connect(&follow_, &QTimer::timeout, this, [this] { Follow(); });
@@ -85,6 +93,7 @@ void PhotographWindow::ConnectMouse() {
     if (!follow_.isActive()) follow_.start(0);
   };
   canvas_->mouse.release = [this](double, double) { Follow(); };
+  canvas_->key = [this](const QKeyEvent& event) { return Nudge(event); };
   canvas_->mouse.leave = [this] { form_.lblPosition.Caption.clear(), Refresh(); };
   canvas_->mouse.pan = [this](double right, double down) {
     Act([this, right, down] {
@@ -99,6 +108,17 @@ void PhotographWindow::ConnectMouse() {
     });
     return true;
   };
+}
+
+bool PhotographWindow::Nudge(const QKeyEvent& event) {
+  constexpr double far = 10;
+  const double by = event.modifiers() & Qt::ShiftModifier ? far : 1;
+  const int key = event.key();
+  const double right = key == Qt::Key_Right ? by : key == Qt::Key_Left ? -by : 0;
+  const double down = key == Qt::Key_Down ? by : key == Qt::Key_Up ? -by : 0;
+  if (right == 0 && down == 0) return false;
+  Act([this, right, down] { NudgePoint(session_, right, down); });
+  return true;
 }
 
 void PhotographWindow::Follow() {
@@ -198,6 +218,7 @@ void PhotographWindow::closeEvent(QCloseEvent* event) {
 }
 
 void PhotographWindow::keyPressEvent(QKeyEvent* event) {
+  if (undoKeys_.Take(*event)) return;
   if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return QMainWindow::keyPressEvent(event);
   Actions().clicks(form_.cmdSimPlot);
 }

@@ -14,6 +14,7 @@
 #include "ui/command_gate.h"
 #include "ui/menu_view.h"
 #include "ui/panel_view.h"
+#include "ui/undo_keys.h"
 
 namespace lumivex {
 
@@ -47,6 +48,7 @@ class PhotographWindow final : public QMainWindow {
   };
 
   void ConnectMouse();
+  bool Nudge(const QKeyEvent& event);
   void AddSlider(Control& input, std::function<double(double)> valueAt, std::function<double(double)> placeOf);
   void SyncSliders();
   void Act(const CommandGate::Action& command);
@@ -64,6 +66,7 @@ class PhotographWindow final : public QMainWindow {
   std::vector<Slider> sliders_;
   std::optional<SurfacePoint> draggedTo_;  ///< the last place of a drag that the picture has not followed yet
   QTimer follow_;
+  UndoKeys undoKeys_;
 };
 
 }  // namespace lumivex

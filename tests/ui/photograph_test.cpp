@@ -136,6 +136,11 @@ TEST_F(PhotographWindowTest, ADragMovesThePointAndTheLightFollows) {
   EXPECT_NE(canvas.Surface().Picture(), before);
   program.Gate().Do([this] { UserClicks(Now(), Form().mnuUndo); });
   EXPECT_EQ(Sim().txtX1.Text, "900") << "one step takes the whole drag back";
+  QTest::keyClick(&canvas, Qt::Key_Right);
+  QTest::keyClick(&canvas, Qt::Key_Up, Qt::ShiftModifier);
+  EXPECT_EQ(Sim().txtX1.Text + " " + Sim().txtY1.Text, "901 1130");
+  QTest::keyClick(&canvas, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Sim().txtX1.Text + " " + Sim().txtY1.Text, "900 1140");
 }
 
 TEST_F(PhotographWindowTest, ExitAndClosingHideItAndItComesBack) {

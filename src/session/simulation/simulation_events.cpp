@@ -236,6 +236,17 @@ void picture1_mousemove(Session& session, double x, double y) {
   session.forms.form2.lblPosition.Caption = reading ? reading->text : "";
 }
 
+void NudgePoint(Session& session, double right, double down) {
+  auto& form = session.forms.form2;
+  const PointKind kind = ChosenPoint(form);
+  const bool hasPixel = kind == PointKind::Antisolar || kind == PointKind::Sun;
+  if (!hasPixel || !IsNumber(form.txtX1.Text) || !IsNumber(form.txtY1.Text)) return;
+  RememberInputs(session, "Form2.arrows");
+  form.txtX1.Text = Shortest(Val(form.txtX1.Text) + right);
+  form.txtY1.Text = Shortest(Val(form.txtY1.Text) + down);
+  ShowSimulation(session);
+}
+
 void DragPoint(Session& session, double x, double y, bool begins) {
   auto& form = session.forms.form2;
   const PointKind kind = ChosenPoint(form);

@@ -25,6 +25,9 @@ void picture1_mousemove(Session& session, double x, double y);
 /// it back.
 void DragPoint(Session& session, double x, double y, bool begins);
 
+/// The point goes by so many pixels, as the arrow keys move it. Does nothing where it has no pixel.
+void NudgePoint(Session& session, double right, double down);
+
 /// Opens a picture file in the window.
 void OpenPicture(Session& session, const std::string& path);
 

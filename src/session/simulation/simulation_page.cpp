@@ -83,7 +83,7 @@ void ShowLabels(Session& session) {
   form.lblX1.Caption = pose ? "Altitude" : "X";
   form.lblY1.Caption = pose ? "Azimuth" : "Y";
   form.lblX1.Visible = form.lblY1.Visible = form.txtX1.Visible = form.txtY1.Visible = !arc;
-  form.cmdAnalyse.Visible = form.lblArc.Visible = arc;
+  form.lblArc.Visible = arc;
   form.lblSunElevation.Caption = arc ? "Scattering angle" : "Elevation of sun";
   form.lblD1.Visible = form.txtD1.Visible = form.lblD2.Visible = form.txtD2.Visible = form.optDivergingLight.Checked;
   const bool over = PaintsOver(form);
