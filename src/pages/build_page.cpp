@@ -4,6 +4,7 @@
 #include "pages/bars/bar_light.h"
 #include "pages/curves/curve_limits.h"
 #include "pages/curves/curve_path.h"
+#include "pages/curves/fourier_graph.h"
 #include "pages/curves/spectrum_graph.h"
 #include "pages/frame/frame.h"
 #include "pages/items/phasor_diagram.h"
@@ -102,6 +103,14 @@ void AddMap(Page& page, const RunToDraw& run) {
     PlotLee(page, map);
 }
 
+void DisplayCurves(Page& page, const RunToDraw& run) {
+  const Curves curves = CurvesOf(run.results, run.Curves());
+  if (!run.look.fourier) return Display(page, run, curves);
+  const FourierCurves spectrum = FFTcalc(run.results, curves, *run.look.fourier);
+  Display(page, run, spectrum.curves);
+  page.frequencies = {RayFrequenciesOf(run.results, *run.look.fourier), FrequencyStep(run.results, *run.look.fourier)};
+}
+
 void AddRun(Page& page, const RunToDraw& run) {
   const Results& results = run.results;
   page.runs.push_back(WordsOf(run));
@@ -120,7 +129,7 @@ void AddRun(Page& page, const RunToDraw& run) {
       if (results.Find<SpectrumFound>() != nullptr)
         PlotNColour(page, run);
       else
-        Display(page, run, CurvesOf(results, run.Curves()));
+        DisplayCurves(page, run);
   }
   LeaveOutOldestRuns(page);
   if (page.bars) page.bars->run = page.runs.size() - 1;
@@ -143,7 +152,8 @@ bool SharesAxes(const PageKind& page, const PageKind& run) {
 
 }  // namespace
 
-Page BuildPage(const Results& results, const Look& look, const PageGeometry& geometry, const ScaleMemory& memory) {
+Page BuildPage(const Results& results, const Look& wanted, const PageGeometry& geometry, const ScaleMemory& memory) {
+  const Look look = LookOfSpectrum(results, wanted);
   const RunToDraw run{results, look};
   Page page;
   page.kind = KindOf(run);
@@ -155,7 +165,8 @@ Page BuildPage(const Results& results, const Look& look, const PageGeometry& geo
   return PlacePage(std::move(page), geometry);
 }
 
-Page DrawOver(const Page& page, const Results& results, const Look& look) {
+Page DrawOver(const Page& page, const Results& results, const Look& wanted) {
+  const Look look = LookOfSpectrum(results, wanted);
   const RunToDraw run{results, look};
   if (page.Empty() || !SharesAxes(page.kind, KindOf(run))) return BuildPage(results, look, page.geometry, page.scale);
   Page both = WithLook(page, look);

@@ -65,6 +65,15 @@ struct ColourLook {
   std::optional<MapSeries> series;    ///< of maps: all on the scale of the first
 };
 
+/// The part of the curves that is transformed, and the frequencies shown.
+struct FourierLook {
+  int length = 2048;         ///< points, a power of two
+  double first = 0;          ///< where they begin, in the unit of the axis
+  XRange frequencies{0, 5};  ///< cycles a unit of the axis
+  bool complex = false;      ///< of the amplitudes, otherwise of the curves
+  bool root = false;         ///< of the square root of the curves
+};
+
 struct SunLook {
   bool disc = false;  ///< a source 0.5 degrees wide
   bool rectangular = false;
@@ -82,7 +91,8 @@ struct Look {
   Polarisations polarisations = Polarisations::Both;
   ScaleLook scale;
   SecondPanel second = SecondPanel::None;
-  bool amplitude = false, invWavelength = false, fourier = false;
+  bool amplitude = false, invWavelength = false;
+  std::optional<FourierLook> fourier;  ///< frequencies in place of the curves
   SunLook sun;
   ColourLook colours;
   bool components = false;  ///< red, green and blue apart

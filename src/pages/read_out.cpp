@@ -127,8 +127,18 @@ std::string_view XUnit(const PageKind& kind) {
 }
 
 std::string_view YUnit(const PageKind& kind, bool secondPanel) {
+  if (kind.fourier) return "";
   if (secondPanel) return kind.second == SecondPanel::Phases ? "deg" : "";
   return YUnitOf(kind.graph, {kind.amplitude, kind.invWavelength, kind.perVolume});
+}
+
+/// The rays whose frequency is the nearest, within one step of the transform.
+std::string RaysNear(const PageFrequencies& frequencies, double x) {
+  const PageFrequencies::Ray* nearest = nullptr;
+  for (const auto& ray : frequencies.rays)
+    if (!nearest || std::fabs(ray.frequency - x) < std::fabs(nearest->frequency - x)) nearest = &ray;
+  const bool near = nearest && std::fabs(nearest->frequency - x) <= frequencies.bin;
+  return near ? "rays " + nearest->name : "no rays";
 }
 
 }  // namespace
@@ -156,6 +166,7 @@ std::optional<GraphReading> ReadAt(const Page& page, double surfaceX, double sur
                     WithUnit(reading.curveX, DigitsOfX(reading.curveX, range), xUnit) + "   " +
                     WithUnit(reading.curveY, 6, yUnit);
   }
+  if (page.kind.fourier) reading.text += "      " + RaysNear(page.frequencies, reading.x);
   return reading;
 }
 

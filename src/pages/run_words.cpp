@@ -454,6 +454,12 @@ std::vector<std::string> ChangeLinesOf(const Results& results, const Look& look)
     lines.emplace_back(look.amplitude ? "Amplitude independent of wavelength" : "Intensity independent of wavelength");
   if (look.averageWidth) lines.push_back("Running mean over " + Number(*look.averageWidth) + UnitOfAxis(asked.graph));
   if (look.interpolate) lines.emplace_back("Cubic interpolation");
+  if (look.fourier)
+    lines.push_back("Fourier transform of " + std::to_string(look.fourier->length) + " points from " +
+                    Number(look.fourier->first) + UnitOfAxis(asked.graph) +
+                    (look.fourier->complex ? ", complex amplitudes"
+                     : look.fourier->root  ? ", square roots"
+                                           : ""));
   return lines;
 }
 

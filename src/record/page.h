@@ -131,6 +131,16 @@ class SharedValues {
   bool rises_;
 };
 
+/// Where in a spectrum of frequencies rays are expected.
+struct PageFrequencies {
+  struct Ray {
+    double frequency = 0;
+    std::string name;  ///< "p = 1", or "p = 0 and p = 2"
+  };
+  std::vector<Ray> rays;
+  double bin = 0;  ///< from one frequency to the next
+};
+
 /// One curve. Arrays have first index 1; element 0 is unused. Values that are not numbers were not computed: they lift
 /// the pen.
 struct PageCurve {
@@ -272,6 +282,7 @@ struct Page {
   double autoBottom = 0, autoTop = 0;  ///< smallest and largest value of the curves that the frame was chosen for
   std::optional<PagePhasors> phasors;
   std::optional<PageBars> bars;         ///< of the last run
+  PageFrequencies frequencies;          ///< of the last run
   std::vector<HuygensWave> wavefronts;  ///< in the strip over the graph
   std::vector<PageLine> readings;       ///< of the last run
   std::optional<PageHistogram> histogram;

@@ -417,4 +417,10 @@ const AxisRun* AxisOf(const FamilyRun& run) {
   return nullptr;
 }
 
+double StepOf(const RunRequest& asked) {
+  if (const AngleRows* rows = RowsOf(asked.run)) return rows->step;
+  if (const AxisRun* axis = AxisOf(asked.run)) return axis->step;
+  return 1;
+}
+
 }  // namespace lumivex

@@ -61,6 +61,9 @@ std::vector<double> AnglesOf(const AngleRows& rows);
 /// The rows of an angle request; null for a family without.
 const AngleRows* RowsOf(const FamilyRun& run);
 
+/// Degrees, or units of the axis, from row to row.
+double StepOf(const RunRequest& asked);
+
 /// The axis of points of a request; null for a family without.
 const AxisRun* AxisOf(const FamilyRun& run);
 

@@ -9,6 +9,7 @@
 #include "session/file_menu.h"
 #include "session/info.h"
 #include "session/inputs/beams/beam_menus.h"
+#include "session/inputs/fourier_inputs.h"
 #include "session/inputs/graph_types.h"
 #include "session/inputs/input_events.h"
 #include "session/inputs/layers/coated_inputs.h"
@@ -61,6 +62,15 @@ constexpr EventRow eventRows[] = {
     {"dlogDebyeSeq.Show", AskDebyeSequence},
     {"chkComponents_Click", Scale_Click},
     {"mnuTwoAngle_Click", mnuTwoAngle_Click},
+    {"mnuFFT_Click", mnuFFT_Click},
+    {"dlogFFT.cboFFT_Click", dlogFFT_Change},
+    {"dlogFFT.cboFFT_Change", dlogFFT_Change},
+    {"dlogFFT.txtThetaMin_Change", dlogFFT_Change},
+    {"dlogFFT.txtFmin_Change", dlogFFT_Change},
+    {"dlogFFT.txtFmax_Change", dlogFFT_Change},
+    {"dlogFFT.optFFTreal_Click", dlogFFT_Inputs_Click},
+    {"dlogFFT.optFFTcomplex_Click", dlogFFT_Inputs_Click},
+    {"dlogFFT.OKButton_Click", dlogFFT_Change},
     {"mnuDiffCrossSection_Click", mnuDiffCrossSection_Click},
     {"mnuConvergence_Click", mnuConvergence_Click},
     {"dlogTwoAngle.Show", AskTwoAngle},

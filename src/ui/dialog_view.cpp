@@ -34,7 +34,8 @@ DialogView::DialogView(Form& form, Hooks hooks, QWidget* parent)
   column->setSizeConstraint(QLayout::SetMinimumSize);
   BuildLines();
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-  buttons->button(QDialogButtonBox::Ok)->setDefault(true);
+  ok_ = buttons->button(QDialogButtonBox::Ok);
+  ok_->setDefault(true);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   column->addSpacing(6);
@@ -77,6 +78,11 @@ void DialogView::TakeNewLook() {
 
 void DialogView::Sync() {
   lines_->Sync();
+  // A dialog that declares the button has a word of its own for it, and says when it may be pressed.
+  if (const Control* button = form_.Find("OKButton")) {
+    ok_->setText(ToQString(button->ShownCaption()));
+    ok_->setEnabled(button->Enabled);
+  }
   DrawPictures();
 }
 

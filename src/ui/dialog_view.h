@@ -8,6 +8,8 @@
 #include "ui/form_view.h"
 #include "ui/undo_keys.h"
 
+class QPushButton;
+
 namespace lumivex {
 
 /// A dialog over any form that the layout describes: its lines, then OK and Cancel. Modal with exec, modeless with
@@ -43,6 +45,7 @@ class DialogView final : public QDialog {
   Hooks hooks_;
   FormSnapshot before_;
   QWidget* body_ = nullptr;  ///< holds the lines
+  QPushButton* ok_ = nullptr;
   std::unique_ptr<FormView> lines_;
   UndoKeys undoKeys_;
 };

@@ -12,6 +12,7 @@
 
 #include "axes/polar_coordinates.h"
 #include "pages/curves/curve_path.h"
+#include "pages/curves/fourier_graph.h"
 #include "pages/frame/colours.h"
 #include "pages/frame/frame.h"
 #include "pages/frame/scale.h"
@@ -25,13 +26,6 @@ namespace {
 constexpr double notComputed = std::numeric_limits<double>::quiet_NaN();
 constexpr std::size_t upperPanel = 0, lowerPanel = 1;
 constexpr int perpendicularKind = 1, parallelKind = 2, unpolarisedKind = 3;
-
-/// Degrees, or units of the axis, from row to row.
-double StepOf(const RunRequest& asked) {
-  if (const AngleRows* rows = RowsOf(asked.run)) return rows->step;
-  if (const AxisRun* axis = AxisOf(asked.run)) return axis->step;
-  return 1;
-}
 
 /// The wavelength whose colour is the true one: along an axis of wavelengths the last.
 double TrueWavelength(const Results& results) {
@@ -218,7 +212,7 @@ std::vector<double> OfAll(const std::vector<double>& curve, const Curves& curves
 }
 
 bool InvertsX(const PageKind& kind) {
-  return kind.invWavelength && kind.graph.WavelengthAxis();
+  return kind.invWavelength && kind.graph.WavelengthAxis() && !kind.fourier;
 }
 
 /// The limits of the axis, which are typed as wavelengths.
@@ -255,7 +249,7 @@ PageKind KindOf(const RunToDraw& run) {
   if (kind.IsMatrix()) kind.second = SecondPanel::Ratios;
   kind.amplitude = look.amplitude;
   kind.invWavelength = look.invWavelength;
-  kind.fourier = look.fourier;
+  kind.fourier = look.fourier.has_value();
   if (const auto* axis = std::get_if<AxisRun>(&asked.run))
     kind.perVolume = asked.graph.TakesVolume() && axis->constantVolume;
   if (const auto* sums = std::get_if<ConvergenceRun>(&asked.run); sums != nullptr && !asked.method.beam.Plane())
@@ -298,7 +292,7 @@ PageCurve Plot(const Page& page, const RunToDraw& run, std::span<const double> x
   curve.y = phases ? std::move(values) : SeenUnderSun(run, values);
   if (const auto* found = run.results.Find<AngleFound>(); found != nullptr && page.kind.IsComplexPolar())
     TakeComplexAmplitude(*found, curve);
-  const double step = StepOf(run.results.asked);
+  const double step = look.fourier ? FrequencyStep(run.results, *look.fourier) : StepOf(run.results.asked);
   if (look.averageWidth && step > 0) curve.averageRows = *look.averageWidth / step;
   curve.wraps = phases;
   curve.interpolate = look.interpolate;

@@ -128,6 +128,7 @@ void PaintYTitle(FramePaint& paint) {
   const std::string_view second = YTitleSecondLineOf(kind.graph, {kind.amplitude, kind.invWavelength, kind.perVolume});
   // A second line stands one line lower, where the title of an intensity has its only one.
   const double y = top - 600 + line;
+  if (kind.fourier) return PrintAbove(paint, y, "Magnitude");
   switch (kind.graph.quantity) {
     case Quantity::Irradiance:
       return PaintWattsTitle(paint);

@@ -33,11 +33,37 @@ struct DlogTwoAngle final : Form {
   TextInput txtRstep{*this, "txtRstep", "0.5", "Step from one point of a curve to the next, in micrometres"};
 };
 
+/// Which part of the last curves is transformed, and which frequencies are shown.
+struct DlogFFT final : Form {
+  DlogFFT();
+
+  Label lblFFT{*this, "lblFFT", "N-point FFT"};
+  SelectionList cboFFT{*this, "cboFFT", SelectionList::Style::Editable, "2048",
+                       "Points that are transformed: a power of two, 64 at least"};
+  Label lblThetaMin{*this, "lblThetaMin", "Minimum x-value"};
+  TextInput txtThetaMin{*this, "txtThetaMin", "0", "Where the points begin, in the unit of the horizontal axis"};
+  Label lblThetaMax{*this, "lblThetaMax", "Maximum x-value"};
+  TextInput txtThetaMax{*this, "txtThetaMax", "180", "Where the points end; follows from their number"};
+  Label lblFmin{*this, "lblFmin", "Minimum frequency"};
+  TextInput txtFmin{*this, "txtFmin", "0", "Lowest frequency shown, in cycles a unit of the horizontal axis"};
+  Label lblFmax{*this, "lblFmax", "Maximum frequency"};
+  TextInput txtFmax{*this, "txtFmax", "5", "Highest frequency shown, in cycles a unit of the horizontal axis"};
+  OptionButton optFFTreal{*this,         "optFFTreal", "inputs",
+                          "Real inputs", false,        "Transform the curves: frequencies are differences of rays"};
+  OptionButton optFFTcomplex{
+      *this,    "optFFTcomplex",
+      "inputs", "Complex inputs",
+      true,     "Transform the complex amplitudes: each ray has a frequency of its own, with its sign"};
+  CheckBox chkSqrt{*this, "chkSqrt", "Square root", false, "Transform the square root of the curves"};
+  CommandButton OKButton{*this, "OKButton", "Display spectrum"};
+};
+
 /// The dialogs of graphs against angle.
 struct AngleDialogs {
   DlogTwoAngle dlogTwoAngle;
+  DlogFFT dlogFFT;
 
-  std::vector<Form*> AngleForms() { return {&dlogTwoAngle}; }
+  std::vector<Form*> AngleForms() { return {&dlogTwoAngle, &dlogFFT}; }
 };
 
 }  // namespace lumivex

@@ -13,8 +13,19 @@ inline constexpr LayoutLine twoAngleLines[] = {
     {{"lblRadius", "txtRmin", "txtRmax", "txtRstep"}},
 };
 
+inline constexpr LayoutLine fourierLines[] = {
+    {{"lblFFT", "cboFFT"}},
+    {{"lblThetaMin", "txtThetaMin"}},
+    {{"lblThetaMax", "txtThetaMax"}},
+    {{"lblFmin", "txtFmin"}},
+    {{"lblFmax", "txtFmax"}},
+    {{"optFFTreal", "optFFTcomplex"}},
+    {{"chkSqrt"}},
+};
+
 inline constexpr DialogLayout angleDialogLayouts[] = {
     {"dlogTwoAngle", twoAngleLines},
+    {"dlogFFT", fourierLines},
 };
 
 }  // namespace lumivex

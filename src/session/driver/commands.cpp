@@ -133,6 +133,8 @@ void cmdNewPlot_Click(Session& session) {
   s.OverplotFromFile = 0;
   s.StopAnswer = 0;
   s.PlotMode = 1;
+  // A new run is seen as it is before it is transformed.
+  if (session.form1.mnuFFT.Checked) session.events.Raise("mnuFFT_Click");
   RunInputs(session, Onto::FreshPage);
   s.PlotMode = 1;
   EndCommand(session, before);

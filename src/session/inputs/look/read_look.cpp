@@ -138,6 +138,16 @@ DotLabels LabelsAsked(const DlogDebyeSeq& dialog) {
   return {dialog.optTerms.Checked ? DotLabels::Rule::UpToTerm : DotLabels::Rule::AboveSize, number};
 }
 
+FourierLook ReadFourier(const DlogFFT& dialog) {
+  FourierLook fourier;
+  fourier.length = ToWhole(Val(dialog.cboFFT.Text));
+  fourier.first = Val(dialog.txtThetaMin.Text);
+  fourier.frequencies = {Val(dialog.txtFmin.Text), Val(dialog.txtFmax.Text)};
+  fourier.complex = dialog.optFFTcomplex.Checked;
+  fourier.root = dialog.chkSqrt.Checked && !fourier.complex;
+  return fourier;
+}
+
 }  // namespace
 
 Look ReadLook(const Session& session) {
@@ -158,7 +168,7 @@ Look ReadLook(const Session& session) {
   if (form.mnuIntPol.Checked) look.second = SecondPanel::Polarisation;
   look.amplitude = form.mnuAmplitude.Checked;
   look.invWavelength = form.mnuInvWavelength.Checked;
-  look.fourier = form.mnuFFT.Checked;
+  if (form.mnuFFT.Checked) look.fourier = ReadFourier(forms.dlogFFT);
   look.sun = {form.optSun.Checked, form.mnuSun.Checked};
   look.colours = ReadColours(session);
   look.components = form.chkComponents.Checked;
