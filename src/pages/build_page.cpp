@@ -14,6 +14,7 @@
 #include "pages/maps/plot_lee.h"
 #include "pages/run_words.h"
 #include "record/number_text.h"
+#include "runs/settings.h"
 
 namespace lumivex {
 
@@ -135,8 +136,8 @@ void AddRun(Page& page, const RunToDraw& run) {
   if (page.bars) page.bars->run = page.runs.size() - 1;
   ColourBars(page, run.look.colours);
   page.readings = VisibleData(results);
-  page.histogram = DistDisplay(results.asked.sizes, results.asked.particle.radius, NameOfSizes(results.asked.words),
-                               run.look.histogramLog, results.asked.graph);
+  page.histogram = DistDisplay(results.asked.sizes, RadiusOfSizes(results.asked.particle),
+                               NameOfSizes(results.asked.words), run.look.histogramLog, results.asked.graph);
   const auto* angles = results.Find<AngleFound>();
   page.wavefronts = angles != nullptr ? angles->wavefronts : std::vector<HuygensWave>();
 }

@@ -9,6 +9,7 @@
 #include "record/catalogue/graph_texts.h"
 #include "record/number_text.h"
 #include "runs/curves.h"
+#include "runs/settings.h"
 
 namespace lumivex {
 
@@ -178,7 +179,7 @@ std::string SizesWords(const RunRequest& asked) {
   const auto* file = std::get_if<FileSizes>(&asked.sizes);
   if (file == nullptr) return asked.words.sizes;
   const std::string name = file->name.empty() ? "Special" : "Special (" + file->name + ")";
-  return name + ", " + std::to_string(SamplesOf(asked.sizes, asked.particle.radius).Count()) + " sizes";
+  return name + ", " + std::to_string(SamplesOf(asked.sizes, RadiusOfSizes(asked.particle)).Count()) + " sizes";
 }
 
 /// The index along an axis of wavelengths (nm): of the first and of the last one, in its words for one where they are

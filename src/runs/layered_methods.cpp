@@ -24,10 +24,15 @@ Refusal BeyondSeries() {
   return {"Error", "Reduce radius or increase wavelength"};
 }
 
+/// Layers of the medium's own index scatter nothing; what rounding leaves of them has no direction either.
+bool AreNothing(std::span<const SphereLayer> layers) {
+  return std::ranges::all_of(layers, [](const SphereLayer& layer) { return layer.m == ComplexD(1, 0); });
+}
+
 PartialWaves WholeCoated(const SphereAsked& asked, int terms, RunMonitor& monitor) {
   const std::array layers = {SphereLayer{asked.x * asked.coreRatio, asked.core},
                              SphereLayer{asked.x, {asked.mRe, asked.mIm}}};
-  return LayeredSphereCoefficients(layers, terms, monitor);
+  return AreNothing(layers) ? PartialWaves(terms) : LayeredSphereCoefficients(layers, terms, monitor);
 }
 
 PartialWaves CoatedTerms(const MethodOptions& options, const SphereAsked& asked, int terms, RunMonitor& monitor) {
@@ -149,8 +154,11 @@ SphereSolution Inhomogeneous(const MethodOptions& options, const SphereAsked& as
   if (solution.Refused()) return solution;
   solution.NSTOP = LayeredSphereTerms(asked.x);
   const auto layers = LayersOf(options.layers.profile, options.layers.layers, asked.x, asked.medium);
-  solution.waves = options.layers.byTangents ? LayeredSphereByTangents(layers, solution.NSTOP, watched)
-                                             : LayeredSphereCoefficients(layers, solution.NSTOP, watched);
+  if (AreNothing(layers))
+    solution.waves = PartialWaves(solution.NSTOP);
+  else
+    solution.waves = options.layers.byTangents ? LayeredSphereByTangents(layers, solution.NSTOP, watched)
+                                               : LayeredSphereCoefficients(layers, solution.NSTOP, watched);
   solution.efficiencies = EfficienciesOf(solution.waves, asked.x);
   SumRows(asked, solution, watched);
   solution.finished = watched.goesOn;

@@ -136,12 +136,13 @@ double LargestOf(const CloudSamples& samples) {
 }
 
 /// A cloud whose cores are of one size has no spheres smaller than these.
-Refusal SmallerThanCore(const Particle& particle, const CloudSamples& samples) {
+Refusal SmallerThanCore(const Particle& particle, const SizeDistribution& sizes, const CloudSamples& samples) {
   if (!particle.core || particle.core->sizes != CoatedSizes::FixedCore) return {};
   for (std::size_t i = 1; i < samples.radius.size(); ++i)
     if (samples.weight[i] > 0 && samples.radius[i] > 0 && samples.radius[i] <= particle.core->radius)
-      return {"Input error", "The radius of the core must be less than the radius of the overall particle",
-              InputAtFault::Distribution};
+      return {
+          "Input error", "The radius of the core must be less than the radius of the overall particle",
+          std::holds_alternative<NormalSizes>(sizes) ? InputAtFault::StandardDeviation : InputAtFault::Distribution};
   return {};
 }
 
@@ -190,6 +191,11 @@ CloudSamples SamplesAt(const RunRequest& request, double radius) {
   const auto& core = request.particle.core;
   const bool ofCores = core && core->sizes == CoatedSizes::FixedCoating;
   return SamplesOf(request.sizes, ofCores ? CoreRadius(*core, request.particle.radius, radius) : radius);
+}
+
+double RadiusOfSizes(const Particle& particle) {
+  const bool ofCores = particle.core && particle.core->sizes == CoatedSizes::FixedCoating;
+  return ofCores ? particle.core->radius : particle.radius;
 }
 
 double RadiusOfSample(const Particle& particle, double sample) {
@@ -289,7 +295,8 @@ SettingsEnd DispCalc(const SettingsPlan& plan, TaskPool& pool) {
     end.refusal = RefusalOf(first.failure);
     return end;
   }
-  if (Refusal small = SmallerThanCore(particle, first); !small.text.empty()) return {0, std::move(small)};
+  if (Refusal small = SmallerThanCore(particle, plan.request.sizes, first); !small.text.empty())
+    return {0, std::move(small)};
   double largest = LargestOf(first);
   for (std::size_t i = 0; i < plan.settings.size(); ++i) {
     const Setting setting = plan.settings[i];

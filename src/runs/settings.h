@@ -44,6 +44,8 @@ void AskForSphere(const Particle& particle, const Setting& setting, double radiu
 /// The sizes of a cloud about a setting. Of coated spheres whose coating is fixed the distribution is that of the
 /// cores, otherwise that of the whole spheres.
 CloudSamples SamplesAt(const RunRequest& request, double radius);
+/// The radius (um) that the sizes of a request lie about.
+double RadiusOfSizes(const Particle& particle);
 /// The radius of the sphere (um) that a sample stands for.
 double RadiusOfSample(const Particle& particle, double sample);
 

@@ -29,6 +29,15 @@ RowsDone Joined(const RowsDone& a, const RowsDone& b) {
   return {Joined(a.forward, b.forward), Joined(a.mirrored, b.mirrored)};
 }
 
+/// The share of the work that is done before any angle: coefficients of a series are little beside the sums over the
+/// angles, but for a sphere of many layers.
+double ShareOfCoefficients(const MethodOptions& options, const SphereAsked& asked) {
+  if (options.method != Method::InhomogeneousSphere) return 0;
+  constexpr double rowsOfALayer = 250;  // take as long as a layer (measured)
+  const double layers = options.layers.layers * rowsOfALayer;
+  return layers / (layers + std::max(1, asked.window.high - asked.window.low + 1));
+}
+
 /// A single task, so that its arithmetic is watched and a Stop is seen.
 SphereSolution SolveWhole(const MethodOptions& options, const SphereAsked& asked, TaskPool& pool,
                           double shareOfRun = 1) {
@@ -46,7 +55,8 @@ SphereSolution SolveWhole(const MethodOptions& options, const SphereAsked& asked
 }
 
 /// The sum of a series over the rows, part by part.
-void SumInParts(const MethodOptions& options, const SphereAsked& asked, SphereSolution& solution, TaskPool& pool) {
+void SumInParts(const MethodOptions& options, const SphereAsked& asked, SphereSolution& solution, TaskPool& pool,
+                double shareBefore) {
   const AngleCosines cosines(asked.grid, asked.window);
   // Whole blocks of the inner loop in every part, so that rows come out the same however they are divided.
   constexpr std::size_t mostBlocks = 1U << 16U;
@@ -56,6 +66,8 @@ void SumInParts(const MethodOptions& options, const SphereAsked& asked, SphereSo
   std::vector<RowsDone> done(parts.size());
   TaskList tasks;
   tasks.count = parts.size();
+  tasks.shareBefore = shareBefore;
+  tasks.shareOfRun = 1 - shareBefore;
   tasks.work = [&](std::size_t task, std::size_t, RunMonitor& monitor) {
     done[task] = SumFoldedRows(solution.waves, asked.grid, cosines, asked.window, parts[task], solution.S1, solution.S2,
                                monitor);
@@ -171,9 +183,9 @@ SphereSolution SolveInParts(const MethodOptions& options, const SphereAsked& ask
   if (series) {
     SphereAsked noRows = asked;
     noRows.window = {};
-    // Coefficients are little beside the sums over the angles.
-    SphereSolution solution = SolveWhole(options, noRows, pool, 0);
-    if (!solution.Refused() && solution.finished) SumInParts(options, asked, solution, pool);
+    const double share = ShareOfCoefficients(options, asked);
+    SphereSolution solution = SolveWhole(options, noRows, pool, share);
+    if (!solution.Refused() && solution.finished) SumInParts(options, asked, solution, pool, share);
     return solution;
   }
   const bool rays = TraitsOf(options.method).needsP && options.method != Method::Debye;

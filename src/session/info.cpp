@@ -21,7 +21,8 @@ std::string RunInShort(const Results& results) {
     return asked.words.method + ", " + CountOf(found->done, asked.Wavelengths(), "wavelength") + ", " + time;
   if (const auto* map = results.Find<MapFound>())
     return asked.words.method + ", " + CountOf(map->done, map->columns, "column") + ", " + time;
-  const bool series = TraitsOf(asked.method.method).series;
+  const MethodTraits& method = TraitsOf(asked.method.method);
+  const bool series = method.series || method.layered;
   return asked.words.method + ", " + (series ? CountOf(results.last.NSTOP, "term") + ", " : "") + time;
 }
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "session/info.h"
 #include "session/session_fixture.h"
 
 namespace lumivex {
@@ -303,6 +304,45 @@ TEST_F(LayeredSpheres, SpectraTakeTheIndicesOfEachWavelength) {
   ASSERT_TRUE(Shown().empty()) << LastText();
   EXPECT_EQ(Number("NumberWavelengths"), 7);
   EXPECT_TRUE(Holds(Parameters(), "Core: r1 = 7.5")) << Parameters();
+}
+
+TEST_F(LayeredSpheres, AStopIsSeenWhileTheCoefficientsAreFound) {
+  Do("set cboStep 1\nset txtRadius 2");
+  Profile("cboLayers=64");
+  const auto before = runner.Current().state.LastResults;
+  Do("dialog dlogInhomSphere ok cboLayers=4096\nset txtRadius 40\nstop-at 3\nclick mnuInhomSphere");
+  EXPECT_EQ(runner.Current().state.LastResults, before);
+  EXPECT_TRUE(Holds(StatusText(runner.Current()), "terms")) << StatusText(runner.Current());
+}
+
+TEST_F(LayeredSpheres, ADistributionOfCoresIsDrawnAsSuch) {
+  Coated("txtCoreRadius=4 txtMantleRadius=10 optFixedShell=1");
+  Do("set cboStep 5\nclick optDisp\nset cboSD 5\nclick cmdNewPlot");
+  ASSERT_TRUE(Drawn().histogram);
+  EXPECT_NEAR(Drawn().histogram->low, 3.62, 0.01);
+  EXPECT_NEAR(Drawn().histogram->high, 4.42, 0.01);
+  // Spheres that are smaller than their cores: the width is at fault.
+  Coated("txtCoreRadius=9.8 txtMantleRadius=10 optFixedCore=1");
+  Do("click cmdNewPlot");
+  EXPECT_EQ(LastText(), "The radius of the core must be less than the radius of the overall particle");
+  EXPECT_EQ(runner.Current().form1.cboSD.BackColour, colours::BadInput);
+}
+
+TEST_F(LayeredSpheres, ASizeParameterIsTakenAsItIsTyped) {
+  Coated("txtCoreRadius=4 txtMantleRadius=6");
+  Do("click mnuRadiusX\nset cboStep 5\nset txtRadius 50\nclick cmdNewPlot");
+  EXPECT_NEAR(Number("SizeParameter"), 50, 1e-13);
+  EXPECT_EQ(Get("txtRadius"), "50");
+}
+
+TEST_F(LayeredSpheres, LayersOfTheMediumsIndexScatterNothing) {
+  Do("set cboStep 5");
+  Profile("OptModLuneburg=1 txtF=0");
+  EXPECT_EQ(Number("Qsca"), 0);
+  EXPECT_EQ(Number("Gsca"), 0);
+  Coated("txtCoreRadius=4 txtMantleRadius=6 txtRIcore=1 txtRIshell=1");
+  Do("click cmdNewPlot");
+  EXPECT_EQ(Number("Qsca"), 0);
 }
 
 }  // namespace

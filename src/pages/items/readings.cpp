@@ -12,6 +12,7 @@
 #include "pages/curves/spectrum_graph.h"
 #include "record/number_text.h"
 #include "runs/curves.h"
+#include "runs/settings.h"
 #include "solvers/series/angular_sum.h"
 
 namespace lumivex {
@@ -102,7 +103,7 @@ void AddSpectrum(const Results& results, int done, Lines& lines) {
   const int count = light.Count();
   std::string words = std::to_string(count) + " wavelengths";
   if (done < count) words = std::to_string(done) + " of " + words;
-  if (const int sizes = SamplesOf(asked.sizes, asked.particle.radius).Count(); sizes > 1)
+  if (const int sizes = SamplesOf(asked.sizes, RadiusOfSizes(asked.particle)).Count(); sizes > 1)
     words += ", " + std::to_string(sizes) + " sizes";
   Add(lines, words);
   Add(lines, asked.words.light);

@@ -97,8 +97,7 @@ void ShowLayers(Session& session) {
 void TakeOuterRadius(Session& session) {
   const std::string& typed = session.form1.txtRadius.Text;
   const double size = SizePerRadius(session);
-  session.forms.dlogCoatedSphere.txtMantleRadius.Text =
-      size == 1 ? typed : Significant(Val(typed) / size, radiusDigits);
+  session.forms.dlogCoatedSphere.txtMantleRadius.Text = size == 1 ? typed : Shortest(Val(typed) / size);
   CoverNames(session, "Coating");
 }
 

@@ -17,13 +17,20 @@ void TellFailure(Session& session, SizeFailure failure) {
   session.platform.Message("Input error", WordsFor(failure));
 }
 
+/// The radius that the sizes lie about: of cores in a coating of one depth that of the core.
+double RadiusOfSizes(const Session& session) {
+  const auto& coated = session.forms.dlogCoatedSphere;
+  const bool ofCores = session.state.CalcMethod == Method::CoatedSphere && coated.optFixedShell.Checked;
+  return ofCores ? Val(coated.txtCoreRadius.Text) : SphereRadius(session);
+}
+
 }  // namespace
 
 void DistDisplay(Session& session, bool aloud) {
   if (!session.form1.optDisp.Checked) return;
   Disperse(session);
   const SizeDistribution sizes = ChosenSizes(session);
-  const double radius = SphereRadius(session);
+  const double radius = RadiusOfSizes(session);
   if (const SizeFailure failure = SamplesOf(sizes, radius).failure; failure != SizeFailure::None) {
     if (aloud) TellFailure(session, failure);
     return;
