@@ -142,8 +142,9 @@ std::string BeamWords(const Illumination& light) {
 /// What tells the series of a beam from others beside the beam itself: limits and sums that were typed.
 std::string BeamSumWords(const Illumination& light) {
   std::string words;
-  if (light.limits)
-    words = "Lmax = " + std::to_string(light.limits->Lmax) + ", Mmax = " + std::to_string(light.limits->Mmax);
+  const BeamLimits typed = light.limits.value_or(BeamLimits{0, 0});
+  if (typed.Lmax > 0) words = "Lmax = " + std::to_string(typed.Lmax);
+  if (typed.Mmax > 0) words += (words.empty() ? "Mmax = " : ", Mmax = ") + std::to_string(typed.Mmax);
   if (light.rule.closed) return words;
   return words + (words.empty() ? "" : ", ") + "sums to j = " + std::to_string(light.rule.Jmax) + " or " +
          Number(light.rule.error) + (light.rule.logarithms ? "" : " by factorials");

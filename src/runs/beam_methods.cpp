@@ -85,7 +85,9 @@ BeamNumbers NumbersOfBeam(const Illumination& light, double x, double radius) {
   numbers.limits.Mmax = BeamMmax(beam, numbers.limits.Lmax);
   if (light.kind == Illumination::Kind::TopHat)
     numbers.limits.Mmax = std::min(std::max(numbers.limits.Mmax, leastOrderOfDisc), numbers.limits.Lmax);
-  if (light.limits) numbers.limits = *light.limits;
+  if (light.limits && light.limits->Lmax > 0) numbers.limits.Lmax = light.limits->Lmax;
+  if (light.limits && light.limits->Mmax > 0) numbers.limits.Mmax = light.limits->Mmax;
+  numbers.limits.Mmax = std::min(numbers.limits.Mmax, numbers.limits.Lmax);
   return numbers;
 }
 

@@ -48,7 +48,7 @@ struct Illumination {
   bool oneBeam = false;
   bool pair = false;                 ///< a second beam at (-x0, -y0, z0)
   bool central = false;              ///< and one at (0, 0, z0)
-  std::optional<BeamLimits> limits;  ///< in place of those that follow from beam and sphere
+  std::optional<BeamLimits> limits;  ///< in place of those that follow from beam and sphere; 0 where these hold
   BeamSumRule rule;
 
   bool Plane() const { return kind == Kind::PlaneWave; }

@@ -144,7 +144,10 @@ RowRange DisplayedRows(const MainFormState& s) {
     const RowSpan shown = RowsWithin(std::span<const double>(axis->x), {s.PlotXmin, s.PlotXmax});
     return {std::max(all.first, static_cast<int>(shown.first)), std::min(all.last, static_cast<int>(shown.last))};
   }
-  const int first = ToWhole(s.PlotXmin / s.Xstep) + 1, last = ToWhole(s.PlotXmax / s.Xstep) + 1;
+  const AngleRows* rows = RowsOf(s.LastResults->asked.run);
+  const double origin = rows != nullptr ? rows->Origin() : 0;
+  const int first = ToWhole((s.PlotXmin - origin) / s.Xstep) + 1;
+  const int last = ToWhole((s.PlotXmax - origin) / s.Xstep) + 1;
   return {std::max(first, s.AngleLow), std::min({last, s.AngleHigh, stored})};
 }
 

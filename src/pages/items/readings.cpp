@@ -164,7 +164,8 @@ void AddBeam(const RunWords& words, const BeamNumbers& beam, Lines& lines) {
   Add(lines, "s = " + rounded(beam.s));
   Add(lines, "Length = " + rounded(beam.length));
   Add(lines, "Q = " + rounded(beam.Q.re) + " + i" + rounded(beam.Q.im));
-  if (beam.Jmax > 0) Add(lines, "jMax = " + std::to_string(beam.Jmax));
+  // Bessel functions are sums without an end: 0.
+  Add(lines, "jMax = " + std::to_string(beam.Jmax));
   constexpr int digits = 3;
   const std::initializer_list<std::pair<const char*, double>> times = {{"Modified Bessel functions: ", beam.functions},
                                                                        {"Beam shape coefficients: ", beam.shape},

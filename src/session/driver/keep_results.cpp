@@ -244,7 +244,9 @@ void KeepResults(Session& session, Results&& kept) {
   const Look look = ReadLook(session);
   FillCurveArrays(s, results, CurvesOf(results, {look.amplitude, look.invWavelength}), look.sun.rectangular);
   s.RunTitle = RunTitleOf(results);
-  s.RunLabel = session.form1.lblDebyeRays.Caption = MethodLabelOf(results);
+  s.RunLabel = MethodLabelOf(results);
+  // Under the list of methods there is room for the lines of a beam too.
+  session.form1.lblDebyeRays.Caption = results.asked.words.methodLabel;
 }
 
 }  // namespace lumivex

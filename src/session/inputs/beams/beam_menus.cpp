@@ -135,6 +135,7 @@ void ShowBeamEntries(Session& session) {
   const MethodTraits& method = TraitsOf(session.state.CalcMethod);
   const bool beam = InBeam(form) && method.beams, series = beam && method.series;
   form.mnuCentralBeam.Enabled = form.mnuMultBeams.Enabled = beam;
+  session.forms.dlogGaussianBeam.txtPhi.Enabled = session.forms.dlogGaussianBeam.chkLock.Checked;
   form.mnuMieGConv.Enabled = form.mnuMieGConv2.Enabled = series && form.mnuGaussian.Checked;
   if (!form.mnuMieGConv.Enabled || ChosenGraph(session.state).family != Family::Convergence)
     form.mnuMieGConv.Checked = form.mnuMieGConv2.Checked = false;

@@ -38,7 +38,7 @@ Illumination ReadBeam(const Session& session) {
   light.z0 = Val(dialog.txtBeamZF.Text);
   light.w0 = Val(dialog.txtBeamWo.Text);
   light.oneBeam = dialog.chkLock.Checked;
-  light.phi = Val(dialog.txtPhi.Text) * std::numbers::pi / 180;
+  light.phi = (dialog.chkLock.Checked ? Val(dialog.txtPhi.Text) : 90.0) * std::numbers::pi / 180;
   light.pair = form.mnuMultBeams.Checked;
   light.central = form.mnuCentralBeam.Checked;
   return light;
@@ -51,11 +51,13 @@ AngleRows RowsOfBeam(double xmin, double xmax, double step) {
   rows.xmax = xmax;
   rows.step = step;
   const int count = ToWhole(Int((xmax - xmin) / step + nearly)) + 1;
-  rows.origin = xmin;
-  rows.NANG = count / 2 + 1;
-  rows.firstPoint = 1;
-  rows.lastPoint = (xmax - xmin) / step + 1;
-  rows.window = {1, count};
+  // The neighbours that averages and the disc of the sun look at: a beam has them on both sides of any angle.
+  const int margin = ToWhole(Int(0.25 / step));
+  rows.origin = xmin - margin * step;
+  rows.NANG = (count + 2 * margin) / 2 + 1;
+  rows.firstPoint = margin + 1;
+  rows.lastPoint = (xmax - xmin) / step + 1 + margin;
+  rows.window = {1, count + 2 * margin};
   return rows;
 }
 
@@ -68,7 +70,10 @@ void TakeTypedLimits(const Session& session, RunRequest& request) {
   const auto& dialog = session.forms.dlogMmax;
   const int Lmax = TypedCount(dialog.txtLmax, 1, MaxSeriesTerms);
   const BeamLimits typed{Lmax, TypedCount(dialog.txtMmax, 1, Lmax)};
-  if (typed != numbers->limits) light.limits = typed;
+  // Of many spheres each has its own Lmax, unless just that was typed.
+  const BeamLimits changed{typed.Lmax != numbers->limits.Lmax ? typed.Lmax : 0,
+                           typed.Mmax != numbers->limits.Mmax ? typed.Mmax : 0};
+  if (changed != BeamLimits{0, 0}) light.limits = changed;
   const int Mmax1 = TypedCount(dialog.txtMmax1, 0, MaxSeriesTerms);
   light.rule = {TypedCount(dialog.txtJmax1, 0, mostJ), std::max(Val(dialog.txtError.Text), 0.0), true,
                 typed.Mmax >= Mmax1};
