@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <vector>
 
 #include "files/reports/save_text.h"
 #include "session/session_fixture.h"
@@ -308,6 +309,62 @@ TEST_F(Beams, WhatIsTooLargeIsToldAndNothingIsLost) {
   EXPECT_EQ(LastTitle(), "Error in MIE_Gaussian sub-routine");
   EXPECT_EQ(LastText(), "Reduce radius or increase wavelength");
   EXPECT_EQ(Last(), before);
+}
+
+TEST_F(Beams, TablesHaveTheRowsOnShow) {
+  Gaussian("txtBeamYF=0 txtBeamWo=5");
+  Do("set txtXmin 150\nset txtXmax 160\nset cboStep 1");
+  Plot();
+  output.str("");
+  Do("table");
+  EXPECT_TRUE(Holds(output.str(), "\n150,")) << output.str();
+  EXPECT_TRUE(Holds(output.str(), "\n160,")) << output.str();
+  Do("set txtXmin -180\nset txtXmax 180");
+  Plot();
+  Do("set txtXmin -30\nset txtXmax 30\nclick cmdReplot");
+  output.str("");
+  Do("amplitudes");
+  EXPECT_TRUE(Holds(output.str(), "\n-30,") && Holds(output.str(), "\n30,") && !Holds(output.str(), "\n-31,"));
+}
+
+TEST_F(Beams, UnderTheSunAWideBeamIsAPlaneWaveToItsEnds) {
+  Do("click optSun\nset txtXmin 20\nset txtXmax 30\nset cboStep 0.1");
+  Plot();
+  const std::vector<double> plane = Drawn().curves.back().y.All();
+  const std::vector<double> angles = Drawn().curves.back().x.All();
+  Gaussian("txtBeamYF=0 txtBeamWo=1e6");
+  Plot();
+  const PageCurve& wide = Drawn().curves.back();
+  for (std::size_t i = 1, j = 1; i < angles.size(); ++i) {
+    if (angles[i] < 20 - 1e-6 || angles[i] > 30 + 1e-6) continue;
+    while (j < wide.x.size() && !(wide.x[j] > angles[i] - 0.05)) ++j;
+    ASSERT_LT(j, wide.x.size());
+    EXPECT_NEAR(wide.y[j], plane[i], 1e-6 * plane[i]) << angles[i];
+  }
+}
+
+TEST_F(Beams, ATypedMmaxLeavesEachSphereItsLmax) {
+  Gaussian("txtBeamYF=0 txtBeamWo=50");
+  Do("choose cboGraph Intensity v. radius\nset txtAngle 40\nset txtXmin 10\nset txtXmax 20\nset cboStep 10");
+  Plot();
+  const std::vector<double> whole = Drawn().curves.back().y.All();
+  Do("click mnuHidden\ndialog dlogMmax ok txtMmax=6\nclick cmdNewPlot");
+  for (std::size_t i = 1; i < whole.size(); ++i) EXPECT_NEAR(Drawn().curves.back().y[i], whole[i], 1e-9 * whole[i]);
+}
+
+TEST_F(Beams, WarningsAndLimitsLookAtAllThatIsSwept) {
+  Gaussian("txtBeamYF=0 txtBeamWo=2");
+  Do("choose cboGraph Intensity v. radius\nset txtXmin 10\nset txtXmax 100\nset cboStep 10\n"
+     "dialog dlogGaussianBeam cancel\nclick cmdNewPlot");
+  EXPECT_EQ(Number("CommandAborted"), 1);
+  EXPECT_TRUE(Holds(OfBeam("lblWarning"), "Set w0 > 4.5486")) << OfBeam("lblWarning");
+  // A beam that meets nothing, and a sphere beyond all limits, are told at once.
+  Do("reset\nset cboStep 1");
+  Gaussian("txtBeamWo=5 txtBeamYF=-1000");
+  Do("click cmdNewPlot");
+  EXPECT_TRUE(Holds(LastText(), "does not reach the sphere")) << LastText();
+  Do("set txtRadius 25000\nclick cmdNewPlot");
+  EXPECT_EQ(LastTitle(), "Error in MIE_Gaussian sub-routine");
 }
 
 }  // namespace

@@ -180,6 +180,24 @@ TEST_F(Simulation, ThreeClicksFindTheCentreOfAnArc) {
   EXPECT_EQ(Number("ArcPointCount"), 0);
 }
 
+TEST_F(Simulation, MarksOutliveAnAngleThatIsStillToBeTyped) {
+  Do("click Form2.chkPreview\nchoose Form2.cboPoint Arc\nset Form2.txtSunElevation \"\"");
+  ClickPixel(500, 300);
+  ClickPixel(900, 200);
+  ClickPixel(1300, 300);
+  EXPECT_EQ(Number("ArcPointCount"), 3);
+  EXPECT_EQ(LastText(), "Input scattering angle");
+  Do("set Form2.txtSunElevation 139");
+  EXPECT_FALSE(Sim().lblArc.Caption.empty());
+}
+
+TEST_F(Simulation, TheLightEndsWithTheRun) {
+  Do("set cboWave 3\nset txtRadius 10\nset txtXmin 130\nset txtXmax 150\nset cboStep 0.1\nclick cmdNewPlot\nclick "
+     "cmdSimulation");
+  EXPECT_EQ(State().SimTableRows, 201);
+  EXPECT_NEAR(State().SimTableFirst, 130, 1e-9);
+}
+
 TEST_F(Simulation, OpensPhotographsAndSavesThemWithTheirNotes) {
   OfferPicture(600, 400, 35.04);
   std::string saved;

@@ -147,7 +147,8 @@ std::optional<GraphReading> ReadPhotograph(const Page& page, double surfaceX, do
   reading.y = y;
   reading.place = {surfaceX, surfaceY};
   const SightReading sight = ReadSight(photograph.sight, {x, y});
-  reading.text = "Pixel " + Shortest(x) + ", " + Shortest(y) + "      altitude " + Degrees(sight.altitude) +
+  // A rounded -0.2 keeps its sign.
+  reading.text = "Pixel " + Shortest(x + 0.0) + ", " + Shortest(y + 0.0) + "      altitude " + Degrees(sight.altitude) +
                  "   azimuth " + Degrees(sight.azimuth);
   if (sight.scattering) reading.text += "   scattering angle " + Degrees(*sight.scattering);
   if (!photograph.lightWords.empty()) reading.text += "      " + photograph.lightWords;

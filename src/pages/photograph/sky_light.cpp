@@ -35,16 +35,19 @@ int NearestColumn(const SampleAxis& radii, double radius) {
 
 }  // namespace
 
-std::optional<LightTable> LightOfBars(const Page& page, const ColourRules& rules) {
+std::optional<LightTable> LightOfBars(const Page& page, XRange range, const ColourRules& rules) {
   if (!page.bars || page.bars->last < page.bars->first) return std::nullopt;
   const PageBars& bars = *page.bars;
   const double factor = FactorOf(rules, bars.reference);
   LightTable table;
   table.step = bars.step;
   bool begun = false;
+  const double beyond = 1e-6 * bars.step;
   for (std::size_t row = bars.first; row <= bars.last && row < bars.angle.size(); ++row) {
-    // Rows at the ends that the disc of the sun reaches beyond are no numbers.
-    const bool known = std::isfinite(bars.angle[row]) && std::isfinite(bars.light[0].channels[0][row]);
+    // Rows at the ends that the disc of the sun reaches beyond are no numbers; those that it looks at beside the range
+    // are none of the run's.
+    const bool within = bars.angle[row] >= range.xmin - beyond && bars.angle[row] <= range.xmax + beyond;
+    const bool known = within && std::isfinite(bars.light[0].channels[0][row]);
     if (!known && !begun) continue;
     if (!known) break;
     if (!begun) table.first = bars.angle[row];

@@ -5,7 +5,7 @@
 #include "pages/photograph/sky_light.h"
 #include "record/features.h"
 #include "record/number_text.h"
-#include "runs/results.h"
+#include "runs/curves.h"
 #include "session/checks/number_input.h"
 #include "session/driver/lock.h"
 #include "session/inputs/look/read_look.h"
@@ -85,7 +85,9 @@ void Simulate(Session& session) {
 void StoreLight(Session& session) {
   auto& s = session.state;
   auto& simulation = session.simulation;
-  auto light = LightOfBars(session.page, ReadLook(session).colours.rules);
+  const AngleRows* rows = s.LastResults ? RowsOf(s.LastResults->asked.run) : nullptr;
+  if (rows == nullptr) return;
+  auto light = LightOfBars(session.page, {rows->xmin, rows->xmax}, ReadLook(session).colours.rules);
   if (!light) return;
   simulation.stored = simulation.light = std::make_shared<const LightTable>(std::move(*light));
   simulation.lightWords.clear();

@@ -63,6 +63,19 @@ bool ReadPose(Session& session, Sight& sight, double elevation, Telling telling)
   return true;
 }
 
+std::array<Direction, 3> MarksOf(const Session& session, const Camera& camera) {
+  std::array<Direction, 3> marked;
+  for (std::size_t i = 0; i < marked.size(); ++i)
+    marked[i] = DirectionOf(camera, {session.state.ArcX[i], session.state.ArcY[i]});
+  return marked;
+}
+
+Camera CameraOf(const Session& session) {
+  const auto& s = session.state;
+  return {ToWhole(2 * s.HalfWidth), ToWhole(2 * s.HalfHeight), s.ImageFocal,
+          static_cast<Mapping>(PlaceIn(session.forms.form2.cboMapping))};
+}
+
 bool ReadArc(Session& session, Sight& sight, double scattering, Telling telling) {
   const auto& s = session.state;
   auto& form = session.forms.form2;
@@ -71,12 +84,9 @@ bool ReadArc(Session& session, Sight& sight, double scattering, Telling telling)
     if (telling == Telling::Aloud) session.platform.Message("Analyse", "Mark three points on the arc first");
     return false;
   }
-  std::array<Direction, 3> marked;
-  for (std::size_t i = 0; i < marked.size(); ++i) marked[i] = DirectionOf(sight.camera, {s.ArcX[i], s.ArcY[i]});
-  const auto arc = FitArc(marked, std::numbers::pi - scattering);
+  const auto arc = FitArc(MarksOf(session, sight.camera), std::numbers::pi - scattering);
   if (!arc) {
-    if (telling == Telling::Aloud)
-      session.platform.Message("Analyse", "The three points lie on one line: there is no arc through them");
+    if (telling == Telling::Aloud) session.platform.Message("Analyse", onOneLine);
     return false;
   }
   sight.source = {arc->centre, true};
@@ -118,6 +128,14 @@ bool ScaleCalc(Session& session, Telling telling) {
   auto& s = session.state;
   auto& box = session.forms.form2.cboScale;
   const double f = Val(box.Text);
+  constexpr double shortest = 1e-3, longest = 1e6;
+  if (f > 0 && !(f >= shortest && f <= longest)) {
+    if (telling == Telling::Aloud) {
+      box.BackColour = colours::BadInput;
+      session.platform.Message("Input error", "Values must be in the range 0.001 - 1000000");
+    }
+    return false;
+  }
   if (!(f > 0)) {
     if (telling == Telling::Aloud) {
       box.BackColour = colours::BadInput;
@@ -144,12 +162,15 @@ bool QuadSelect(Session& session) {
   return east || west;
 }
 
+bool MarksOnOneLine(const Session& session) {
+  // Any radius will do: three points that are not on one line have a circle of each.
+  return session.state.ArcPointCount == 3 && !FitArc(MarksOf(session, CameraOf(session)), std::numbers::pi / 4);
+}
+
 std::optional<Sight> ReadSight(Session& session, Telling telling) {
   auto& form = session.forms.form2;
-  const auto& s = session.state;
   Sight sight;
-  sight.camera = {ToWhole(2 * s.HalfWidth), ToWhole(2 * s.HalfHeight), s.ImageFocal,
-                  static_cast<Mapping>(PlaceIn(form.cboMapping))};
+  sight.camera = CameraOf(session);
   const PointKind kind = ChosenPoint(form);
   const bool arc = kind == PointKind::Arc;
   const auto angle = NumberOf(session, form.txtSunElevation, arc ? 0 : -90, arc ? 180 : 90, telling);

@@ -26,6 +26,10 @@ bool QuadSelect(Session& session);
 /// input that is no number, an arc that is not marked, or marks on one line.
 std::optional<Sight> ReadSight(Session& session, Telling telling);
 
+/// Whether the three marks of an arc have no circle through them, and the words for it.
+bool MarksOnOneLine(const Session& session);
+inline constexpr const char* onOneLine = "The three points lie on one line: there is no arc through them";
+
 /// All that a painting needs, with the colours of Simulation's light by the rules of the Colour menu.
 std::optional<SkyPainting> ReadPainting(Session& session, Telling telling);
 

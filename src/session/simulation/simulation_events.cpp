@@ -111,6 +111,9 @@ void Form2_mnuCopyPicture_Click(Session& session) {
 
 void mnuLandscape_Click(Session& session) {
   SimulationWindow(session);
+  // It is drawn for this one.
+  session.forms.form2.cboScale.Text = "28";
+  session.forms.form2.cboScale.BackColour = colours::White;
   TakeDefaultLandscape(session);
   ShowSimulation(session);
 }
@@ -141,8 +144,11 @@ void MarkArc(Session& session, const PicturePoint& at) {
   if (s.ArcPointCount == 2) session.platform.Message("Third point", markPoint);
   if (s.ArcPointCount < 3) return;
   session.platform.Message("Input scattering angle", "Input scattering angle");
-  // Marks on one line are told; they can be made anew.
-  if (!ReadSight(session, Telling::Aloud)) s.ArcPointCount = 0;
+  // Marks on one line are told; they can be made anew. The angle that is asked for may be typed after them.
+  if (ScaleCalc(session) && MarksOnOneLine(session)) {
+    s.ArcPointCount = 0;
+    session.platform.Message("Analyse", onOneLine);
+  }
   ShowSimulation(session);
 }
 
