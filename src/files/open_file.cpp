@@ -20,7 +20,7 @@ bool OpenFile(Session& session, const std::string& path) {
     return TakesDroppedFile(path);
   }
   RememberInputs(session, "");
-  const bool read = batch || ReadResultsFile(session, path, Onto::FreshPage);
+  const bool read = batch ? IsBatchFile(path) : ReadResultsFile(session, path, Onto::FreshPage);
   if (batch) RunBatch(session, {path, std::nullopt, true});
   if (read) NoteFile(session, batch ? FileKind::Batch : FileKind::Results, path);
   OfferHistory(session);

@@ -149,7 +149,10 @@ struct ScriptCommands {
   static void SaveResults(ScriptRunner& run, std::string_view rest) {
     const std::string path = PathIn(rest);
     if (path.empty()) throw Failure{"save-results needs the name of a file"};
-    if (const std::string failure = Save_Data(run.Current(), path); !failure.empty()) throw Failure{failure};
+    std::string nothing;
+    const std::string text = ResultsText(run.Current(), nothing);
+    if (!nothing.empty()) throw Failure{nothing};
+    run.Write(path, text);
   }
 
   static void Get(ScriptRunner& run, std::string_view rest) {
@@ -228,9 +231,7 @@ struct ScriptCommands {
     if (run.chosen_->page.photograph) {
       const std::string file = PathIn(rest);
       if (file.empty()) throw Failure{"picture needs the name of a file"};
-      const std::string fault = run.platform_.SavePhotograph(run.chosen_->page, run.Current().simulation.notes, file);
-      if (!fault.empty()) throw Failure{fault};
-      return;
+      return run.Written(run.platform_.SavePhotograph(run.chosen_->page, run.Current().simulation.notes, file));
     }
     PixelSize size;
     const auto last = rest.find_last_of(" \t");
@@ -240,17 +241,14 @@ struct ScriptCommands {
     }
     const std::string path = PathIn(rest);
     if (path.empty()) throw Failure{"picture needs the name of a file"};
-    if (const std::string failure = run.window_.picture(*run.chosen_->form, path, size.width, size.height);
-        !failure.empty())
-      throw Failure{failure};
+    run.Written(run.window_.picture(*run.chosen_->form, path, size.width, size.height));
   }
 
   static void Screenshot(ScriptRunner& run, std::string_view rest) {
     if (!run.window_.screenshot) throw Failure{"screenshots need a window: lumivex --script"};
     const std::string path = PathIn(rest);
     if (path.empty()) throw Failure{"screenshot needs the name of a file"};
-    if (const std::string failure = run.window_.screenshot(*run.chosen_->form, path); !failure.empty())
-      throw Failure{failure};
+    run.Written(run.window_.screenshot(*run.chosen_->form, path));
   }
 };
 
@@ -324,11 +322,15 @@ void ScriptRunner::WatchForStop() {
   Current().events.Raise("cmdStop_Click");
 }
 
+void ScriptRunner::Written(const std::string& failure) {
+  if (!failure.empty()) throw Failure{failure, outputLost};
+}
+
 void ScriptRunner::Write(const std::string& path, const std::string& content) {
   if (path.empty()) {
     output_ << content;
-  } else if (const std::string failure = WriteWholeFile(path, content); !failure.empty()) {
-    throw Failure{failure};
+  } else {
+    Written(WriteWholeFile(path, content));
   }
 }
 
@@ -351,7 +353,7 @@ int ScriptRunner::Run(std::istream& script) {
     } catch (const Failure& failure) {
       output_.flush();
       errors_ << "line " << number << ": " << failure.what << std::endl;
-      return scriptError;
+      return failure.code;
     }
   }
   output_.flush();

@@ -31,7 +31,7 @@ struct ScriptWindow {
 class ScriptRunner {
  public:
   /// Exit codes.
-  static constexpr int ok = 0, scriptError = 2;
+  static constexpr int ok = 0, outputLost = 1, scriptError = 2;
 
   /// @param output  where get, table, array and the rest write.
   /// @param errors  where messages and script errors go.
@@ -46,13 +46,17 @@ class ScriptRunner {
 
   /// Opens the session: Form_Load, first plot and all.
   void Start();
-  /// Runs the lines; at the first error writes the line's number and what was wrong and returns scriptError.
+  /// Runs the lines; at the first error writes the line's number and what was wrong and returns scriptError, or
+  /// outputLost where a file could not be written.
   int Run(std::istream& script);
 
  private:
   struct Failure {
     std::string what;
+    int code = scriptError;
   };
+  /// Throws a failure to write, where there is one.
+  static void Written(const std::string& failure);
   friend struct ScriptCommands;
 
   void Execute(const std::string& line);

@@ -5,6 +5,7 @@
 #include "session/inputs/graph_types.h"
 #include "session/inputs/input_events.h"
 #include "session/inputs/look/look_menus.h"
+#include "session/inputs/methods/rays_check.h"
 #include "session/page.h"
 
 namespace lumivex {
@@ -31,6 +32,14 @@ void RestoreSettings(MainFormState& s, const DialogSettings& settings) {
   s.MapReferenceKind = static_cast<MapValues>(settings.mapReferenceKind);
   s.Sellmeier = settings.sellmeier;
   s.Layers = settings.layers;
+}
+
+/// What a cancelled dialog puts back, and what the selection of rays comes to, are those of the lists as they stand.
+void FollowLists(Session& session) {
+  auto& s = session.state;
+  s.KeptRays = session.form1.cboRays.Text;
+  s.DistribInUse = session.form1.cboDistrib.Text;
+  if (SelectsRays(s.CalcMethod)) RaysCheck(session);
 }
 
 /// Replot draws the last results: it is there again once the inputs are those for which it was.
@@ -126,6 +135,7 @@ void RestoreInputs(Session& session, const InputState& state) {
   s.SphereName = state.sphereName;
   s.MediumName = state.mediumName;
   RestoreSettings(s, state.settings);
+  FollowLists(session);
   ShowFamilyInputs(session);
   std::size_t i = 0;
   ForEachCaption(session.form1, [&](Control&, std::string& caption) {

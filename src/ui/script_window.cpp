@@ -14,8 +14,6 @@ namespace lumivex {
 
 namespace {
 
-constexpr int lostOutput = 1;
-
 ScriptWindow FunctionsOf(MainWindow& window) {
   ScriptWindow functions;
   functions.picture = [&window](Form&, std::string_view file, int widthPx, int heightPx) {
@@ -64,7 +62,7 @@ int RunScript(const std::string& path) {
   const int result = runner.Run(fromInput ? std::cin : file);
   window.hide();
   const bool written = OutputWasWritten(std::cout, std::cerr, "lumivex");
-  return written || result != ScriptRunner::ok ? result : lostOutput;
+  return written || result != ScriptRunner::ok ? result : ScriptRunner::outputLost;
 }
 
 }  // namespace lumivex

@@ -106,6 +106,16 @@ TEST_F(ResultsFiles, RaysThatAFileDoesNotTellStayAsTheyAreTicked) {
   }
 }
 
+// Nobody could tell afterwards of which rays the curves are.
+TEST_F(ResultsFiles, NoneOfSeveralRaysIsRefusedWhereAFileTellsThem) {
+  Write("none.lvx", OldFile{3201, "Intensity v. scattering angle", "Debye", {"Multiple", " 0 "}}.Text());
+  EXPECT_NE(Refused("none.lvx").find("No rays selected"), std::string::npos);
+  Write("old.lvx", OldFile{3102, "Intensity v. scattering angle", "Debye", {"Multiple"}}.Text());
+  Load("old.lvx");
+  std::istringstream script("save-results " + Path("again.lvx"));
+  EXPECT_EQ(runner.Run(script), ScriptRunner::scriptError) << "it could not be read";
+}
+
 TEST_F(ResultsFiles, SelectedRaysAreReadSinceTheyWereWritten) {
   Write("rays.lvx", OldFile{4400, "Intensity v. scattering angle", "Debye", {" 2 ", " 0 ", " 3 "}}.Text());
   Load("rays.lvx");
@@ -113,6 +123,22 @@ TEST_F(ResultsFiles, SelectedRaysAreReadSinceTheyWereWritten) {
   Write("step.lvx", OldFile{4400, "Intensity v. scattering angle", "Debye", {"Step", "1", "2", "5"}}.Text());
   Load("step.lvx");
   EXPECT_EQ(runner.Current().state.LastResults->asked.words.rays, "1, 3, 5");
+}
+
+// In a fresh session the step of another graph stood there, with which no run could be asked for.
+TEST_F(ResultsFiles, WhatChoosingTheGraphSetsIsSetWhereTheLayoutDoesNotTellIt) {
+  Do("choose cboGraph Scattered power v. radius\nset txtXmin 1\nset txtXmax 5\nset cboStep 0.2\nclick cmdNewPlot");
+  Save("whole.lvx");
+  const std::string whole = Content("whole.lvx"), drawn = Drawn();
+  Write("lines.lvx", whole.substr(0, whole.find("Lumivex: every input")));
+  Do("reset\nset txtRefractMedium 1.1");
+  Load("lines.lvx");
+  EXPECT_TRUE(Shown().empty()) << LastText();
+  EXPECT_EQ(Get("txtF9_step"), "0.1");
+  EXPECT_EQ(Get("cboPol"), "All 3");
+  EXPECT_EQ(Get("mnuRI_Vacuum2"), "true") << "it is in the file";
+  EXPECT_EQ(Get("txtXmax"), "5");
+  EXPECT_EQ(Drawn(), drawn);
 }
 
 TEST_F(ResultsFiles, TheLayoutAloneBringsTheCurves) {

@@ -223,6 +223,13 @@ TEST_F(ReadBatch, AFileThatIsNamedAtTheStartIsOpenedAsItsKindWantsIt) {
   EXPECT_EQ(Blocks("other.mut"), 1);
   EXPECT_EQ(runner.World().suggestedName, Path("job.txt.mut"));
   EXPECT_EQ(runner.Current().settings.recent.front().kind, FileKind::Batch);
+  // What was never read is none of the recent files.
+  Put("letter.min", "Dear all\n");
+  for (const char* name : {"missing.min", "letter.min"}) {
+    EXPECT_FALSE(OpenFile(runner.Current(), Path(name)));
+    Do("open " + Path(name) + "\nclick mnuBatchFile");
+    EXPECT_EQ(runner.Current().form1.recentEntries.list[0].Caption, "job.txt   (batch)");
+  }
   Put("spray.dis", "Lumivex 300\n");
   OpenFile(runner.Current(), Path("spray.dis"));
   EXPECT_FALSE(Shown().empty()) << "it was read as a size distribution";

@@ -13,10 +13,10 @@ namespace {
 class Script : public ScriptedSession {
  protected:
   /// Runs lines that must fail, and returns what was said.
-  std::string Fail(const std::string& lines) {
+  std::string Fail(const std::string& lines, int code = ScriptRunner::scriptError) {
     errors.str("");
     std::istringstream script(lines);
-    EXPECT_EQ(runner.Run(script), ScriptRunner::scriptError) << lines;
+    EXPECT_EQ(runner.Run(script), code) << lines;
     return errors.str();
   }
 };
@@ -36,7 +36,10 @@ TEST_F(Script, ErrorsTellTheLine) {
   EXPECT_NE(Fail("size wide").find("WIDTHxHEIGHT"), std::string::npos);
   EXPECT_NE(Fail("size 1e9x1").find("WIDTHxHEIGHT"), std::string::npos);
   EXPECT_NE(Fail("picture x.png").find("window"), std::string::npos);
-  EXPECT_NE(Fail("table /nowhere/at/all.csv").find("could not be written"), std::string::npos);
+  EXPECT_NE(Fail("save-results").find("the name of a file"), std::string::npos);
+  for (const char* line : {"table /nowhere/at/all.csv", "amplitudes /dev/full", "array Iperp /dev/full",
+                           "drawing /dev/full", "save-results /dev/full"})
+    EXPECT_FALSE(Fail(line, ScriptRunner::outputLost).empty());
 }
 
 TEST_F(Script, AWindowIsChosenByItsForm) {

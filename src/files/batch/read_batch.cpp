@@ -266,7 +266,7 @@ BatchEntries EntriesOfBatch(const std::string& file) {
 void Read_Batch(Session& session) {
   const auto file = cmdSelectOpen_Click(session, "*.min", "Lumivex batch file(*.min)", "Select a batch file");
   if (!file) return;
-  NoteFile(session, FileKind::Batch, *file);
+  if (IsBatchFile(*file)) NoteFile(session, FileKind::Batch, *file);
   RunBatch(session, {*file, std::nullopt, true});
 }
 

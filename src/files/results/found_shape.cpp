@@ -171,11 +171,24 @@ struct Possible {
   bool operator()(const VolumeFound& found) const { return None({&found.alonePerp, &found.alonePar}); }
 };
 
+/// Signs tell gain from loss in the absorption, and forward from backward in g; the rest of a sphere has none.
+bool HasNoneBelow0(const Results& results, bool byTerms) {
+  const LastSphere& last = results.last;
+  const double never[] = {last.radius,          last.sizeParameter,      last.waveNumber,
+                          last.indices.sphereN, last.indices.medium,     last.core.n,
+                          last.relativeRe,      last.efficiencies.Qback, results.seconds};
+  const auto below0 = [](double value) { return value < 0; };
+  // Of a beam that misses the sphere rounding leaves an extinction of either sign.
+  const bool wholes = !below0(last.efficiencies.Qsca) && (last.beam || !below0(last.efficiencies.Qext));
+  return std::ranges::none_of(never, below0) && (byTerms || wholes);
+}
+
 bool IsSphere(const LastSphere& last) {
   const bool beam = !last.beam || (last.beam->limits.Lmax >= 1 && last.beam->limits.Lmax <= MaxSeriesTerms &&
                                    last.beam->limits.Mmax >= 0 && last.beam->limits.Mmax <= last.beam->limits.Lmax);
   return beam && last.lambda > 0 && last.NANG >= 1 && last.NANG <= 1'000'000 && last.NSTOP >= 0 && last.NMX >= 0 &&
-         last.selectedRow >= 1 && last.selectedRow <= 2 * last.NANG - 1 && last.samples >= 0;
+         last.partialWaveFirst >= 0 && last.partialWaveLast >= 0 && last.selectedRow >= 1 &&
+         last.selectedRow <= 2 * last.NANG - 1 && last.samples >= 0;
 }
 
 }  // namespace
@@ -184,7 +197,7 @@ std::string MisfitOf(const Results& results) {
   if (!IsSphere(results.last)) return "The sphere of the file cannot be one";
   if (!std::visit(Fits{results}, results.found)) return "The numbers of the file are not as many as its inputs ask for";
   const bool byTerms = results.asked.method.method == Method::Debye;
-  if ((results.last.efficiencies.Qsca < 0 && !byTerms) || !std::visit(Possible{results}, results.found))
+  if (!HasNoneBelow0(results, byTerms) || !std::visit(Possible{results}, results.found))
     return "The file holds values below 0 where none can be";
   return {};
 }

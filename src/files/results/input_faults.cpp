@@ -1,8 +1,11 @@
 #include "files/results/input_faults.h"
 
+#include <algorithm>
 #include <map>
 #include <string_view>
+#include <vector>
 
+#include "files/results/input_sheet.h"
 #include "materials/files/readable_text.h"
 #include "record/catalogue/graph_texts.h"
 #include "record/catalogue/method_texts.h"
@@ -10,6 +13,8 @@
 #include "session/inputs/beams/read_beam.h"
 #include "session/inputs/dialog_use.h"
 #include "session/inputs/methods.h"
+#include "session/inputs/methods/sphere_size.h"
+#include "session/inputs/sizes/read_sizes.h"
 #include "session/undo.h"
 
 namespace lumivex {
@@ -40,6 +45,22 @@ std::string FaultOfChoices(Session& sheet) {
   return {};
 }
 
+/// Menus of which one entry is ticked, always.
+std::string FaultOfMenus(Session& sheet) {
+  Form1& form = sheet.form1;
+  const std::pair<std::string_view, std::vector<MenuEntry*>> menus[] = {
+      {"the materials of the sphere", SphereSources(form)},
+      {"the materials of the medium", MediumSources(form)},
+      {"the spectra", LightSources(form)},
+      {"radius, diameter and size parameter", SizeMeasures(form)},
+      {"the kinds of illumination", {&form.mnuPlaneWave, &form.mnuGaussian, &form.mnuTopHat}},
+  };
+  for (const auto& [name, entries] : menus)
+    if (std::ranges::count_if(entries, [](const MenuEntry* entry) { return entry->Checked; }) != 1)
+      return "one of " + std::string(name) + " should be chosen";
+  return {};
+}
+
 /// What the dialogs of materials would not take.
 std::string FaultOfMaterials(Session& sheet) {
   const auto& f = sheet.forms;
@@ -58,11 +79,21 @@ std::string FaultOfMaterials(Session& sheet) {
   return {};
 }
 
-/// A light that menus cannot tick.
-std::string FaultOfLight(Session& sheet) {
-  const auto& form = sheet.form1;
-  const int ticked = int{form.mnuPlaneWave.Checked} + int{form.mnuGaussian.Checked} + int{form.mnuTopHat.Checked};
-  return ticked == 1 ? "" : "one kind of illumination should be ticked";
+/// A mode that no run could take, where the run has modes.
+std::string FaultOfSizes(Session& sheet) {
+  const Form1& form = sheet.form1;
+  if (!form.optDisp.Checked || form.cboDistrib.Text != "Multimodal") return {};
+  const auto& d = sheet.forms.dlogMultiModal;
+  const std::pair<bool, std::vector<const TextInput*>> modes[] = {
+      {true, {&d.txtMedian1, &d.txtSpread1, &d.txtFraction1}},
+      {d.chkMode2.Checked, {&d.txtMedian2, &d.txtSpread2, &d.txtFraction2}},
+      {d.chkMode3.Checked, {&d.txtMedian3, &d.txtSpread3, &d.txtFraction3}},
+  };
+  for (const auto& [used, fields] : modes)
+    for (const TextInput* field : fields)
+      if (used && !IsNumber(field->Text)) return "\"" + d.Caption + "\" has a value that it does not take";
+  const SizeFailure failure = SamplesOf(ChosenSizes(sheet), RadiusInUse(sheet)).failure;
+  return failure == SizeFailure::None ? std::string() : WordsFor(failure);
 }
 
 /// A dialog whose fields the run reads, and the event that marks those that it would not take.
@@ -109,7 +140,7 @@ std::string FaultOfDialogs(Session& sheet) {
 }  // namespace
 
 std::string FaultOfInputs(Session& sheet) {
-  for (const auto rule : {FaultOfChoices, FaultOfMaterials, FaultOfLight, FaultOfDialogs})
+  for (const auto rule : {FaultOfChoices, FaultOfMenus, FaultOfMaterials, FaultOfSizes, FaultOfDialogs})
     if (std::string fault = rule(sheet); !fault.empty()) return fault;
   return {};
 }

@@ -1,8 +1,12 @@
 #include "files/results/input_sheet.h"
 
+#include <algorithm>
+#include <initializer_list>
+
 #include "files/results/input_faults.h"
 #include "record/number_text.h"
 #include "session/driver/commands.h"
+#include "session/inputs/map_inputs.h"
 #include "session/undo.h"
 
 namespace lumivex {
@@ -44,6 +48,16 @@ void RaiseTicked(Session& session, const std::vector<MenuEntry*>& entries) {
     }
 }
 
+/// Inputs whose values choosing a graph leaves, or brings back from the start: of a file they are another item's.
+bool OfSphereOrMethod(Form1& form, const Control& control) {
+  const std::initializer_list<const Control*> others = {&form.cboType,          &form.cboRays,
+                                                        &form.txtRefractReal,   &form.txtRefractImag,
+                                                        &form.txtRefractMedium, &form.mnuKeepParameters};
+  const auto isThat = [&](const Control* each) { return each == &control; };
+  return std::ranges::any_of(others, isThat) || std::ranges::any_of(SphereSources(form), isThat) ||
+         std::ranges::any_of(MediumSources(form), isThat);
+}
+
 }  // namespace
 
 std::vector<MenuEntry*> SphereSources(Form1& f) {
@@ -60,6 +74,33 @@ std::vector<MenuEntry*> MediumSources(Form1& f) {
 std::vector<MenuEntry*> LightSources(Form1& f) {
   return {&f.mnuSpectrumLee,  &f.mnuSpectrumWernand, &f.mnuSpectrumWernand2,
           &f.mnuSpectrumFlat, &f.mnuBlackBody,       &f.mnuSpectrumFile};
+}
+
+std::vector<MenuEntry*> SizeMeasures(Form1& f) {
+  return {&f.mnuRadius, &f.mnuDiameter, &f.mnuRadiusX};
+}
+
+void KeepNames(Session& session) {
+  auto& s = session.state;
+  s.KeptSphereLabel = session.form1.lblSphere.Caption;
+  s.KeptSphereName = s.SphereName;
+  s.KeptMediumLabel = session.form1.lblRI_Medium.Caption;
+}
+
+void BeginWithGraph(Session& sheet, GraphCode code) {
+  Form1& form = sheet.form1;
+  if (ChosenGraph(sheet.state).code == code) return;
+  InputState kept = PresentInputs(sheet);
+  const MaterialState materials = sheet.state;
+  form.mnuKeepParameters.Checked = false;
+  sheet.events.Raise("cboGraph_Click");
+  const FormSnapshot chosen = form.Snapshot();
+  FormSnapshot& inputs = kept.forms.front();
+  for (std::size_t i = 0; i < inputs.size(); ++i)
+    if (!OfSphereOrMethod(form, *form.Find(inputs[i].first))) inputs[i].second = chosen[i].second;
+  kept.graph = code;
+  RestoreInputs(sheet, kept);
+  static_cast<MaterialState&>(sheet.state) = materials;
 }
 
 void TickAlone(const std::vector<MenuEntry*>& entries, const MenuEntry& ticked) {
@@ -117,6 +158,7 @@ void InputSheet::Settle() {
     RaiseTicked(sheet, sources);
     restore();
   }
+  KeepNames(sheet);
   raise("mnuSpectrumBand_Click");
 }
 
@@ -129,6 +171,17 @@ std::string InputSheet::Fault() {
   return platform_.told.empty() ? "an input that is marked as bad" : platform_.told.front();
 }
 
+std::string InputSheet::FaultOfShown(const InputState& shown) {
+  Session& sheet = Inputs();
+  const Form1& form = sheet.form1;
+  const std::string graph = form.cboGraph.Text, method = form.cboType.Text;
+  const bool noSize = Val(form.txtRadius.Text) < 0;
+  RestoreInputs(sheet, shown);
+  if (form.cboGraph.Text != graph || form.cboType.Text != method) return "the page is of another graph or method";
+  if (Val(form.txtRadius.Text) < 0 && !noSize) return "the size lies below 0";
+  return FaultOfInputs(sheet);
+}
+
 void InputSheet::PutInto(Session& session) {
   Session& sheet = Inputs();
   for (const Number& number : numbers_)
@@ -137,9 +190,15 @@ void InputSheet::PutInto(Session& session) {
   static_cast<LightState&>(session.state) = sheet.state;
   static_cast<SizeState&>(session.state) = sheet.state;
   session.state.DiffractionVariant = sheet.state.DiffractionVariant;
+  session.state.KeptSphereLabel = sheet.state.KeptSphereLabel;
+  session.state.KeptSphereName = sheet.state.KeptSphereName;
+  session.state.KeptMediumLabel = sheet.state.KeptMediumLabel;
+  session.state.KeptAngle = sheet.state.KeptAngle;
+  session.state.KeptRadius = sheet.state.KeptRadius;
   const auto from = sheet.forms.All(), to = session.forms.All();
   for (std::size_t i = 0; i < from.size(); ++i) CopyLooks(*from[i], *to[i]);
   RestoreInputs(session, PresentInputs(sheet));
+  FollowMapColours(session);
 }
 
 }  // namespace lumivex

@@ -57,7 +57,7 @@ void WalkGraph(LayoutWalk& walk) {
   name = PresentName(name);
   if (const GraphRow* row = FindGraph(name)) {
     list.Text = name;
-    SetGraph(walk.sheet.state, row->code);
+    BeginWithGraph(walk.sheet, row->code);
     return;
   }
   const auto known = [&](const GraphRow& row) { return row.text == name; };
@@ -112,7 +112,7 @@ void WalkSize(LayoutWalk& walk) {
     lines.Text(form.txtAngle.Text);
     return;
   }
-  const std::vector<MenuEntry*> measures = {&form.mnuRadius, &form.mnuDiameter, &form.mnuRadiusX};
+  const std::vector<MenuEntry*> measures = SizeMeasures(form);
   if (lines.Word("Diameter", form.mnuDiameter.Checked))
     TickAlone(measures, form.mnuDiameter);
   else if (!lines.Word("Radius", true))

@@ -78,9 +78,7 @@ void WalkSizes(LayoutWalk& walk) {
 }
 
 void WalkRays(LayoutWalk& walk) {
-  const Method method = walk.sheet.state.CalcMethod;
-  const bool takesRays = method == Method::Debye || static_cast<int>(method) > 4;
-  if (!takesRays || walk.Form().cboRays.Text != "Multiple") return;
+  if (!SelectsRays(walk.sheet.state.CalcMethod) || walk.Form().cboRays.Text != "Multiple") return;
   FileLines& lines = walk.lines;
   auto& d = walk.sheet.forms.dlogP;
   if (lines.Word("Step", d.chkMultStep.Checked)) {

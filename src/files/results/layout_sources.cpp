@@ -123,6 +123,7 @@ void NameMaterials(Session& sheet, const std::string& sphereName, const std::str
   if (!medium.empty()) form.lblRI_Medium.Caption = "Medium: " + medium;
   if (!sphere.empty() || IsNamed(sphereName)) s.SphereName = sphere.empty() ? sphereName : sphere;
   if (!medium.empty() || IsNamed(mediumName)) s.MediumName = medium.empty() ? mediumName : medium;
+  KeepNames(sheet);
   const Graph& graph = ChosenGraph(s);
   if (graph.VariesIndex()) {
     form.lblSphere.Caption = "Sphere: Variable refractive index";

@@ -15,11 +15,13 @@
 #include "materials/files/readable_text.h"
 #include "record/number_text.h"
 #include "runs/curves.h"
+#include "session/checks/range_check.h"
 #include "session/driver/commands.h"
 #include "session/driver/read_run.h"
 #include "session/info.h"
 #include "session/inputs/dialog_use.h"
 #include "session/inputs/map_inputs.h"
+#include "session/inputs/methods/rays_check.h"
 #include "session/recent_files.h"
 #include "session/undo.h"
 
@@ -96,6 +98,47 @@ void CheckTables(const LoadedFile& file) {
   if (form.optDisp.Checked && form.cboDistrib.Text == "Special" && s.SizeFileLoaded == 0) miss("a table of sizes");
 }
 
+/// The run, of which the file need not be all.
+void ReadFound(ReadLines& lines, LoadedFile& file) {
+  const RunRequest& request = file.results.asked;
+  if (file.whole) {
+    if (request.graph.IsMap() && request.graph.family != Family::Lee) file.results.found = std::move(file.rows.cells);
+    WalkFound(lines, file.results);
+    file.hasResults = true;
+  } else {
+    file.hasResults = FillFromRows(file.rows, file.results);
+  }
+  if (file.version == newestFile) lines.End();
+}
+
+/// Several rays of which none is selected. Files that cannot tell which they were are of those selected now, and the
+/// lines before our block do not tell of diffraction, which may have stood there alone.
+std::string NoRaysTold(const LoadedFile& file) {
+  const Session& sheet = file.sheet->Inputs();
+  const bool tells = Stands(FileItem::Rays, file.version) && (file.whole || !OffersDiffraction(sheet));
+  return tells && LacksRays(sheet) ? "No rays selected" : "";
+}
+
+[[noreturn]] void RefuseInputs(const std::string& fault) {
+  throw BadFile{"The inputs of the file cannot be run:\n" + fault};
+}
+
+/// Inputs as they stood on the screen: those of the results, with the look of the page.
+void CheckShown(LoadedFile& file) {
+  if (!file.whole) return;
+  Session& sheet = file.sheet->Inputs();
+  if (const std::string fault = file.sheet->FaultOfShown(file.shown); !fault.empty()) RefuseInputs(fault);
+  // Sizes that Replot would not fold in are not in the page.
+  auto asked = std::make_shared<Results>();
+  asked->asked = file.results.asked;
+  sheet.state.LastResults = std::move(asked);
+  const bool folded = SizesFitColumns(sheet);
+  sheet.state.LastResults = nullptr;
+  if (folded) return;
+  sheet.form1.optMono.Select();
+  file.shown = PresentInputs(sheet);
+}
+
 LoadedFile Load(Session& session, std::istream& stream) {
   ReadLines lines(stream);
   LoadedFile file;
@@ -104,19 +147,14 @@ LoadedFile Load(Session& session, std::istream& stream) {
   ReadInputs(lines, file);
   CheckTables(file);
   Session& sheet = file.sheet->Inputs();
-  if (const std::string fault = file.sheet->Fault(); !fault.empty())
-    throw BadFile{"The inputs of the file cannot be run:\n" + fault};
+  std::string fault = NoRaysTold(file);
+  if (fault.empty()) fault = file.sheet->Fault();
+  if (!fault.empty()) RefuseInputs(fault);
   const auto request = ReadRun(sheet);
   if (!request) throw BadFile{"The inputs of the file cannot be run"};
   file.results.asked = *request;
-  if (file.whole) {
-    if (request->graph.IsMap() && request->graph.family != Family::Lee) file.results.found = std::move(file.rows.cells);
-    WalkFound(lines, file.results);
-    file.hasResults = true;
-  } else {
-    file.hasResults = FillFromRows(file.rows, file.results);
-  }
-  if (file.version == newestFile) lines.End();
+  ReadFound(lines, file);
+  CheckShown(file);
   if (!file.hasResults) return file;
   if (const std::string misfit = MisfitOf(file.results); !misfit.empty()) throw BadFile{misfit};
   return file;

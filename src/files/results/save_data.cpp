@@ -15,6 +15,7 @@
 #include "runs/curves.h"
 #include "session/driver/read_run.h"
 #include "session/inputs/look/look_menus.h"
+#include "session/inputs/methods/rays_check.h"
 #include "session/undo.h"
 
 namespace lumivex {
@@ -99,11 +100,26 @@ void WriteScales(const Session& session, CurveRows& rows) {
   rows.YAutoMax = axes ? page.autoTop : s.YAutoMax;
 }
 
+/// Sizes that were chosen for a Lee diagram since Replot, which has not folded them in: its page is that of one size.
+bool SizesWait(const Session& session) {
+  const auto& results = session.state.LastResults;
+  if (results->asked.graph.family != Family::Lee || session.state.FoldedResults) return false;
+  return std::get<AngleMapRun>(results->asked.run).columns.quantity == Swept::Radius;
+}
+
+void ChooseMono(FormSnapshot& inputs) {
+  for (auto& [name, value] : inputs)
+    if (name == "optMono" || name == "optDisp") value.checked = name == "optMono";
+}
+
 /// The inputs as they stand where they are still those of the results; else those of the results, in
 /// the colours and sizes that the menus have now: the page was drawn with the scales of before.
 InputState ShownInputs(Session& session, const InputState& asked) {
   InputState present = PresentInputs(session);
-  if (session.form1.cmdReplot.Enabled) return present;
+  if (session.form1.cmdReplot.Enabled) {
+    if (SizesWait(session)) ChooseMono(present.forms.front());
+    return present;
+  }
   InputState shown = asked;
   TakeLook(present, shown, LookPart::Menus);
   return shown;
@@ -146,6 +162,10 @@ std::string ResultsText(Session& session, std::string& failure) {
     return {};
   }
   Session& inputs = sheet->Inputs();
+  if (LacksRays(inputs)) {
+    failure = "Which rays the results are of is not known: select them, press New plot, then save.";
+    return {};
+  }
   Results results = *s.LastResults;
   CurveRows rows = RowsForFile(results, results.asked.graph.AgainstAngle() ? FileWindow(inputs) : RowWindow{});
   rows.Xmin = Val(inputs.form1.txtXmin.Text);

@@ -96,12 +96,7 @@ std::string TakeSession(Session& session, const std::string& text) {
     return bad.text;
   }
   sheet.PutInto(session);
-  const auto& kept = sheet.Inputs().state;
-  session.state.KeptSphereLabel = kept.KeptSphereLabel;
-  session.state.KeptSphereName = kept.KeptSphereName;
-  session.state.KeptMediumLabel = kept.KeptMediumLabel;
-  session.state.KeptAngle = kept.KeptAngle;
-  session.state.KeptRadius = kept.KeptRadius;
+  session.state.DistribInUse = sheet.Inputs().state.DistribInUse;
   return {};
 }
 

@@ -108,6 +108,12 @@ void StartMapColours(Session& session) {
   if (s.FalseColoursFollow == 1) form.mnuFalseColours.Checked = one && graph.IsMap();
 }
 
+void FollowMapColours(Session& session) {
+  const auto& form = session.form1;
+  if (!ChosenGraph(session.state).IsMap()) return;
+  session.state.FalseColoursFollow = form.mnuFalseColours.Checked == (Trim(form.cboWave.Text) == "1") ? 1 : 0;
+}
+
 void KeepTypedSize(Session& session, const Graph& before) {
   auto& form = session.form1;
   auto& s = session.state;

@@ -22,6 +22,10 @@ void WriteMapStarts(Session& session, bool sweepAlone);
 /// or unticked them since the start keeps them.
 void StartMapColours(Session& session);
 
+/// After inputs that no event brought: false colours follow the light of a map again where they are those that it
+/// starts in, and are a choice of the user's where they are not.
+void FollowMapColours(Session& session);
+
 /// Some graphs have a radius typed into the field of the angle, and an index into that of the radius: keeps what stood
 /// there when such a graph has been chosen, and puts it back after it.
 void KeepTypedSize(Session& session, const Graph& before);

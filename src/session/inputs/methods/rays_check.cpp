@@ -57,6 +57,10 @@ std::vector<int> SelectedRays(const RayInputs& inputs) {
   return inputs.range ? SelectRange(*inputs.range) : inputs.boxes;
 }
 
+bool SelectsRays(Method method) {
+  return method == Method::Debye || static_cast<int>(method) > static_cast<int>(Method::Diffraction);
+}
+
 void RaysCheck(Session& session) {
   RayState& rays = session.state;
   const RayInputs inputs = RayInputsOf(session);
@@ -68,6 +72,13 @@ void RaysCheck(Session& session) {
   rays.RayEnabled = SelectedRays(inputs);
   rays.RayMax = static_cast<int>(rays.RayEnabled.size()) - 1;
   rays.RayCount = static_cast<int>(std::ranges::count(rays.RayEnabled, 1));
+}
+
+bool LacksRays(const Session& session) {
+  const RayInputs inputs = RayInputsOf(session);
+  const bool alone = OffersDiffraction(session) && WithDiffraction(session);
+  return TraitsOf(session.state.CalcMethod).needsP && inputs.text == multiple && !alone &&
+         std::ranges::count(SelectedRays(inputs), 1) == 0;
 }
 
 bool NoRaysSelected(const Session& session) {

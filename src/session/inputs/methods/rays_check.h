@@ -30,10 +30,16 @@ RayInputs RayInputsOf(const Session& session);
 /// nothing.
 std::vector<int> SelectedRays(const RayInputs& inputs);
 
+/// Whether a method's terms are selected by p: those whose selection results files tell.
+bool SelectsRays(Method method);
+
 /// Reads which p are selected into RayEnabled, RayMax and RayCount, and the range into Pmin, Pmax and Pstep.
 void RaysCheck(Session& session);
 
-/// Whether cboRays reads "Multiple" without a selection.
+/// Whether the method's p are to be selected in dlogP and none is, nor diffraction in their place.
+bool LacksRays(const Session& session);
+
+/// Whether cboRays read "Multiple" without a selection at the last RaysCheck.
 bool NoRaysSelected(const Session& session);
 
 /// Whether the method has rays that diffraction can be added to: methods of rays, and "GO - Debye".
