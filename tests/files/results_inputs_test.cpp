@@ -167,10 +167,10 @@ TEST_F(ResultsFiles, AMapThatWasReadGoesOnAsIfItHadBeenCalculated) {
     EXPECT_FALSE(Get("SphereName").empty());
     read("choose cboGraph Map: angle v. radius");
     EXPECT_EQ(Get("mnuFalseColours"), "true");
-    Do("set cboWave RGB");
+    Do("choose cboWave RGB");
     EXPECT_EQ(Get("mnuFalseColours"), "false");
     read("choose cboGraph Map: angle v. radius\nset cboWave RGB");
-    Do("set cboWave 1");
+    Do("choose cboWave 1");
     EXPECT_EQ(Get("mnuFalseColours"), "true");
   }
   // A choice of the user's stays.
@@ -178,7 +178,7 @@ TEST_F(ResultsFiles, AMapThatWasReadGoesOnAsIfItHadBeenCalculated) {
   Save("chosen.lvx");
   Do("reset");
   Load("chosen.lvx");
-  Do("set cboWave RGB\nset cboWave 1");
+  Do("choose cboWave RGB\nchoose cboWave 1");
   EXPECT_EQ(Get("mnuFalseColours"), "false");
 }
 
