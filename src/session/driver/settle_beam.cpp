@@ -64,7 +64,7 @@ struct Lit {
 void AddLit(const RunRequest& request, const Setting& setting, std::vector<Lit>& spheres) {
   double radius = setting.radius;
   if (request.Cloud())
-    for (const float sample : SamplesAt(request, radius).radius) radius = std::max(radius, double{sample});
+    for (const double sample : SamplesAt(request, radius).radius) radius = std::max(radius, sample);
   const double medium = setting.indices.MediumInUse();
   Lit lit{radius, setting.lambda / medium, {}};
   lit.asked.x = SizeParameterOf(radius, medium, setting.lambda);
