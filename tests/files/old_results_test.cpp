@@ -108,8 +108,8 @@ TEST_F(ResultsFiles, RaysThatAFileDoesNotTellStayAsTheyAreTicked) {
 
 // Nobody could tell afterwards of which rays the curves are.
 TEST_F(ResultsFiles, NoneOfSeveralRaysIsRefusedWhereAFileTellsThem) {
-  Write("none.lvx", OldFile{3201, "Intensity v. scattering angle", "Debye", {"Multiple", " 0 "}}.Text());
-  EXPECT_NE(Refused("none.lvx").find("No rays selected"), std::string::npos);
+  Write("none.lvx", OldFile{3201, "Intensity v. scattering angle", "Debye", {" 0 "}}.Text());
+  EXPECT_NE(Refused("none.lvx").find("No rays selected"), std::string::npos) << LastText();
   Write("old.lvx", OldFile{3102, "Intensity v. scattering angle", "Debye", {"Multiple"}}.Text());
   Load("old.lvx");
   std::istringstream script("save-results " + Path("again.lvx"));

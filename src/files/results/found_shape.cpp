@@ -151,7 +151,7 @@ struct Possible {
     return None({&found.perpendicular, &found.parallel, &found.waveNumber});
   }
   bool operator()(const AxisFound& found) const {
-    const bool byTerms = results.asked.method.method == Method::Debye;
+    const bool byTerms = SumsTerms(results.asked.method.method);
     return None({&found.waveNumber, &found.radius, &found.size, &found.Qback, &found.powerPerp, &found.powerPar}) &&
            (byTerms || None({&found.Qext, &found.Cext, &found.Qsca, &found.Csca}));
   }
@@ -196,7 +196,7 @@ bool IsSphere(const LastSphere& last) {
 std::string MisfitOf(const Results& results) {
   if (!IsSphere(results.last)) return "The sphere of the file cannot be one";
   if (!std::visit(Fits{results}, results.found)) return "The numbers of the file are not as many as its inputs ask for";
-  const bool byTerms = results.asked.method.method == Method::Debye;
+  const bool byTerms = SumsTerms(results.asked.method.method);
   if (!HasNoneBelow0(results, byTerms) || !std::visit(Possible{results}, results.found))
     return "The file holds values below 0 where none can be";
   return {};

@@ -61,6 +61,9 @@ void WalkInputs(LayoutWalk& walk);
 /// Walks the curves: of angles, points or cells, and the amplitudes where the file has them.
 void WalkCurves(LayoutWalk& walk);
 
+/// Whether single terms of a series may be what was found: their efficiencies can be of either sign.
+bool SumsTerms(Method method);
+
 /// Whether a value of a graph may lie below 0: asymmetries, what rounding leaves of an absorption, and the efficiencies
 /// of terms that are taken by themselves. Intensities and other efficiencies cannot.
 /// @param curve  0 to 2: perpendicular, parallel, unpolarised, or Qext, Qsca, Qabs.

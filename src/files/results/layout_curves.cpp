@@ -66,7 +66,7 @@ void WalkAngles(LayoutWalk& walk) {
   CurveRows& rows = walk.rows;
   FileLines& lines = walk.lines;
   if (!WalkBeam(walk)) lines.Number(rows.Qsca);
-  if (rows.Qsca < 0 && walk.sheet.state.CalcMethod != Method::Debye && lines.Reading()) RefuseBelow0(lines);
+  if (rows.Qsca < 0 && !SumsTerms(walk.sheet.state.CalcMethod) && lines.Reading()) RefuseBelow0(lines);
   const RowWindow window = FileWindow(walk.sheet);
   const int wavelengths = WavelengthsOf(walk.sheet);
   if (wavelengths == 1) {
@@ -195,11 +195,15 @@ void WalkAmplitudes(LayoutWalk& walk) {
 
 }  // namespace
 
+bool SumsTerms(Method method) {
+  return method == Method::Debye || method == Method::CoatedSphere;
+}
+
 bool MayLieBelow0(const Graph& graph, Method method, std::size_t curve) {
   if (graph.quantity == Quantity::Asymmetry) return true;
   const bool sections = graph.quantity == Quantity::Efficiencies || graph.quantity == Quantity::CrossSections;
   if (sections && curve == 2) return true;
-  return method == Method::Debye && (sections || graph.quantity == Quantity::Albedo);
+  return SumsTerms(method) && (sections || graph.quantity == Quantity::Albedo);
 }
 
 void WalkCurves(LayoutWalk& walk) {

@@ -246,7 +246,8 @@ void KeepResults(Session& session, Results&& kept) {
   s.RunTitle = RunTitleOf(results);
   s.RunLabel = MethodLabelOf(results);
   // Under the list of methods there is room for the lines of a beam too.
-  session.form1.lblDebyeRays.Caption = results.asked.words.methodLabel;
+  const bool beam = !results.asked.method.beam.Plane();
+  session.form1.lblDebyeRays.Caption = beam ? results.asked.words.methodLabel : s.RunLabel;
 }
 
 }  // namespace lumivex

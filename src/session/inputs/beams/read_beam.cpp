@@ -51,13 +51,11 @@ AngleRows RowsOfBeam(double xmin, double xmax, double step) {
   rows.xmax = xmax;
   rows.step = step;
   const int count = ToWhole(Int((xmax - xmin) / step + nearly)) + 1;
-  // The neighbours that averages and the disc of the sun look at: a beam has them on both sides of any angle.
-  const int margin = ToWhole(Int(0.25 / step));
-  rows.origin = xmin - margin * step;
-  rows.NANG = (count + 2 * margin) / 2 + 1;
-  rows.firstPoint = margin + 1;
-  rows.lastPoint = (xmax - xmin) / step + 1 + margin;
-  rows.window = {1, count + 2 * margin};
+  rows.origin = xmin;
+  rows.NANG = count / 2 + 1;
+  rows.firstPoint = 1;
+  rows.lastPoint = (xmax - xmin) / step + 1;
+  rows.window = {1, count};
   return rows;
 }
 
