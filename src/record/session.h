@@ -31,10 +31,8 @@ struct Remark {
 /// What every routine acts on: the record, the forms, the outside world, the windows and the events.
 /// Plain data; OpenSession (session/session_start) ties one together and starts it.
 struct Session {
-  Session(Platform& outsideWorld, DrawingSurface& graphSurface, Events& eventTable)
-      : platform(outsideWorld),
-        windows{Window{&forms.form1, &graphSurface}, Window{&forms.dlogInhomSphere}},
-        events(eventTable) {}
+  Session(Platform& outsideWorld, DrawingSurface& graphSurface, Events& eventTable);
+  ~Session();
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
 

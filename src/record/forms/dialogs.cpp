@@ -4,6 +4,9 @@
 
 namespace lumivex {
 
+Forms::Forms() = default;
+Forms::~Forms() = default;
+
 Form* Forms::Find(std::string_view name) {
   for (Form* form : All())
     if (SameName(form->Name(), name)) return form;

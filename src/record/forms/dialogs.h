@@ -60,6 +60,10 @@ struct DlogPlotColour final : Form {
 
 /// Every window and dialog of a session.
 struct Forms : MaterialDialogs, LightDialogs, SizeDialogs, RayDialogs, AngleDialogs, BeamDialogs {
+  // Hundreds of controls are made here: in one place, not in each source that makes a session.
+  Forms();
+  ~Forms();
+
   Form1 form1;
   Form2 form2;
   DlogTemp dlogTemp;
