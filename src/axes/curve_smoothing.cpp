@@ -82,13 +82,14 @@ DiscWeights SunDiscWeights(double step, bool rectangular) {
   return disc;
 }
 
-std::vector<double> FoldedWithDisc(std::span<const double> y, const DiscWeights& disc, std::size_t mirror) {
+std::vector<double> FoldedWithDisc(std::span<const double> y, const DiscWeights& disc, std::size_t mirror,
+                                   bool firstMirrors) {
   std::vector<double> folded(y.begin(), y.end());
   if (y.size() < 2) return folded;
   const auto size = static_cast<long>(y.size()), reach = static_cast<long>(disc.rows);
   const auto reflected = [&](long row) {
     if (mirror > 0 && row > static_cast<long>(mirror)) row = 2 * static_cast<long>(mirror) - row;
-    if (row < 1) row = 2 - row;
+    if (row < 1 && firstMirrors) row = 2 - row;
     return row;
   };
   // The rows with those that their ends reflect: element j is row j + 1 - reach.

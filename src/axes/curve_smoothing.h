@@ -29,9 +29,11 @@ DiscWeights SunDiscWeights(double step, bool rectangular);
 
 /// A curve as a source of the disc's width shows it: row i is the mean of rows i - K to i + K under the weights. Rows
 /// before the first reflect at it (0 degrees), rows after `mirror` at that one (180 degrees) unless `mirror` is 0.
-/// A row with a neighbour that is not a number becomes none.
-/// @param y  first index 1; element 0 is passed on.
-std::vector<double> FoldedWithDisc(std::span<const double> y, const DiscWeights& disc, std::size_t mirror);
+/// A row with a neighbour that is not a number, or not there, becomes none.
+/// @param y             first index 1; element 0 is passed on.
+/// @param firstMirrors  whether the first row is one of mirrors: that of a beam may stand at any angle.
+std::vector<double> FoldedWithDisc(std::span<const double> y, const DiscWeights& disc, std::size_t mirror,
+                                   bool firstMirrors = true);
 
 /// The cubic through four values at -1, 0, 1 and 2, at t (Lagrange).
 double CubicThrough(std::span<const double, 4> values, double t);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <vector>
 
 #include "files/reports/save_text.h"
@@ -325,6 +326,27 @@ TEST_F(Beams, TablesHaveTheRowsOnShow) {
   output.str("");
   Do("amplitudes");
   EXPECT_TRUE(Holds(output.str(), "\n-30,") && Holds(output.str(), "\n30,") && !Holds(output.str(), "\n-31,"));
+}
+
+TEST_F(Beams, UnderTheSunAWideBeamIsAPlaneWave) {
+  Do("click optSun\nset txtXmin 20\nset txtXmax 30\nset cboStep 0.1");
+  Plot();
+  const PageCurve plane = Drawn().curves.back();
+  Gaussian("txtBeamYF=0 txtBeamWo=1e6");
+  Plot();
+  const PageCurve& wide = Drawn().curves.back();
+  int same = 0, without = 0;
+  for (std::size_t i = 1; i < wide.x.size(); ++i) {
+    // The ends have no neighbours on one side.
+    if (!std::isfinite(wide.y[i])) ++without;
+    for (std::size_t j = 1; j < plane.x.size() && std::isfinite(wide.y[i]); ++j) {
+      if (!(std::fabs(plane.x[j] - wide.x[i]) < 1e-6)) continue;
+      EXPECT_NEAR(wide.y[i], plane.y[j], 1e-6 * plane.y[j]) << wide.x[i];
+      ++same;
+    }
+  }
+  EXPECT_EQ(same, 97);
+  EXPECT_EQ(without, 4);
 }
 
 TEST_F(Beams, ATypedMmaxLeavesEachSphereItsLmax) {

@@ -191,6 +191,16 @@ TEST_F(Simulation, MarksOutliveAnAngleThatIsStillToBeTyped) {
   EXPECT_FALSE(Sim().lblArc.Caption.empty());
 }
 
+TEST_F(Simulation, AScriptStopsAPainting) {
+  TakeLight();
+  Do("click Form2.cmdSimPlot");
+  const auto whole = Painted().pixels;
+  Do("click Form2.cmdRestorePic\nstop-at 30\nclick Form2.cmdSimPlot");
+  EXPECT_FALSE(Painted().pixels == whole);
+  Do("click Form2.cmdSimPlot");
+  EXPECT_TRUE(Painted().pixels == whole);
+}
+
 TEST_F(Simulation, TheLightEndsWithTheRun) {
   Do("set cboWave 3\nset txtRadius 10\nset txtXmin 130\nset txtXmax 150\nset cboStep 0.1\nclick cmdNewPlot\nclick "
      "cmdSimulation");

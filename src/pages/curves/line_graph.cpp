@@ -361,7 +361,8 @@ std::vector<double> SeenUnderSun(const RunToDraw& run, std::span<const double> y
   if (!run.look.sun.disc || rows == nullptr) return {y.begin(), y.end()};
   // Of a beam, and of drops on a surface, angles of both signs differ.
   const bool mirrored = asked.method.method != Method::Heiligenschein && asked.method.beam.Plane();
-  return FoldedWithDisc(y, SunCorrection(run), mirrored ? static_cast<std::size_t>(2 * rows->NANG - 1) : 0);
+  return FoldedWithDisc(y, SunCorrection(run), mirrored ? static_cast<std::size_t>(2 * rows->NANG - 1) : 0,
+                        !rows->origin.has_value());
 }
 
 }  // namespace lumivex

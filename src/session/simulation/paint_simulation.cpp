@@ -50,7 +50,8 @@ class PaintWatch final : public RunWatch {
   bool Look(const RunProgress& progress) override {
     session_.state.ProgressPercent = 100 * progress.share;
     session_.platform.Yield();
-    return session_.state.StopFlag == 0;
+    // Either Stop: that of this window, or that of a run, which scripts press.
+    return session_.state.StopFlag == 0 && session_.state.StopAnswer == 0;
   }
 
  private:
@@ -61,12 +62,13 @@ void PaintPicture(Session& session, const SkyPainting& painting) {
   auto& s = session.state;
   auto& simulation = session.simulation;
   const SimulationLock lock(session);
-  s.StopFlag = 0;
+  s.StopFlag = s.StopAnswer = 0;
   auto painted = std::make_shared<Bitmap>(*simulation.picture);
   PaintWatch watch(session);
   TaskPool pool(watch, session.platform.Threads());
   PaintSky(SkyPainter(painting), {}, *simulation.photograph, *painted, pool);
   simulation.picture = std::move(painted);
+  s.PlotMode = 1;
 }
 
 /// The light is there: what is left is in the controls of the window.
