@@ -36,7 +36,8 @@ void CheckCommand(const BatchCommand& command) {
   Require(command.keyword != nullptr && FindBatchKeyword(command.keyword->text) == command.keyword);
   if (command.keyword->TakesNumber()) Require(std::isfinite(command.number));
   if (command.keyword->action != BatchAction::Step) return;
-  Require(command.stepName != nullptr && command.steps.Count() >= 1);
+  // Steps that lead away from their end are a command all the same: it runs nothing and says so.
+  Require(command.stepName != nullptr && std::isfinite(command.steps.from) && std::isfinite(command.steps.by));
   CheckSteps(command.steps);
 }
 

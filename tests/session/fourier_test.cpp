@@ -164,5 +164,33 @@ TEST_F(Fourier, CurvesWithoutASpectrumAreTold) {
   EXPECT_FALSE(Drawn().kind.fourier);
 }
 
+TEST_F(Fourier, WhatNoDialogWouldTakeIsHarmless) {
+  // By scripts and files fields change while no dialog looks.
+  Do("set txtRadius 2\nclick cmdNewPlot\ndialog dlogFFT ok\nclick mnuFFT");
+  for (const char* fields : {"set dlogFFT.cboFFT 1073741824", "set dlogFFT.cboFFT 100"}) {
+    Do(std::string(fields) + "\nclick cmdReplot");
+    EXPECT_FALSE(Drawn().kind.fourier) << fields;
+  }
+  Do("set dlogFFT.cboFFT 1024\nset dlogFFT.txtThetaMin 1e300\nclick cmdReplot");
+  EXPECT_TRUE(Drawn().kind.fourier);
+  runner.Current().forms.dlogFFT.txtFmax.Text = "1e300";
+  runner.Current().forms.dlogFFT.txtFmin.Text = "-1e300";
+  Do("click cmdReplot");
+  EXPECT_EQ(Perpendicular().x.size(), 1026U);
+  // Where the sphere has no index in the middle of the samples there are no rays to name.
+  Do("reset\nset txtRadius 2\nclick cmdNewPlot\ndialog dlogFFT ok\nclick mnuFFT");
+  EXPECT_FALSE(Drawn().frequencies.rays.empty());
+}
+
+TEST_F(Fourier, ASpectrumIsSavedAndReadAsItIsDrawn) {
+  const std::string path = testing::TempDir() + "lumivex_fourier.lvx";
+  Do("set txtRadius 20\nclick cmdNewPlot\ndialog dlogFFT ok optFFTreal=1\nclick mnuFFT\nsave-results " + path);
+  const PageCurve drawn = Perpendicular();
+  Do("reset\nload " + path);
+  EXPECT_TRUE(Drawn().kind.fourier);
+  EXPECT_EQ(Perpendicular().x.All(), drawn.x.All());
+  EXPECT_EQ(Perpendicular().y.All(), drawn.y.All());
+}
+
 }  // namespace
 }  // namespace lumivex

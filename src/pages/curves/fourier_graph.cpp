@@ -4,6 +4,7 @@
 #include <cmath>
 #include <limits>
 #include <numbers>
+#include <optional>
 #include <span>
 #include <string>
 #include <utility>
@@ -57,10 +58,11 @@ struct Bins {
 
 Bins BinsOf(const Results& results, const FourierLook& look) {
   const double bins = StepOf(results.asked) * look.length;
-  const auto bin = [&](double frequency) { return static_cast<int>(std::nearbyint(frequency * bins)); };
-  const int half = look.length / 2;
-  return {std::clamp(bin(look.frequencies.xmin), look.complex ? -half : 0, half),
-          std::clamp(bin(look.frequencies.xmax), look.complex ? -half : 0, half)};
+  const double highest = look.length / 2, lowest = look.complex ? -highest : 0;
+  const auto bin = [&](double frequency) {
+    return static_cast<int>(std::nearbyint(std::clamp(frequency * bins, lowest, highest)));
+  };
+  return {bin(look.frequencies.xmin), bin(look.frequencies.xmax)};
 }
 
 std::vector<double> Magnitudes(const std::vector<double>& real, const std::vector<double>& imag, Bins bins) {
@@ -140,14 +142,16 @@ bool HasRays(const Results& results) {
   return !asked.Cloud() && !TraitsOf(asked.method.method).layered && axis != AxisVariable::RefractiveIndex;
 }
 
-Middle MiddleOf(const Results& results, const FourierLook& look) {
+/// Nothing where a material has no index there, or none that rays have.
+std::optional<Middle> MiddleOf(const Results& results, const FourierLook& look) {
   const RunRequest& asked = results.asked;
   const double middle = look.first + StepOf(asked) * (look.length - 1) / 2;
   Middle at;
   at.axis = asked.graph.axis;
   at.lambda = at.axis == AxisVariable::Wavelength ? middle / 1000 : asked.light.lambda;
   const SettingResult found = SettingAt(asked, at.lambda);
-  if (found.Good()) at.sphere = {found.setting.radius, found.setting.indices.MediumInUse(), found.setting.mRe};
+  if (!found.Good() || !(found.setting.mRe > 0)) return std::nullopt;
+  at.sphere = {found.setting.radius, found.setting.indices.MediumInUse(), found.setting.mRe};
   if (const AxisRun* axis = AxisOf(asked.run))
     at.angle = axis->angle * 180 / pi;
   else
@@ -171,7 +175,7 @@ bool HasAmplitudes(const Results& results) {
 
 Look LookOfSpectrum(const Results& results, Look look) {
   if (!look.fourier) return look;
-  if (!HasSpectrum(results) || !IsPowerOfTwo(look.fourier->length)) {
+  if (!HasSpectrum(results) || !IsPowerOfTwo(look.fourier->length) || look.fourier->length > mostFourierPoints) {
     look.fourier.reset();
     return look;
   }
@@ -217,7 +221,9 @@ FourierCurves FFTcalc(const Results& results, const Curves& found, const Fourier
 
 std::vector<PageFrequencies::Ray> RayFrequenciesOf(const Results& results, const FourierLook& look) {
   if (!HasRays(results)) return {};
-  Middle middle = MiddleOf(results, look);
+  std::optional<Middle> at = MiddleOf(results, look);
+  if (!at) return {};
+  Middle& middle = *at;
   std::vector<PageFrequencies::Ray> found;
   if (results.asked.graph.OfEfficiencies()) {
     middle.angle = 0;

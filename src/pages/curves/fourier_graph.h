@@ -9,6 +9,9 @@
 
 namespace lumivex {
 
+/// More than the rows of any curve.
+inline constexpr int mostFourierPoints = 1 << 20;
+
 /// Whether curves of such results have a spectrum of frequencies: one wavelength or an axis, in equal steps.
 bool HasSpectrum(const Results& results);
 

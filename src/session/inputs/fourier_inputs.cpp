@@ -37,7 +37,7 @@ bool CanTransform(const Session& session) {
 /// The largest number of points from `first` on, 64 at least whether they are there or not.
 int PointsWithin(const Available& there, double first) {
   int points = fewestPoints;
-  while (points <= (1 << 29) && (2 * points - 1) * there.step <= there.high - first + rounding * there.step)
+  while (points < mostFourierPoints && (2 * points - 1) * there.step <= there.high - first + rounding * there.step)
     points *= 2;
   return points;
 }
@@ -76,7 +76,7 @@ void dlogFFT_Change(Session& session) {
   auto& dialog = session.forms.dlogFFT;
   const Available there = CurvesThere(session);
   const double points = Val(dialog.cboFFT.Text), first = Val(dialog.txtThetaMin.Text);
-  const bool power = IsNumber(dialog.cboFFT.Text) && points >= fewestPoints && points <= 1 << 30 &&
+  const bool power = IsNumber(dialog.cboFFT.Text) && points >= fewestPoints && points <= mostFourierPoints &&
                      points == std::floor(points) && IsPowerOfTwo(ToWhole(points));
   Mark(dialog.cboFFT, !power);
   const double slack = rounding * there.step;
