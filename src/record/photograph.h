@@ -14,6 +14,7 @@ struct OpenedPhotograph {
   double focal35 = 0;   ///< focal length of the lens, as of a camera with film of 36 x 24 mm (mm); 0 where not told
   std::string notes;    ///< what the camera wrote into the file, to be written into the next one as it stands
   std::string failure;  ///< in one sentence, why it could not be read; otherwise empty
+  std::string remark;   ///< what is wrong with a picture that could be read all the same; otherwise empty
 };
 
 /// The pictures of the simulation window, and the light that it paints.

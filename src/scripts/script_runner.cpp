@@ -158,23 +158,27 @@ struct ScriptCommands {
   static void Get(ScriptRunner& run, std::string_view rest) {
     const auto value = ReadValue(run.Current(), rest);
     if (!value) throw Failure{"there is nothing named " + Readable(rest)};
-    run.output_ << rest << " = " << *value << '\n';
+    run.printer_.Value(rest, *value);
   }
 
-  static void Table(ScriptRunner& run, std::string_view rest) { run.Write(PathIn(rest), CurveTable(run.Current())); }
+  static void Table(ScriptRunner& run, std::string_view rest) {
+    run.Print(PathIn(rest), CurveTable(run.Current()), [&](const auto& csv) { run.printer_.Table(csv); });
+  }
 
   static void Amplitudes(ScriptRunner& run, std::string_view rest) {
-    run.Write(PathIn(rest), AmplitudeRows(run.Current()));
+    run.Print(PathIn(rest), AmplitudeRows(run.Current()), [&](const auto& csv) { run.printer_.Table(csv); });
   }
 
   static void Array(ScriptRunner& run, std::string_view rest) {
     const std::string name = TakeWord(rest);
     const auto rows = ArrayRows(run.Current(), name);
     if (!rows) throw Failure{"there is no array " + Readable(name)};
-    run.Write(PathIn(rest), *rows);
+    run.Print(PathIn(rest), *rows, [&](const auto& csv) { run.printer_.Array(name, csv); });
   }
 
-  static void Drawing(ScriptRunner& run, std::string_view rest) { run.Write(PathIn(rest), DrawingLines(*run.chosen_)); }
+  static void Drawing(ScriptRunner& run, std::string_view rest) {
+    run.Print(PathIn(rest), DrawingLines(*run.chosen_), [&](const auto& lines) { run.printer_.Lines(lines); });
+  }
 
   static void ChooseWindow(ScriptRunner& run, std::string_view rest) {
     Window* window = FindWindow(run.Current(), rest);
@@ -196,7 +200,7 @@ struct ScriptCommands {
     const std::string x = TakeWord(rest);
     if (!IsNumber(x) || !IsNumber(rest)) throw Failure{"read takes X and Y in surface units"};
     const auto reading = ReadAt(run.chosen_->page, Val(x), Val(rest));
-    run.output_ << (reading ? reading->text : "nothing") << '\n';
+    run.printer_.Lines((reading ? reading->text : "nothing") + "\n");
   }
 
   static void Size(ScriptRunner& run, std::string_view rest) {
@@ -223,7 +227,9 @@ struct ScriptCommands {
   }
 
   static void Messages(ScriptRunner& run, std::string_view) {
-    for (const auto& message : run.platform_.messages) run.output_ << message.title << ": " << message.text << '\n';
+    std::vector<std::pair<std::string, std::string>> messages;
+    for (const auto& message : run.platform_.messages) messages.emplace_back(message.title, message.text);
+    run.printer_.Messages(messages);
   }
 
   static void Picture(ScriptRunner& run, std::string_view rest) {
@@ -278,6 +284,7 @@ constexpr CommandRow commandRows[] = {
 
 ScriptRunner::ScriptRunner(std::ostream& output, std::ostream& errors)
     : output_(output),
+      printer_(output),
       errors_(errors),
       platform_(&errors),
       recording_(ScreenSize{}.widthPx * unitsPerPixel, ScreenSize{}.heightPx * unitsPerPixel),
@@ -327,17 +334,23 @@ void ScriptRunner::Written(const std::string& failure) {
 }
 
 void ScriptRunner::Write(const std::string& path, const std::string& content) {
+  Written(WriteWholeFile(path, content));
+}
+
+template <class Printing>
+void ScriptRunner::Print(const std::string& path, const std::string& content, Printing printed) {
   if (path.empty()) {
-    output_ << content;
+    printed(content);
   } else {
-    Written(WriteWholeFile(path, content));
+    Write(path, content);
   }
 }
 
-void ScriptRunner::Execute(const std::string& line) {
+void ScriptRunner::Execute(int number, const std::string& line) {
   std::string_view rest = Trim(WithoutComment(line));
   if (rest.empty()) return;
   const std::string name = TakeWord(rest);
+  printer_.Begin(number, name);
   for (const auto& row : commandRows)
     if (row.name == name) return row.run(*this, rest);
   throw Failure{"unknown command " + Readable(name)};
@@ -349,8 +362,9 @@ int ScriptRunner::Run(std::istream& script) {
     if (platform_.quit) break;
     if (number == 1 && line.starts_with("\xEF\xBB\xBF")) line.erase(0, 3);
     try {
-      Execute(line);
+      Execute(number, line);
     } catch (const Failure& failure) {
+      printer_.Failure(failure.what);
       output_.flush();
       errors_ << "line " << number << ": " << failure.what << std::endl;
       return failure.code;

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "record/recording_surface.h"
+#include "scripts/script_printer.h"
 #include "scripts/scripted_platform.h"
 #include "session/open_session.h"
 
@@ -40,6 +41,9 @@ class ScriptRunner {
   /// A session in a window instead of the runner's own, on a surface that the window owns.
   void UseWindow(DrawingSurface& surface, ScriptWindow window);
 
+  /// What the script prints becomes a JSON object a line.
+  void PrintJson() { printer_.UseJson(); }
+
   /// The platform of the session, to be wired to the window before Start.
   ScriptedPlatform& World() { return platform_; }
   Session& Current() { return open_->Get(); }
@@ -59,12 +63,16 @@ class ScriptRunner {
   static void Written(const std::string& failure);
   friend struct ScriptCommands;
 
-  void Execute(const std::string& line);
+  void Execute(int number, const std::string& line);
   void Open();
   void WatchForStop();
   void Write(const std::string& path, const std::string& content);
+  /// Into the file, or where none is named printed.
+  template <class Printing>
+  void Print(const std::string& path, const std::string& content, Printing printed);
 
   std::ostream& output_;
+  ScriptPrinter printer_;
   std::ostream& errors_;
   ScriptedPlatform platform_;
   RecordingSurface recording_;

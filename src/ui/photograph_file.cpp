@@ -2,6 +2,7 @@
 
 #include <QBuffer>
 #include <QClipboard>
+#include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QImageReader>
@@ -21,7 +22,8 @@ namespace lumivex {
 
 namespace {
 
-constexpr int mostMegabytes = 1024;  // of one picture: 250 megapixels
+constexpr int mostMegabytes = 1024;  // of one picture
+constexpr double mostPixels = mostMegabytes * 1048576.0 / 4;
 constexpr int jpegQuality = 95;
 /// Lines over a saved picture are as thick as on one of so many pixels across.
 constexpr double lineWidth = 1600;
@@ -63,6 +65,28 @@ void ReadNotes(std::string_view path, OpenedPhotograph& opened) {
     // A picture without notes, or with damaged ones, is a picture all the same.
     opened.notes.clear();
   }
+}
+
+/// Whether a JPEG file lacks its end. Readers show what there is of such a picture, grey below, and say nothing.
+bool JpegEndsEarly(const QByteArray& file) {
+  constexpr unsigned char marker = 0xFF, firstRestart = 0xD0, lastRestart = 0xD7, end = 0xD9, scan = 0xDA;
+  const auto at = [&](qsizetype i) { return static_cast<unsigned char>(file[i]); };
+  bool inScan = false;
+  // After the two bytes of the start come segments, which tell their lengths, and scans, which run to the next marker.
+  for (qsizetype i = 2; i + 1 < file.size();) {
+    const unsigned char code = at(i + 1);
+    const bool isMarker = at(i) == marker && code != 0 && code != marker;
+    if (!isMarker || (code >= firstRestart && code <= lastRestart)) {
+      if (!inScan && !isMarker && at(i) != marker) return false;  // not as files should be: the reader's to judge
+      ++i;
+      continue;
+    }
+    if (code == end) return false;
+    if (i + 3 >= file.size()) return true;
+    inScan = code == scan;
+    i += 2 + 256 * at(i + 2) + at(i + 3);
+  }
+  return true;
 }
 
 Bitmap BitmapOf(const QImage& image) {
@@ -108,6 +132,12 @@ OpenedPhotograph ReadPhotographFile(std::string_view path) {
   QImageReader reader(ToQString(path));
   reader.setDecideFormatFromContent(true);
   reader.setAutoTransform(true);
+  if (const QSize size = reader.size(); 1.0 * size.width() * size.height() > mostPixels) {
+    opened.failure = std::string(path) + " is too large: " + std::to_string(size.width()) + " x " +
+                     std::to_string(size.height()) + " pixels; a picture may have 268 million";
+    return opened;
+  }
+  const bool jpeg = reader.format() == "jpeg";  // a reader that has read has forgotten
   const QImage image = reader.read();
   if (image.isNull()) {
     const QFileInfo file(ToQString(path));
@@ -119,6 +149,9 @@ OpenedPhotograph ReadPhotographFile(std::string_view path) {
     return opened;
   }
   opened.picture = BitmapOf(image);
+  if (QFile file(ToQString(path)); jpeg && file.open(QIODevice::ReadOnly))
+    if (JpegEndsEarly(file.readAll()))
+      opened.remark = std::string(path) + " ends before its picture does: the rest of it is missing";
   ReadNotes(path, opened);
   return opened;
 }

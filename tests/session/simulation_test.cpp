@@ -44,7 +44,7 @@ class Simulation : public ScriptedSession {
   /// A picture file that is there.
   void OfferPicture(int width, int height, double focal35 = 0) {
     runner.World().openPhotograph = [=](std::string_view) {
-      return OpenedPhotograph{Bitmap(width, height, OpaquePixel(90, 100, 110)), focal35, "notes", ""};
+      return OpenedPhotograph{Bitmap(width, height, OpaquePixel(90, 100, 110)), focal35, "notes", "", ""};
     };
   }
 };
@@ -110,9 +110,32 @@ TEST_F(Simulation, NothingIsLockedOrPaintedByInputsThatCannotBeUsed) {
   EXPECT_EQ(Get("Form2.cmdQuadSW"), "SW ON");
   EXPECT_EQ(Number("XTo"), 899);
   EXPECT_EQ(Number("YFrom"), 600);
+  const std::string range = "Values must be in the range -90 - 90";
+  for (const char* elevation : {"91", "-91"})
+    refuse({elevation[0] == '-' ? "set Form2.txtSunElevation -91" : "set Form2.txtSunElevation 91", "Input error",
+            range.c_str()});
   refuse({"choose Form2.cboPoint Arc", "Analyse", "Mark three points on the arc first"});
   refuse({"choose Form2.cboPoint Sun\nclick Form2.optDivergingLight\nset Form2.txtD2 0", "Input error",
           "Values must be in the range 1e-09 - 1e+09"});
+}
+
+TEST_F(Simulation, WhatIsTypedStaysUntilAnotherKindOfPointIsChosen) {
+  // Before anybody has seen the window.
+  Do("set Form2.txtX1 700\nset Form2.txtSunElevation 20");
+  SimulationWindow(Now());
+  EXPECT_EQ(Get("Form2.txtX1"), "700");
+  EXPECT_EQ(Get("Form2.txtSunElevation"), "20");
+  const std::string antisolarRow = Get("Form2.txtY1");
+  Do("choose Form2.cboPoint Anti-solar point");
+  EXPECT_EQ(Get("Form2.txtX1"), "700") << "the same kind again";
+  Do("choose Form2.cboPoint Sun");
+  EXPECT_EQ(Get("Form2.txtX1"), "900");
+  EXPECT_NE(Get("Form2.txtY1"), antisolarRow);
+  Do("choose Form2.cboPoint Anti-solar point");
+  EXPECT_EQ(Get("Form2.txtY1"), antisolarRow) << "the row that the window begins with";
+  // Undo changes the kind as well as the boxes.
+  Do("choose Form2.cboPoint Arc\nclick mnuUndo\nchoose Form2.cboPoint Arc");
+  EXPECT_EQ(Get("Form2.txtSunElevation"), "139");
 }
 
 TEST_F(Simulation, AStopKeepsWhatIsPaintedAndSwitchesEverythingOnAgain) {

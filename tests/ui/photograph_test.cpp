@@ -91,6 +91,34 @@ TEST_F(PictureFiles, ThatAreNoneSayWhy) {
   }
 }
 
+TEST_F(PictureFiles, CutShortAreShownAndToldOf) {
+  const std::string whole = TurnedPhotograph(), cut = PathOf("cut.jpg");
+  QFile from(ToQString(whole)), to(ToQString(cut));
+  ASSERT_TRUE(from.open(QIODevice::ReadOnly) && to.open(QIODevice::WriteOnly));
+  const QByteArray bytes = from.readAll();
+  to.write(bytes.first(bytes.size() - 40));
+  to.close();
+  EXPECT_EQ(ReadPhotographFile(whole).remark, "");
+  const OpenedPhotograph opened = ReadPhotographFile(cut);
+  EXPECT_EQ(opened.failure, "");
+  EXPECT_EQ(opened.picture.width, 40);
+  EXPECT_EQ(opened.remark, cut + " ends before its picture does: the rest of it is missing");
+}
+
+TEST_F(PictureFiles, TooLargeAreRefusedBeforeTheyAreRead) {
+  // The head of a picture of 400 million pixels.
+  const std::string path = PathOf("vast.png");
+  const QByteArray head = QByteArray::fromHex(
+      "89504e470d0a1a0a0000000d4948445200004e2000004e2008020000006c12d16e"
+      "000003e849444154");
+  QFile file(ToQString(path));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(head);
+  file.close();
+  EXPECT_EQ(ReadPhotographFile(path).failure,
+            path + " is too large: 20000 x 20000 pixels; a picture may have 268 million");
+}
+
 class PhotographWindowTest : public WindowTest {
  protected:
   Form2& Sim() { return Now().forms.form2; }

@@ -8,7 +8,18 @@ namespace {
 
 constexpr std::size_t longestQuote = 40;
 
-/// Bytes of the UTF-8 character at the start of a text; 0 where there is none that can be printed.
+std::string FirstReadable(std::string_view text, std::size_t longest) {
+  std::string readable;
+  for (std::size_t count = 0; count < longest && !text.empty(); ++count) {
+    const std::size_t length = PrintableLength(text);
+    readable += length == 0 ? "?" : text.substr(0, length);
+    text.remove_prefix(std::max<std::size_t>(length, 1));
+  }
+  return readable;
+}
+
+}  // namespace
+
 std::size_t PrintableLength(std::string_view text) {
   const auto byte = [&text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
   const unsigned char first = byte(0);
@@ -23,18 +34,6 @@ std::size_t PrintableLength(std::string_view text) {
                                (first == 0xF0 && byte(1) < 0x90) || (first == 0xF4 && byte(1) >= 0x90);
   return control || direction || surrogateOrLong ? 0 : length;
 }
-
-std::string FirstReadable(std::string_view text, std::size_t longest) {
-  std::string readable;
-  for (std::size_t count = 0; count < longest && !text.empty(); ++count) {
-    const std::size_t length = PrintableLength(text);
-    readable += length == 0 ? "?" : text.substr(0, length);
-    text.remove_prefix(std::max<std::size_t>(length, 1));
-  }
-  return readable;
-}
-
-}  // namespace
 
 std::string Readable(std::string_view text) {
   return FirstReadable(text, longestQuote);

@@ -32,9 +32,10 @@ struct Form2 final : Form {
   List cboPoint{*this, "cboPoint", Fixed, "Anti-solar point",
                 "What is known of the picture, and what angles are measured from"};
   Label lblX1{*this, "lblX1", "X"};
-  TextInput txtX1{*this, "txtX1", "", "Column of the point in pixels, or altitude of the camera's axis in degrees"};
+  // Of the picture of the start, where the point begins.
+  TextInput txtX1{*this, "txtX1", "900", "Column of the point in pixels, or altitude of the camera's axis in degrees"};
   Label lblY1{*this, "lblY1", "Y"};
-  TextInput txtY1{*this, "txtY1", "",
+  TextInput txtY1{*this, "txtY1", "1140",
                   "Row of the point in pixels from the top, or azimuth of the camera's axis from the sun in degrees"};
   Label lblSunElevation{*this, "lblSunElevation", "Elevation of sun"};
   TextInput txtSunElevation{*this, "txtSunElevation", "15",

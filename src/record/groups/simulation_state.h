@@ -13,12 +13,13 @@ struct SimulationState {
   int QuadNE = 1, QuadNW = 0, QuadSE = 1, QuadSW = 0;  ///< 1: the quadrant is painted
   int XFrom = 0, XTo = -1, YFrom = 0, YTo = -1;        ///< columns and rows that hold the chosen quadrants, from 0
   int CirclesShown = 0, GridShown = 0;
-  int ArcPointCount = 0;                       ///< marked points of the arc, 0 to 3
-  std::array<double, 3> ArcX{}, ArcY{};        ///< where they are (pixels); not listed below
-  int StopFlag = 0;                            ///< 1 after Stop simulation
-  int PolarisationCode = 0;                    ///< 0 unpolarised, 1 perpendicular, 2 parallel
-  int ViewCode = 0;                            ///< 0 unpolarised, 1 polarised V, 2 polarised H
-  int SimTableRows = 0;                        ///< rows of the stored colours; 0 where none are stored
+  int PointShown = 0;                    ///< kind of point that the boxes hold, a place in cboPoint; not listed below
+  int ArcPointCount = 0;                 ///< marked points of the arc, 0 to 3
+  std::array<double, 3> ArcX{}, ArcY{};  ///< where they are (pixels); not listed below
+  int StopFlag = 0;                      ///< 1 after Stop simulation
+  int PolarisationCode = 0;              ///< 0 unpolarised, 1 perpendicular, 2 parallel
+  int ViewCode = 0;                      ///< 0 unpolarised, 1 polarised V, 2 polarised H
+  int SimTableRows = 0;                  ///< rows of the stored colours; 0 where none are stored
   double SimTableFirst = 0, SimTableStep = 0;  ///< angle of the first row, and from row to row (degrees)
 };
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <numbers>
 
 #include "record/number_text.h"
@@ -22,7 +23,8 @@ int PlaceIn(const SelectionList& list) {
 
 /// A number of an input from the lowest to the highest; a bad one is told and marked, or nothing.
 std::optional<double> NumberOf(Session& session, TextInput& input, double lowest, double highest, Telling telling) {
-  if (telling == Telling::Aloud && !getval(session, input, highest, NumberSign::Any)) return std::nullopt;
+  if (telling == Telling::Aloud && !getval(session, input, std::numeric_limits<double>::max(), NumberSign::Any))
+    return std::nullopt;
   const double value = Val(input.Text);
   if (IsNumber(input.Text) && value >= lowest && value <= highest) return value;
   if (telling == Telling::Aloud) {

@@ -32,7 +32,8 @@ void cmdExit2_Click(Session& session) {
 
 void cboPoint_Click(Session& session) {
   SimulationWindow(session);
-  PlacePoint(session);
+  // The kind that is there already keeps what was typed for it.
+  if (static_cast<int>(ChosenPoint(session.forms.form2)) != session.state.PointShown) PlacePoint(session);
   ShowSimulation(session);
 }
 
@@ -222,6 +223,7 @@ void OpenPicture(Session& session, const std::string& path) {
   TakePhotograph(session, std::move(opened.picture), slash == std::string::npos ? path : path.substr(slash + 1));
   session.simulation.notes = std::move(opened.notes);
   ShowSimulation(session);
+  Tell(session, opened.remark);
   const auto& s = session.state;
   if (s.ScaleDoubtful != 0)
     session.platform.Message("Warning - possible scale error",

@@ -76,6 +76,14 @@ void MeasurePicture(Session& session) {
   QuadSelect(session);
 }
 
+void HoldPhotograph(Session& session, Bitmap picture, const std::string& name) {
+  auto& simulation = session.simulation;
+  simulation.photograph = simulation.picture = std::make_shared<const Bitmap>(std::move(picture));
+  simulation.notes.clear();
+  simulation.name = name;
+  MeasurePicture(session);
+}
+
 void ShowLabels(Session& session) {
   auto& form = session.forms.form2;
   const PointKind kind = ChosenPoint(form);
@@ -107,7 +115,8 @@ Window& SimulationWindow(Session& session) {
     if (window.form == &session.forms.form2) return window;
   session.simulationSurface = std::make_unique<RecordingSurface>(blindWidth, blindHeight);
   session.windows.push_back({&session.forms.form2, session.simulationSurface.get()});
-  TakeDefaultLandscape(session);
+  // The inputs stand for this picture, or are what was set before anybody looked.
+  HoldPhotograph(session, DefaultLandscape(landscapeWidth, landscapeHeight, landscapeHorizon), "");
   ShowSimulation(session);
   return session.windows.back();
 }
@@ -117,11 +126,7 @@ void TakeDefaultLandscape(Session& session) {
 }
 
 void TakePhotograph(Session& session, Bitmap picture, const std::string& name) {
-  auto& simulation = session.simulation;
-  simulation.photograph = simulation.picture = std::make_shared<const Bitmap>(std::move(picture));
-  simulation.notes.clear();
-  simulation.name = name;
-  MeasurePicture(session);
+  HoldPhotograph(session, std::move(picture), name);
   HideCircles(session);
   if (ChosenPoint(session.forms.form2) != PointKind::AltitudeAzimuth) PlacePoint(session);
   if (auto& page = SimulationWindow(session).page; page.photograph) page.photograph->zoom = 1;
@@ -154,6 +159,7 @@ void ShowSimulation(Session& session) {
   Window& window = SimulationWindow(session);
   auto& simulation = session.simulation;
   ShowLabels(session);
+  session.state.PointShown = static_cast<int>(ChosenPoint(session.forms.form2));
   PagePhotograph photograph = window.page.photograph.value_or(PagePhotograph{});
   photograph.picture = simulation.picture;
   photograph.photograph = simulation.photograph;

@@ -7,6 +7,7 @@
 #include <iostream>
 
 #include "files/batch/read_batch.h"
+#include "record/version.h"
 #include "scripts/script_file.h"
 #include "scripts/script_runner.h"
 #include "ui/console/batch_console.h"
@@ -24,17 +25,18 @@ void HoldClosedStreams() {
     if (fcntl(stream, F_GETFD) == -1) static_cast<void>(open("/dev/null", O_RDONLY));
 }
 
-int RunFrom(std::istream& script) {
+int RunFrom(std::istream& script, bool json) {
   lumivex::ScriptRunner runner(std::cout, std::cerr);
+  if (json) runner.PrintJson();
   runner.Start();
   return runner.Run(script);
 }
 
-int RunScriptFile(const std::string& file) {
-  if (file == "-") return RunFrom(std::cin);
+int RunScriptFile(const std::string& file, bool json) {
+  if (file == "-") return RunFrom(std::cin, json);
   std::ifstream script;
   const std::string failure = lumivex::OpenScript(script, file);
-  if (failure.empty()) return RunFrom(script);
+  if (failure.empty()) return RunFrom(script, json);
   std::cerr << "lumivex-run: " << failure << '\n';
   return failed;
 }
@@ -59,6 +61,9 @@ int Run(const lumivex::RunArguments& asked, const char* name) {
     case Task::Help:
       std::cout << lumivex::runUsage;
       return 0;
+    case Task::Version:
+      std::cout << "Lumivex " << lumivex::programVersion << '\n';
+      return 0;
     case Task::Batch:
       return lumivex::RunConsoleBatch({asked.file, asked.output, asked.threads}) ? 0 : failed;
     case Task::Jobs:
@@ -68,7 +73,7 @@ int Run(const lumivex::RunArguments& asked, const char* name) {
     case Task::Script:
       break;
   }
-  return RunScriptFile(asked.file);
+  return RunScriptFile(asked.file, asked.json);
 }
 
 }  // namespace

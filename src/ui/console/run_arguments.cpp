@@ -24,7 +24,7 @@ std::optional<unsigned> Count(std::string_view text) {
 }  // namespace
 
 const char* const runUsage =
-    "Usage: lumivex-run FILE\n"
+    "Usage: lumivex-run [--json] FILE\n"
     "       lumivex-run [--threads N] JOB.min [OUT.mut]\n"
     "       lumivex-run --jobs N [--threads N] LIST.min\n"
     "       lumivex-run --entries LIST.min\n"
@@ -32,9 +32,11 @@ const char* const runUsage =
     "JOB.min (output: JOB.mut), or a list of batch files, each with its own output. A batch file may have any name: "
     "its\n"
     "first line tells.\n"
+    "  --json       print what a script asks for as JSON, an object a line\n"
     "  --threads N  use at most N threads\n"
     "  --jobs N     run each file of the list by itself, N at a time\n"
     "  --entries    print the files of the list, one a line\n"
+    "  --version    tell the version\n"
     "Messages go to standard error. Exit codes: 0 done, 1 a batch failed, there is no script, or the output could not "
     "be\n"
     "written, 2 error in the script (the line is told).\n";
@@ -51,9 +53,11 @@ std::optional<RunArguments> ReadRunArguments(int argc, char** argv) {
       names.emplace_back(word);
     } else if (word == "--") {
       options = false;
-    } else if (word == "--help" && argc == 2) {
-      arguments.task = Task::Help;
+    } else if ((word == "--help" || word == "--version") && argc == 2) {
+      arguments.task = word == "--help" ? Task::Help : Task::Version;
       return arguments;
+    } else if (word == "--json") {
+      arguments.json = true;
     } else if (word == "--entries") {
       arguments.task = Task::Entries;
     } else if ((word == "--jobs" || word == "--threads") && i + 1 < argc) {
@@ -73,7 +77,8 @@ std::optional<RunArguments> ReadRunArguments(int argc, char** argv) {
   if (batch && arguments.task == Task::Script) arguments.task = Task::Batch;
   if (names.size() == 2) arguments.output = names[1];
   const bool takesOutput = arguments.task == Task::Batch;
-  if ((arguments.output && !takesOutput) || (threads && arguments.task == Task::Script)) return std::nullopt;
+  const bool script = arguments.task == Task::Script;
+  if ((arguments.output && !takesOutput) || (threads && script) || (arguments.json && !script)) return std::nullopt;
   return arguments;
 }
 

@@ -7,11 +7,12 @@ namespace lumivex {
 
 /// What lumivex-run is asked for on its command line.
 struct RunArguments {
-  enum class Task { Help, Script, Batch, Jobs, Entries };
+  enum class Task { Help, Version, Script, Batch, Jobs, Entries };
   Task task = Task::Help;
   std::string file;
   std::optional<std::string> output;  ///< of a batch
   unsigned threads = 0, jobs = 1;
+  bool json = false;  ///< a script prints JSON
 };
 
 /// How it is called, in lines.
