@@ -21,7 +21,7 @@ GuideWindow::GuideWindow(QWidget* parent) : QTextBrowser(parent) {
 
 QString GuideWindow::Path() {
   const QDir program(QCoreApplication::applicationDirPath());
-  for (const char* place : {"../share/doc/lumivex/user_guide.md", "docs/user_guide.md", "../docs/user_guide.md",
+  for (const char* place : {"../share/lumivex/doc/user_guide.md", "docs/user_guide.md", "../docs/user_guide.md",
                             "../../docs/user_guide.md"})
     if (const QString path = program.absoluteFilePath(place); QFile::exists(path)) return QDir::cleanPath(path);
   // A program that was built elsewhere finds it in the sources that it was built from.
