@@ -5,6 +5,7 @@
 #include <QBuffer>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QCursor>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QKeyEvent>
@@ -29,6 +30,7 @@
 #include "session/undo.h"
 #include "session/user_actions.h"
 #include "session/window_events.h"
+#include "ui/help/help_topics.h"
 #include "ui/look.h"
 
 namespace lumivex {
@@ -265,6 +267,10 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void MainWindow::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_F1 && event->modifiers() == Qt::ShiftModifier) {
+    ShowHelpOfInput();
+    return;
+  }
   if (!IsReturn(event)) {
     QMainWindow::keyPressEvent(event);
     return;
@@ -276,6 +282,17 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
   } else {
     NewPlot();
   }
+}
+
+void MainWindow::ShowHelpOfInput() {
+  // The one that the pointer is over, whose tip may be on show, before the one that has the focus.
+  for (QWidget* widget : {QApplication::widgetAt(QCursor::pos()), focusWidget()}) {
+    const Control* control = widget ? session_->form1.Find(FromQString(widget->objectName())) : nullptr;
+    if (control == nullptr) continue;
+    session_->platform.Help(HelpNameOf(*control));
+    return;
+  }
+  session_->platform.Help("");
 }
 
 void MainWindow::NewPlot() {

@@ -91,6 +91,8 @@ class MainWindow final : public QMainWindow {
   void ShowReadOut();
   void Act(const CommandGate::Action& command);
   void NewPlot();
+  /// The guide at what it says of the input under the pointer, or of the one with the focus.
+  void ShowHelpOfInput();
   void Resized();
   ControlActions Actions();
   DialogView::Hooks DialogHooks();

@@ -8,7 +8,7 @@
 #include <QRegularExpression>
 #include <QScreen>
 
-#include "ui/guide_window.h"
+#include "ui/help/help_window.h"
 #include "ui/look.h"
 #include "ui/photograph_file.h"
 
@@ -98,8 +98,8 @@ void QtPlatform::Beep() {
 }
 
 void QtPlatform::Help(std::string_view page) {
-  if (!guide_) guide_ = new GuideWindow(window);
-  guide_->ShowPage(ToQString(page));
+  if (!help_) help_ = new HelpWindow(window);
+  help_->ShowTopic(page);
 }
 
 void QtPlatform::BringToFront(Form& form) {

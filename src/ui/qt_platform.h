@@ -11,7 +11,7 @@
 
 namespace lumivex {
 
-class GuideWindow;
+class HelpWindow;
 
 /// The window system as the session's outside world.
 class QtPlatform final : public Platform {
@@ -53,7 +53,7 @@ class QtPlatform final : public Platform {
 
   CommandGate& gate_;
   QElapsedTimer clock_;
-  QPointer<GuideWindow> guide_;
+  QPointer<HelpWindow> help_;
   QString folder_;  ///< of the file that was chosen last, where the next dialog begins; empty before
 };
 
