@@ -1,11 +1,14 @@
 #include "ui/canvas.h"
 
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
 #include <cmath>
 #include <utility>
+
+#include "ui/look.h"
 
 namespace lumivex {
 
@@ -15,6 +18,31 @@ constexpr int resizePauseMs = 30;
 constexpr double wheelStep = 120;  // eighths of a degree to a click of a wheel
 constexpr double markRadiusPx = 4;
 
+class CanvasAccess final : public QAccessibleWidget {
+ public:
+  explicit CanvasAccess(Canvas* canvas) : QAccessibleWidget(canvas, QAccessible::Chart), canvas_(canvas) {}
+  QString text(QAccessible::Text kind) const override {
+    if (kind == QAccessible::Description && canvas_->inWords) return ToQString(canvas_->inWords());
+    return QAccessibleWidget::text(kind);
+  }
+
+ private:
+  Canvas* canvas_;
+};
+
+QAccessibleInterface* MakeAccess(const QString&, QObject* object) {
+  auto* canvas = qobject_cast<Canvas*>(object);
+  return canvas ? new CanvasAccess(canvas) : nullptr;
+}
+
+void OfferAccess() {
+  static const bool offered = [] {
+    QAccessible::installFactory(MakeAccess);
+    return true;
+  }();
+  static_cast<void>(offered);
+}
+
 }  // namespace
 
 Canvas::Canvas(QWidget* parent) : QWidget(parent), surface_(1, 1, unitPx_, 1) {
@@ -22,6 +50,7 @@ Canvas::Canvas(QWidget* parent) : QWidget(parent), surface_(1, 1, unitPx_, 1) {
   setMouseTracking(true);
   setFocusPolicy(Qt::StrongFocus);
   setAccessibleName("Graph");
+  OfferAccess();
   resizeTimer_.setSingleShot(true);
   resizeTimer_.setInterval(resizePauseMs);
   connect(&resizeTimer_, &QTimer::timeout, this, [this] {

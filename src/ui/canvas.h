@@ -35,6 +35,8 @@ struct CanvasMouse {
 /// the page, until a new one of the new size has been drawn: at once for a single change, a few times a second while an
 /// edge is dragged.
 class Canvas final : public QWidget {
+  Q_OBJECT
+
  public:
   explicit Canvas(QWidget* parent = nullptr);
 
@@ -58,6 +60,8 @@ class Canvas final : public QWidget {
   const std::optional<SurfacePoint>& Mark() const { return mark_; }
 
   CanvasMouse mouse;
+  /// What the drawing shows, for those who hear it; asked when a screen reader asks.
+  std::function<std::string()> inWords;
   /// A key while the graph has the focus; true when it meant something.
   std::function<bool(const QKeyEvent& event)> key;
   /// The widget has a new size and the drawing has not: called when it is time to renew it.

@@ -24,6 +24,7 @@
 
 #include "files/open_file.h"
 #include "pages/build_page.h"
+#include "pages/page_in_words.h"
 #include "record/text_file.h"
 #include "session/info.h"
 #include "session/page.h"
@@ -85,6 +86,7 @@ MainWindow::MainWindow(CommandGate& gate)
   setAcceptDrops(true);
   MakeStatusLine();
   canvas_->resized = [this] { Resized(); };
+  canvas_->inWords = [this] { return session_ ? PageInWords(session_->page) : std::string(); };
   canvas_->mouse.press = [this](double x, double y) {
     Act([this, x, y] { Form_MouseDown(*session_, x, y); });
     pointer_.Press({x, y});
