@@ -44,6 +44,7 @@ constexpr const char* pages[] = {
     "physics_beams.md",
     "physics_drops.md",
     "physics_time.md",
+    "user_guide_time.md",
     "physics_sky.md",
     "physics_materials.md",
     "results-file.md",
