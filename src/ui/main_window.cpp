@@ -72,6 +72,7 @@ MainWindow::MainWindow(CommandGate& gate)
     : gate_(gate),
       scroll_(new QScrollArea(this)),
       canvas_(new Canvas(scroll_)),
+      statusLine_(*statusBar()),
       pointer_(*canvas_, [this](const CommandGate::Action& command) { Act(command); }),
       undoKeys_([this](bool redo) {
         auto& form = session_->form1;
@@ -84,7 +85,6 @@ MainWindow::MainWindow(CommandGate& gate)
   scroll_->setWidget(canvas_);
   setCentralWidget(scroll_);
   setAcceptDrops(true);
-  MakeStatusLine();
   canvas_->resized = [this] { Resized(); };
   canvas_->inWords = [this] { return session_ ? PageInWords(session_->page) : std::string(); };
   canvas_->mouse.press = [this](double x, double y) {
@@ -92,7 +92,7 @@ MainWindow::MainWindow(CommandGate& gate)
     pointer_.Press({x, y});
   };
   canvas_->key = [this](const QKeyEvent& event) { return pointer_.Key(event); };
-  pointer_.readingChanged = [this] { ShowReadOut(); };
+  pointer_.readingChanged = [this] { statusLine_.ShowReading(pointer_.Text()); };
   gate_.refresh = [this] { Refresh(); };
   gate_.whenFree = [this] {
     if (lookIsStale_) TakeNewLook();
@@ -110,29 +110,6 @@ MainWindow::MainWindow(CommandGate& gate)
 
 MainWindow::~MainWindow() {
   gate_.refresh = gate_.whenFree = gate_.stop = nullptr;
-}
-
-void MainWindow::MakeStatusLine() {
-  status_ = new QLabel(this);
-  status_->setTextFormat(Qt::PlainText);
-  readOut_ = new QLabel(this);
-  readOut_->setTextFormat(Qt::PlainText);
-  readOut_->setAccessibleName("Reading of the graph");
-  readOut_->setContentsMargins(4, 0, 12, 0);
-  readOut_->hide();
-  average_ = new QLabel(this);
-  progress_ = new QProgressBar(this);
-  progress_->setAccessibleName("Progress of the calculation");
-  progress_->setRange(0, 100);
-  MeasureProgress();
-  progress_->hide();
-  status_->setContentsMargins(4, 0, 0, 0);
-  // A long line is cut off; it makes no window wider.
-  status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  statusBar()->addWidget(readOut_);
-  statusBar()->addWidget(status_, 1);
-  statusBar()->addPermanentWidget(average_);
-  statusBar()->addPermanentWidget(progress_);
 }
 
 ControlActions MainWindow::Actions() {
@@ -344,25 +321,6 @@ void MainWindow::Settle() {
   }
 }
 
-void MainWindow::ShowReadOut() {
-  const QString text = pointer_.Text();
-  if (readOut_->text() != text) readOut_->setText(text);
-  readOut_->setVisible(!text.isEmpty());
-}
-
-void MainWindow::ShowStatus() {
-  const auto& form = session_->form1;
-  const QString offer = pointer_.Offer();
-  const QString text = ToQString(StatusText(*session_)) + (offer.isEmpty() ? offer : "      " + offer);
-  if (status_->text() != text) status_->setText(text);
-  const QString average = form.mnuAverage.Checked ? ToQString(form.lblAverage.Caption) : QString();
-  if (average_->text() != average) average_->setText(average);
-  const bool busy = form.txtProgress.Visible;
-  const int percent = std::clamp(static_cast<int>(session_->state.ProgressPercent), 0, 100);
-  if (progress_->value() != percent) progress_->setValue(percent);
-  if (progress_->isHidden() == busy) progress_->setVisible(busy);
-}
-
 void MainWindow::Refresh() {
   if (!session_) return;
   // On a dark desktop the page is dark too, unless the user has chosen its background.
@@ -374,13 +332,13 @@ void MainWindow::Refresh() {
   panel_->Sync();
   menu_->Sync();
   info_->Sync(session_->page, canvas_->Unit(), scroll_->maximumViewportSize().width());
-  ShowStatus();
+  statusLine_.Show(*session_, pointer_.Offer());
   for (DialogView* dialog : dialogs_) dialog->Sync();
   for (const auto& window : windows_)
     if (window) window->Sync();
   if (photograph_) photograph_->Refresh();
   pointer_.Renew();
-  ShowReadOut();
+  statusLine_.ShowReading(pointer_.Text());
   ReserveRoom();
   canvas_->ShowChanges();
 }
@@ -502,7 +460,7 @@ void MainWindow::changeEvent(QEvent* event) {
 void MainWindow::TakeNewLook() {
   if (!lookIsStale_ || gate_.Running()) return;
   lookIsStale_ = false;
-  MeasureProgress();
+  statusLine_.Measure();
   RenewInfo();
   units_.assign(units_.size(), 0);
   BuildPanel(0);
@@ -512,11 +470,6 @@ void MainWindow::TakeNewLook() {
 void MainWindow::RenewInfo() {
   delete info_;
   info_ = new InfoOverlay(session_->form1.Frame6, canvas_);
-}
-
-void MainWindow::MeasureProgress() {
-  progress_->setFixedWidth(fontMetrics().averageCharWidth() * 34);
-  progress_->setMaximumHeight(fontMetrics().height() + 2);
 }
 
 }  // namespace lumivex

@@ -20,6 +20,7 @@
 #include "ui/panel_density.h"
 #include "ui/panel_view.h"
 #include "ui/photograph_window.h"
+#include "ui/status_line.h"
 #include "ui/undo_keys.h"
 
 namespace lumivex {
@@ -76,19 +77,15 @@ class MainWindow final : public QMainWindow {
   void dropEvent(QDropEvent* event) override;
 
  private:
-  void MakeStatusLine();
   void ShowPhotograph();
   void FitPanel();
   void BuildPanel(std::size_t density);
   double UnitOf(std::size_t density);
   void TakeNewLook();
   void RenewInfo();
-  void MeasureProgress();
   void ReserveRoom();
   void RenewDrawing();
   void WatchInputs();
-  void ShowStatus();
-  void ShowReadOut();
   void Act(const CommandGate::Action& command);
   void NewPlot();
   /// The guide at what it says of the input under the pointer, or of the one with the focus.
@@ -101,6 +98,7 @@ class MainWindow final : public QMainWindow {
   Session* session_ = nullptr;
   QScrollArea* scroll_;
   Canvas* canvas_;
+  StatusLine statusLine_;
   GraphPointer pointer_;
   PanelView* panel_ = nullptr;
   InfoOverlay* info_ = nullptr;
@@ -109,10 +107,6 @@ class MainWindow final : public QMainWindow {
   double leastUnits_ = unitsWithReadings;  ///< width that the drawing keeps (surface units)
   bool lookIsStale_ = false;               ///< the desktop's font or colours have changed
   std::unique_ptr<MenuView> menu_;
-  QLabel* readOut_ = nullptr;
-  QLabel* status_ = nullptr;
-  QLabel* average_ = nullptr;
-  QProgressBar* progress_ = nullptr;
   std::vector<DialogView*> dialogs_;
   std::vector<QPointer<DialogView>> windows_;  ///< modeless ones
   PhotographWindow* photograph_ = nullptr;

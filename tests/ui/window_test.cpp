@@ -2,6 +2,7 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
+#include <QLabel>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTemporaryDir>
@@ -154,6 +155,20 @@ TEST_F(MainWindowTest, AClickOnTheDebyeAnalysisChoosesItsNumbers) {
   EXPECT_TRUE(dialogs.empty()) << "the dialog was not opened";
   EXPECT_EQ(Now().page.phasors->labels.number, 9);
   EXPECT_TRUE(messages.empty()) << messages.front();
+}
+
+TEST_F(MainWindowTest, TheStatusLineTellsHowFarNumbersCanBeTrusted) {
+  const auto trust = [&]() -> QLabel* {
+    for (auto* label : program.Window().statusBar()->findChildren<QLabel*>())
+      if (label->accessibleName() == "Trust in the numbers") return label;
+    return nullptr;
+  };
+  ASSERT_NE(trust(), nullptr);
+  EXPECT_TRUE(trust()->text().contains("\u2714 exact")) << trust()->text().toStdString();
+  EXPECT_TRUE(trust()->toolTip().contains("optical theorem"));
+  Type(Form().txtRadius, "100");
+  Click(Form().cmdNewPlot);
+  EXPECT_TRUE(trust()->text().contains("\u2716 steps miss ripples")) << trust()->text().toStdString();
 }
 
 TEST_F(MainWindowTest, F1OpensTheGuideAndWithShiftWhatItSaysOfTheInput) {
