@@ -73,6 +73,7 @@ constexpr std::array rows = {
     Graph{{31, 0}, F::Volume, A::Number, Q::Intensity, D::Curves, M::Any},
     Graph{{32, 0}, F::Volume, A::Time, Q::Intensity, D::Curves, M::Any},
     Graph{{33, 0}, F::Volume, A::Radius, Q::Intensity, D::Curves, M::Any},
+    Graph{{34, 0}, F::Axis, A::Clock, Q::BowAngle, D::Curves, M::DropsAlone},
 };
 
 constexpr std::array sweptRows = {

@@ -33,6 +33,7 @@ enum class AxisVariable {
   Time,
   Number,  ///< of spheres
   Place,   ///< of a sphere
+  Clock,   ///< angle along a bow
 };
 
 /// What is calculated.
@@ -52,6 +53,7 @@ enum class Quantity {
   Albedo,
   Power,      ///< scattered into a range of angles
   Remainder,  ///< of an amplitude, after terms have been taken away
+  BowAngle,   ///< scattering angle of rainbows
 };
 
 /// How it is drawn.
@@ -65,6 +67,7 @@ enum class MethodsTaken {
   DebyeAlone,            ///< others are refused
   Series,                ///< those that sum partial waves
   SeriesAndClosedForms,  ///< those that have efficiencies
+  DropsAlone,            ///< others are refused
 };
 
 /// The numbers by which files and scripts name a graph.

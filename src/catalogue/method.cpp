@@ -26,7 +26,7 @@ constexpr std::array rows = {
                  .hasHidden = yes},
     MethodTraits{.method = Method::Huygens, .showsP = yes, .needsP = yes, .counts = Counted::Rays},
     MethodTraits{.method = Method::Aperture, .showsP = yes, .angleOnly = yes, .counts = Counted::Strips},
-    MethodTraits{.method = Method::SurfaceWave, .showsP = yes, .beams = yes},
+    MethodTraits{.method = Method::SurfaceWave, .showsP = yes, .beams = yes, .leastSize = yes},
     MethodTraits{.method = Method::VanDeHulst, .angleOnly = yes},
     MethodTraits{.method = Method::CoatedSphere, .series = yes, .efficiencies = yes, .layered = yes, .divides = yes},
     MethodTraits{.method = Method::YoungAiry,
@@ -35,8 +35,8 @@ constexpr std::array rows = {
                  .beams = yes,
                  .takesDiffraction = yes,
                  .hasHidden = yes},
-    MethodTraits{.method = Method::Burgeroid},
-    MethodTraits{.method = Method::Heiligenschein},
+    MethodTraits{.method = Method::Burgeroid, .angleOnly = yes, .leastSize = yes, .takesLong = yes},
+    MethodTraits{.method = Method::Heiligenschein, .leastSize = yes, .takesLong = yes},
     MethodTraits{.method = Method::InhomogeneousSphere, .layered = yes, .angleOnly = yes},
 };
 

@@ -43,6 +43,8 @@ struct MethodTraits {
   bool takesDiffraction = false;  ///< diffraction can be added
   bool hasHidden = false;         ///< offers the diagnostics
   bool divides = false;           ///< its amplitudes can be divided by x
+  bool leastSize = false;         ///< spheres below a size are refused
+  bool takesLong = false;         ///< without a series; its work is told before it begins
   Counted counts = Counted::Nothing;
 };
 

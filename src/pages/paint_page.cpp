@@ -7,6 +7,7 @@
 #include "pages/curves/curve_path.h"
 #include "pages/frame/frame.h"
 #include "pages/frame/polar_plot.h"
+#include "pages/items/drop_drawing.h"
 #include "pages/items/huygens_drawing.h"
 #include "pages/items/phasor_diagram.h"
 #include "pages/items/profile_graph.h"
@@ -118,6 +119,7 @@ void Paint(const Page& page, DrawingSurface& surface) {
   else
     for (std::size_t i = 0; i < page.panels.size(); ++i) PaintPanel(surface, page, i, polarLabels);
   if (page.profile) PaintProfile(surface, *page.profile);
+  if (page.drop) PaintDrop(surface, *page.drop);
   PaintSheet(surface, page.sheet);
   if (page.phasors) PaintPhasors(surface, *page.phasors, page.style.ground);
   PaintTwoAngleNotes(surface, page);

@@ -155,6 +155,7 @@ void AddMethod(const Results& results, std::vector<std::string>& lines) {
   lines.push_back("Method: " + asked.words.method);
   if (asked.method.method != Method::Mie) AddLines(asked.words.methodLabel, lines);
   if (!asked.words.paths.empty()) lines.push_back("   Ray paths: " + asked.words.paths);
+  if (const std::string further = FurtherWordsOf(results); !further.empty()) lines.push_back("   " + further);
   lines.push_back("Graph: " + asked.words.graph);
   if (const std::string beam = BeamWords(asked.method.beam); !beam.empty()) lines.push_back(beam);
   if (const std::string sums = BeamSumWords(asked.method.beam); !sums.empty()) lines.push_back("   " + sums);
@@ -422,6 +423,10 @@ std::vector<std::string> ParameterLinesOf(const Results& results) {
     return lines;
   }
   AddVolume(results, lines);
+  if (const auto& drop = results.last.drop; drop && !spectrum && !asked.Cloud())
+    lines.push_back("Axis ratio: " + Number(drop->axisRatio) +
+                    ", power per \u03C0 a\u00B2: " + Significant(drop->perpendicular, 5) + " perpendicular, " +
+                    Significant(drop->parallel, 5) + " parallel");
   AddAxis(results, lines);
   if (const auto* map = results.Find<MapFound>(); map != nullptr && map->done < map->columns)
     lines.push_back("Calculated: " + CountOf(map->done, map->columns, "column"));
@@ -500,7 +505,21 @@ std::vector<std::string> FinerMarksOf(const Results& results) {
           OnOneLine(asked.words.methodLabel),
           asked.words.paths,
           BeamSumWords(asked.method.beam),
-          asked.method.method == Method::InhomogeneousSphere ? LayersWords(asked.method.layers) : ""};
+          asked.method.method == Method::InhomogeneousSphere ? LayersWords(asked.method.layers) : "",
+          FurtherWordsOf(results)};
+}
+
+std::string FurtherWordsOf(const Results& results) {
+  const MethodOptions& method = results.asked.method;
+  if (method.method == Method::SurfaceWave) {
+    const SurfaceWaveOptions& waves = method.surface;
+    const std::string poles = "J = " + std::to_string(waves.firstPole) + " to " + std::to_string(waves.lastPole);
+    return waves.amplitude == 1 ? poles : poles + ", amplitude times " + Number(waves.amplitude);
+  }
+  const auto& drop = results.last.drop;
+  if (!drop) return "";
+  const std::string asked = Format(drop->raysAsked, "#,##0"), done = Format(drop->raysDone, "#,##0");
+  return (drop->raysDone < drop->raysAsked ? done + " of " + asked : asked) + " rays";
 }
 
 std::string TimeWords(double seconds) {

@@ -28,4 +28,7 @@ std::vector<std::string> PlaceMarksOf(const Results& results);
 /// "12 ms" or "3.2 s".
 std::string TimeWords(double seconds);
 
+/// What surface waves and rays of flattened drops were added of, beyond the label of their method; empty for others.
+std::string FurtherWordsOf(const Results& results);
+
 }  // namespace lumivex

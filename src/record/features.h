@@ -63,6 +63,9 @@ inline constexpr std::array availableFeatures = {
     Feature::Simulation,
     Feature::Beams,
     Feature::FourierTransform,
+    Feature::SurfaceWaves,
+    Feature::NonSphericalDrops,
+    Feature::Heiligenschein,
 };
 
 constexpr bool IsAvailable(Feature feature) {

@@ -19,6 +19,8 @@
 
 namespace lumivex {
 
+struct DropSky;
+
 /// What the scales remember from frame to frame.
 struct ScaleMemory {
   double StoredTop = 100000;  ///< top and bottom of the last scaling: what a curve without positive values is drawn on
@@ -229,6 +231,28 @@ struct PageProfile {
   double lowest = 1, highest = 2;  ///< ends of the vertical axis
 };
 
+/// A flattened drop and its bows, as their dialog shows them. Lengths in radii of the sphere of equal volume.
+struct PageDrop {
+  struct Point {
+    double x = 0, z = 0;
+  };
+  /// The way of a bow's ray in the vertical plane of the sun, from the sun to the observer.
+  struct Ray {
+    int p = 2;
+    std::vector<Point> points;
+  };
+  /// A bow along the clock: its scattering angle (degrees) at each clock angle; not a number where it has ended.
+  struct Bow {
+    int p = 2;
+    std::vector<double> angle;
+  };
+  std::vector<Point> outline;
+  std::vector<Ray> rays;
+  std::vector<double> clock;  ///< degrees
+  std::vector<Bow> bows;
+  double clockFrom = 0, clockTo = 180;  ///< that are counted (degrees)
+};
+
 /// A line of readings.
 struct PageLine {
   std::string text;
@@ -252,6 +276,7 @@ struct PageBars {
   std::array<BarLight, 3> light;
   /// Of one wavelength: the greatest channel that an intensity of 1 has. Violet short of 392 nm has more than 1.
   double channelOfUnit = 1;
+  std::shared_ptr<const DropSky> sky;  ///< of flattened drops the light by angle and clock angle; may be null
 
   // In view.
   double reference = 0;                        ///< sum that has full brightness
@@ -287,6 +312,7 @@ struct Page {
   std::vector<PageLine> readings;       ///< of the last run
   std::optional<PageHistogram> histogram;
   std::optional<PageProfile> profile;        ///< in place of a graph
+  std::optional<PageDrop> drop;              ///< in place of a graph
   std::optional<PageMap> map;                ///< a Lee diagram or a map, a panel a picture
   std::optional<PagePhotograph> photograph;  ///< fills the page of the simulation window, in place of everything else
   std::vector<PageRun> runs;                 ///< in the order drawn

@@ -5,7 +5,7 @@ namespace lumivex {
 // The whole record is made and taken down here and nowhere else.
 Session::Session(Platform& outsideWorld, DrawingSurface& graphSurface, Events& eventTable)
     : platform(outsideWorld),
-      windows{Window{&forms.form1, &graphSurface}, Window{&forms.dlogInhomSphere}},
+      windows{Window{&forms.form1, &graphSurface}, Window{&forms.dlogInhomSphere}, Window{&forms.dlogNonSpherical}},
       events(eventTable) {}
 
 Session::~Session() = default;

@@ -1,6 +1,7 @@
 /// Runs over rows of scattering angle, at one wavelength or several.
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "runs/families.h"
@@ -29,6 +30,36 @@ void AppendIntensities(const AmplitudeTable& S, RowWindow window, std::vector<do
   for (std::size_t i = 0; i < count; ++i) cell[i] = re[i] * re[i] + im[i] * im[i];
 }
 
+/// Which light a table of the sky is of: a wavelength of a spectrum, from 1, or the only one.
+struct SkyLight {
+  const RunRequest& request;
+  RowWindow window;
+  std::optional<std::size_t> wavelength;
+};
+
+/// Adds the light of flattened drops over the sky, where that was asked for.
+void AddSky(const SphereSolution& drop, const SkyLight& light, DropSky& sky) {
+  if (drop.sky.empty()) return;
+  sky.rows = light.window;
+  sky.sectors = static_cast<int>(drop.sky.size()) / sky.RowCount();
+  double red = 1, green = 1, blue = 1;
+  if (light.wavelength) {
+    const SpectrumOfLight& spectrum = *light.request.light.spectrum;
+    const std::size_t i = *light.wavelength;
+    const double weight = double{spectrum.weight[i]};
+    red = weight * spectrum.red[i];
+    green = weight * spectrum.green[i];
+    blue = weight * spectrum.blue[i];
+  }
+  const auto add = [&drop](std::vector<float>& channel, double weight) {
+    channel.resize(drop.sky.size());
+    for (std::size_t i = 0; i < channel.size(); ++i) channel[i] += static_cast<float>(weight * double{drop.sky[i]});
+  };
+  add(sky.red, red);
+  add(sky.green, green);
+  add(sky.blue, blue);
+}
+
 FamilyEnd RunOneSphere(const RunRequest& request, const AngleRows& rows, const Setting& setting, TaskPool& pool,
                        Results& results) {
   SphereAsked asked{setting.x, setting.mRe, setting.mIm, rows.Grid(), rows.window, nullptr};
@@ -48,6 +79,7 @@ FamilyEnd RunOneSphere(const RunRequest& request, const AngleRows& rows, const S
   found.rows = sphere.rows;
   found.waves = std::move(sphere.waves);
   found.wavefronts = std::move(sphere.wavefronts);
+  AddSky(sphere, {request, rows.window, std::nullopt}, results.sky);
   results.found = std::move(found);
   return {true, {}};
 }
@@ -107,6 +139,7 @@ FamilyEnd RunSpectrum(const RunRequest& request, const SpectrumRun& run, TaskPoo
     AppendIntensities(sphere.sphere.S2, window, found.parallel);
     found.waveNumber[static_cast<std::size_t>(++found.done)] = settings[i].WaveNumber();
     TellSphere(sphere.sphere, results.last);
+    AddSky(sphere.sphere, {request, window, i + 1}, results.sky);
     results.last.samples = sphere.samples;
     found.S1 = std::move(sphere.sphere.S1);
     found.S2 = std::move(sphere.sphere.S2);

@@ -208,8 +208,11 @@ FamilyEnd RunAxis(const RunRequest& request, const AxisRun& run, TaskPool& pool,
   const bool lanes = request.method.method == Method::Mie && request.method.beam.Plane() &&
                      request.graph.quantity != Quantity::Power && !request.Cloud();
   const std::vector<Setting> all = settings;
-  refusal = lanes ? SolveLanes(request, run, settings, pool, found)
-                  : SolvePoints(request, run, std::move(settings), pool, found, results.last);
+  if (request.graph.quantity == Quantity::BowAngle)
+    refusal = SolveBows(request, all.front(), pool, found);
+  else
+    refusal = lanes ? SolveLanes(request, run, settings, pool, found)
+                    : SolvePoints(request, run, std::move(settings), pool, found, results.last);
   if (!refusal.text.empty() || found.done < 1) return {false, std::move(refusal)};
   const auto i = static_cast<std::size_t>(found.done);
   TellSetting(all[i - 1], results.last);

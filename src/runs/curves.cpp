@@ -236,6 +236,8 @@ PointCurves QuantityAt(const Results& results, const AxisFound& found, std::size
       return all(found.g[i]);
     case Quantity::Albedo:
       return all(found.Cext[i] == 0 ? 0 : found.Csca[i] / found.Cext[i]);
+    case Quantity::BowAngle:
+      return {found.bows[0][i], found.bows[1][i], found.bows[2][i]};
     case Quantity::Power:
       return {found.powerPerp[i], found.powerPar[i], (found.powerPerp[i] + found.powerPar[i]) / 2};
     default:
@@ -256,7 +258,7 @@ Curves CurvesOfFound(const Results& results, const CurveLook& look, const AxisFo
   Size(curves, found.x.size(), notComputed);
   for (int point = 1; point <= std::min(found.done, curves.lastRow); ++point) {
     const std::size_t i = At(point);
-    if (graph.OfEfficiencies() || graph.quantity == Quantity::Power) {
+    if (graph.OfEfficiencies() || graph.quantity == Quantity::Power || graph.quantity == Quantity::BowAngle) {
       const PointCurves values = QuantityAt(results, found, i);
       curves.perpendicular[i] = values.perpendicular;
       curves.parallel[i] = values.parallel;

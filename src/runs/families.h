@@ -44,6 +44,11 @@ struct PowerRows {
   double Integral(const AmplitudeTable& S) const;
 };
 
+/// The orders whose rainbows are told apart.
+inline constexpr int lowestBow = 2, highestBow = 4;
+/// Fills the bows of the selected orders at the clock angles `found.x` (degrees).
+Refusal SolveBows(const RunRequest& request, const Setting& setting, TaskPool& pool, AxisFound& found);
+
 /// What a setting tells of the last sphere.
 void TellSetting(const Setting& setting, LastSphere& last);
 /// The row of a grid of 0.01 degrees that is nearest to the one angle (radians) of a run.

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "runs/beam_methods.h"
+#include "runs/further_methods.h"
 #include "runs/sphere_solver.h"
 #include "runs/watched.h"
 #include "solvers/functions/complex_algebra.h"
@@ -90,6 +91,7 @@ Refusal BeyondProfile(const ProfileLayers& layers, const SphereAsked& asked) {
 
 Refusal BeyondLimits(const MethodOptions& options, const SphereAsked& asked) {
   if (options.method == Method::InhomogeneousSphere) return BeyondProfile(options.layers, asked);
+  if (options.method == Method::Burgeroid) return BeyondDrops(options, asked);
   const bool beam = !options.beam.Plane() && (options.method == Method::Mie || options.method == Method::Debye);
   if (beam) return BeyondBeam(options, asked);
   if (options.method != Method::CoatedSphere) return BeyondLimits(options, asked.x, asked.mRe, asked.mIm);

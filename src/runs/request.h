@@ -14,9 +14,11 @@
 #include "particles/size_distribution.h"
 #include "solvers/angles/angle_grid.h"
 #include "solvers/beams/beam_shape.h"
+#include "solvers/drops/drop_shape.h"
 #include "solvers/layers/coated_paths.h"
 #include "solvers/layers/index_profile.h"
 #include "solvers/patterns/simple_scattering.h"
+#include "solvers/waves/surface_wave.h"
 
 namespace lumivex {
 
@@ -55,6 +57,30 @@ struct Illumination {
   bool operator==(const Illumination&) const = default;
 };
 
+/// Which surface waves are added.
+struct SurfaceWaveOptions {
+  SurfacePath path = SurfacePath::Both;
+  int firstPole = 1, lastPole = 10;
+  double amplitude = 1;  ///< factor on S1 and S2
+};
+
+/// Rays of a drop that is no sphere. The radius is that of the sphere of equal volume.
+struct DropOptions {
+  DropForm form = DropForm::Spheroid;
+  std::optional<double> axisRatio;  ///< height over width of a spheroid; nothing for that of its size
+  double elevation = 0;             ///< of the sun (radians)
+  double clock = 0;                 ///< which part of the bow is counted (radians), 0 at its top
+  double clockHalfWidth = 0;        ///< radians; 0 for all round
+  double rays = 4e6;
+  bool sky = false;  ///< a table by angle and clock angle is made as well
+};
+
+/// A sphere before a white surface.
+struct DewOptions {
+  double distance = 2;  ///< of the surface from the centre (radii)
+  double slope = 0;     ///< of its normal to the sun (radians)
+};
+
 /// How one sphere is calculated, whatever its size.
 struct MethodOptions {
   Method method = Method::Mie;
@@ -73,6 +99,9 @@ struct MethodOptions {
   std::optional<std::vector<WeightedPath>> paths;      ///< of a coated sphere: its Debye terms alone that are wanted
   WaveRecursion recursion = WaveRecursion::Automatic;  ///< of those
   ProfileLayers layers;
+  SurfaceWaveOptions surface;
+  DropOptions drop;
+  DewOptions dew;
 
   /// Of p = 0 alone.
   bool OnlyReflected() const { return rays.size() == 1 && rays[0] != 0; }
@@ -126,8 +155,8 @@ struct AngleRows {
   int NANG = 901;                           ///< rows from 0 to 90 degrees
   RowWindow window{1, 1801};                ///< rows that are calculated: those shown and the neighbours averages need
   double firstPoint = 1, lastPoint = 1801;  ///< rows shown
-  /// Degrees of row 1 in a beam, whose two sides differ: NANG is then half of the rows. Otherwise rows begin at 0 and
-  /// are mirrored at 90 degrees.
+  /// Degrees of row 1 where the two sides differ, in a beam or about the antisolar point of dew: NANG is then half of
+  /// the rows. Otherwise rows begin at 0 and are mirrored at 90 degrees.
   std::optional<double> origin = std::nullopt;
 
   double Origin() const { return origin.value_or(0); }

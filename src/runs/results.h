@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -46,6 +47,14 @@ struct BeamNumbers {
   double functions = 0, shape = 0, waves = 0, angles = 0;
 };
 
+/// What the rays of a drop that is no sphere were counted with.
+struct DropNumbers {
+  double axisRatio = 1;                ///< height over width
+  double raysAsked = 0, raysDone = 0;  ///< after a Stop fewer were traced
+  /// Power into all directions in units of pi a^2, of unit intensity in each polarisation.
+  double perpendicular = 0, parallel = 0;
+};
+
 /// What a solver tells of the last sphere that it calculated.
 struct LastSphere {
   double lambda = 0;  ///< um in vacuo
@@ -62,6 +71,7 @@ struct LastSphere {
   int partialWaveFirst = 0, partialWaveLast = 0;
   int samples = 1;                  ///< of its cloud
   std::optional<BeamNumbers> beam;  ///< of a series
+  std::optional<DropNumbers> drop;
   // What rays and closed forms leave.
   double rainbowImpact = 1, rainbowAngle = 0, rayAngle = 0;  ///< sin i, radians, degrees
   std::vector<double> apertureCentre, apertureWeight, besselOrders;
@@ -86,6 +96,17 @@ struct SpectrumFound {
   AmplitudeTable S1, S2;                        ///< of the last of them, as in AngleFound
 };
 
+/// Unpolarised light of flattened drops over the sky: element sector * rows.Count + row - rows.low. Of one wavelength
+/// all three channels are |S|^2, of a spectrum they are the sums over its wavelengths.
+struct DropSky {
+  int sectors = 0;  ///< of equal width from the top of the bow to its foot; the other side mirrors them; 0 without
+  RowWindow rows;
+  std::vector<float> red, green, blue;
+
+  int RowCount() const { return rows.Empty() ? 0 : rows.high - rows.low + 1; }
+  std::size_t Size() const { return static_cast<std::size_t>(sectors) * static_cast<std::size_t>(RowCount()); }
+};
+
 /// Points of an axis, first index 1; what was not calculated is 0 and lies beyond `done`.
 struct AxisFound {
   std::vector<double> x;  ///< in the unit of the axis
@@ -96,7 +117,9 @@ struct AxisFound {
   std::vector<double> Qext, Qsca, Qback, g;
   std::vector<double> Cext, Csca;           ///< um2; of a cloud their means
   std::vector<double> powerPerp, powerPar;  ///< W
-  int done = 0;                             ///< points, from the first
+  /// Scattering angles of the bows p = 2, 3, 4 (degrees); not a number where there is none. Empty for other graphs.
+  std::array<std::vector<double>, 3> bows;
+  int done = 0;  ///< points, from the first
 };
 
 /// Intensities of the running sums by number of terms, index 0 unused.
@@ -169,6 +192,7 @@ struct Results : std::enable_shared_from_this<Results> {
   RunRequest asked;
   FamilyFound found;  ///< the alternative of asked.run
   LastSphere last;
+  DropSky sky;
   double seconds = 0;  ///< that the run took
 
   const Graph& AskedGraph() const { return asked.graph; }

@@ -68,6 +68,7 @@ void TellSphere(const SphereSolution& sphere, LastSphere& last) {
   last.apertureWeight = sphere.apertureWeight;
   last.besselOrders = sphere.besselOrders;
   last.beam = sphere.beam;
+  last.drop = sphere.drop;
 }
 
 RunEnd Run(const RunRequest& request, RunWatch& watch, unsigned threads) {

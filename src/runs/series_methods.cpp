@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "runs/beam_methods.h"
+#include "runs/further_methods.h"
 #include "runs/sphere_solver.h"
 #include "runs/watched.h"
 #include "solvers/series/debye_series.h"
@@ -106,6 +107,8 @@ Refusal BeyondLimits(const MethodOptions& options, double x, double mRe, double 
   const bool opaqueSphere = options.OnlyReflected() && x * mIm > opaque;
   if (options.method == Method::Debye && !opaqueSphere && CheckDebyeLimits(x, mRe, mIm) != MieRefusal::None)
     return {"Error", "Reduce radius or increase wavelength"};
+  if (options.method == Method::SurfaceWave) return BeyondSurfaceWaves(options, x, mRe);
+  if (options.method == Method::Heiligenschein) return BeyondDew(x);
   return {};
 }
 

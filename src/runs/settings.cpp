@@ -128,11 +128,19 @@ class SamplesCache {
   double radius_ = 0;
 };
 
-double LargestOf(const CloudSamples& samples) {
-  double largest = 0;
-  for (std::size_t i = 1; i < samples.radius.size(); ++i)
-    if (samples.weight[i] > 0) largest = std::max(largest, samples.radius[i]);
-  return largest;
+/// The smallest and the largest sphere that is there.
+struct SizeEnds {
+  double smallest = 0, largest = 0;
+};
+SizeEnds EndsOf(const CloudSamples& samples) {
+  SizeEnds ends;
+  for (std::size_t i = 1; i < samples.radius.size(); ++i) {
+    const double radius = samples.radius[i];
+    if (!(samples.weight[i] > 0 && radius > 0)) continue;
+    ends.smallest = ends.smallest > 0 ? std::min(ends.smallest, radius) : radius;
+    ends.largest = std::max(ends.largest, radius);
+  }
+  return ends;
 }
 
 /// A cloud whose cores are of one size has no spheres smaller than these.
@@ -288,25 +296,28 @@ SettingsEnd RunSettings(const SettingsPlan& plan, TaskPool& pool) {
 SettingsEnd DispCalc(const SettingsPlan& plan, TaskPool& pool) {
   SettingsEnd end;
   if (plan.settings.empty()) return end;
-  double radiusOfLargest = plan.settings.front().radius;
+  double radiusOfEnds = plan.settings.front().radius;
   const Particle& particle = plan.request.particle;
-  const CloudSamples first = SamplesAt(plan.request, radiusOfLargest);
+  const CloudSamples first = SamplesAt(plan.request, radiusOfEnds);
   if (first.failure != SizeFailure::None) {
     end.refusal = RefusalOf(first.failure);
     return end;
   }
   if (Refusal small = SmallerThanCore(particle, plan.request.sizes, first); !small.text.empty())
     return {0, std::move(small)};
-  double largest = LargestOf(first);
+  SizeEnds ends = EndsOf(first);
   for (std::size_t i = 0; i < plan.settings.size(); ++i) {
     const Setting setting = plan.settings[i];
-    // The largest sphere of a cloud decides; of models and files it is the same everywhere.
-    if (setting.radius != radiusOfLargest) largest = LargestOf(SamplesAt(plan.request, setting.radius));
-    radiusOfLargest = setting.radius;
-    const double radius = RadiusOfSample(particle, largest);
-    const double x = SizeParameterOf(radius, setting.indices.MediumInUse(), setting.lambda);
-    if (Refusal beyond = BeyondLimits(plan.request, setting, radius, x); !beyond.text.empty())
-      return {0, std::move(beyond)};
+    // The largest sphere of a cloud decides, or the smallest; of models and files they are the same everywhere.
+    if (setting.radius != radiusOfEnds) ends = EndsOf(SamplesAt(plan.request, setting.radius));
+    radiusOfEnds = setting.radius;
+    for (const double size :
+         {ends.largest, TraitsOf(plan.request.method.method).leastSize ? ends.smallest : ends.largest}) {
+      const double radius = RadiusOfSample(particle, size);
+      const double x = SizeParameterOf(radius, setting.indices.MediumInUse(), setting.lambda);
+      if (Refusal beyond = BeyondLimits(plan.request, setting, radius, x); !beyond.text.empty())
+        return {0, std::move(beyond)};
+    }
   }
   const auto perCloud = static_cast<std::size_t>(first.Count());
   const bool actual = IsActual(plan.request.sizes);

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "runs/beam_methods.h"
+#include "runs/further_methods.h"
 #include "runs/settings.h"
 #include "solvers/series/folded_series.h"
 
@@ -177,6 +178,9 @@ std::shared_ptr<const RayPieces> PiecesInPool(const MethodOptions& options, doub
 }
 
 SphereSolution SolveInParts(const MethodOptions& options, const SphereAsked& asked, TaskPool& pool) {
+  if (options.method == Method::SurfaceWave) return SurfaceWavesInParts(options, asked, pool);
+  if (options.method == Method::Burgeroid) return NonSphericalInParts(options, asked, pool);
+  if (options.method == Method::Heiligenschein) return DewInParts(options, asked, pool);
   const bool series = options.method == Method::Mie || TraitsOf(options.method).layered ||
                       (options.method == Method::Debye && options.difference == Difference::None);
   if (series && !options.beam.Plane()) return SolveBeamInParts(options, asked, pool);

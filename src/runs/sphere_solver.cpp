@@ -29,9 +29,12 @@ constexpr SolverRow solverRows[] = {
     {Method::YoungMod, GO},
     {Method::Huygens, Huygens},
     {Method::Aperture, Aperture},
+    {Method::SurfaceWave, SurfaceWaves},
     {Method::VanDeHulst, vdh},
     {Method::YoungAiry, GO},
     {Method::CoatedSphere, Coated},
+    {Method::Burgeroid, NonSpherical},
+    {Method::Heiligenschein, Dew},
     {Method::InhomogeneousSphere, Inhomogeneous},
 };
 

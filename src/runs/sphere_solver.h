@@ -42,6 +42,8 @@ struct SphereSolution {
   std::vector<HuygensWave> wavefronts;
   std::vector<double> apertureCentre, apertureWeight, besselOrders;
   std::optional<BeamNumbers> beam;
+  std::optional<DropNumbers> drop;
+  std::vector<float> sky;  ///< of flattened drops |S|^2 by sector and row of the window; see DropSky
 
   bool Refused() const { return !refusal.text.empty(); }
 };
@@ -127,6 +129,18 @@ SphereSolution CoatedSphereMie(const MethodOptions& options, const SphereAsked& 
 /// The selected ways through a coated sphere, each times its weight. Qext = 4 Re S(0)/y^2 and Qsca are those of the
 /// field of the selected terms, and mean something of whole sums only; Qback as above.
 SphereSolution CoatedSphereDebye(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor);
+
+/// The surface waves of the selected terms p >= 1 of the Debye series. There are no efficiencies. Spheres that are too
+/// small or not dense enough are refused with "Surface waves need a larger sphere or a higher refractive index".
+SphereSolution SurfaceWaves(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor);
+
+/// Rays of the selected p through a flattened drop, counted by rows: |S|^2 of unpolarised light, without phases. A row
+/// counts half a step to both sides; a grid of one angle half a degree. After a Stop no rows are done.
+SphereSolution NonSpherical(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor);
+
+/// Light that comes back from a sphere before a white surface; S1 = S2, real. Rows farther than 90 degrees from 180 are
+/// 0. There are no efficiencies.
+SphereSolution Dew(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor);
 
 /// A sphere whose index is a profile, in layers of equal depth.
 SphereSolution Inhomogeneous(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor);

@@ -25,6 +25,10 @@ constexpr double wayTerm = 10;     // each of the ways that are selected
 constexpr double layerTerm = 40;   // each layer of a profile
 constexpr double ratioTerm = 100;  // times x: continued fractions of an absorbing sphere
 
+// Rays: each of a drop, two bundles of dew, and the observer's one at one row.
+constexpr double spheroidRay = 900, burgeroidRay = 4000;
+constexpr double dewBundles = 6e7, dewRow = 1e7;
+
 // Of a double series: a term (L, M) at one row, its shape coefficients, and how many j a sum for them goes beyond M.
 constexpr double beamTerm = 12;
 constexpr double shapeTerm = 80;
@@ -77,6 +81,10 @@ double SphereWork(const MethodOptions& options, const Setting& setting, double x
     const double ways = options.paths ? static_cast<double>(options.paths->size()) * wayTerm : 0;
     return terms * (pairs + coatedTerm + ways);
   }
+  if (options.method == Method::Burgeroid)
+    return options.drop.rays * (options.drop.form == DropForm::Burgeroid ? burgeroidRay : spheroidRay);
+  if (options.method == Method::Heiligenschein)
+    return dewBundles + dewRow * (options.dew.slope == 0 ? pairs / 2 : pairs);
   if (options.method == Method::InhomogeneousSphere) return terms * (pairs + layerTerm * options.layers.layers);
   if (options.method != Method::Debye) return 0;
   const double fractions = options.byRatio && setting.mIm != 0 ? ratioTerm * x : 0;
@@ -114,6 +122,12 @@ double WorkOf(const RunRequest& request, const SpectrumRun& run) {
 double WorkOf(const RunRequest& request, const AxisRun& run) {
   const bool power = request.graph.quantity == Quantity::Power;
   const bool lanes = request.method.method == Method::Mie && request.method.beam.Plane() && !power && !request.Cloud();
+  // Each bow is found by some 1500 rays.
+  constexpr double raysPerBow = 1500;
+  if (request.graph.quantity == Quantity::BowAngle) {
+    const double ray = request.method.drop.form == DropForm::Burgeroid ? burgeroidRay : spheroidRay;
+    return run.points * RaysOf(request.method) * raysPerBow * ray;
+  }
   const PowerRows rows(run.range);
   // In lanes the whole cost of a term, its one angle with it, takes the place of that of a sphere alone.
   const double pairs = power ? PairsOf(rows.grid, rows.window) : lanes ? mieTermInLanes - mieTerm : 1;

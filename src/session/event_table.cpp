@@ -9,6 +9,8 @@
 #include "session/file_menu.h"
 #include "session/info.h"
 #include "session/inputs/beams/beam_menus.h"
+#include "session/inputs/drops/dew_inputs.h"
+#include "session/inputs/drops/drop_inputs.h"
 #include "session/inputs/fourier_inputs.h"
 #include "session/inputs/graph_types.h"
 #include "session/inputs/input_events.h"
@@ -152,6 +154,8 @@ EventTable::EventTable() {
   for (const auto& row : BeamEvents()) Add(row.name, row.handler);
   for (const auto& row : CoatedSphereEvents()) Add(row.name, row.handler);
   for (const auto& row : InhomSphereEvents()) Add(row.name, row.handler);
+  for (const auto& row : DropEvents()) Add(row.name, row.handler);
+  for (const auto& row : DewEvents()) Add(row.name, row.handler);
   for (const auto& row : SimulationEvents()) Add(row.name, row.handler);
 }
 

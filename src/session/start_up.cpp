@@ -116,6 +116,7 @@ void HideUnavailable(Form1& f) {
   f.cboDistrib.Visible = false;
   f.cmdSimulation.Visible = false;
   f.txtSWAmp.Visible = f.cboQmin.Visible = f.cboQmax.Visible = f.lblQminQmax.Visible = false;
+  f.mnuSurfaceWave.Visible = false;
   f.chkDiffraction.Visible = f.chkComponents.Visible = false;
   f.Label9.Visible = f.cboRays.Visible = false;
   f.mnuHidden.Visible = f.mnuBessel.Visible = f.mnuAiry.Visible = f.mnuReadDiff.Visible = false;

@@ -18,6 +18,9 @@ struct LightTable {
   double first = 0;  ///< angle of the first row (degrees)
   double step = 1;   ///< from row to row (degrees)
   std::vector<PolarisedLight> rows;
+  /// Of flattened drops the rows of each sector of the clock, which is divided evenly from the top of the bow to its
+  /// foot; the other side mirrors them. Empty where the light is the same all round.
+  std::vector<std::vector<PolarisedLight>> sectors = {};
 
   double Last() const { return first + step * (rows.empty() ? 0.0 : static_cast<double>(rows.size() - 1)); }
   bool Holds(double angle) const { return !rows.empty() && angle >= first && angle <= Last(); }
@@ -26,5 +29,8 @@ struct LightTable {
 /// The light of a table at a scattering angle that it holds (degrees): the components times their weights, no channel
 /// below 0.
 ColourTriple SimPlot2(const LightTable& table, double angle, double perpendicular, double parallel);
+
+/// The same at an angle along the clock (radians, of either sign), between the middles of two sectors.
+ColourTriple LightOfSectors(const LightTable& table, double clock, double angle, double perpendicular, double parallel);
 
 }  // namespace lumivex

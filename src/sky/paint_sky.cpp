@@ -46,7 +46,7 @@ double PerpendicularShare(const Direction& source, const Direction& u) {
 struct SkyPainter::Block {
   static constexpr int size = 256;
   int count = 0;
-  std::array<double, size> cosine{}, share{};
+  std::array<double, size> cosine{}, share{}, clock{};
 };
 
 SkyPainter::SkyPainter(const SkyPainting& painting)
@@ -54,6 +54,13 @@ SkyPainter::SkyPainter(const SkyPainting& painting)
       angles_(painting.sight.source),
       firstAngle_(painting.light->first),
       lastAngle_(painting.light->Last()) {
+  const Direction light =
+      painting.sight.source.antisolar ? painting.sight.source.direction : Opposite(painting.sight.source.direction);
+  const Direction zenith = InCamera({0, 1, 0}, painting.sight.pose);
+  const double along = Dot(zenith, light);
+  up_ = Normalised(
+      {zenith.right - along * light.right, zenith.up - along * light.up, zenith.forward - along * light.forward});
+  across_ = Cross(light, up_);
   // A preview has a new painter for every picture, and each curve takes a millisecond.
   static const RoundedCurve ofPhotographs;
   if (painting.compositing == Compositing::Over) {
@@ -75,17 +82,22 @@ void SkyPainter::Aim(const PictureWindow& window, double y, int first, Block& bl
   const double dy = (0.5 * camera.height - y) * perPixel;
   const double dx0 = (PointAt(window.left, window.scale, first) - 0.5 * camera.width) * perPixel;
   const double step = window.scale * perPixel;
-  const bool polarised = painting_.view != SkyView::Unpolarised;
+  const bool polarised = painting_.view != SkyView::Unpolarised, clocked = !painting_.light->sectors.empty();
   for (int i = 0; i < block.count; ++i) {
     const double dx = dx0 + i * step;
     const LensAngle angle = LensAngleOf(mapping, dx * dx + dy * dy);
     const Direction u{dx * angle.sineOverR, dy * angle.sineOverR, angle.cosine};
     block.cosine[static_cast<std::size_t>(i)] = std::clamp(Dot(s, u), -1.0, 1.0);
+    if (clocked) block.clock[static_cast<std::size_t>(i)] = ClockOf(u);
     if (polarised) block.share[static_cast<std::size_t>(i)] = ShareOf(s, u, block.cosine[static_cast<std::size_t>(i)]);
   }
 }
 
-ColourTriple SkyPainter::LightAt(double angle, double share) const {
+double SkyPainter::ClockOf(const Direction& u) const {
+  return std::atan2(Dot(u, across_), Dot(u, up_));
+}
+
+ColourTriple SkyPainter::LightAt(double angle, double share, double clock) const {
   double perp = 0.5, par = 0.5;
   if (painting_.view != SkyView::Unpolarised) {
     perp = painting_.view == SkyView::PolarisedV ? share : 1 - share;
@@ -96,7 +108,7 @@ ColourTriple SkyPainter::LightAt(double angle, double share) const {
     perp = painting_.polarisation == SkyPolarisation::Perpendicular ? 1 : 0;
     par = 1 - perp;
   }
-  ColourTriple light = SimPlot2(*painting_.light, angle, perp, par);
+  ColourTriple light = LightOfSectors(*painting_.light, clock, angle, perp, par);
   if (painting_.saturated) {
     const double most = std::max({light.r, light.g, light.b});
     const double factor = most > 0 ? 255 / most : 0;
@@ -151,7 +163,7 @@ void SkyPainter::PaintPart(const PictureWindow& window, double y, int first, int
         out[begin + i] = replaces ? backgroundPixel_ : ground[begin + i];
         continue;
       }
-      const ColourTriple light = LightAt(angle, block.share[at]);
+      const ColourTriple light = LightAt(angle, block.share[at], block.clock[at]);
       out[begin + i] = replaces ? Replaced(light) : Added(light, ground[begin + i]);
     }
   }

@@ -73,13 +73,15 @@ class SkyPainter {
                  std::uint32_t* out) const;
   template <Mapping mapping>
   void Aim(const PictureWindow& window, double y, int first, Block& block) const;
-  ColourTriple LightAt(double angle, double share) const;
+  ColourTriple LightAt(double angle, double share, double clock) const;
+  double ClockOf(const Direction& u) const;
   std::uint32_t Replaced(ColourTriple light) const;
   std::uint32_t Added(ColourTriple light, std::uint32_t ground) const;
 
   SkyPainting painting_;
   AngleOfCosine angles_;
   double firstAngle_, lastAngle_;
+  Direction up_, across_;             ///< across the light: to the top of a bow, and to its side
   std::vector<RoundedCurve> curves_;  ///< a channel each, of light on the background; of the photograph one alone
   std::array<double, 256> linear_;    ///< light of a channel of the photograph
   std::uint32_t backgroundPixel_;

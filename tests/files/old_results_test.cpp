@@ -15,6 +15,7 @@ struct OldFile {
   int version = 4400;
   std::string graph = "Intensity v. scattering angle", method = "Mie";
   std::vector<std::string> rays = {};
+  std::vector<std::string> own = {};  ///< lines of the method
 
   std::string Text() const {
     std::vector<std::string> lines = {std::string(FileVersionLine(version)), graph, "IAPWS 12C", "Air 10C"};
@@ -26,6 +27,7 @@ struct OldFile {
     add(true, {" .4           1.51 ", " .5 , 1.505", " .6\t1.5", " .7D+00  1.495 ", "Defined2"});
     add(version >= 200, {method, rays.empty() ? "2" : "Multiple"});
     if (version > 3102) lines.insert(lines.end(), rays.begin(), rays.end());
+    lines.insert(lines.end(), own.begin(), own.end());
     add(true, {"IAPWS"});
     add(version < 201, {" 12            .9995 "});
     add(version >= 201, {"12", ".9995"});
@@ -83,8 +85,19 @@ TEST_F(ResultsFiles, FormerNamesAreKnown) {
   EXPECT_EQ(Get("cboType"), "Mie");
   Write("unknown.lvx", OldFile{4400, "Intensity v. scattering angle", std::string(50, 'z')}.Text());
   EXPECT_EQ(Refused("unknown.lvx"), "File error: Unknown calculation method: \"" + std::string(40, 'z') + "\"");
-  Write("dew.lvx", OldFile{4400, "Intensity v. scattering angle", "Heiligenschein"}.Text());
-  EXPECT_NE(Refused("dew.lvx").find("\"Heiligenschein\", which this version"), std::string::npos);
+}
+
+TEST_F(ResultsFiles, DewTellsItsSurfaceSinceTheVersionThatBeganTo) {
+  Write("dew.lvx", OldFile{4302, "Intensity v. scattering angle", "Heiligenschein", {}, {"1.5", "20"}}.Text());
+  Load("dew.lvx");
+  EXPECT_TRUE(Shown().empty()) << LastText();
+  EXPECT_EQ(Get("dlogHeiligenschein.txtDistance") + " " + Get("dlogHeiligenschein.txtSlope"), "1.5 20");
+  Write("older.lvx", OldFile{4301, "Intensity v. scattering angle", "Heiligenschein"}.Text());
+  Load("older.lvx");
+  EXPECT_EQ(Get("dlogHeiligenschein.txtDistance"), "1.5") << "what a version lacks stays";
+  EXPECT_NEAR(runner.Current().state.LastResults->Find<AngleFound>()->S2.Intensity(7), 50, 1e-12);
+  Write("within.lvx", OldFile{4400, "Intensity v. scattering angle", "Heiligenschein", {}, {"0.5", "20"}}.Text());
+  EXPECT_NE(Refused("within.lvx").find("\"Heiligenschein\" has a value that it does not take"), std::string::npos);
 }
 
 // A file that cannot say which p are ticked was refused while none was.

@@ -121,6 +121,21 @@ const std::vector<std::pair<std::string, std::string>> furtherRuns = {
     {"disc of rays",
      "choose cboType Young mod\ndialog dlogGaussianBeam ok txtBeamWo=4\nclick mnuTopHat\nset cboStep 2\nclick "
      "cmdNewPlot"},
+    {"surface waves",
+     "choose cboType Surface wave\nset cboQmin 2\nset cboQmax 5\nclick mnuSWLong\nset txtSWAmp 0.5\nset cboStep 2\n"
+     "click cmdNewPlot"},
+    {"surface waves along an axis",
+     "choose cboType Surface wave\nchoose cboGraph Intensity v. wavelength\nset cboStep 50\nclick cmdNewPlot"},
+    {"dew",
+     "dialog dlogHeiligenschein ok txtDistance=1.5 txtSlope=20\nclick mnuHeiligenschein\nset txtRadius 100\n"
+     "set txtXmin 170\nset txtXmax 190\nset cboStep 1\nclick mnuS1S2\nclick cmdNewPlot"},
+    {"drops",
+     "dialog dlogNonSpherical ok optRatioSize=on chkAllRound=on chkP3=off cboRayCount=10000 chkSky=on\n"
+     "set txtRadius 300\nset cboStep 5\nclick mnuNonSpherical"},
+    {"drops of colours",
+     "set cboStep 5\nset cboWave 3\nset txtRadius 300\n"
+     "dialog dlogNonSpherical ok optBurgeroid=on cboRayCount=10000 chkSky=on\nclick mnuNonSpherical"},
+    {"bows", "dialog dlogNonSpherical ok chkP4=on\nclick mnuBowClock\nset cboStep 45\nclick cmdNewPlot"},
     {"index file", "open " + SourceFolder() +
                        "/data/examples/crown_glass.rix\nclick mnuRI_File1\nset cboStep 5\nset txtRadius 2\n"
                        "click cmdNewPlot"},

@@ -108,6 +108,42 @@ TEST(LightTable, LiesOnStraightLinesBetweenItsRowsAndEndsAtThem) {
   EXPECT_FALSE(table.Holds(9.999));
 }
 
+// The top of the bow, its sides and its foot are those of the sky, however the camera stands.
+TEST(PaintSky, FlattenedDropsHaveTheirLightAlongTheClock) {
+  auto table = std::make_shared<LightTable>(LightTable{0, 180, {{}, {}}});
+  constexpr int sectors = 36;
+  for (int sector = 0; sector < sectors; ++sector) {
+    const ColourTriple light{sector * 5.0, 0, 0};
+    table->sectors.push_back({{light, light}, {light, light}});
+  }
+  for (const double altitude : {0.0, 0.4}) {
+    SkyPainting painting = PaintingOf(Mapping::Equidistant, 600, 600);
+    painting.sight.pose.altitude = altitude;
+    const Direction antisolar = DirectionAt(-0.35, 0.1);
+    painting.sight.source = {InCamera(antisolar, painting.sight.pose), true};
+    painting.light = table;
+    const Bitmap picture = Painted(painting, Bitmap(600, 600));
+    const Direction side = Normalised(Cross({0, 1, 0}, antisolar)), top = Cross(antisolar, side);
+    for (const double clock : {0.3, 1.0, 1.7, 2.5}) {
+      for (const double sign : {-1.0, 1.0}) {
+        constexpr double off = 0.2;
+        const double up = std::sin(off) * std::cos(clock), across = sign * std::sin(off) * std::sin(clock);
+        const auto mix = [&](double a, double t, double s) { return std::cos(off) * a + up * t + across * s; };
+        const Direction u{mix(antisolar.right, top.right, side.right), mix(antisolar.up, top.up, side.up),
+                          mix(antisolar.forward, top.forward, side.forward)};
+        const auto point = PointOf(painting.sight.camera, InCamera(u, painting.sight.pose));
+        ASSERT_TRUE(point.has_value());
+        if (point->x < 1 || point->y < 1 || point->x > 598 || point->y > 598) continue;
+        const double expected = 5 * (clock / std::numbers::pi * sectors - 0.5);
+        const auto pixel =
+            picture.Row(static_cast<int>(std::nearbyint(point->y)))[static_cast<int>(std::nearbyint(point->x))];
+        const auto channel = static_cast<double>(ChannelOf(pixel, 0));
+        EXPECT_NEAR(channel, ChannelOf(BarColour({expected, 0, 0}), 0), 4) << clock << " " << sign << " " << altitude;
+      }
+    }
+  }
+}
+
 TEST(PaintSky, APolariserPassesItsShare) {
   struct Case {
     Mapping mapping;

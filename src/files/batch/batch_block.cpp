@@ -10,6 +10,7 @@
 #include "materials/index/material.h"
 #include "pages/maps/map_sides.h"
 #include "pages/page_table.h"
+#include "pages/run_words.h"
 #include "record/number_text.h"
 
 namespace lumivex {
@@ -192,6 +193,7 @@ class BlockHeader {
            "\tImaginary part: \t" + Number(index.k));
     }
     if (!asked_.words.paths.empty()) Line("Ray paths: \t" + OnOneLine(asked_.words.paths));
+    if (const std::string further = FurtherWordsOf(results_); !further.empty()) Line("Added: \t" + further);
     if (asked_.method.method == Method::InhomogeneousSphere)
       Line("Layers: \t" + std::to_string(asked_.method.layers.layers) + "\t" +
            (asked_.method.layers.byTangents ? "old code" : "new code"));

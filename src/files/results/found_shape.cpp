@@ -58,11 +58,14 @@ struct Fits {
   }
   bool operator()(const AxisFound& found) const {
     const int points = std::get<AxisRun>(results.asked.run).points;
-    const bool amplitudes = !results.asked.graph.OfEfficiencies() && results.asked.graph.quantity != Quantity::Power;
+    const Quantity quantity = results.asked.graph.quantity;
+    const bool bows = quantity == Quantity::BowAngle;
+    const bool amplitudes = !results.asked.graph.OfEfficiencies() && quantity != Quantity::Power && !bows;
+    const auto fitsBow = [&](const std::vector<double>& bow) { return bow.size() == (bows ? Size(points) : 0); };
     const bool cross = found.crossRe.empty() || found.crossRe.size() == Size(points);
-    return found.done >= 0 && found.done <= points && found.S1.Rows() == found.S2.Rows() &&
-           (amplitudes ? found.S1.Rows() == points : found.S1.Rows() <= points) && cross &&
-           found.crossIm.size() == found.crossRe.size() &&
+    return std::ranges::all_of(found.bows, fitsBow) && found.done >= 0 && found.done <= points &&
+           found.S1.Rows() == found.S2.Rows() && (amplitudes ? found.S1.Rows() == points : found.S1.Rows() <= points) &&
+           cross && found.crossIm.size() == found.crossRe.size() &&
            SameSizes({&found.x, &found.waveNumber, &found.radius, &found.size, &found.Qext, &found.Qsca, &found.Qback,
                       &found.g, &found.Cext, &found.Csca, &found.powerPerp, &found.powerPar},
                      Size(points));
@@ -133,6 +136,19 @@ struct Fits {
   }
 };
 
+/// A table over the sky has the rows of the run, where there is one.
+bool FitsSky(const Results& results) {
+  const DropSky& sky = results.sky;
+  if (sky.sectors == 0) return sky.red.empty() && sky.green.empty() && sky.blue.empty();
+  const AngleRows* rows = RowsOf(results.asked.run);
+  constexpr int mostSectors = 360;
+  if (rows == nullptr || sky.sectors < 1 || sky.sectors > mostSectors || !(sky.rows == rows->window)) return false;
+  for (const auto* channel : {&sky.red, &sky.green, &sky.blue})
+    if (channel->size() != sky.Size() || std::ranges::any_of(*channel, [](float value) { return !(value >= 0); }))
+      return false;
+  return true;
+}
+
 /// Values that cannot lie below 0 do not. What was not calculated counts as 0.
 struct Possible {
   const Results& results;
@@ -152,6 +168,7 @@ struct Possible {
   }
   bool operator()(const AxisFound& found) const {
     const bool byTerms = SumsTerms(results.asked.method.method);
+    if (!None({&found.bows[0], &found.bows[1], &found.bows[2]})) return false;
     return None({&found.waveNumber, &found.radius, &found.size, &found.Qback, &found.powerPerp, &found.powerPar}) &&
            (byTerms || None({&found.Qext, &found.Cext, &found.Qsca, &found.Csca}));
   }
@@ -195,7 +212,8 @@ bool IsSphere(const LastSphere& last) {
 
 std::string MisfitOf(const Results& results) {
   if (!IsSphere(results.last)) return "The sphere of the file cannot be one";
-  if (!std::visit(Fits{results}, results.found)) return "The numbers of the file are not as many as its inputs ask for";
+  if (!std::visit(Fits{results}, results.found) || !FitsSky(results))
+    return "The numbers of the file are not as many as its inputs ask for";
   const bool byTerms = SumsTerms(results.asked.method.method);
   if (!HasNoneBelow0(results, byTerms) || !std::visit(Possible{results}, results.found))
     return "The file holds values below 0 where none can be";

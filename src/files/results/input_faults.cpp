@@ -53,6 +53,7 @@ std::string FaultOfMenus(Session& sheet) {
       {"the materials of the medium", MediumSources(form)},
       {"the spectra", LightSources(form)},
       {"radius, diameter and size parameter", SizeMeasures(form)},
+      {"the paths of surface waves", {&form.mnuSWBoth, &form.mnuSWShort, &form.mnuSWLong}},
       {"the kinds of illumination", {&form.mnuPlaneWave, &form.mnuGaussian, &form.mnuTopHat}},
   };
   for (const auto& [name, entries] : menus)
@@ -120,6 +121,8 @@ std::string FaultOfDialogs(Session& sheet) {
       {form.mnuAverage.Checked, f.dlogAverage, "OKButton_Click"},
       {debye, f.dlogPartial, "OKButton_Click"},
       {graph.family == Family::DebyeAnalysis, f.dlogDebyeSeq, "OKButton_Click"},
+      {sheet.state.CalcMethod == Method::Burgeroid, f.dlogNonSpherical, "OKButton_Click"},
+      {sheet.state.CalcMethod == Method::Heiligenschein, f.dlogHeiligenschein, "OKButton_Click"},
       {form.cboRays.Text == "Multiple" && TraitsOf(sheet.state.CalcMethod).showsP, f.dlogP, "OKButton_Click"},
   };
   const InputState before = PresentInputs(sheet);

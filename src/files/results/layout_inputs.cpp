@@ -10,6 +10,7 @@
 #include "record/catalogue/method_texts.h"
 #include "record/number_text.h"
 #include "session/inputs/beams/read_beam.h"
+#include "session/inputs/drops/dew_inputs.h"
 #include "session/inputs/light/wavelength_list.h"
 #include "session/inputs/methods/sphere_size.h"
 
@@ -222,9 +223,9 @@ void WalkRaysIfThere(LayoutWalk& walk) {
 }
 
 constexpr void (*inputItems[])(LayoutWalk&) = {
-    WalkGraph,    WalkNames,  WalkSphereTable,  WalkMediumTable,         WalkMethod, WalkCoatedSphere, WalkRaysIfThere,
-    WalkProfile,  WalkSizes,  WalkSphereSource, WalkMediumSourceIfThere, WalkLight,  WalkSize,         WalkAxis,
-    WalkSpectrum, WalkScales, WalkPoints,
+    WalkGraph,       WalkNames, WalkSphereTable, WalkMediumTable, WalkMethod,       WalkCoatedSphere,
+    WalkRaysIfThere, WalkDew,   WalkProfile,     WalkSizes,       WalkSphereSource, WalkMediumSourceIfThere,
+    WalkLight,       WalkSize,  WalkAxis,        WalkSpectrum,    WalkScales,       WalkPoints,
 };
 
 }  // namespace
@@ -251,13 +252,14 @@ RowWindow FileWindow(const Session& sheet) {
   const double xmin = Val(form.txtXmin.Text), xmax = Val(form.txtXmax.Text), step = Val(form.cboStep.Text);
   constexpr double finest = 1e-4;
   const bool beam = InBeam(form) && ChosenGraph(sheet.state).AgainstAngle();
-  const double lowest = beam ? -360 : 0, highest = beam ? 360 : 180;
+  const bool round = GoesRound(sheet, ChosenGraph(sheet.state));
+  const double lowest = beam ? -360 : 0, highest = beam || round ? 360 : 180;
   const bool within = xmin >= lowest && xmax <= highest && xmin <= xmax && xmax - xmin <= 360;
   if (!(step >= finest) || !within)
     throw BadFile{"The angles of the file cannot be read: from " + Readable(form.txtXmin.Text) + " to " +
                   Readable(form.txtXmax.Text) + " by " + Readable(form.cboStep.Text)};
   if (beam) return RowsOfBeam(xmin, xmax, step).window;
-  const int last = 2 * ToWhole(90 / step) + 1;
+  const int last = 2 * ToWhole((round ? 180 : 90) / step) + 1;
   const double margin = Int(0.25 / step);
   return {std::max(1, ToWhole(xmin / step + 1 - margin)), std::min(last, ToWhole(xmax / step + 1 + margin))};
 }

@@ -13,6 +13,7 @@ void WalkMediumSource(LayoutWalk& walk);
 void WalkSizes(LayoutWalk& walk);
 void WalkRays(LayoutWalk& walk);
 void WalkCoatedSphere(LayoutWalk& walk);
+void WalkDew(LayoutWalk& walk);
 void WalkProfile(LayoutWalk& walk);
 
 /// A line that is read and written as a number: 1 for a tick.

@@ -50,6 +50,13 @@ void WalkCoatedSphere(LayoutWalk& walk) {
   lines.Text(walk.Form().lblRI_Medium.Caption);
 }
 
+void WalkDew(LayoutWalk& walk) {
+  if (walk.sheet.state.CalcMethod != Method::Heiligenschein || !Stands(FileItem::Heiligenschein, walk.version)) return;
+  auto& d = walk.sheet.forms.dlogHeiligenschein;
+  walk.lines.Text(d.txtDistance.Text);
+  walk.lines.Text(d.txtSlope.Text);
+}
+
 void WalkProfile(LayoutWalk& walk) {
   if (walk.sheet.state.CalcMethod != Method::InhomogeneousSphere ||
       !Stands(FileItem::InhomogeneousSphere, walk.version))

@@ -80,6 +80,8 @@ LastSphere SphereOf(const RunRequest& request) {
   RunRequest one = request;
   one.graph = GraphOf({1, 1});
   one.light.spectrum.reset();
+  // Rays take long, and leave no efficiencies.
+  if (TraitsOf(one.method.method).takesLong) one.method = {};
   one.run = AngleRun{{0, 180, 90, 2, {1, 3}, 1, 3}};
   SilentWatch watch;
   if (RunEnd end = Run(one, watch); end.hasResults) return end.results.last;

@@ -115,6 +115,28 @@ void WalkBeamNumbers(FileLines& lines, std::optional<BeamNumbers>& beam) {
   lines.Field("angleSeconds", beam->angles);
 }
 
+/// Of rays of flattened drops.
+void WalkDropNumbers(FileLines& lines, std::optional<DropNumbers>& drop) {
+  bool there = drop.has_value();
+  lines.Field("drop", there);
+  if (!there) return drop.reset();
+  if (!drop) drop.emplace();
+  lines.Field("axisRatio", drop->axisRatio);
+  lines.Field("raysAsked", drop->raysAsked);
+  lines.Field("raysDone", drop->raysDone);
+  lines.Field("powerPerpendicular", drop->perpendicular);
+  lines.Field("powerParallel", drop->parallel);
+}
+
+void WalkSky(FileLines& lines, DropSky& sky) {
+  lines.Field("sectors", sky.sectors);
+  if (sky.sectors == 0) return;
+  WalkWindow(lines, "sky", sky.rows);
+  lines.Field("skyRed", sky.red);
+  lines.Field("skyGreen", sky.green);
+  lines.Field("skyBlue", sky.blue);
+}
+
 bool IsSeriesInBeam(const RunRequest& asked) {
   const Method method = asked.method.method;
   return !asked.method.beam.Plane() && (method == Method::Mie || method == Method::Debye);
@@ -167,6 +189,12 @@ struct WalkFamily {
     lines.Field("Csca", found.Csca);
     lines.Field("powerPerp", found.powerPerp);
     lines.Field("powerPar", found.powerPar);
+    if (!bows) return;
+    lines.MayMiss(true);
+    lines.Field("bow2", found.bows[0]);
+    lines.Field("bow3", found.bows[1]);
+    lines.Field("bow4", found.bows[2]);
+    lines.MayMiss(false);
   }
   void operator()(ConvergenceFound& found) const {
     lines.Field("perpendicular", found.perpendicular);
@@ -231,7 +259,7 @@ struct WalkFamily {
     lines.Field("alonePar", found.alonePar);
   }
 
-  bool lee = false, beam = false;
+  bool lee = false, beam = false, bows = false;
 };
 
 /// The alternative of what is found by a family.
@@ -258,13 +286,17 @@ void WalkFound(FileLines& lines, Results& results) {
   }
   const bool beam = IsSeriesInBeam(results.asked);
   if (beam) WalkBeamNumbers(lines, results.last.beam);
+  const Graph& graph = results.asked.graph;
+  const bool drop = results.asked.method.method == Method::Burgeroid && graph.AgainstAngle();
+  if (drop) WalkDropNumbers(lines, results.last.drop);
+  if (drop) WalkSky(lines, results.sky);
   lines.Field("seconds", results.seconds);
   if (lines.Reading()) {
     // Cells that the layout has brought already are kept.
     FamilyFound empty = std::visit(FoundOf{}, results.asked.run);
     if (empty.index() != results.found.index()) results.found = std::move(empty);
   }
-  std::visit(WalkFamily{lines, results.asked.graph.family == Family::Lee, beam}, results.found);
+  std::visit(WalkFamily{lines, graph.family == Family::Lee, beam, graph.quantity == Quantity::BowAngle}, results.found);
 }
 
 }  // namespace lumivex

@@ -114,6 +114,24 @@ void FindRows(const AngleRows& rows, PageBars& bars) {
 
 }  // namespace
 
+namespace {
+
+/// The light over the sky in the colours of the bars: that of one wavelength has its colour.
+std::shared_ptr<const DropSky> SkyOf(const Results& results) {
+  auto sky = std::make_shared<DropSky>(results.sky);
+  if (results.asked.light.spectrum) return sky;
+  const ColourTriple triple = colRGB2(results.asked.light.lambda);
+  const auto tint = [](std::vector<float>& channel, double share) {
+    for (float& value : channel) value = static_cast<float>(share / 255 * double{value});
+  };
+  tint(sky->red, triple.r);
+  tint(sky->green, triple.g);
+  tint(sky->blue, triple.b);
+  return sky;
+}
+
+}  // namespace
+
 bool HasBars(const PageKind& kind) {
   return kind.graph.AgainstAngle() && kind.graph.quantity == Quantity::Intensity &&
          kind.graph.drawing == Drawing::Curves && !kind.polar && !kind.fourier;
@@ -136,6 +154,8 @@ std::optional<PageBars> PlotN(const RunToDraw& run) {
     bars.light[unpolarised].channels[c] =
         MeanOf(bars.light[perpendicular].channels[c], bars.light[parallel].channels[c]);
   FindRows(*rows, bars);
+  // Sums that are freed of the wave number have another unit.
+  if (run.results.sky.sectors > 0 && !run.look.invWavelength) bars.sky = SkyOf(run.results);
   return bars;
 }
 

@@ -35,7 +35,9 @@ void ChooseLimitsInView(Page& page, std::size_t index, const Look& look) {
 
 void FitOverplot(Page& page, const Look& look) {
   const bool typed = look.scale.ymin || look.scale.ymax;
-  if (page.kind.graph.quantity != Quantity::Albedo || typed || page.kind.polar || page.zoomedY) return;
+  const Quantity quantity = page.kind.graph.quantity;
+  const bool fits = quantity == Quantity::Albedo || quantity == Quantity::BowAngle;
+  if (!fits || typed || page.kind.polar || page.zoomedY) return;
   if (page.panels.empty()) return;
   const AxisLimits& limits = page.panels.front().limits;
   const auto leaves = [&](const PageCurve& curve) {

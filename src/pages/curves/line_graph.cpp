@@ -142,6 +142,14 @@ LinePair PenOfRun(const Page& page, const RunToDraw& run) {
   return {others[place - 1], HalfOf(others[place - 1])};
 }
 
+const std::vector<double>& CurveOf(const Curves& curves, int kind) {
+  return kind == parallelKind ? curves.parallel : kind == unpolarisedKind ? curves.unpolarised : curves.perpendicular;
+}
+
+bool HasNone(const std::vector<double>& curve) {
+  return std::none_of(curve.begin() + 1, curve.end(), [](double value) { return std::isfinite(value); });
+}
+
 void DrawCurves(Page& page, const RunToDraw& run, const Curves& curves) {
   const LinePair colours = PenOfRun(page, run);
   const bool shaded = run.look.WantsSeveral();
@@ -156,7 +164,14 @@ void DrawCurves(Page& page, const RunToDraw& run, const Curves& curves) {
     page.curves.back().keyName = WithoutAbsorption(page.kind.graph.quantity);
     return;
   }
+  const bool bows = page.kind.graph.quantity == Quantity::BowAngle;
+  const std::array<Colour, 3> others = ColoursBeside(colours.first);
   for (const int kind : KindsWanted(run.look)) {
+    if (bows && HasNone(CurveOf(curves, kind))) continue;
+    if (bows && kind != perpendicularKind) {
+      add(kind, CurveOf(curves, kind), shaded ? others[kind == parallelKind ? 0 : 1] : colours.first);
+      continue;
+    }
     if (kind == parallelKind) add(kind, curves.parallel, shaded ? colours.second : colours.first);
     if (kind == unpolarisedKind) add(kind, curves.unpolarised, shaded ? third : colours.first);
     if (kind == perpendicularKind) add(kind, curves.perpendicular, colours.first);
@@ -200,9 +215,20 @@ void DrawLowerPanel(Page& page, const RunToDraw& run, const Curves& curves) {
       Plot(page, run, curves.x, curves.extra1, {lowerPanel, perpendicularKind}, PenColours(run).first));
 }
 
+/// The furthest of three bows at each point, of which each may have ended.
+template <class Further>
+std::vector<double> OfBows(const Curves& curves, Further further) {
+  std::vector<double> all = curves.perpendicular;
+  for (const auto* list : {&curves.parallel, &curves.unpolarised})
+    for (std::size_t i = 1; i < all.size(); ++i)
+      if (std::isfinite((*list)[i]) && (!std::isfinite(all[i]) || further((*list)[i], all[i]))) all[i] = (*list)[i];
+  return all;
+}
+
 /// A curve for the scale; of the spheres of a volume, which have further ones, the furthest of all at each point.
 template <class Further>
-std::vector<double> OfAll(const std::vector<double>& curve, const Curves& curves, Further further) {
+std::vector<double> OfAll(const std::vector<double>& curve, const Curves& curves, Further further, bool bows) {
+  if (bows) return OfBows(curves, further);
   if (curves.alonePerpendicular.empty()) return curve;
   std::vector<double> all = curve;
   for (const auto* list : {&curves.perpendicular, &curves.parallel, &curves.alonePerpendicular, &curves.aloneParallel})
@@ -264,10 +290,11 @@ PageKind KindOf(const RunToDraw& run) {
 void Display(Page& page, const RunToDraw& run, const Curves& found) {
   const Curves curves = Rising(page.kind, found);
   const bool twoPanels = page.kind.second != SecondPanel::None && !page.kind.polar;
+  const bool bows = page.kind.graph.quantity == Quantity::BowAngle;
   if (page.panels.empty())
     DrawFrame(page, run, twoPanels ? PanelPlace::Upper : PanelPlace::Whole, curves.x,
-              OfAll(curves.perpendicular, curves, std::greater<double>()),
-              OfAll(curves.parallel, curves, std::less<double>()));
+              OfAll(curves.perpendicular, curves, std::greater<double>(), bows),
+              OfAll(curves.parallel, curves, std::less<double>(), bows));
   if (page.kind.IsMatrix())
     page.curves.push_back(Plot(page, run, curves.x, curves.perpendicular, {}, PenColours(run).first));
   else

@@ -79,8 +79,9 @@ double GridYmin(const ScaleLook& look, double value, double ymax, ScaleMemory& m
 
 void FitFlatAlbedo(const PageKind& kind, const ScaleLook& look, double bottom, double top, AxisLimits& limits) {
   constexpr double flat = 0.8, level = 1e-7, levelRange = 0.2, steps = 5, rounding = 1e-9;
-  if (kind.graph.quantity != Quantity::Albedo || look.ymin || look.ymax || kind.polar) return;
-  if (!(bottom > flat * top) || !std::isfinite(top)) return;
+  const bool bows = kind.graph.quantity == Quantity::BowAngle && !kind.logY;
+  if ((kind.graph.quantity != Quantity::Albedo && !bows) || look.ymin || look.ymax || kind.polar) return;
+  if (!(bows || bottom > flat * top) || !std::isfinite(top)) return;
   const bool isLevel = !(top - bottom > level * top);
   const double step = RoundStepAbove((isLevel ? levelRange * top : top - bottom) / steps);
   limits.ymax = step * (std::ceil(top / step - rounding) + (isLevel ? 1 : 0));

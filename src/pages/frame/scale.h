@@ -32,7 +32,8 @@ double GridYmax(const ScaleLook& look, double value, ScaleMemory& memory);
 double GridYmin(const ScaleLook& look, double value, double ymax, ScaleMemory& memory);
 
 /// Limits around an albedo that hardly differs along its curve. Down from 0, or over a whole decade, it would be a line
-/// on the edge of the box; where no limit is typed it has round ones next to its smallest and largest value.
+/// on the edge of the box; where no limit is typed it has round ones next to its smallest and largest value. So have
+/// angles of bows on a linear axis.
 /// @param limits  as GridYmax and GridYmin chose them; others are left as they are.
 void FitFlatAlbedo(const PageKind& kind, const ScaleLook& look, double bottom, double top, AxisLimits& limits);
 

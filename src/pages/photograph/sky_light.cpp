@@ -22,6 +22,21 @@ ColourTriple Scaled(double factor, double red, double green, double blue) {
   return {channel(red), channel(green), channel(blue)};
 }
 
+/// The light of flattened drops along the clock, for the rows that a table has.
+void TakeSectors(const DropSky& sky, double factor, LightTable& table) {
+  const auto before = static_cast<std::ptrdiff_t>(std::nearbyint(table.first / table.step)) + 1 - sky.rows.low;
+  const auto count = std::ssize(table.rows);
+  if (before < 0 || before + count > sky.RowCount()) return;
+  for (int sector = 0; sector < sky.sectors; ++sector) {
+    auto& rows = table.sectors.emplace_back();
+    for (std::ptrdiff_t row = 0; row < count; ++row) {
+      const auto cell = static_cast<std::size_t>(sector * sky.RowCount() + before + row);
+      const ColourTriple light = Scaled(factor, double{sky.red[cell]}, double{sky.green[cell]}, double{sky.blue[cell]});
+      rows.push_back({light, light});
+    }
+  }
+}
+
 int NearestColumn(const SampleAxis& radii, double radius) {
   int nearest = 0;
   double least = INFINITY;
@@ -59,6 +74,7 @@ std::optional<LightTable> LightOfBars(const Page& page, XRange range, const Colo
     table.rows.push_back({light(0), light(1)});
   }
   if (table.rows.empty()) return std::nullopt;
+  if (bars.sky) TakeSectors(*bars.sky, factor, table);
   return table;
 }
 

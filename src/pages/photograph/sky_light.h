@@ -8,7 +8,7 @@
 namespace lumivex {
 
 /// The light of the bars of a page, a row an angle of the run's range, in linear channels: 255 is what the bars paint
-/// with full brightness. Nothing without bars.
+/// with full brightness; with the sectors of the clock where the run has them. Nothing without bars.
 std::optional<LightTable> LightOfBars(const Page& page, XRange range, const ColourRules& rules);
 
 /// The light of a column of a Lee diagram over radius.

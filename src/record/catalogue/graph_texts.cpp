@@ -71,6 +71,7 @@ constexpr std::array graphRows = {
     GraphRow{{31, 0}, "Vol: Int v. N", 0, VolumeGraphs},
     GraphRow{{32, 0}, "Vol: Int v. time", 0, VolumeGraphs},
     GraphRow{{33, 0}, "Vol: Int v. radius", 0, VolumeGraphs},
+    GraphRow{{34, 0}, "Rainbow v. clock angle", 0, NonSphericalDrops},
 };
 
 constexpr std::array axisStarts = {
@@ -92,6 +93,7 @@ constexpr std::array axisStarts = {
     AxisStart{{18, 2}, false, "2", "40", "0.2"},      AxisStart{{18, 3}, false, "400", "700", "2"},
     AxisStart{{30, 0}, false, "0", "20", "0.02"},     AxisStart{{31, 0}, false, "1", "100", "1"},
     AxisStart{{32, 0}, false, "0", "10", "0.01"},     AxisStart{{33, 0}, false, "1", "5", "0.01"},
+    AxisStart{{34, 0}, false, "0", "180", "1"},
 };
 
 /// What an axis is called.
@@ -114,6 +116,7 @@ constexpr std::array axisTexts = {
     AxisText{AxisVariable::Number, "Number of spheres N", "Number of spheres N", "Number of spheres N", ""},
     AxisText{AxisVariable::Place, "Position x of one sphere (\u00B5m)", "Frequency (1/\u00B5m)",
              "Position of one sphere", micrometres},
+    AxisText{AxisVariable::Clock, "Clock angle (deg.)", "Frequency (1/deg.)", "Clock angle", "deg"},
 };
 
 const AxisText& TextOf(AxisVariable axis) {
@@ -143,6 +146,7 @@ constexpr std::array quantityTexts = {
     QuantityText{Quantity::Asymmetry, "", {"Asymmetry parameter g", "Asymmetry parameter g", "Asymmetry parameter g"}},
     QuantityText{Quantity::Albedo, "", {"Albedo", "Albedo", "Albedo"}},
     QuantityText{Quantity::Power, "W", polarisations},
+    QuantityText{Quantity::BowAngle, "deg", {"Bow p = 2", "Bow p = 3", "Bow p = 4"}},
 };
 
 const QuantityText& TextOf(Quantity quantity) {
@@ -225,6 +229,8 @@ std::string_view YTitleOf(const Graph& graph, bool amplitude) {
       return "Power (W)";
     case Quantity::ScatteringMatrix:
       return " S11";
+    case Quantity::BowAngle:
+      return "Angle";
     default:
       return "";
   }
@@ -241,6 +247,8 @@ std::string_view YTitleSecondLineOf(const Graph& graph, YTitleLook look) {
       return look.perVolume ? "(1/\u00B5m)" : "";
     case Quantity::CrossSections:
       return look.perVolume ? "per cu \u00B5m" : "";
+    case Quantity::BowAngle:
+      return "(deg)";
     default:
       return "";
   }

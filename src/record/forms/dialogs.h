@@ -6,6 +6,7 @@
 #include "record/forms/angle_dialogs.h"
 #include "record/forms/beam_dialogs.h"
 #include "record/forms/coated_dialog.h"
+#include "record/forms/drop_dialogs.h"
 #include "record/forms/inhom_dialog.h"
 #include "record/forms/light_dialogs.h"
 #include "record/forms/main_form.h"
@@ -59,7 +60,7 @@ struct DlogPlotColour final : Form {
 };
 
 /// Every window and dialog of a session.
-struct Forms : MaterialDialogs, LightDialogs, SizeDialogs, RayDialogs, AngleDialogs, BeamDialogs {
+struct Forms : MaterialDialogs, LightDialogs, SizeDialogs, RayDialogs, AngleDialogs, BeamDialogs, DropDialogs {
   // Hundreds of controls are made here: in one place, not in each source that makes a session.
   Forms();
   ~Forms();
@@ -80,7 +81,8 @@ struct Forms : MaterialDialogs, LightDialogs, SizeDialogs, RayDialogs, AngleDial
     std::vector<Form*> all = {
         &form1,           &dlogTemp,   &dlogSpectrumBand, &dlogAverage, &dlogPlotColour, &dlogCoatedSphere,
         &dlogInhomSphere, &dlogVolume, &dlogCalibration,  &form2};
-    for (const auto& more : {MaterialForms(), LightForms(), SizeForms(), RayForms(), AngleForms(), BeamForms()})
+    for (const auto& more :
+         {MaterialForms(), LightForms(), SizeForms(), RayForms(), AngleForms(), BeamForms(), DropForms()})
       all.insert(all.end(), more.begin(), more.end());
     return all;
   }

@@ -33,9 +33,10 @@ struct Form1Inputs : Form {
   Label Label9{*this, "Label9", "p"};
   List cboRays{*this, "cboRays", Typed, "2", "Number p of internal reflections"};
   Label lblQminQmax{*this, "lblQminQmax", "J min, max"};
-  List cboQmin{*this, "cboQmin", Typed, "1", "Lowest number J of surface-wave short cuts"};
-  List cboQmax{*this, "cboQmax", Typed, "1", "Highest number J of surface-wave short cuts"};
-  TextInput txtSWAmp{*this, "txtSWAmp", "1", "Factor on the surface-wave amplitude"};
+  List cboQmin{*this, "cboQmin", Typed, "1", "First pole J of the surface waves that are added, 1 the least damped"};
+  List cboQmax{*this, "cboQmax", Typed, "1",
+               "Last pole J of the surface waves that are added, to 25; 10 are enough nearly everywhere"};
+  TextInput txtSWAmp{*this, "txtSWAmp", "1", "Factor on the amplitudes of surface waves"};
   CheckBox chkDiffraction{*this, "chkDiffraction", "+ Diffraction", false, "Add the diffraction of the sphere's disc"};
 
   // Particle.

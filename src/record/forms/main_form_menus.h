@@ -86,6 +86,8 @@ struct Form1Menus : Form1Inputs {
   MenuEntry mnuConvergence{*this, "mnuConvergence", "Convergence of the series"};
   MenuEntry mnuTwoAngle{*this, "mnuTwoAngle", "Two-angle contour ...", false,
                         "Light of spheres of several indices and radii into two ranges of angle"};
+  MenuEntry mnuBowClock{*this, "mnuBowClock", "Bow of flattened drops ...", false,
+                        "The angle of rainbows along the clock: at their top, at their sides and below"};
   MenuEntry mnuXStepLog{*this, "mnuXStepLog", "Logarithmic steps"};
   MenuEntry mnuInvWavelength{*this, "mnuInvWavelength", "Intensity independent of wavelength"};
   MenuEntry mnuConstantVolume{*this, "mnuConstantVolume", "Constant volume"};
@@ -152,7 +154,15 @@ struct Form1Menus : Form1Inputs {
   MenuEntry mnuReadDiff{*this, "mnuReadDiff", "Read a table of Bessel functions ..."};
   MenuEntry mnuCalibration{*this, "mnuCalibration", "Speed of this machine ...", false,
                            "By which the time of a long calculation is told before it begins"};
+  MenuEntry mnuNonSpherical{*this, "mnuNonSpherical", "Flattened drops ...", false,
+                            "Rays of drops that the air flattens, and their bows"};
+  MenuEntry mnuHeiligenschein{*this, "mnuHeiligenschein", "Heiligenschein ...", false,
+                              "Light that comes back from dew on leaves"};
   MenuEntry mnuSurfaceWave{*this, "mnuSurfaceWave", "Surface wave"};
+  MenuEntry mnuSWBoth{*this, "mnuSWBoth", "Short and long paths", true, "Waves that reach an angle either way round"};
+  MenuEntry mnuSWShort{*this, "mnuSWShort", "Short path", false,
+                       "Waves that creep the shorter way; beyond the edge of the shadow there are none"};
+  MenuEntry mnuSWLong{*this, "mnuSWLong", "Long path", false, "Waves that have crossed the axis"};
   MenuEntry mnuMieGConv{*this, "mnuMieGConv", "Convergence against L", false,
                         "Sums of a beam at one angle over more and more partial waves L"};
   MenuEntry mnuMieGConv2{*this, "mnuMieGConv2", "Convergence against M", false,

@@ -91,6 +91,7 @@ constexpr std::array menuRows = {
     MenuRow{"Graph", "mnuDiffCrossSection", AngleFamily},
     MenuRow{"Graph", "mnuConvergence", AxisFamilies},
     MenuRow{"Graph", "mnuTwoAngle", AngleFamily},
+    MenuRow{"Graph", "mnuBowClock", NonSphericalDrops},
     MenuRow{"Graph", "-", AxisFamilies},
     MenuRow{"Graph", "mnuXStepLog", AxisFamilies},
     MenuRow{"Graph", "mnuInvWavelength", GraphLook},
@@ -168,7 +169,11 @@ constexpr std::array menuRows = {
     MenuRow{"Advanced/Further methods", "mnuvdh", SimpleScattering},
     MenuRow{"Advanced/Further methods", "mnuCoatedSphere", CoatedSphere},
     MenuRow{"Advanced/Further methods", "mnuInhomSphere", InhomogeneousSphere},
-    MenuRow{"Advanced", "mnuSurfaceWave", SurfaceWaves},
+    MenuRow{"Advanced/Further methods", "mnuNonSpherical", NonSphericalDrops},
+    MenuRow{"Advanced/Further methods", "mnuHeiligenschein", Heiligenschein},
+    MenuRow{"Advanced/Surface wave", "mnuSWBoth", SurfaceWaves},
+    MenuRow{"Advanced/Surface wave", "mnuSWShort", SurfaceWaves},
+    MenuRow{"Advanced/Surface wave", "mnuSWLong", SurfaceWaves},
     MenuRow{"Advanced", "mnuMieGConv", Beams},
     MenuRow{"Advanced", "mnuMieGConv2", Beams},
     MenuRow{"Advanced", "mnuHidden", RayOptics},
@@ -196,6 +201,7 @@ constexpr std::array submenuRows = {
     SubmenuRow{"Advanced/Refractive index/Medium", "mnuSurround"},
     SubmenuRow{"Advanced/Refractive index/Medium/Water", "mnuWater2"},
     SubmenuRow{"Advanced/Size of sphere", "mnuRadiusDiameter"},
+    SubmenuRow{"Advanced/Surface wave", "mnuSurfaceWave"},
 };
 
 /// Entries that stand one below the other in the place of one row.

@@ -4,6 +4,7 @@
 
 #include "record/layout/angle_dialog_lines.h"
 #include "record/layout/beam_dialog_lines.h"
+#include "record/layout/drop_dialog_lines.h"
 #include "record/layout/layer_dialog_lines.h"
 #include "record/layout/light_dialog_lines.h"
 #include "record/layout/material_dialog_lines.h"
@@ -113,6 +114,7 @@ std::span<const DialogLayout> Dialogs() {
     add(settingsDialogLayouts);
     add(layerDialogLayouts);
     add(beamDialogLayouts);
+    add(dropDialogLayouts);
     return layouts;
   }();
   return all;

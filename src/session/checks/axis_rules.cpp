@@ -11,6 +11,7 @@
 #include "session/checks/number_input.h"
 #include "session/driver/array_size.h"
 #include "session/inputs/beams/read_beam.h"
+#include "session/inputs/drops/dew_inputs.h"
 #include "session/inputs/map_inputs.h"
 #include "session/inputs/methods/rays_check.h"
 #include "session/inputs/sizes/read_sizes.h"
@@ -54,6 +55,24 @@ Verdict CheckAxis(Check& check, const AxisWords& words) {
   if ((high - low) / step > mostSteps) return Refuse(check, {&form.cboStep}, words.tooFine);
   if (step > largestShareOfRange * (high - low)) return Refuse(check, {&form.cboStep}, "Select a smaller step size");
   return Verdict::GoOn;
+}
+
+/// Clock angles go once round at most, and begin below 0 as well.
+Verdict CheckClock(Check& check) {
+  auto& form = check.form;
+  const double low = Val(form.txtXmin.Text), high = Val(form.txtXmax.Text), step = Val(form.cboStep.Text);
+  if (low >= high)
+    return Refuse(check, {&form.txtXmin, &form.txtXmax}, "Minimum value must be less than maximum value");
+  if (low < -180) return Refuse(check, {&form.txtXmin}, "Minimum angle < -180 degrees");
+  if (high > 360) return Refuse(check, {&form.txtXmax}, "Maximum angle > 360 degrees");
+  if (form.mnuXStepLog.Checked) {
+    form.mnuXStepLog.Checked = false;
+    return Refuse(check, {&form.cboStep}, "Clock angles have no logarithmic steps");
+  }
+  if (step <= 0) return Refuse(check, {&form.cboStep}, "Step size must be greater than zero");
+  if (step > largestShareOfRange * (high - low)) return Refuse(check, {&form.cboStep}, "Select a smaller step size");
+  constexpr double mostClocks = 3600;
+  return (high - low) / step > mostClocks ? Refuse(check, {&form.cboStep}, "Select a larger step size") : Verdict::GoOn;
 }
 
 }  // namespace
@@ -278,6 +297,7 @@ Verdict AxisStepCount(Check& check) {
   auto& form = check.form;
   const Graph& graph = ChosenGraph(check.state);
   if (!HasSteps(graph)) return Verdict::GoOn;
+  if (graph.axis == AxisVariable::Clock) return CheckClock(check);
   constexpr std::string_view tooMany = "Increase the step size or reduce the maximum/minimum range";
   const Verdict axis =
       CheckAxis(check, {"Minimum value must be less than maximum value", "Value must be positive", tooMany});
@@ -302,7 +322,7 @@ Verdict AngularStep(Check& check) {
   const double step = Val(list.Text);
   if (!(step > 0)) return Refuse(check, {&list}, "Step size must be greater than zero");
   if (!ComeTo90(step)) return Refuse(check, {&list}, "Must be a sub-multiple of 90 degrees");
-  const double range = InBeam(check.form) ? check.Xmax - check.Xmin : 180;
+  const double range = InBeam(check.form) ? check.Xmax - check.Xmin : GoesRound(check.session, graph) ? 360 : 180;
   if (range / step + 1 > mostAngleRows) return Refuse(check, {&list}, "Select a larger step size");
   if (!graph.AgainstAngle()) return Verdict::GoOn;
   // What is stored of several wavelengths must fit into the memory of any computer in use.
@@ -318,11 +338,12 @@ Verdict AngleScale(Check& check) {
   auto& form = check.form;
   const auto refuse = [&](std::string_view text) { return Refuse(check, {&form.txtXmin, &form.txtXmax}, text); };
   if (form.mnuPlaneWave.Checked) {
-    const bool beyond = check.state.CalcMethod != Method::Heiligenschein;
+    const bool beyond = !GoesRound(check.session, graph);
     if (check.Xmin < 0) return refuse("Minimum angle < 0 degrees");
     if (beyond && check.Xmin > 180) return refuse("Minimum angle > 180 degrees");
     if (check.Xmax < 0) return refuse("Maximum angle < 0 degrees");
     if (beyond && check.Xmax > 180) return refuse("Maximum angle > 180 degrees");
+    if (check.Xmax > 360) return refuse("Maximum angle > 360 degrees");
   }
   if (InBeam(form)) {
     // Further round there is nothing new.

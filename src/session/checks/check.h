@@ -43,6 +43,7 @@ bool IsAxisGraph(const RunState& s);
 Verdict DecimalCommas(Check& check);
 Verdict CoatedSphereGraphs(Check& check);
 Verdict ProfileOfIndex(Check& check);
+Verdict DropInputs(Check& check);
 Verdict SellmeierLimits(Check& check);
 Verdict BeamMethods(Check& check);
 Verdict BeamInputs(Check& check);

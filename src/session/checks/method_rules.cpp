@@ -1,14 +1,18 @@
 /// Rules that hold the calculation method against the graph, the beam and the sphere.
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
 #include "record/layout/input_name.h"
 #include "record/number_text.h"
 #include "session/checks/check.h"
+#include "session/checks/number_input.h"
 #include "session/checks/sphere_of_run.h"
 #include "session/inputs/beams/beam_menus.h"
 #include "session/inputs/beams/read_beam.h"
+#include "session/inputs/drops/dew_inputs.h"
+#include "session/inputs/drops/drop_inputs.h"
 #include "session/inputs/layers/coated_inputs.h"
 #include "session/inputs/layers/inhom_inputs.h"
 #include "session/inputs/methods.h"
@@ -19,13 +23,14 @@ namespace lumivex {
 namespace {
 
 constexpr std::string_view onlyMieAndDebye = "Selected graph type is available only for Mie and Debye calculations";
+constexpr std::string_view onlyDrops = "Selected graph type is available only for flattened drops";
 constexpr std::string_view onlyMie = "Selected graph type is available only for Mie calculations";
 
 /// The chart of two angles has sizes of its own; the terms of a point and the partial sums of a series are those of one
 /// sphere.
 bool NeedsOneSphere(const Graph& graph) {
-  return graph.family == Family::TwoAngle || graph.family == Family::DebyeAnalysis ||
-         graph.family == Family::Convergence;
+  return graph.quantity == Quantity::BowAngle || graph.family == Family::TwoAngle ||
+         graph.family == Family::DebyeAnalysis || graph.family == Family::Convergence;
 }
 
 /// Where the index of the sphere is told: its field, or its name where the run has one index a wavelength.
@@ -45,6 +50,8 @@ bool Takes(const Graph& graph, const MethodTraits& method) {
       return method.series;
     case MethodsTaken::SeriesAndClosedForms:
       return method.efficiencies;
+    case MethodsTaken::DropsAlone:
+      return method.method == Method::Burgeroid;
     case MethodsTaken::Any:
       break;
   }
@@ -53,6 +60,7 @@ bool Takes(const Graph& graph, const MethodTraits& method) {
 
 /// What is told of a method that the graph does not take.
 std::string_view RefusalOf(const Graph& graph, const MethodTraits& method) {
+  if (graph.methods == MethodsTaken::DropsAlone) return onlyDrops;
   const bool ofTerms = graph.family == Family::Convergence && !method.angleOnly;
   return graph.methods == MethodsTaken::MieAlone || ofTerms ? onlyMie : onlyMieAndDebye;
 }
@@ -80,6 +88,13 @@ Verdict ProfileOfIndex(Check& check) {
   // The field and its tip tell what is wrong; a message would tell no more.
   if (check.state.CalcMethod != Method::InhomogeneousSphere || ProfileHolds(check.session)) return Verdict::GoOn;
   return Verdict::End;
+}
+
+Verdict DropInputs(Check& check) {
+  const Method method = check.state.CalcMethod;
+  if (method == Method::Burgeroid) return DropHolds(check.session) ? Verdict::GoOn : Verdict::End;
+  if (method == Method::Heiligenschein) return DewHolds(check.session) ? Verdict::GoOn : Verdict::End;
+  return Verdict::GoOn;
 }
 
 Verdict BeamMethods(Check& check) {
@@ -219,9 +234,12 @@ Verdict SurfaceWaveInputs(Check& check) {
   if (low > high) return Refuse(check, {&form.cboQmin, &form.cboQmax}, "Jmin > Jmax");
   if (low > highest) return Refuse(check, {&form.cboQmin}, "Jmin must be <=25");
   if (high > highest) return Refuse(check, {&form.cboQmax}, "Jmax must be <=25");
-  if (Val(form.cboRays.Text) == 0)
-    return Refuse(check, {&form.cboRays}, "Surface wave calculations are valid only for p > 0");
-  return Verdict::GoOn;
+  // Of several p those above 0 are added.
+  const auto rays = SelectedRays(RayInputsOf(check.session));
+  const bool any = !rays.empty() && std::any_of(rays.begin() + 1, rays.end(), [](int p) { return p != 0; });
+  if (!any) return Refuse(check, {&form.cboRays}, "Surface wave calculations are valid only for p > 0");
+  constexpr double largestFactor = 1e9;
+  return getval(check.session, form.txtSWAmp, largestFactor, NumberSign::Any) ? Verdict::GoOn : Verdict::End;
 }
 
 Verdict RayleighSize(Check& check) {

@@ -14,6 +14,7 @@ constexpr std::array rules = {
     DecimalCommas,  // all others read numbers
     CoatedSphereGraphs,
     ProfileOfIndex,
+    DropInputs,
     SellmeierLimits,
     BeamMethods,
     BeamInputs,

@@ -57,7 +57,8 @@ bool LeaveGiven(Session& session, const RunRequest& request) {
     return false;
   }
   const MethodTraits& method = TraitsOf(s.CalcMethod);
-  if (method.series || method.layered || request.graph.family == Family::Volume) Duration(session, request);
+  if (method.series || method.layered || method.takesLong || request.graph.family == Family::Volume)
+    Duration(session, request);
   return s.CommandAborted == 0;
 }
 

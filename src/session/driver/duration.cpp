@@ -73,7 +73,9 @@ double ReferenceSeconds(const RunRequest& request) {
   // The fits are those of a plane wave.
   const bool plane = request.method.beam.Plane();
   if (const auto* map = std::get_if<AngleMapRun>(&request.run)) return FittedSeconds(request, *map);
-  if (const AngleRows* rows = RowsOf(request.run); rows != nullptr && plane) return FittedSeconds(request, *rows);
+  if (const AngleRows* rows = RowsOf(request.run);
+      rows != nullptr && plane && !TraitsOf(request.method.method).takesLong)
+    return FittedSeconds(request, *rows);
   // What the fit gives for a term of a pair of angles of the first plot's sphere.
   constexpr double secondsPerPairTerm = 2e-5;
   return secondsPerPairTerm * PairTermsOf(request);

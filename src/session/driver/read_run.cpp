@@ -8,6 +8,7 @@
 #include "record/number_text.h"
 #include "runs/run.h"
 #include "session/inputs/beams/read_beam.h"
+#include "session/inputs/drops/dew_inputs.h"
 #include "session/inputs/layers/layer_labels.h"
 #include "session/inputs/layers/read_layers.h"
 #include "session/inputs/light/wavelength_list.h"
@@ -97,6 +98,11 @@ AngleRows ReadAngleRows(const Session& session, const Graph& graph) {
   rows.step = Val(form.cboStep.Text);
   rows.NANG = ToWhole(90 / rows.step) + 1;
   if (InBeam(form)) return RowsOfBeam(rows.xmin, rows.xmax, rows.step);
+  // Round the antisolar point both sides are there.
+  if (GoesRound(session, graph)) {
+    rows.origin = 0;
+    rows.NANG = ToWhole(180 / rows.step) + 1;
+  }
   const int last = 2 * rows.NANG - 1;
   rows.firstPoint = rows.xmin / rows.step + 1;
   rows.lastPoint = rows.xmax / rows.step + 1;

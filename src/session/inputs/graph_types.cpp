@@ -81,7 +81,9 @@ void ShowFurtherAxis(Session& session, const Graph* graph) {
   const bool impulse = chosen.family == Family::Impulse;
   const bool strips = (chosen.OfAngles() || impulse) && counted != Counted::Nothing;
   const bool onePoint = chosen.family == Family::DebyeAnalysis;
-  const bool angle = (graph != nullptr && !graph->OfEfficiencies() && !power) || strips || onePoint;
+  const bool angle =
+      (graph != nullptr && !graph->OfEfficiencies() && !power && graph->quantity != Quantity::BowAngle) || strips ||
+      onePoint;
   const bool axis = power || impulse || chosen.family == Family::AngleMap || chosen.family == Family::EfficiencyMap;
   form.Frame9.Visible = angle || axis;
   form.Label19.Visible = form.txtAngle.Visible = angle;
@@ -118,7 +120,10 @@ void AxisStartValues(Session& session, const Graph& graph, const AxisStart& star
   const bool efficiencies = graph.OfEfficiencies() || power;
   form.cboYmin.Text = form.cboYmax.Text = "Automatic";
   form.cboWave.Text = "1";
-  form.cboPol.Text = efficiencies ? "All 3" : "Both";
+  const bool bows = graph.quantity == Quantity::BowAngle;
+  form.cboPol.Text = efficiencies || bows ? "All 3" : "Both";
+  // Degrees of a bow are no matter of decades.
+  if (bows) form.optLinear.Select();
   form.txtXmin.Text = start.xmin;
   form.txtXmax.Text = start.xmax;
   form.cboStep.Text = start.step;
@@ -181,6 +186,7 @@ void ChangeFamily(Session& session, const Graph& before) {
   const AxisStart* start = graph != nullptr ? FindAxisStart(*graph) : nullptr;
   const bool keeps = form.mnuKeepParameters.Checked;
   NameMaterials(session, before, GraphOf({1, 1}));
+  if (before.quantity == Quantity::BowAngle && !keeps) form.OptLog.Select();
   if (!keeps) StartMaterials(session);
   NameMaterials(session, GraphOf({1, 1}), chosen);
   form.mnuXStepLog.Checked = start != nullptr && start->logSteps && !keeps;

@@ -4,6 +4,8 @@
 #include "session/inputs/beams/beam_menus.h"
 #include "session/inputs/beams/read_beam.h"
 #include "session/inputs/dialog_use.h"
+#include "session/inputs/drops/dew_inputs.h"
+#include "session/inputs/drops/drop_inputs.h"
 #include "session/inputs/graph_types.h"
 #include "session/inputs/layers/coated_inputs.h"
 #include "session/inputs/layers/inhom_inputs.h"
@@ -37,6 +39,16 @@ void StripStartValues(Session& session) {
   form.cboStep.Text = "0.1";
 }
 
+/// Ten poles are enough for surface waves; the glory of a ring has its two amplitudes in the same lists.
+void PoleStartValues(Session& session, std::string_view before) {
+  auto& form = session.form1;
+  const std::string_view waves = TextOfMethod(Method::SurfaceWave, 0);
+  const bool is = session.state.CalcMethod == Method::SurfaceWave;
+  if (session.state.RestoringSettings != 0 || is == (before == waves)) return;
+  form.cboQmin.Text = "1";
+  form.cboQmax.Text = is ? "10" : "1";
+}
+
 /// Which illumination a method can have.
 void IlluminationOf(Session& session) {
   auto& form = session.form1;
@@ -51,13 +63,17 @@ void IlluminationOf(Session& session) {
   if (session.state.RestoringSettings == 0) form.txtAngle.Text = "90";
 }
 
-/// The dialog of a method whose sphere is in layers; true without one.
-bool AskForLayers(Session& session) {
+/// The dialog of a method that has one; true without one.
+bool AskForMethod(Session& session) {
   switch (session.state.CalcMethod) {
     case Method::CoatedSphere:
       return AskCoatedSphere(session);
     case Method::InhomogeneousSphere:
       return AskInhomSphere(session);
+    case Method::Burgeroid:
+      return AskNonSpherical(session);
+    case Method::Heiligenschein:
+      return AskHeiligenschein(session);
     default:
       return true;
   }
@@ -82,10 +98,10 @@ void TypeCalc(Session& session) {
 void cboType_click(Session& session) {
   auto& form = session.form1;
   const auto& s = session.state;
-  const std::string_view before = TextOfMethod(s.CalcMethod, s.DiffractionVariant);
+  const std::string before(TextOfMethod(s.CalcMethod, s.DiffractionVariant));
   form.lblDebyeRays.Caption.clear();
   TypeCalc(session);
-  const bool asked = AskForLayers(session);
+  const bool asked = AskForMethod(session);
   if (!asked && !before.empty()) {
     form.cboType.Text = before;
     TypeCalc(session);
@@ -101,11 +117,14 @@ void cboType_click(Session& session) {
   form.cboQmin.Visible = form.cboQmax.Visible = form.lblQminQmax.Visible = form.txtSWAmp.Visible = surfaceWave;
   form.mnuSurfaceWave.Visible = surfaceWave;
   if (surfaceWave) form.txtSWAmp.Text = "1";
+  PoleStartValues(session, before);
+  DewStartValues(session, before == TextOfMethod(Method::Heiligenschein, 0));
   ShowFamilyInputs(session);
   ShowLayers(session);
   form.cmdNewPlot.Enabled = true;
   DebyeLabel(session);
   if (asked && s.CalcMethod == Method::InhomogeneousSphere) RunProfile(session);
+  if (asked && s.CalcMethod == Method::Burgeroid) RunDrop(session);
 }
 
 void ChooseMethod(Session& session, std::string_view text) {

@@ -17,10 +17,10 @@ constexpr double pi = std::numbers::pi;
 constexpr std::uint64_t emptyCell = std::numeric_limits<std::uint64_t>::max();
 /// Rays of a bundle: so many in impact and in azimuth. Both halves of the azimuth are alike, so one is traced.
 constexpr int bundleSide = 400;
+constexpr std::size_t litBits = std::size_t{1} << 21, wordBits = 64;
 
-/// Share of unpolarised light that passes two surfaces at incidence i and refraction r.
-double TransmissionOfBoth(double i, double r, double m) {
-  const double ci = std::cos(i), cr = std::cos(r);
+/// Share of unpolarised light that passes two surfaces, by the cosines of incidence and refraction.
+double TransmissionOfBoth(double ci, double cr, double m) {
   const double across = (ci - m * cr) / (ci + m * cr), along = (m * ci - cr) / (m * ci + cr);
   const double ts = 1 - across * across, tp = 1 - along * along;
   return (ts * ts + tp * tp) / 2;
@@ -32,7 +32,8 @@ std::size_t HashOf(std::uint64_t cell) {
 
 }  // namespace
 
-std::vector<Heiligenschein::Ray> Heiligenschein::Bundle(double m, std::uint64_t seed) {
+std::vector<Heiligenschein::Ray> Heiligenschein::Bundle(const DewDrop& drop, std::uint64_t seed) {
+  const double m = drop.m;
   std::mt19937_64 generator(seed);
   std::vector<Ray> rays;
   rays.reserve(static_cast<std::size_t>(bundleSide) * bundleSide);
@@ -41,11 +42,16 @@ std::vector<Heiligenschein::Ray> Heiligenschein::Bundle(double m, std::uint64_t 
       const double b = std::sqrt((k + NextFraction(generator)) / bundleSide);
       const double f = pi * (l + NextFraction(generator)) / bundleSide;
       if (b > m) continue;  // totally reflected
-      const double i = std::asin(b), r = std::asin(b / m);
-      const double place = 2 * r - i, turn = 2 * (i - r);
-      rays.push_back({std::sin(place) * std::cos(f), std::sin(place) * std::sin(f), std::cos(place),
-                      -std::sin(turn) * std::cos(f), -std::sin(turn) * std::sin(f), std::cos(turn),
-                      TransmissionOfBoth(i, r, m) * pi / (static_cast<double>(bundleSide) * bundleSide)});
+      // Sines and cosines of i and r make those of where the ray leaves, 2 r - i, and where to, 2 (i - r).
+      const double ci = std::sqrt(1 - b * b), sr = b / m, cr = std::sqrt(1 - sr * sr);
+      const double s2r = 2 * sr * cr, c2r = 1 - 2 * sr * sr;
+      const double placeSine = s2r * ci - c2r * b, placeCosine = c2r * ci + s2r * b;
+      const double half = b * cr - ci * sr, halfCosine = ci * cr + b * sr;
+      const double turnSine = 2 * half * halfCosine, turnCosine = 1 - 2 * half * half;
+      const double cf = std::cos(f), sf = std::sin(f);
+      rays.push_back({placeSine * cf, placeSine * sf, placeCosine, -turnSine * cf, -turnSine * sf, turnCosine,
+                      TransmissionOfBoth(ci, cr, m) * std::exp(-drop.absorption * 2 * cr) * pi /
+                          (static_cast<double>(bundleSide) * bundleSide)});
     }
   }
   return rays;
@@ -68,10 +74,11 @@ std::uint64_t Heiligenschein::Cell(const Landing& landing) const {
 }
 
 double Heiligenschein::WeightOf(std::uint64_t cell) const {
-  const std::size_t mask = cells_.size() - 1;
-  for (std::size_t i = HashOf(cell) & mask;; i = (i + 1) & mask) {
-    if (cells_[i] == cell) return weights_[i];
-    if (cells_[i] == emptyCell) return 0;
+  const std::size_t mask = spots_.size() - 1, hash = HashOf(cell), bit = hash & (litBits - 1);
+  if ((lit_[bit / wordBits] >> (bit % wordBits) & 1U) == 0) return 0;
+  for (std::size_t i = hash & mask;; i = (i + 1) & mask) {
+    if (spots_[i].cell == cell) return spots_[i].weight;
+    if (spots_[i].cell == emptyCell) return 0;
   }
 }
 
@@ -80,20 +87,22 @@ Heiligenschein::Heiligenschein(const DewDrop& drop)
       cosSlope_(std::cos(drop.slope)),
       sinSlope_(std::sin(drop.slope)),
       side_(drop.distance * drop.resolution),
-      observer_(Bundle(drop.m, 2)),
-      cells_(std::size_t{1} << 19, emptyCell),
-      weights_(cells_.size(), 0.0) {
-  const std::size_t mask = cells_.size() - 1;
+      observer_(Bundle(drop, 2)),
+      spots_(std::size_t{1} << 19, Spot{emptyCell, 0.0}),
+      lit_(litBits / wordBits) {
+  const std::size_t mask = spots_.size() - 1;
   // Both halves of the sun's bundle land in a cell of |y|, which is as large as two.
   const double share = 1 / (2 * side_ * side_);
-  for (const Ray& ray : Bundle(drop.m, 1)) {
+  for (const Ray& ray : Bundle(drop, 1)) {
     const Landing landing = Land(ray, 1, 0);
     if (!landing.meets) continue;
     const std::uint64_t cell = Cell(landing);
-    std::size_t i = HashOf(cell) & mask;
-    while (cells_[i] != cell && cells_[i] != emptyCell) i = (i + 1) & mask;
-    cells_[i] = cell;
-    weights_[i] += ray.weight * share;
+    const std::size_t hash = HashOf(cell), bit = hash & (litBits - 1);
+    lit_[bit / wordBits] |= std::uint64_t{1} << (bit % wordBits);
+    std::size_t i = hash & mask;
+    while (spots_[i].cell != cell && spots_[i].cell != emptyCell) i = (i + 1) & mask;
+    spots_[i].cell = cell;
+    spots_[i].weight += ray.weight * share;
   }
 }
 

@@ -14,6 +14,7 @@ struct DewDrop {
   double distance = 2.0;  ///< L, of the plane from the sphere's centre, >= 1
   double slope = 0.0;  ///< gamma, between the plane's normal and the direction to the sun; radians, 0 <= gamma < pi/2
   double resolution = 0.01;  ///< radians: the apparent size that a source is taken for, > 0
+  double absorption = 0.0;   ///< 2 x k: by a path of one radius the power falls to exp(-2 x k)
 };
 
 /// What comes back towards an angle: light that passed the sphere both ways, and that of the sunlit plane seen through
@@ -53,7 +54,7 @@ class Heiligenschein {
     double x, y;  ///< across the sunlight
     bool meets;
   };
-  static std::vector<Ray> Bundle(double m, std::uint64_t seed);
+  static std::vector<Ray> Bundle(const DewDrop& drop, std::uint64_t seed);
   Landing Land(const Ray& ray, double cosine, double sine) const;
   std::uint64_t Cell(const Landing& landing) const;
   double WeightOf(std::uint64_t cell) const;
@@ -61,8 +62,14 @@ class Heiligenschein {
   DewDrop drop_;
   double cosSlope_, sinSlope_, side_;
   std::vector<Ray> observer_;
-  std::vector<std::uint64_t> cells_;  // open addressing; emptyCell where there is none
-  std::vector<double> weights_;
+  struct Spot {
+    std::uint64_t cell;  // emptyCell where there is none
+    double weight;
+  };
+  std::vector<Spot> spots_;  // open addressing
+  /// A bit for each of the last bits of a hash that some cell has: most of the dark plane is known without a look at
+  /// the spots, which are too many for a cache.
+  std::vector<std::uint64_t> lit_;
 };
 
 }  // namespace lumivex

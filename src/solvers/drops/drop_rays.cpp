@@ -139,6 +139,30 @@ bool TraceDropRay(const DropShape& shape, const DropMaterial& material, const Dr
   return true;
 }
 
+DropPath PathOfDropRay(const DropShape& shape, double m, const DropLight& light, double b, double X, int p) {
+  SpaceVector place = -5 * light.e0 + b * std::cos(X) * light.e1 + b * std::sin(X) * light.e2, e = light.e0;
+  const auto entry = shape.Entry(place, e);
+  if (!entry) return {};
+  DropPath path;
+  path.points.push_back(place = place + *entry * e);
+  SpaceVector normal = shape.Normal(place);
+  e = Refracted(e, normal, 1 / m, Interface(1, m, std::max(0.0, -Dot(e, normal))));
+  for (int surface = 1; surface <= p; ++surface) {
+    const double chord = shape.Chord(place, e);
+    if (!(chord > 0)) return {};
+    path.points.push_back(place = place + chord * e);
+    normal = -1 * shape.Normal(place);
+    const Interface inside(m, 1, std::max(0.0, -Dot(e, normal)));
+    if (surface < p) {
+      e = Reflected(e, normal, inside.cosine);
+    } else {
+      if (inside.ts == 0) return {};
+      path.direction = Refracted(e, normal, m, inside);
+    }
+  }
+  return path;
+}
+
 double ScatteringAngleOf(const DropLight& light, const SpaceVector& direction) {
   return std::atan2(Length(Cross(light.e0, direction)), Dot(light.e0, direction));
 }
@@ -153,18 +177,45 @@ double DropRows::SolidAngle(int row) const {
   return (std::cos(from) - std::cos(to)) * (clockHalfWidth > 0 ? std::min(2 * clockHalfWidth, 2 * pi) : 2 * pi);
 }
 
-int DropRows::RowOf(double theta, double phi) const {
+int DropRows::RowOf(double theta) const {
   const double row = std::floor((theta - first) / step + 0.5) + 1;
-  if (!(row >= 1 && row <= count)) return 0;
-  if (clockHalfWidth > 0 && std::fabs(std::remainder(phi - clock, 2 * pi)) > clockHalfWidth) return 0;
-  return static_cast<int>(row);
+  return row >= 1 && row <= count ? static_cast<int>(row) : 0;
 }
+
+int DropRows::RowOf(double theta, double phi) const {
+  const bool seen = clockHalfWidth <= 0 || std::fabs(std::remainder(phi - clock, 2 * pi)) <= clockHalfWidth;
+  return seen ? RowOf(theta) : 0;
+}
+
+int DropRows::SectorOf(double phi) const {
+  return std::min(static_cast<int>(std::fabs(phi) / pi * sectors), sectors - 1);
+}
+
+namespace {
+
+/// Counts what has left in one direction, from a cell of the wave front.
+void Count(const DropExit& exit, double cell, const DropLight& light, const DropRows& rows, DropPower& power) {
+  const double across = exit.perpendicular * cell, along = exit.parallel * cell;
+  power.allPerpendicular += across;
+  power.allParallel += along;
+  const double theta = ScatteringAngleOf(light, exit.direction), phi = ClockAngleOf(light, exit.direction);
+  if (const int row = rows.RowOf(theta, phi); row != 0) {
+    power.perpendicular[static_cast<std::size_t>(row - 1)] += across;
+    power.parallel[static_cast<std::size_t>(row - 1)] += along;
+  }
+  if (rows.sectors == 0) return;
+  if (const int row = rows.RowOf(theta); row != 0)
+    power.sky[static_cast<std::size_t>(rows.SectorOf(phi) * rows.count + row - 1)] += (across + along) / 2;
+}
+
+}  // namespace
 
 int AddDropRays(const DropShape& shape, const DropMaterial& material, const DropLight& light,
                 std::span<const int> selected, int gridSide, int firstLine, int endLine, const DropRows& rows,
                 DropPower& power, RunMonitor& monitor) {
   power.perpendicular.resize(static_cast<std::size_t>(rows.count));
   power.parallel.resize(static_cast<std::size_t>(rows.count));
+  power.sky.resize(static_cast<std::size_t>(rows.sectors) * static_cast<std::size_t>(rows.count));
   std::vector<std::optional<DropExit>> exits(selected.size());
   const double cell = 2 * frontHalfWidth / gridSide;
   for (int line = firstLine; line < endLine; ++line) {
@@ -176,16 +227,8 @@ int AddDropRays(const DropShape& shape, const DropMaterial& material, const Drop
       const double up = (i + NextFraction(generator)) * cell - frontHalfWidth;
       const double b = std::hypot(across, up);
       if (b > frontHalfWidth || !TraceDropRay(shape, material, light, b, std::atan2(across, up), exits)) continue;
-      for (std::size_t p = 0; p < exits.size(); ++p) {
-        if (selected[p] == 0 || !exits[p]) continue;
-        const DropExit& exit = *exits[p];
-        power.allPerpendicular += exit.perpendicular * cell * cell;
-        power.allParallel += exit.parallel * cell * cell;
-        const int row = rows.RowOf(ScatteringAngleOf(light, exit.direction), ClockAngleOf(light, exit.direction));
-        if (row == 0) continue;
-        power.perpendicular[static_cast<std::size_t>(row - 1)] += exit.perpendicular * cell * cell;
-        power.parallel[static_cast<std::size_t>(row - 1)] += exit.parallel * cell * cell;
-      }
+      for (std::size_t p = 0; p < exits.size(); ++p)
+        if (selected[p] != 0 && exits[p]) Count(*exits[p], cell * cell, light, rows, power);
     }
   }
   return endLine - firstLine;

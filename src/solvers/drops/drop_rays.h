@@ -43,6 +43,14 @@ struct DropExit {
 bool TraceDropRay(const DropShape& shape, const DropMaterial& material, const DropLight& light, double b, double X,
                   std::span<std::optional<DropExit>> exits);
 
+/// The points where the ray of order p >= 1 meets the surface: entry, inner reflections, exit; empty where it does not
+/// leave there.
+struct DropPath {
+  std::vector<SpaceVector> points;
+  SpaceVector direction;  ///< of the light that leaves
+};
+DropPath PathOfDropRay(const DropShape& shape, double m, const DropLight& light, double b, double X, int p);
+
 /// The scattering angle of a direction, radians.
 double ScatteringAngleOf(const DropLight& light, const SpaceVector& direction);
 /// Where an observer sees it: 0 at the highest point of the bow, pi/2 at its side, pi below the antisolar point.
@@ -55,10 +63,14 @@ struct DropRows {
   int count = 0;
   double clock = 0.0;           ///< radians
   double clockHalfWidth = 0.0;  ///< radians; 0 or less: all round
+  int sectors = 0;              ///< that the clock is divided into besides, from 0 to pi; the other side mirrors them
   /// Steradians of a row, from 1.
   double SolidAngle(int row) const;
   /// The row of a direction, from 1; 0 where it is not counted.
   int RowOf(double theta, double phi) const;
+  /// The row of a scattering angle, whatever the clock angle; the sector, from 0, of a clock angle.
+  int RowOf(double theta) const;
+  int SectorOf(double phi) const;
 };
 
 /// Power that leaves into each row for unit intensity in each polarisation and a = 1: index row - 1.
@@ -66,6 +78,8 @@ struct DropPower {
   std::vector<double> perpendicular, parallel;
   /// Of all directions.
   double allPerpendicular = 0.0, allParallel = 0.0;
+  /// Mean of both by sector of the clock and row: element sector * count + row - 1; both sides together.
+  std::vector<double> sky;
 };
 
 /// The rays of one block of the wave front, which is a square net of gridSide x gridSide cells with a ray at a random

@@ -4,6 +4,7 @@
 
 #include "record/number_text.h"
 #include "session/inputs/beams/read_beam.h"
+#include "session/inputs/drops/read_drops.h"
 #include "session/inputs/layers/read_layers.h"
 #include "session/inputs/methods/read_method.h"
 #include "session/inputs/methods/sphere_size.h"
@@ -61,7 +62,7 @@ std::string SurfaceWaveText(const Details& d) {
   const std::string start = d.path == ShortAndLong ? "Surface wave: short + long paths (p = "
                             : d.path == Short      ? "Surface wave: short path (p = "
                                                    : "Surface wave: long path (p = ";
-  return start + d.p + ")";
+  return start + RayText(d).substr(std::string_view(" (p = ").size());
 }
 
 std::string CoatedText(const Details::Coating& c) {
@@ -96,6 +97,28 @@ std::string ProfileText(const Details::RadialProfile& profile) {
       break;
   }
   return name;
+}
+
+std::string DropText(const Details::Drop& drop) {
+  return drop.shape + " (p = " + drop.rays + ")\nSun elevation " + drop.elevation + "\u00B0, " +
+         (drop.clock.empty() ? "all round" : "clock angle " + drop.clock + "\u00B0");
+}
+
+Details::Drop DropOf(const Session& session) {
+  const auto& d = session.forms.dlogNonSpherical;
+  Details::Drop drop;
+  drop.shape = d.optBurgeroid.Checked    ? "Burgeroid"
+               : d.optRatioTyped.Checked ? "Spheroid, axis ratio " + d.txtAxisRatio.Text
+                                         : "Spheroid, axis ratio by size";
+  drop.rays = SelectedRaysText(RaysOfDrop(session));
+  drop.elevation = d.txtElevation.Text;
+  if (!d.chkAllRound.Checked) drop.clock = d.txtClock.Text + " \u00B1 " + d.txtClockWidth.Text;
+  return drop;
+}
+
+Details::Path PathOf(const Form1& form) {
+  if (form.mnuSWShort.Checked) return Details::Path::Short;
+  return form.mnuSWLong.Checked ? Details::Path::Long : Details::Path::ShortAndLong;
 }
 
 Details::Coating CoatingOf(const Session& session) {
@@ -175,6 +198,8 @@ std::string DebyeLabelText(const DebyeLabelDetails& d) {
       return CoatedText(d.coating);
     case Method::YoungAiry:
       return RaySum("Young + Airy", d);
+    case Method::Burgeroid:
+      return DropText(d.drop);
     case Method::Heiligenschein:
       return "Heiligenschein (L = " + d.heiligenscheinL + ", gamma = " + d.heiligenscheinGamma + ")";
     case Method::InhomogeneousSphere:
@@ -199,6 +224,12 @@ std::string MethodLabel(const Session& session, const RayInputs& rays) {
   if (const Illumination light = ReadBeam(session); !light.Plane()) {
     details.beam = light.kind == Illumination::Kind::TopHat ? Details::Beam::TopHat : Details::Beam::Gaussian;
     details.beamNumbers = BeamNumbersOf(session, light);
+  }
+  details.path = PathOf(form);
+  if (details.method == Method::Burgeroid) details.drop = DropOf(session);
+  if (details.method == Method::Heiligenschein) {
+    details.heiligenscheinL = session.forms.dlogHeiligenschein.txtDistance.Text;
+    details.heiligenscheinGamma = session.forms.dlogHeiligenschein.txtSlope.Text;
   }
   if (details.method == Method::CoatedSphere) details.coating = CoatingOf(session);
   if (details.method == Method::InhomogeneousSphere) details.profile = ProfileOf(session);

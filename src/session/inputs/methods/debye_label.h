@@ -37,6 +37,11 @@ struct DebyeLabelDetails {
     std::string B, C, F;
   };
 
+  /// A flattened drop, which rays of it are counted and where; `clock` is empty for all round.
+  struct Drop {
+    std::string shape, rays, elevation, clock;
+  };
+
   Method method = Method::Mie;
   Beam beam = Beam::PlaneWave;
   BeamNumbers beamNumbers;
@@ -49,6 +54,7 @@ struct DebyeLabelDetails {
   bool diffraction = false;
   Coating coating;
   RadialProfile profile;
+  Drop drop;
   std::string heiligenscheinL, heiligenscheinGamma;
 };
 

@@ -62,6 +62,26 @@ void dlogP_OKButton_Click(Session& session) {
     RefuseInput(session, dialog.txtPmin, "Minimum value must be less than maximum value");
 }
 
+/// Which way round surface waves are followed.
+void PickPath(Session& session, MenuEntry& chosen) {
+  auto& form = session.form1;
+  for (MenuEntry* entry : {&form.mnuSWBoth, &form.mnuSWShort, &form.mnuSWLong}) entry->Checked = entry == &chosen;
+  session.events.Raise("Inputs_Changed");
+  DebyeLabel(session);
+}
+
+void mnuSWBoth_Click(Session& session) {
+  PickPath(session, session.form1.mnuSWBoth);
+}
+
+void mnuSWShort_Click(Session& session) {
+  PickPath(session, session.form1.mnuSWShort);
+}
+
+void mnuSWLong_Click(Session& session) {
+  PickPath(session, session.form1.mnuSWLong);
+}
+
 void mnuHidden_Click(Session& session) {
   auto& form = session.form1;
   form.mnuHidden.Checked = !form.mnuHidden.Checked;
@@ -109,6 +129,9 @@ std::span<const SolverEvent> SolverEvents() {
       SolverEvent{"mnuMieDebye_Click", mnuMieDebye_Click},
       SolverEvent{"mnuGODebye_Click", mnuGODebye_Click},
       SolverEvent{"mnuSWsub_Click", mnuSWsub_Click},
+      SolverEvent{"mnuSWBoth_Click", mnuSWBoth_Click},
+      SolverEvent{"mnuSWShort_Click", mnuSWShort_Click},
+      SolverEvent{"mnuSWLong_Click", mnuSWLong_Click},
       SolverEvent{"mnuDebyeRecursion_Click", mnuDebyeRecursion_Click},
       SolverEvent{"mnuPartial_Click", mnuPartial_Click},
       SolverEvent{"mnuHidden_Click", mnuHidden_Click},

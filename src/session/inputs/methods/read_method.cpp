@@ -4,6 +4,7 @@
 
 #include "record/number_text.h"
 #include "session/inputs/beams/read_beam.h"
+#include "session/inputs/drops/read_drops.h"
 #include "session/inputs/layers/read_layers.h"
 #include "session/inputs/methods/rays_check.h"
 
@@ -63,6 +64,12 @@ MethodOptions ChosenMethod(const Session& session) {
   options.Qmin = static_cast<float>(Val(form.cboQmin.Text));
   options.Qmax = static_cast<float>(Val(form.cboQmax.Text));
   options.beam = ReadBeam(session);
+  if (options.method == Method::SurfaceWave) options.surface = ReadSurfaceWaves(session);
+  if (options.method == Method::Heiligenschein) options.dew = ReadDew(session);
+  if (options.method == Method::Burgeroid) {
+    options.drop = ReadDrop(session);
+    options.rays = RaysOfDrop(session);
+  }
   return options;
 }
 
