@@ -121,8 +121,8 @@ class Recorded : public ScriptedSession {
  protected:
   MainFormState& State() { return runner.Current().state; }
 
-  /// Rays of flattened drops are the same every time: some thousands tell as much as millions.
-  const std::string fewRays = "\nset dlogNonSpherical.cboRayCount 20000\n";
+  /// Rays of flattened drops are the same every time: two thousand tell as much as millions.
+  const std::string fewRays = "\nset dlogNonSpherical.cboRayCount 2000\n";
 
   /// Every method by every graph that is offered.
   template <class Visit>
