@@ -45,7 +45,7 @@ constexpr std::array rows = {
     Graph{{15, 2}, F::Axis, A::Wavelength, Q::CrossSections, D::Curves, M::Series},
     Graph{{15, 9}, F::Axis, A::Wavelength, Q::Qback, D::Curves, M::Series},
     Graph{{15, 12}, F::Axis, A::Wavelength, Q::Qradar, D::Curves, M::Series},
-    Graph{{15, 13}, F::EfficiencyPulse, A::Wavelength, Q::Efficiencies, D::Curves, M::Series},
+    Graph{{15, 13}, F::PulseAnswer, A::PulseTime, Q::Efficiencies, D::Curves, M::Series},
     Graph{{16, 1}, F::Axis, A::Radius, Q::Asymmetry, D::Curves, M::Series},
     Graph{{16, 2}, F::Axis, A::SizeParameter, Q::Asymmetry, D::Curves, M::Series},
     Graph{{16, 3}, F::Axis, A::Wavelength, Q::Asymmetry, D::Curves, M::Series},
@@ -55,7 +55,7 @@ constexpr std::array rows = {
     Graph{{18, 1}, F::Axis, A::Radius, Q::Power, D::Curves, M::Any},
     Graph{{18, 2}, F::Axis, A::Diameter, Q::Power, D::Curves, M::Any},
     Graph{{18, 3}, F::Axis, A::Wavelength, Q::Power, D::Curves, M::Any},
-    Graph{{19, 1}, F::Impulse, A::Time, Q::Intensity, D::ColourImage, M::Any},
+    Graph{{19, 1}, F::Impulse, A::PulseTime, Q::Intensity, D::ColourImage, M::Any},
     Graph{{20, 1}, F::Lee, A::Radius, Q::Intensity, D::ColourImage, M::Any},
     Graph{{20, 2}, F::Lee, A::RefractiveIndex, Q::Intensity, D::ColourImage, M::Any},
     Graph{{22, 1}, F::AngleMap, A::RefractiveIndex, Q::Intensity, D::ColourImage, M::Any},
@@ -77,6 +77,7 @@ constexpr std::array rows = {
 };
 
 constexpr std::array sweptRows = {
+    SweptQuantities{{19, 1}, Swept::Time, std::nullopt},
     SweptQuantities{{20, 1}, Swept::Radius, std::nullopt, true},
     SweptQuantities{{20, 2}, Swept::SphereIndex, std::nullopt},
     SweptQuantities{{22, 1}, Swept::SphereIndex, std::nullopt},

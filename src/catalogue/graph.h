@@ -7,13 +7,13 @@ namespace lumivex {
 
 /// How a graph is calculated: one kind of run each.
 enum class Family {
-  Angle,            ///< rows of scattering angle, at one wavelength or several
-  TwoAngle,         ///< cross-sections into two ranges of angle, by radius and index
-  Axis,             ///< points of wavelength, size or index
-  Convergence,      ///< running sums of one series at one angle
-  DebyeAnalysis,    ///< what is left of the Mie amplitude of one point after each Debye term
-  EfficiencyPulse,  ///< efficiencies as an impulse response
-  Impulse,
+  Angle,          ///< rows of scattering angle, at one wavelength or several
+  TwoAngle,       ///< cross-sections into two ranges of angle, by radius and index
+  Axis,           ///< points of wavelength, size or index
+  Convergence,    ///< running sums of one series at one angle
+  DebyeAnalysis,  ///< what is left of the Mie amplitude of one point after each Debye term
+  PulseAnswer,    ///< what one sphere answers to a pulse of light, against time: efficiencies, or light at one angle
+  Impulse,        ///< the same over angle and time
   Lee,
   AngleMap,
   EfficiencyMap,
@@ -31,9 +31,10 @@ enum class AxisVariable {
   Terms,         ///< number of terms of a series
   CrossSection,  ///< into a range of angles
   Time,
-  Number,  ///< of spheres
-  Place,   ///< of a sphere
-  Clock,   ///< angle along a bow
+  PulseTime,  ///< femtoseconds
+  Number,     ///< of spheres
+  Place,      ///< of a sphere
+  Clock,      ///< angle along a bow
 };
 
 /// What is calculated.
@@ -93,11 +94,11 @@ struct Graph {
   /// Points along an axis, those of the families of one point included.
   bool AgainstAxis() const {
     return family == Family::Axis || family == Family::Convergence || family == Family::DebyeAnalysis ||
-           family == Family::EfficiencyPulse || family == Family::Volume;
+           family == Family::PulseAnswer || family == Family::Volume;
   }
-  bool WavelengthAxis() const {
-    return axis == AxisVariable::Wavelength && (family == Family::Axis || family == Family::EfficiencyPulse);
-  }
+  bool WavelengthAxis() const { return axis == AxisVariable::Wavelength && family == Family::Axis; }
+  /// Calculated for the wavelengths of a pulse.
+  bool OfPulse() const { return family == Family::PulseAnswer || family == Family::Impulse; }
   /// Wavelengths run along a side of it, so that the light is no other's.
   bool SweepsWavelength() const {
     return WavelengthAxis() || (family == Family::AngleMap && axis == AxisVariable::Wavelength);
@@ -158,9 +159,13 @@ struct Graph {
     return AgainstAngle() && (quantity == Quantity::PhaseFunction || quantity == Quantity::Irradiance ||
                               quantity == Quantity::CumulativeProbability);
   }
-  bool IsMap() const { return family == Family::AngleMap || family == Family::EfficiencyMap; }
+  bool IsMap() const {
+    return family == Family::AngleMap || family == Family::EfficiencyMap || family == Family::Impulse;
+  }
   /// Columns of scattering angles.
-  bool ColumnsOfAngles() const { return family == Family::Lee || family == Family::AngleMap; }
+  bool ColumnsOfAngles() const {
+    return family == Family::Lee || family == Family::AngleMap || family == Family::Impulse;
+  }
   /// Colours of cells: Lee diagrams and maps.
   bool InColour() const { return family == Family::Lee || IsMap(); }
   bool operator==(const Graph&) const = default;
@@ -174,6 +179,7 @@ enum class Swept {
   MediumIndex,
   Wavelength,     ///< nm
   SizeParameter,  ///< of the sphere in its medium
+  Time,           ///< fs, after a pulse
 };
 
 /// What a Lee diagram or a map varies from column to column, and from row to row where these are no angles.

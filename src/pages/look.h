@@ -74,6 +74,18 @@ struct FourierLook {
   bool root = false;         ///< of the square root of the curves
 };
 
+/// Rays and surface waves over a map of angle and time.
+struct TimePlotLook {
+  bool rays = false, waves = false;
+  int highestRay = 3;       ///< p of rays from 0 on
+  double step = 0.1;        ///< from impact to impact
+  bool values = false;      ///< angle and time beside the marks
+  bool sides = false;       ///< rays that leave on either side of the axis in two colours
+  double surfaceIndex = 1;  ///< index that a surface wave creeps with
+  int highestWave = 3;      ///< p of surface waves from 0 on
+  int halfTurns = 2;        ///< that they creep
+};
+
 struct SunLook {
   bool disc = false;  ///< a source 0.5 degrees wide
   bool rectangular = false;
@@ -93,6 +105,7 @@ struct Look {
   SecondPanel second = SecondPanel::None;
   bool amplitude = false, invWavelength = false;
   std::optional<FourierLook> fourier;  ///< frequencies in place of the curves
+  TimePlotLook timePlot;
   SunLook sun;
   ColourLook colours;
   bool components = false;  ///< red, green and blue apart

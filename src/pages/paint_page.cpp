@@ -11,6 +11,7 @@
 #include "pages/items/huygens_drawing.h"
 #include "pages/items/phasor_diagram.h"
 #include "pages/items/profile_graph.h"
+#include "pages/items/pulse_graph.h"
 #include "pages/items/readings.h"
 #include "pages/items/size_histogram.h"
 #include "pages/items/two_angle_chart.h"
@@ -120,6 +121,7 @@ void Paint(const Page& page, DrawingSurface& surface) {
     for (std::size_t i = 0; i < page.panels.size(); ++i) PaintPanel(surface, page, i, polarLabels);
   if (page.profile) PaintProfile(surface, *page.profile);
   if (page.drop) PaintDrop(surface, *page.drop);
+  if (page.pulse) PaintPulse(surface, *page.pulse);
   PaintSheet(surface, page.sheet);
   if (page.phasors) PaintPhasors(surface, *page.phasors, page.style.ground);
   PaintTwoAngleNotes(surface, page);

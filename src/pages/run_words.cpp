@@ -105,7 +105,10 @@ void AddAxis(const Results& results, std::vector<std::string>& lines) {
   const std::string start = asked.words.scale + ": ", unit = UnitOfAxis(asked.graph);
   if (const AngleRows* rows = RowsOf(asked.run))
     lines.push_back(start + AxisRange(rows->xmin, rows->xmax, rows->step, false, unit));
-  else if (const AxisRun* axis = AxisOf(asked.run))
+  else if (const AxisRun* axis = AxisOf(asked.run); axis != nullptr && axis->pulse)
+    lines.push_back(start + AxisRange(RoundDecimals(axis->xmin, 2), RoundDecimals(axis->xmax, 2),
+                                      RoundDecimals(axis->step, 4), false, unit));
+  else if (axis != nullptr)
     lines.push_back(start + AxisRange(axis->xmin, axis->xmax, axis->step, axis->logSteps, unit));
   else if (const auto* terms = results.Find<ConvergenceFound>())
     AddTerms(asked, *terms, start, lines);
@@ -150,6 +153,30 @@ std::string BeamSumWords(const Illumination& light) {
          Number(light.rule.error) + (light.rule.logarithms ? "" : " by factorials");
 }
 
+std::string_view NameOf(PulseForm form) {
+  switch (form) {
+    case PulseForm::Rectangular:
+      return "Rectangular";
+    case PulseForm::RaisedCosine:
+      return "Raised cosine";
+    case PulseForm::Hamming:
+      return "Hamming";
+    case PulseForm::AM:
+      return "AM";
+    case PulseForm::FM:
+      return "FM";
+    case PulseForm::Gaussian:
+      break;
+  }
+  return "Gaussian";
+}
+
+const PulsedLight* PulseOf(const RunRequest& asked) {
+  if (const auto* map = std::get_if<AngleMapRun>(&asked.run)) return map->pulse ? &*map->pulse : nullptr;
+  const AxisRun* axis = AxisOf(asked.run);
+  return axis != nullptr && axis->pulse ? &*axis->pulse : nullptr;
+}
+
 void AddMethod(const Results& results, std::vector<std::string>& lines) {
   const RunRequest& asked = results.asked;
   lines.push_back("Method: " + asked.words.method);
@@ -167,6 +194,7 @@ void AddMethod(const Results& results, std::vector<std::string>& lines) {
   } else if (!asked.graph.WavelengthAxis() && !Sweeps(asked.run, Swept::Wavelength)) {
     lines.push_back("Wavelength: " + Number(results.last.lambda) + " \u00B5m in vacuo");
   }
+  if (const std::string pulse = PulseWords(asked); !pulse.empty()) lines.push_back(pulse);
 }
 
 /// Sizes that a table or a model has by itself are those of no radius.
@@ -400,6 +428,17 @@ std::string MethodLabelOf(const Results& results) {
   return label.substr(0, label.find('\n'));
 }
 
+std::string PulseWords(const RunRequest& asked) {
+  const PulsedLight* light = PulseOf(asked);
+  if (light == nullptr) return "";
+  const PulseRequest& pulse = light->pulse;
+  std::string words = std::string(NameOf(pulse.form)) + " pulse, " + Number(pulse.duration) + " fs, cut-off " +
+                      Number(pulse.cutOff) + " dB, " + std::to_string(pulse.length) + " samples of " +
+                      Number(RoundDecimals(SampleStep(pulse), 4)) + " fs";
+  if (light->fromCentre) words += ", times from the centre";
+  return light->correlated ? words + ", correlated with the pulse" : words;
+}
+
 std::vector<std::string> ParameterLinesOf(const Results& results) {
   const RunRequest& asked = results.asked;
   const bool spectrum = asked.light.spectrum.has_value();
@@ -430,6 +469,9 @@ std::vector<std::string> ParameterLinesOf(const Results& results) {
   AddAxis(results, lines);
   if (const auto* map = results.Find<MapFound>(); map != nullptr && map->done < map->columns)
     lines.push_back("Calculated: " + CountOf(map->done, map->columns, "column"));
+  if (const AngleRows* rows = RowsOf(asked.run); rows != nullptr && PulseOf(asked) != nullptr)
+    if (const auto* map = results.Find<MapFound>(); map != nullptr && map->rows <= rows->window.high - rows->window.low)
+      lines.push_back("Calculated: " + CountOf(map->rows, rows->window.high - rows->window.low + 1, "row"));
   const bool terms = !spectrum && !asked.graph.InColour() && SumsSeries(asked.method);
   const auto& beam = results.last.beam;
   if (beam && !spectrum) {
@@ -476,6 +518,7 @@ std::vector<std::string> MarksOf(const Results& results) {
   return {MethodMark(asked),
           asked.method.divideBySize ? "divided by x" : "",
           BeamWords(asked.method.beam),
+          PulseWords(asked),
           SizeMark(results),
           MaterialMark(results, false),
           MaterialMark(results, true),

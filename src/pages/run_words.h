@@ -17,6 +17,9 @@ std::string MethodLabelOf(const Results& results);
 /// The parameters of a run in words, a line each.
 std::vector<std::string> ParameterLinesOf(const Results& results);
 
+/// The pulse of a run and how its times are counted; empty in steady light.
+std::string PulseWords(const RunRequest& asked);
+
 /// What the look makes of the numbers of a run before they are drawn and saved, a line each.
 std::vector<std::string> ChangeLinesOf(const Results& results, const Look& look);
 

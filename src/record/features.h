@@ -66,6 +66,7 @@ inline constexpr std::array availableFeatures = {
     Feature::SurfaceWaves,
     Feature::NonSphericalDrops,
     Feature::Heiligenschein,
+    Feature::ImpulseResponse,
 };
 
 constexpr bool IsAvailable(Feature feature) {

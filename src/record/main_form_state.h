@@ -6,6 +6,7 @@
 #include "record/groups/batch_state.h"
 #include "record/groups/colour_state.h"
 #include "record/groups/graph_state.h"
+#include "record/groups/impulse_state.h"
 #include "record/groups/lee_results.h"
 #include "record/groups/light_state.h"
 #include "record/groups/material_state.h"
@@ -36,7 +37,8 @@ struct MainFormState : RunState,
                        GraphState,
                        RayState,
                        BatchState,
-                       SimulationState {};
+                       SimulationState,
+                       ImpulseState {};
 
 /// Visits every field of the record as visit(name, field), group by group in the order above. State is MainFormState,
 /// const or not.
@@ -62,6 +64,7 @@ void ForEachStateField(State& state, Visitor&& visit) {
   group(as(std::type_identity<RayState>{}));
   group(as(std::type_identity<BatchState>{}));
   group(as(std::type_identity<SimulationState>{}));
+  group(as(std::type_identity<ImpulseState>{}));
 }
 
 }  // namespace lumivex

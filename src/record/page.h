@@ -253,6 +253,17 @@ struct PageDrop {
   double clockFrom = 0, clockTo = 180;  ///< that are counted (degrees)
 };
 
+/// A light pulse beside its spectrum.
+struct PagePulse {
+  std::vector<double> time, amplitude;       ///< samples about its centre (fs); the amplitude from -1 to 1
+  double span = 10;                          ///< the axis reaches so far to both sides (fs)
+  std::vector<double> frequency, magnitude;  ///< THz; the highest magnitude is 1
+  double lowest = 0, highest = 1;            ///< ends of the axis of frequencies
+  bool decibels = false;                     ///< magnitudes in decibels from -60 to 0
+  double bandLow = 0, bandHigh = 0;          ///< the band that is calculated (THz); both 0 where there is none
+  std::string limits;                        ///< the band in words
+};
+
 /// A line of readings.
 struct PageLine {
   std::string text;
@@ -313,6 +324,7 @@ struct Page {
   std::optional<PageHistogram> histogram;
   std::optional<PageProfile> profile;        ///< in place of a graph
   std::optional<PageDrop> drop;              ///< in place of a graph
+  std::optional<PagePulse> pulse;            ///< in place of a graph
   std::optional<PageMap> map;                ///< a Lee diagram or a map, a panel a picture
   std::optional<PagePhotograph> photograph;  ///< fills the page of the simulation window, in place of everything else
   std::vector<PageRun> runs;                 ///< in the order drawn

@@ -50,6 +50,17 @@ struct MapLine {
   Colour colour;
 };
 
+/// Places over the pictures, in the quantities of their sides.
+struct MapMarks {
+  struct Place {
+    double across = 0, up = 0;
+  };
+  std::vector<Place> places;
+  bool joined = false;  ///< the corners of a line; otherwise dots
+  Colour colour;
+  std::vector<std::string> texts;  ///< of places that have one, in their order; empty where none has
+};
+
 /// The key of false colours: cells from left to right, and numbers under them.
 struct ColourKey {
   struct Number {
@@ -75,6 +86,7 @@ struct PageMap {
   double thirdMaximum = 0;          ///< that of its third picture, or of the last one
   std::vector<MapLine> lines;
   std::optional<ColourKey> key;
+  std::vector<MapMarks> marks;  ///< over each picture
 };
 
 }  // namespace lumivex

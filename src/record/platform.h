@@ -56,6 +56,10 @@ class Platform {
   /// Saves the present drawing as a picture file (the ending chooses the kind) or, for an empty path, copies it to the
   /// clipboard. Returns an empty text, or in one sentence what went wrong.
   virtual std::string SavePicture(std::string_view path) = 0;
+  /// Writes the drawing of another page as a picture file, as SavePicture does.
+  virtual std::string SaveDrawing(const Page&, std::string_view) {
+    return "Drawings can be saved only where there is a window system";
+  }
   /// Reads a picture file; one that cannot be read tells why.
   virtual OpenedPhotograph OpenPhotograph(std::string_view) {
     OpenedPhotograph none;

@@ -48,6 +48,9 @@ struct Session {
   Settings settings;
   Remark remark;
   SimulationPictures simulation;
+  std::shared_ptr<const Results> impulseResults;      ///< that the window of one angle shows; null before the first
+  std::weak_ptr<const Results> impulseSource;         ///< the picture that they are a row of
+  std::unique_ptr<DrawingSurface> impulseSurface;     ///< of that window where no window system has one
   std::unique_ptr<DrawingSurface> simulationSurface;  ///< of the simulation window where no window system has one
 };
 

@@ -201,6 +201,7 @@ double AxisPosition(const AxisRun& axis, double ratio, int point) {
 }
 
 FamilyEnd RunAxis(const RunRequest& request, const AxisRun& run, TaskPool& pool, Results& results) {
+  if (run.pulse) return RunPulseAnswer(request, run, pool, results);
   AxisFound found = Sized(run.points, request.graph.AtOneAngle());
   std::vector<Setting> settings;
   Refusal refusal = PlacePoints(request, run, settings, found);

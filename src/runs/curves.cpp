@@ -224,6 +224,7 @@ PointCurves QuantityAt(const Results& results, const AxisFound& found, std::size
     case Quantity::Efficiencies:
       // Per volume: many small spheres in place of one large.
       factor = perVolume ? pi * r * r / volume : 1;
+      if (!found.Qabs.empty()) return {found.Qext[i], found.Qsca[i], found.Qabs[i]};
       return {factor * found.Qext[i], factor * found.Qsca[i], factor * (found.Qext[i] - found.Qsca[i])};
     case Quantity::CrossSections:
       factor = perVolume ? 1e-12 / volume : 1e-12;  // m2
@@ -252,7 +253,7 @@ Curves CurvesOfFound(const Results& results, const CurveLook& look, const AxisFo
   const auto& axis = std::get<AxisRun>(results.asked.run);
   if (look.invWavelength && graph.WavelengthAxis())
     for (double& x : std::span(curves.x).subspan(1)) x = InverseWavelength(x);
-  else if (!axis.logSteps)
+  else if (!axis.logSteps && !axis.pulse)
     std::ranges::transform(curves.x, curves.x.begin(), TypedValues(axis.xmin, axis.step));
   curves.lastRow = std::max(static_cast<int>(found.x.size()) - 1, 0);
   Size(curves, found.x.size(), notComputed);

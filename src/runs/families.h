@@ -21,6 +21,13 @@ FamilyEnd RunDebyeAnalysis(const RunRequest& request, const DebyeAnalysisRun& ru
 FamilyEnd RunTwoAngle(const RunRequest& request, const TwoAngleRun& run, TaskPool& pool, Results& results);
 FamilyEnd Overplot_Map(const RunRequest& request, const AngleMapRun& run, TaskPool& pool, Results& results);
 FamilyEnd Overplot_Map(const RunRequest& request, const EfficiencyMapRun& run, TaskPool& pool, Results& results);
+/// A picture of angle and time: what each direction receives of a pulse. Rows are done in blocks; a run that is stopped
+/// keeps whole blocks.
+/// @param mostRowsOfBlock  further limit of a block beside that of memory.
+FamilyEnd RunImpulse(const RunRequest& request, const AngleMapRun& run, TaskPool& pool, Results& results,
+                     int mostRowsOfBlock = 1 << 30);
+/// Light at one angle, or efficiencies, as the answer to a pulse: an axis of time. A run that is stopped finds nothing.
+FamilyEnd RunPulseAnswer(const RunRequest& request, const AxisRun& run, TaskPool& pool, Results& results);
 /// A run that is stopped finds nothing: sums over some of the spheres would be those of another cloud.
 FamilyEnd RunVolume(const RunRequest& request, const VolumeRun& run, TaskPool& pool, Results& results);
 

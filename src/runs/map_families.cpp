@@ -47,6 +47,7 @@ void Move(Setting& setting, const RunRequest& request, Swept quantity, double va
       break;
     case Swept::SizeParameter:
     case Swept::Wavelength:
+    case Swept::Time:
       break;
   }
   setting.mRe = indices.RelativeRe();
@@ -282,6 +283,7 @@ double MapCells(const FamilyRun& run) {
 }
 
 FamilyEnd Overplot_Map(const RunRequest& request, const AngleMapRun& run, TaskPool& pool, Results& results) {
+  if (run.pulse) return RunImpulse(request, run, pool, results);
   if (MapCells(request.run) > mostMapCells) return {false, TooManyCells()};
   const Columns columns(request, run);
   if (!columns.Failure().text.empty()) return {false, columns.Failure()};

@@ -90,4 +90,15 @@ MapFound FirstColumns(const MapFound& map, int columns) {
   return part;
 }
 
+MapFound FirstRows(const MapFound& map, int rows) {
+  MapFound part = EmptyMap(map.columns, rows, static_cast<int>(map.panels.size()), false);
+  part.firstRow = map.firstRow;
+  part.done = map.columns;
+  for (std::size_t i = 0; i < map.panels.size(); ++i)
+    for (int column = 0; column < map.columns; ++column)
+      std::copy_n(map.panels[i].value.begin() + static_cast<std::ptrdiff_t>(map.At(column, 0)), rows,
+                  part.panels[i].value.begin() + static_cast<std::ptrdiff_t>(part.At(column, 0)));
+  return part;
+}
+
 }  // namespace lumivex

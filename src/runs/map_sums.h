@@ -47,4 +47,8 @@ MapFound EmptyMap(int columns, int rows, int panels, bool spectrum);
 /// The same map with no more than its first columns; what other threads are at beyond them is not looked at.
 MapFound FirstColumns(const MapFound& map, int columns);
 
+/// A map of one wavelength, of which all columns stand, with no more than its lowest rows; what other threads are at
+/// above them is not looked at.
+MapFound FirstRows(const MapFound& map, int rows);
+
 }  // namespace lumivex

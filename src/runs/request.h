@@ -19,6 +19,7 @@
 #include "solvers/layers/index_profile.h"
 #include "solvers/patterns/simple_scattering.h"
 #include "solvers/waves/surface_wave.h"
+#include "timedomain/pulse.h"
 
 namespace lumivex {
 
@@ -175,6 +176,13 @@ struct AngleRun {
 struct SpectrumRun {
   AngleRows rows;
 };
+/// A short pulse in place of steady light, and where its times are counted from.
+struct PulsedLight {
+  PulseRequest pulse;
+  bool fromCentre = false;  ///< see ResponseClock
+  bool correlated = false;  ///< what is found is correlated with the pulse, as by CorrelationOf
+};
+
 /// Points along an axis.
 struct AxisRun {
   double xmin = 1, xmax = 20,
@@ -186,6 +194,8 @@ struct AxisRun {
   struct Range {
     double low = 0, high = 180, step = 0.1;  ///< degrees
   } range;                                   ///< of a scattered power
+  /// Of an answer to a pulse: the axis is time (fs), its points are all samples from `xmin` on.
+  std::optional<PulsedLight> pulse = std::nullopt;
 };
 struct ConvergenceRun {
   /// What the sums of a beam, which are double, run over; those of a plane wave have one number of terms.
@@ -219,6 +229,7 @@ struct AngleMapRun {
   AngleRows rows;
   Sweep columns;
   bool invWavelength = false;  ///< intensities are freed of the square of the wave number before they are summed
+  std::optional<PulsedLight> pulse = std::nullopt;  ///< of columns that are times after a pulse
 };
 /// Efficiencies, or intensities at one angle, over two quantities.
 struct EfficiencyMapRun {

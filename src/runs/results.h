@@ -117,6 +117,7 @@ struct AxisFound {
   std::vector<double> Qext, Qsca, Qback, g;
   std::vector<double> Cext, Csca;           ///< um2; of a cloud their means
   std::vector<double> powerPerp, powerPar;  ///< W
+  std::vector<double> Qabs;                 ///< of an answer to a pulse, where it is no difference; otherwise empty
   /// Scattering angles of the bows p = 2, 3, 4 (degrees); not a number where there is none. Empty for other graphs.
   std::array<std::vector<double>, 3> bows;
   int done = 0;  ///< points, from the first
@@ -160,8 +161,8 @@ struct MapPanel {
 /// What a map holds, column by column; cells of columns that were not done are 0. A cell takes 8 bytes of one
 /// wavelength, 28 of a spectrum, and 12 where efficiencies are mapped: 200 MB of the largest spectrum.
 struct MapFound {
-  int rows = 0, columns = 0;
-  int firstRow = 1;  ///< of a map over angle the row of the grid that the lowest row of the cells is
+  int rows = 0, columns = 0;  ///< of an answer to a pulse that was stopped the rows that were done
+  int firstRow = 1;           ///< of a map over angle the row of the grid that the lowest row of the cells is
   /// Of intensities perpendicular and parallel (the unpolarised one is their mean); otherwise Qext, Qsca and Qabs.
   std::vector<MapPanel> panels;
   /// Of a spectrum: the wavelength (from 1) that gives most to a cell, of each panel; 0 in the dark.

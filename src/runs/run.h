@@ -27,6 +27,10 @@ inline constexpr double mostSpectrumValues = 20e6;
 /// Most cells of a map: as many as fit into 230 MB with three channels and their wavelength in two panels.
 inline constexpr double mostMapCells = 8e6;
 
+/// Most cells of a picture of angle and time, which have one value in two panels: 120 MB, beside 180 MB of colours and
+/// the block of rows that is being calculated.
+inline constexpr double mostTimeCells = 15e6;
+
 /// Cells of a map; 0 for any other run.
 double MapCells(const FamilyRun& run);
 

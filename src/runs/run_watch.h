@@ -20,6 +20,7 @@ struct RunProgress {
   /// hands of other threads. Valid during the look.
   const MapFound* map = nullptr;
   int columnsDone = 0;
+  int rowsDone = 0;  ///< of a map that grows by rows, those that stand; 0 of one that grows by columns
 };
 
 /// Who watches a run: shows how far it is, and may stop it.

@@ -5,6 +5,7 @@
 
 #include "runs/beam_methods.h"
 #include "runs/families.h"
+#include "runs/pulse_band.h"
 #include "runs/run.h"
 #include "runs/volume_sums.h"
 #include "solvers/angles/angle_cosines.h"
@@ -119,7 +120,14 @@ double WorkOf(const RunRequest& request, const SpectrumRun& run) {
                  [&](int i) { return WorkAt(request, double{light.wavelength[static_cast<std::size_t>(i)]}, pairs); });
 }
 
+/// The wavelengths of a pulse; 0 where it has no band.
+double WorkOfPulse(const RunRequest& request, const PulsedLight& light, double pairs) {
+  const Pulse pulse = BuildPulse(light.pulse);
+  return SumOver(pulse.Bands(), [&](int i) { return WorkAt(request, pulse.Wavelength(pulse.low + i - 1), pairs); });
+}
+
 double WorkOf(const RunRequest& request, const AxisRun& run) {
+  if (run.pulse) return WorkOfPulse(request, *run.pulse, 1);
   const bool power = request.graph.quantity == Quantity::Power;
   const bool lanes = request.method.method == Method::Mie && request.method.beam.Plane() && !power && !request.Cloud();
   // Each bow is found by some 1500 rays.
@@ -192,6 +200,10 @@ double WorkOf(const RunRequest& request, const TwoAngleRun& run) {
 }
 
 double WorkOf(const RunRequest& request, const AngleMapRun& run) {
+  // What the transforms of both amplitudes cost for a column of a pair of rows.
+  constexpr double transforms = 600;
+  if (run.pulse)
+    return WorkOfPulse(request, *run.pulse, PairsOf(run.rows)) + transforms * run.columns.Count() * PairsOf(run.rows);
   double sum = 0;
   for (const double column : WorkOfColumns(request, run)) sum += column;
   return sum;

@@ -219,8 +219,13 @@ Window* FindWindow(Session& session, std::string_view form) {
 }
 
 std::string DrawingLines(const Window& window) {
-  constexpr double dialogWidth = 6300, dialogHeight = 3300;
+  double dialogWidth = 6300, dialogHeight = 3300;
   const bool dialog = window.surface == nullptr;
+  for (const Control* control : window.form->Controls()) {
+    if (!dialog || control->Kind() != ControlKind::Picture) continue;
+    const auto& picture = static_cast<const lumivex::Picture&>(*control);
+    if (picture.Width > 0) dialogWidth = picture.Width, dialogHeight = picture.Height;
+  }
   RecordingSurface recording(dialog ? dialogWidth : window.surface->ScaleWidth(),
                              dialog ? dialogHeight : window.surface->ScaleHeight());
   Paint(window.page, recording);

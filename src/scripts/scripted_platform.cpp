@@ -90,6 +90,10 @@ OpenedPhotograph ScriptedPlatform::OpenPhotograph(std::string_view path) {
   return openPhotograph ? openPhotograph(path) : Platform::OpenPhotograph(path);
 }
 
+std::string ScriptedPlatform::SaveDrawing(const Page& page, std::string_view path) {
+  return saveDrawing ? saveDrawing(page, path) : Platform::SaveDrawing(page, path);
+}
+
 std::string ScriptedPlatform::SavePhotograph(const Page& page, std::string_view notes, std::string_view path) {
   return savePhotograph ? savePhotograph(page, notes, path) : Platform::SavePhotograph(page, notes, path);
 }

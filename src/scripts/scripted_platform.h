@@ -57,6 +57,7 @@ class ScriptedPlatform final : public Platform {
   std::function<std::string(std::string_view path)> savePicture;
   std::function<void(Form&)> showForm;  ///< a modeless window is shown on a screen too
   std::function<OpenedPhotograph(std::string_view path)> openPhotograph;
+  std::function<std::string(const Page& page, std::string_view path)> saveDrawing;
   std::function<std::string(const Page& page, std::string_view notes, std::string_view path)> savePhotograph;
   std::function<std::shared_ptr<void>(Form&)> whileOpen;  ///< what a dialog holds while it is on the screen
 
@@ -76,6 +77,7 @@ class ScriptedPlatform final : public Platform {
   void BringToFront(Form&) override {}
   std::string SavePicture(std::string_view path) override;
   OpenedPhotograph OpenPhotograph(std::string_view path) override;
+  std::string SaveDrawing(const Page& page, std::string_view path) override;
   std::string SavePhotograph(const Page& page, std::string_view notes, std::string_view path) override;
   void CopyText(std::string_view text) override { copiedText = text; }
   void Quit() override { quit = true; }

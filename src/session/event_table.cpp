@@ -7,6 +7,7 @@
 #include "session/driver/commands.h"
 #include "session/driver/display_run.h"
 #include "session/file_menu.h"
+#include "session/impulse/impulse_events.h"
 #include "session/info.h"
 #include "session/inputs/beams/beam_menus.h"
 #include "session/inputs/drops/dew_inputs.h"
@@ -92,8 +93,8 @@ constexpr EventRow eventRows[] = {
     {"txtRstep_Change", FurtherAxis_Changed},
     {"txtAngle_Change", FurtherAxis_Changed},
     {"txtF9_fixed_Change", FurtherAxis_Changed},
-    {"txtF9_min_Change", FurtherAxis_Changed},
-    {"txtF9_max_Change", FurtherAxis_Changed},
+    {"txtF9_min_Change", Times_Changed},
+    {"txtF9_max_Change", Times_Changed},
     {"txtF9_step_Change", FurtherAxis_Changed},
     {"txtXmin_Change", Picture_Changed},
     {"txtXmax_Change", Picture_Changed},
@@ -157,6 +158,7 @@ EventTable::EventTable() {
   for (const auto& row : DropEvents()) Add(row.name, row.handler);
   for (const auto& row : DewEvents()) Add(row.name, row.handler);
   for (const auto& row : SimulationEvents()) Add(row.name, row.handler);
+  for (const auto& row : ImpulseEvents()) Add(row.name, row.handler);
 }
 
 void EventTable::Add(std::string_view name, Handler handler) {

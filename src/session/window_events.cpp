@@ -1,5 +1,6 @@
 #include "session/window_events.h"
 
+#include "session/impulse/impulse_events.h"
 #include "session/page.h"
 
 namespace lumivex {
@@ -32,6 +33,7 @@ void Form_MouseDown(Session& session, double x, double y) {
   const bool onStrip = x >= 12000 && x < 15600 && y >= 0 && y < 2700;
   if (onStrip && form.optDisp.Checked && form.cboDistrib.Text != "Special")
     session.events.Raise("dlogDistDisplay.Show");
+  if (ChosenGraph(s).family == Family::Impulse) ClickOnPicture(session, x, y);
   if (ChosenGraph(s).family == Family::DebyeAnalysis) session.events.Raise("dlogDebyeSeq.Show");
 }
 

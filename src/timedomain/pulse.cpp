@@ -90,11 +90,30 @@ double PulseEnvelope(PulseForm form, double t, double duration) {
   return 1.0;
 }
 
+double SampleStep(const PulseRequest& request) {
+  return request.wavelength / lightSpeed / 4 / request.sampling;
+}
+
+std::vector<double> CorrelationOf(const Pulse& pulse) {
+  const std::int32_t n = pulse.asked.length, middle = n / 2;
+  const auto lags = static_cast<std::int32_t>(std::min(pulse.asked.duration / pulse.step, middle - 1.0));
+  std::vector<double> factors;
+  for (std::int32_t k = pulse.low; k <= pulse.high && pulse.valid; ++k) {
+    double sum = pulse.real[static_cast<std::size_t>(middle)];
+    for (std::int32_t m = 1; m <= lags; ++m) {
+      const auto turns = static_cast<double>(std::int64_t{m} * k % n) / n;
+      sum += 2 * pulse.real[static_cast<std::size_t>(middle + m)] * std::cos(2 * pi * turns);
+    }
+    factors.push_back(sum);
+  }
+  return factors;
+}
+
 Pulse BuildPulse(const PulseRequest& request) {
   Pulse pulse;
   pulse.asked = request;
   pulse.period = request.wavelength / lightSpeed;
-  pulse.step = pulse.period / 4 / request.sampling;
+  pulse.step = SampleStep(request);
   pulse.window = pulse.step * request.length;
   FillSamples(pulse);
   pulse.outReal.resize(pulse.real.size());

@@ -55,6 +55,14 @@ struct Pulse {
 
 Pulse BuildPulse(const PulseRequest& request);
 
+/// What the correlation of an answer with its pulse makes of the frequencies of the band, k = low..high: the factor
+/// sum_(m = -M..M) pulse(N/2 + m) exp(-2 pi i m k/N), M = Tp/dt, of CCF: out'(j) = sum_m out(j + m) pulse(N/2 + m). It
+/// is real, as pulses are the same on both sides of their centre.
+std::vector<double> CorrelationOf(const Pulse& pulse);
+
+/// From sample to sample (fs).
+double SampleStep(const PulseRequest& request);
+
 /// The value of a pulse at the distance t >= 0 from its centre, without its carrier; 0 outside it. `t` and `duration`
 /// in one unit. Not for AM and FM.
 double PulseEnvelope(PulseForm form, double t, double duration);

@@ -85,11 +85,13 @@ std::vector<TimedRay> RaysAtAngle(const RaySphere& sphere, int p, double angle) 
   return rays;
 }
 
-std::vector<TimePoint> SurfaceWaveLine(const RaySphere& sphere, int p, double surfaceIndex, int halfTurns) {
+std::vector<TimePoint> SurfaceWaveLine(const RaySphere& sphere, int p, double surfaceIndex, int halfTurns,
+                                       double mGroup) {
   if (p >= 1 && sphere.m <= 1) return {};
   const double unit = sphere.radius / lightSpeed;
   double turned = p == 0 ? 0.0 : p * (pi - 2 * std::asin(1 / sphere.m));
-  double time = 2 * unit * sphere.n * (1 + (p == 0 ? 0.0 : p * std::sqrt(sphere.m * sphere.m - 1)));
+  const double group = mGroup > 0 ? mGroup : sphere.m;
+  double time = 2 * unit * sphere.n * (1 + (p == 0 ? 0.0 : p * group * InsideCosine(sphere, 1)));
   std::vector<TimePoint> line{{Folded(turned), time}};
   for (int passage = 0; passage < halfTurns; ++passage) {
     const double next = (std::floor(turned / pi + 1e-12) + 1) * pi;

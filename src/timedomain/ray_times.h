@@ -49,7 +49,9 @@ struct TimePoint {
 ///
 /// @param surfaceIndex  index that it creeps with: it takes surfaceIndex a/c a radian.
 /// @param halfTurns     passages of 0 or 180 degrees, >= 1.
-std::vector<TimePoint> SurfaceWaveLine(const RaySphere& sphere, int p, double surfaceIndex, int halfTurns);
+/// @param mGroup        the group index of the sphere relative to the medium's n, for the cuts; 0 stands for m.
+std::vector<TimePoint> SurfaceWaveLine(const RaySphere& sphere, int p, double surfaceIndex, int halfTurns,
+                                       double mGroup = 0.0);
 
 /// Frequencies at which the amplitude of a ray goes round along an axis, cycles a unit of it.
 double FrequencyOverAngle(const RaySphere& sphere, const TimedRay& ray, double wavelength);       ///< per degree

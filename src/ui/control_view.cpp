@@ -126,10 +126,12 @@ void ControlView::MakeButton(const ControlActions& actions) {
 }
 
 void ControlView::MakePicture() {
-  constexpr int widthPx = 420, heightPx = 220;
+  constexpr int widthPx = 420, heightPx = 220, unitsPerPixel = 15;
+  const auto& picture = static_cast<const lumivex::Picture&>(*control_);
   auto* canvas = new Canvas;
   canvas->setFocusPolicy(Qt::NoFocus);
-  canvas->setMinimumSize(widthPx, heightPx);
+  canvas->setMinimumSize(picture.Width > 0 ? static_cast<int>(picture.Width) / unitsPerPixel : widthPx,
+                         picture.Height > 0 ? static_cast<int>(picture.Height) / unitsPerPixel : heightPx);
   canvas->setAccessibleName(ToQString(control_->Tip));
   widget_ = canvas;
 }

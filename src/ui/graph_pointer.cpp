@@ -1,5 +1,7 @@
 #include "ui/graph_pointer.h"
 
+#include <QApplication>
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -41,14 +43,21 @@ GraphPointer::GraphPointer(Canvas& canvas, std::function<void(const CommandGate:
     : canvas_(canvas), act_(std::move(act)) {
   rest_.setSingleShot(true);
   rest_.setInterval(restMs);
+  click_.setSingleShot(true);
+  QObject::connect(&click_, &QTimer::timeout, &canvas_, [this] {
+    if (clicked && Ready()) clicked(clickAt_.x, clickAt_.y);
+  });
   canvas_.mouse.move = [this](double x, double y) { Read({x, y}); };
   canvas_.mouse.drag = [this](double x, double y) { Drag({x, y}); };
   canvas_.mouse.release = [this](double x, double y) {
+    // Two clicks bring the whole picture back: the first waits whether it stays alone.
+    if (dragFrom_ && !dragged_) clickAt_ = SurfacePoint{x, y}, click_.start(QApplication::doubleClickInterval());
     dragFrom_.reset();
     rest_.stop();
     Read({x, y});
   };
   canvas_.mouse.doubleClick = [this](double x, double y) {
+    click_.stop();
     if (ZoneAt({x, y}) != Zone::None) Show(HomeOf(session_->page));
   };
   canvas_.mouse.wheel = [this](const CanvasWheel& wheel) { return Wheel(wheel); };
@@ -81,7 +90,13 @@ GraphPointer::Zone GraphPointer::ZoneAt(SurfacePoint place) const {
   return below && place.x >= main.left && place.x <= last.right ? Zone::XAxis : Zone::None;
 }
 
+bool GraphPointer::IsOnTimes(SurfacePoint place) const {
+  return ZoneAt(place) == Zone::Plot && session_->page.map && session_->page.kind.graph.family == Family::Impulse;
+}
+
 void GraphPointer::Press(SurfacePoint place) {
+  click_.stop();
+  dragged_ = false;
   if (ZoneAt(place) == Zone::Plot) dragFrom_ = place;
 }
 
@@ -106,6 +121,7 @@ void GraphPointer::Drag(SurfacePoint place) {
   const double right = place.x - dragFrom_->x, down = place.y - dragFrom_->y;
   if (std::hypot(right, down) < leastDrag) return;
   dragFrom_ = place;
+  dragged_ = true;
   Pan(right, down);
 }
 

@@ -32,6 +32,8 @@ class GraphPointer final : public QObject {
   void Attach(Session& session);
   /// The button went down in the graph: a drag may follow.
   void Press(SurfacePoint place);
+  /// Whether a place lies on a picture of angle and time, where a click has a meaning of its own.
+  bool IsOnTimes(SurfacePoint place) const;
   /// Whether the key meant something here.
   bool Key(const QKeyEvent& event);
   /// Enter right after a zoom that left few points in view calculates the view; false where it is to do what it does
@@ -47,6 +49,8 @@ class GraphPointer final : public QObject {
   void Renew();
 
   std::function<void()> readingChanged;
+  /// A click in the graph that was no drag and stayed alone.
+  std::function<void(double x, double y)> clicked;
 
  private:
   /// Where the wheel turns: over the plot, or over the numbers of one of its axes.
@@ -71,6 +75,9 @@ class GraphPointer final : public QObject {
   std::optional<SurfacePoint> place_;
   std::optional<GraphReading> reading_;
   std::optional<SurfacePoint> dragFrom_;
+  bool dragged_ = false;        ///< the graph has followed the hand since the button went down
+  SurfacePoint clickAt_;        ///< where the button came up
+  QTimer click_;                ///< runs while a second click would make one of two
   std::vector<PageView> past_;  ///< views before each step
   bool zoomedLast_ = false;     ///< nothing was typed or chosen since
   QTimer rest_;                 ///< runs while the hand has not rested: what follows belongs to the same step

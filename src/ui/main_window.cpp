@@ -88,8 +88,12 @@ MainWindow::MainWindow(CommandGate& gate)
   canvas_->resized = [this] { Resized(); };
   canvas_->inWords = [this] { return session_ ? PageInWords(session_->page) : std::string(); };
   canvas_->mouse.press = [this](double x, double y) {
-    Act([this, x, y] { Form_MouseDown(*session_, x, y); });
+    // A press on a picture of times may begin a drag: it counts when it has ended as a click.
+    if (!pointer_.IsOnTimes({x, y})) Act([this, x, y] { Form_MouseDown(*session_, x, y); });
     pointer_.Press({x, y});
+  };
+  pointer_.clicked = [this](double x, double y) {
+    if (pointer_.IsOnTimes({x, y})) Act([this, x, y] { Form_MouseDown(*session_, x, y); });
   };
   canvas_->key = [this](const QKeyEvent& event) { return pointer_.Key(event); };
   pointer_.readingChanged = [this] { statusLine_.ShowReading(pointer_.Text()); };
@@ -139,6 +143,7 @@ void MainWindow::Attach(Session& session) {
                                      [this](Control& entry) { Act([this, &entry] { UserClicks(*session_, entry); }); });
   for (const auto& window : std::exchange(windows_, {})) delete window;
   delete std::exchange(photograph_, nullptr);
+  delete std::exchange(impulse_, nullptr);
   delete std::exchange(panel_, nullptr);
   RenewInfo();
   FitPanel();
@@ -337,6 +342,7 @@ void MainWindow::Refresh() {
   for (const auto& window : windows_)
     if (window) window->Sync();
   if (photograph_) photograph_->Refresh();
+  if (impulse_) impulse_->Refresh();
   pointer_.Renew();
   statusLine_.ShowReading(pointer_.Text());
   ReserveRoom();
@@ -363,7 +369,9 @@ bool MainWindow::ShowDialog(Form& form) {
 }
 
 void MainWindow::BringToFront(const Form& form) {
-  QWidget* window = photograph_ && &form == &session_->forms.form2 ? static_cast<QWidget*>(photograph_) : this;
+  QWidget* window = this;
+  if (photograph_ && &form == &session_->forms.form2) window = photograph_;
+  if (impulse_ && &form == &session_->forms.impulsePlot) window = impulse_;
   window->raise();
   window->activateWindow();
 }
@@ -375,8 +383,17 @@ void MainWindow::ShowPhotograph() {
   BringToFront(session_->forms.form2);
 }
 
+void MainWindow::ShowImpulse() {
+  if (!impulse_) impulse_ = new ImpulseWindowView(gate_, *session_, this);
+  session_->forms.impulsePlot.Visible = true;
+  impulse_->Refresh();
+  impulse_->Settle();
+  BringToFront(session_->forms.impulsePlot);
+}
+
 void MainWindow::Show(Form& form) {
   if (&form == &session_->forms.form2) return ShowPhotograph();
+  if (&form == &session_->forms.impulsePlot) return ShowImpulse();
   const auto open =
       std::ranges::find_if(windows_, [&](const QPointer<DialogView>& view) { return view && &view->Of() == &form; });
   if (open != windows_.end()) {
@@ -406,11 +423,18 @@ std::string MainWindow::SavePicture(std::string_view path, int widthPx, int heig
   return failure;
 }
 
+std::string MainWindow::SaveDrawingOf(const Form& form, std::string_view path) const {
+  for (const Window& window : session_->windows)
+    if (window.form == &form) return SaveDrawing(window.page, path);
+  return "There is no drawing in that window.";
+}
+
 std::string MainWindow::SaveScreenshot(std::string_view path, QWidget* window) {
   Refresh();
   // What has just been shown or hidden finds its place when the event loop runs, which a script does not wait for.
   Settle();
   if (photograph_ && window == photograph_) photograph_->Settle();
+  if (impulse_ && window == impulse_) impulse_->Settle();
   const QByteArray kind = QFileInfo(ToQString(path)).suffix().toLatin1();
   QByteArray bytes;
   QBuffer buffer(&bytes);

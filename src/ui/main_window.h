@@ -14,6 +14,7 @@
 #include "ui/command_gate.h"
 #include "ui/dialog_view.h"
 #include "ui/graph_pointer.h"
+#include "ui/impulse_window.h"
 #include "ui/info_overlay.h"
 #include "ui/menu_view.h"
 #include "ui/page_picture.h"
@@ -49,6 +50,10 @@ class MainWindow final : public QMainWindow {
   void BringToFront(const Form& form);
   /// The simulation window, null before it has been shown.
   PhotographWindow* Photograph() const { return photograph_; }
+  /// The window of one angle, null before it has been shown.
+  ImpulseWindowView* Impulse() const { return impulse_; }
+  /// Saves the drawing of another form as a picture.
+  std::string SaveDrawingOf(const Form& form, std::string_view path) const;
   /// Shows a dialog and waits; true is OK.
   bool ShowDialog(Form& form);
   /// Size and scale of the page on the screen.
@@ -77,6 +82,7 @@ class MainWindow final : public QMainWindow {
   void dropEvent(QDropEvent* event) override;
 
  private:
+  void ShowImpulse();
   void ShowPhotograph();
   void FitPanel();
   void BuildPanel(std::size_t density);
@@ -110,6 +116,7 @@ class MainWindow final : public QMainWindow {
   std::vector<DialogView*> dialogs_;
   std::vector<QPointer<DialogView>> windows_;  ///< modeless ones
   PhotographWindow* photograph_ = nullptr;
+  ImpulseWindowView* impulse_ = nullptr;
   UndoKeys undoKeys_;
 };
 

@@ -159,6 +159,19 @@ std::string SavePage(const Page& page, const PageFormat& format, std::string_vie
   return WriteWholeFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
+std::string SaveDrawing(const Page& page, std::string_view path) {
+  constexpr double unitsPerPixel = 15, roomForParameters = 2500;
+  Page placed = page;
+  if (!placed.runs.empty()) {
+    placed.geometry.box.top += roomForParameters;
+    placed.geometry.box.bottom += roomForParameters;
+    placed.geometry.surfaceHeight += roomForParameters;
+  }
+  const PageGeometry& geometry = placed.geometry;
+  return SavePage(
+      placed, {geometry.surfaceWidth / unitsPerPixel, geometry.surfaceHeight / unitsPerPixel, 1 / unitsPerPixel}, path);
+}
+
 std::string CopyPage(const Page& page, const PageFormat& format, double deviceRatio) {
   auto* data = new QMimeData;
   data->setImageData(PageImage(page, format, deviceRatio));

@@ -30,6 +30,10 @@ QByteArray PageSvg(const Page& page, const PageFormat& format);
 /// @return an empty text, or a sentence on what went wrong.
 std::string SavePage(const Page& page, const PageFormat& format, std::string_view path);
 
+/// The same for a page of another window, in the size that it has there; below the parameters of its runs, where it has
+/// any.
+std::string SaveDrawing(const Page& page, std::string_view path);
+
 /// Copies the page to the clipboard, as an image and as SVG.
 std::string CopyPage(const Page& page, const PageFormat& format, double deviceRatio);
 

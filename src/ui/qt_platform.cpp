@@ -10,6 +10,7 @@
 
 #include "ui/help/help_window.h"
 #include "ui/look.h"
+#include "ui/page_picture.h"
 #include "ui/photograph_file.h"
 
 namespace lumivex {
@@ -104,6 +105,10 @@ void QtPlatform::Help(std::string_view page) {
 
 void QtPlatform::BringToFront(Form& form) {
   if (bringToFront) bringToFront(form);
+}
+
+std::string QtPlatform::SaveDrawing(const Page& page, std::string_view path) {
+  return lumivex::SaveDrawing(page, path);
 }
 
 OpenedPhotograph QtPlatform::OpenPhotograph(std::string_view path) {

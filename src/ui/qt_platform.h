@@ -35,6 +35,7 @@ class QtPlatform final : public Platform {
   void Help(std::string_view page) override;
   void BringToFront(Form& form) override;
   std::string SavePicture(std::string_view path) override;
+  std::string SaveDrawing(const Page& page, std::string_view path) override;
   OpenedPhotograph OpenPhotograph(std::string_view path) override;
   std::string SavePhotograph(const Page& page, std::string_view notes, std::string_view path) override;
   void CopyText(std::string_view text) override;

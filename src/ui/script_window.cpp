@@ -8,6 +8,7 @@
 #include "scripts/script_file.h"
 #include "scripts/script_runner.h"
 #include "ui/main_window.h"
+#include "ui/page_picture.h"
 #include "ui/photograph_file.h"
 
 namespace lumivex {
@@ -16,19 +17,29 @@ namespace {
 
 ScriptWindow FunctionsOf(MainWindow& window) {
   ScriptWindow functions;
-  functions.picture = [&window](Form&, std::string_view file, int widthPx, int heightPx) {
+  functions.picture = [&window](Form& form, std::string_view file, int widthPx, int heightPx) {
+    if (SameName(form.Name(), "ImpulsePlot") || SameName(form.Name(), "dlogImpulse"))
+      return window.SaveDrawingOf(form, file);
     return window.SavePicture(file, widthPx, heightPx);
   };
   const auto photograph = [&window](const Form& form) {
     return SameName(form.Name(), "Form2") ? window.Photograph() : nullptr;
   };
-  functions.screenshot = [&window, photograph](Form& form, std::string_view file) {
-    return window.SaveScreenshot(file, photograph(form));
+  const auto second = [&window, photograph](const Form& form) -> QWidget* {
+    return SameName(form.Name(), "ImpulsePlot") ? static_cast<QWidget*>(window.Impulse()) : photograph(form);
+  };
+  functions.screenshot = [&window, second](Form& form, std::string_view file) {
+    return window.SaveScreenshot(file, second(form));
   };
   functions.resize = [&window, photograph](Form& form, int widthPx, int heightPx) {
-    if (auto* second = photograph(form)) {
-      second->resize(widthPx, heightPx);
-      second->Settle();
+    if (auto* picture = photograph(form)) {
+      picture->resize(widthPx, heightPx);
+      picture->Settle();
+      return;
+    }
+    if (auto* impulse = window.Impulse(); impulse != nullptr && SameName(form.Name(), "ImpulsePlot")) {
+      impulse->resize(widthPx, heightPx);
+      impulse->Settle();
       return;
     }
     window.resize(widthPx, heightPx);
@@ -52,10 +63,11 @@ int RunScript(const std::string& path) {
   ScriptRunner runner(std::cout, std::cerr);
   // Dialogs are answered by the script; this window is one to look at.
   runner.World().showForm = [&window](Form& form) {
-    if (SameName(form.Name(), "Form2")) window.Show(form);
+    if (SameName(form.Name(), "Form2") || SameName(form.Name(), "ImpulsePlot")) window.Show(form);
   };
   runner.World().openPhotograph = ReadPhotographFile;
   runner.World().savePhotograph = WritePhotographFile;
+  runner.World().saveDrawing = SaveDrawing;
   runner.UseWindow(window.Surface(), FunctionsOf(window));
   window.show();
   runner.Start();

@@ -206,6 +206,7 @@ class BlockHeader {
       Line("Refractive index (medium)\t" + MediumIndex());
     if (graph_.WavelengthAxis()) Line("Radius: \t" + Number(asked_.particle.radius) + "\t um");
     Layers();
+    if (const std::string pulse = PulseWords(asked_); !pulse.empty()) Line("Pulse: \t" + pulse);
     if (asked_.Cloud()) Line("Size distribution: \t" + OnOneLine(asked_.words.sizes));
     if (asked_.light.spectrum) {
       Line("Wavelengths: \t" + std::to_string(asked_.Wavelengths()));

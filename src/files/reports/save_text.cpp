@@ -37,7 +37,7 @@ SaveKind ReportKindOf(const RunRequest& asked) {
   const bool beam = asked.method.beam.kind == Illumination::Kind::Gaussian;
   if (family == Family::Volume) return SaveKind::VolumeData;
   if (family == Family::Convergence && beam) return SaveKind::GaussianConvergence;
-  if (family == Family::Impulse || family == Family::EfficiencyPulse) return SaveKind::ImpulseData;
+  if (asked.graph.OfPulse()) return SaveKind::ImpulseData;
   return SaveKind::TextReport;
 }
 

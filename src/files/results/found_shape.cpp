@@ -66,6 +66,8 @@ struct Fits {
     return std::ranges::all_of(found.bows, fitsBow) && found.done >= 0 && found.done <= points &&
            found.S1.Rows() == found.S2.Rows() && (amplitudes ? found.S1.Rows() == points : found.S1.Rows() <= points) &&
            cross && found.crossIm.size() == found.crossRe.size() &&
+           (results.asked.graph.family == Family::PulseAnswer || found.Qabs.empty()) &&
+           (found.Qabs.empty() || found.Qabs.size() == Size(points)) &&
            SameSizes({&found.x, &found.waveNumber, &found.radius, &found.size, &found.Qext, &found.Qsca, &found.Qback,
                       &found.g, &found.Cext, &found.Csca, &found.powerPerp, &found.powerPar},
                      Size(points));
@@ -106,6 +108,8 @@ struct Fits {
       columns = angles->columns.Count();
       rows = angles->rows.window.high - angles->rows.window.low + 1;
       firstRow = angles->rows.window.low;
+      // Of a pulse that was stopped there are whole rows.
+      if (angles->pulse && found.rows >= 1) rows = std::min(rows, found.rows);
     } else {
       const auto& map = std::get<EfficiencyMapRun>(results.asked.run);
       columns = map.columns.Count();

@@ -58,6 +58,10 @@ bool Stands(FileItem item, int version);
 /// lack stays as it is in the sheet. Throws BadFile.
 void WalkInputs(LayoutWalk& walk);
 
+/// Walks what a picture of angle and time has between its axis and its scales: its inputs, then its cells, a line of
+/// two polarisations each, and the colour of its light. Does nothing for other graphs.
+void WalkTimes(LayoutWalk& walk);
+
 /// Walks the curves: of angles, points or cells, and the amplitudes where the file has them.
 void WalkCurves(LayoutWalk& walk);
 

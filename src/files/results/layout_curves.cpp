@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 
+#include "colour/wavelength_colour.h"
 #include "files/results/input_sheet.h"
 #include "files/results/layout.h"
 #include "record/number_text.h"
@@ -129,12 +130,8 @@ std::vector<std::vector<float>*> ChannelsOf(MapFound& cells, bool spectrum) {
 }
 
 /// Cells, a line each: column by column, in each from the lowest row up.
-void WalkCells(LayoutWalk& walk) {
-  Form1& form = walk.Form();
+void WalkCellLines(LayoutWalk& walk) {
   FileLines& lines = walk.lines;
-  for (TextInput* input :
-       {&form.txtF9_min, &form.txtF9_max, &form.txtF9_step, &form.txtF9_fixed, &form.txtRefractMedium})
-    lines.Text(input->Text);
   MapFound& cells = walk.rows.cells;
   const bool spectrum = lines.Reading() ? WavelengthsOf(walk.sheet) > 1 : cells.OfSpectrum();
   std::array<double, 3> shape = {double(cells.columns), double(cells.rows), double(cells.firstRow)};
@@ -163,6 +160,14 @@ void WalkCells(LayoutWalk& walk) {
     }
   }
   cells.done = cells.columns;
+}
+
+void WalkCells(LayoutWalk& walk) {
+  Form1& form = walk.Form();
+  for (TextInput* input :
+       {&form.txtF9_min, &form.txtF9_max, &form.txtF9_step, &form.txtF9_fixed, &form.txtRefractMedium})
+    walk.lines.Text(input->Text);
+  WalkCellLines(walk);
 }
 
 /// Item 25, by which other programs know the amplitudes.
@@ -195,6 +200,34 @@ void WalkAmplitudes(LayoutWalk& walk) {
 
 }  // namespace
 
+void WalkTimes(LayoutWalk& walk) {
+  if (walk.Chosen().family != Family::Impulse) return;
+  Form1& form = walk.Form();
+  FileLines& lines = walk.lines;
+  auto& dialog = walk.sheet.forms.dlogImpulse;
+  lines.Text(form.txtLambda.Text);
+  lines.Text(dialog.cboPulseDuration.Text);
+  lines.Text(dialog.cbodB.Text);
+  lines.Text(form.cboLee.Text);
+  std::array<double, 3> numbers = {1, form.mnuFalseColours.Checked ? 1.0 : 0.0,
+                                   form.mnuMapNormalise.Checked ? 1.0 : 0.0};
+  for (double& number : numbers) lines.Number(number);
+  if (lines.Reading()) {
+    dialog.txtWavelength.Text = form.txtLambda.Text;
+    form.mnuFalseColours.Checked = numbers[1] != 0;
+    form.mnuMapNormalise.Checked = numbers[2] != 0;
+  }
+  for (TextInput* input : {&form.txtF9_min, &form.txtF9_max, &form.txtXmin, &form.txtXmax}) lines.Text(input->Text);
+  lines.Text(form.cboStep.Text);
+  const MapFound& cells = walk.rows.cells;
+  std::array<double, 2> rows = {double(cells.firstRow), double(cells.firstRow + cells.rows - 1)};
+  for (double& row : rows) lines.Number(row);
+  WalkCellLines(walk);
+  const ColourTriple light = colRGB2(Val(form.txtLambda.Text));
+  std::array<double, 3> colour = {light.r, light.g, light.b};
+  lines.Numbers(colour);
+}
+
 bool SumsTerms(Method method) {
   return method == Method::Debye || method == Method::CoatedSphere;
 }
@@ -221,7 +254,7 @@ void WalkCurves(LayoutWalk& walk) {
     WalkAxisRows(walk);
   } else if (graph.family == Family::Lee) {
     WalkLee(walk);
-  } else if (graph.IsMap()) {
+  } else if (graph.IsMap() && graph.family != Family::Impulse) {
     WalkCells(walk);
   }
 }

@@ -225,7 +225,8 @@ void WalkRaysIfThere(LayoutWalk& walk) {
 constexpr void (*inputItems[])(LayoutWalk&) = {
     WalkGraph,       WalkNames, WalkSphereTable, WalkMediumTable, WalkMethod,       WalkCoatedSphere,
     WalkRaysIfThere, WalkDew,   WalkProfile,     WalkSizes,       WalkSphereSource, WalkMediumSourceIfThere,
-    WalkLight,       WalkSize,  WalkAxis,        WalkSpectrum,    WalkScales,       WalkPoints,
+    WalkLight,       WalkSize,  WalkAxis,        WalkTimes,       WalkSpectrum,     WalkScales,
+    WalkPoints,
 };
 
 }  // namespace

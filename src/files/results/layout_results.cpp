@@ -163,6 +163,7 @@ struct FromRows {
         found.Qsca[i] = second;
         found.Cext[i] = first * area;
         found.Csca[i] = second * area;
+        if (!found.Qabs.empty()) found.Qabs[i] = rows.unpolarised[i];
         return;
       case Quantity::CrossSections:
         found.Cext[i] = first * 1e12;
@@ -198,6 +199,7 @@ struct FromRows {
     for (auto* list : {&found.x, &found.waveNumber, &found.radius, &found.size, &found.Qext, &found.Qsca, &found.Qback,
                        &found.g, &found.Cext, &found.Csca, &found.powerPerp, &found.powerPar})
       list->assign(size, 0);
+    if (run.pulse) found.Qabs.assign(size, 0);
     found.S1.Resize(run.points);
     found.S2.Resize(run.points);
     const double ratio = StepRatio(run);

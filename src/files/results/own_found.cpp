@@ -189,6 +189,7 @@ struct WalkFamily {
     lines.Field("Csca", found.Csca);
     lines.Field("powerPerp", found.powerPerp);
     lines.Field("powerPar", found.powerPar);
+    if (pulse) lines.Field("Qabs", found.Qabs);
     if (!bows) return;
     lines.MayMiss(true);
     lines.Field("bow2", found.bows[0]);
@@ -259,7 +260,7 @@ struct WalkFamily {
     lines.Field("alonePar", found.alonePar);
   }
 
-  bool lee = false, beam = false, bows = false;
+  bool lee = false, beam = false, bows = false, pulse = false;
 };
 
 /// The alternative of what is found by a family.
@@ -296,7 +297,9 @@ void WalkFound(FileLines& lines, Results& results) {
     FamilyFound empty = std::visit(FoundOf{}, results.asked.run);
     if (empty.index() != results.found.index()) results.found = std::move(empty);
   }
-  std::visit(WalkFamily{lines, graph.family == Family::Lee, beam, graph.quantity == Quantity::BowAngle}, results.found);
+  std::visit(WalkFamily{lines, graph.family == Family::Lee, beam, graph.quantity == Quantity::BowAngle,
+                        graph.family == Family::PulseAnswer},
+             results.found);
 }
 
 }  // namespace lumivex

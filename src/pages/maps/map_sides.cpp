@@ -23,6 +23,7 @@ constexpr std::array sideTexts = {
     SideText{Swept::MediumIndex, "Refractive index", "Refractive", "index", "Refractive index of medium", ""},
     SideText{Swept::Wavelength, "Wavelength (nm)", "Wavelength", "(nm)", "Wavelength", "nm"},
     SideText{Swept::SizeParameter, "Size parameter x", "Size", "parameter x", "Size parameter x", ""},
+    SideText{Swept::Time, "Time (fs)", "Time", "(fs)", "Time", "fs"},
 };
 
 }  // namespace
@@ -54,7 +55,9 @@ bool Sweeps(const FamilyRun& run, Swept quantity) {
 
 std::string SweepWords(const Sweep& sweep) {
   const MapSide side = SideOf(sweep);
-  const auto number = [](double value) { return Significant(value, 8); };
+  // Times stand where samples do, and have many digits.
+  const bool times = sweep.quantity == Swept::Time;
+  const auto number = [times](double value) { return Significant(times ? RoundDecimals(value, 2) : value, 8); };
   return side.name + ": " + number(sweep.LowShown()) + " to " + number(sweep.high) +
          (side.unit.empty() ? "" : " " + side.unit) + " in " + CountOf(sweep.steps, "step") +
          (sweep.geometric && sweep.steps > 1 ? " of equal ratio" : "");

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "pages/maps/lee_frame.h"
 
@@ -33,6 +36,71 @@ std::optional<Span> CellsBetween(const SampleAxis& samples, double low, double h
 void PaintGround(DrawingSurface& surface, const GraphBox& box, Colour ground) {
   surface.ForeColour = ground;
   surface.Line(box.left, box.top, box.right, box.bottom, LineKind::FilledBox);
+  surface.ForeColour = colours::Black;
+}
+
+/// The part of a line that lies within a box (Liang and Barsky); nothing where it passes it by.
+std::optional<std::pair<SurfacePoint, SurfacePoint>> Clipped(SurfacePoint a, SurfacePoint b, const GraphBox& box) {
+  const double dx = b.x - a.x, dy = b.y - a.y;
+  double from = 0, to = 1;
+  const auto cut = [&](double p, double q) {
+    if (p == 0) return q >= 0;
+    const double t = q / p;
+    if (p < 0)
+      from = std::max(from, t);
+    else
+      to = std::min(to, t);
+    return from <= to;
+  };
+  if (!cut(-dx, a.x - box.left) || !cut(dx, box.right - a.x) || !cut(-dy, a.y - box.top) || !cut(dy, box.bottom - a.y))
+    return std::nullopt;
+  return std::pair{SurfacePoint{a.x + from * dx, a.y + from * dy}, SurfacePoint{a.x + to * dx, a.y + to * dy}};
+}
+
+/// On a dark edge, so that it is seen on pale cells too.
+void PaintText(DrawingSurface& surface, SurfacePoint at, const std::string& text, Colour colour, const GraphBox& box) {
+  constexpr double edge = 15;
+  const double width = surface.TextWidth(text), height = surface.TextHeight(text);
+  const double x = std::min(at.x + 50, box.right - width), y = std::clamp(at.y - height, box.top, box.bottom - height);
+  const auto print = [&](double right, double down, Colour ink) {
+    surface.ForeColour = ink;
+    surface.CurrentX = x + right;
+    surface.CurrentY = y + down;
+    surface.Print(text, false);
+  };
+  for (const double side : {-edge, edge}) print(side, 0, colours::Black), print(0, side, colours::Black);
+  print(0, 0, colour);
+}
+
+/// Marks of one kind over a picture, as far as they lie within it.
+void PaintMarks(DrawingSurface& surface, const MapMarks& marks, const FramePaint& paint) {
+  constexpr double dot = 15;  // a pixel to both sides
+  const GraphBox& box = paint.Box();
+  std::vector<SurfacePoint> places;
+  for (const MapMarks::Place& place : marks.places)
+    places.push_back({paint.map.X(place.across), paint.map.Y(place.up)});
+  for (std::size_t i = 1; marks.joined && i < places.size(); ++i)
+    if (const auto line = Clipped(places[i - 1], places[i], box)) {
+      const auto& [a, b] = *line;
+      surface.ForeColour = colours::Black;
+      surface.DrawWidth = 2;
+      surface.Line(a.x, a.y, b.x, b.y);
+      surface.ForeColour = marks.colour;
+      surface.DrawWidth = 1;
+      surface.Line(a.x, a.y, b.x, b.y);
+    }
+  const auto inside = [&](const SurfacePoint& at) { return box.Holds(at.x, at.y); };
+  for (const SurfacePoint& at : places) {
+    if (marks.joined || !inside(at)) continue;
+    surface.ForeColour = colours::Black;
+    surface.Line(at.x - 2 * dot, at.y - 2 * dot, at.x + 2 * dot, at.y + 2 * dot, LineKind::FilledBox);
+    surface.ForeColour = marks.colour;
+    surface.Line(at.x - dot, at.y - dot, at.x + dot, at.y + dot, LineKind::FilledBox);
+  }
+  surface.FontSize = 6;
+  for (std::size_t i = 0; i < marks.texts.size(); ++i)
+    if (!marks.texts[i].empty() && inside(places[i])) PaintText(surface, places[i], marks.texts[i], marks.colour, box);
+  surface.FontSize = 8;
   surface.ForeColour = colours::Black;
 }
 
@@ -120,6 +188,7 @@ void PaintLee(DrawingSurface& surface, const Page& page) {
     FramePaint paint(page, panel, surface);
     PaintGround(surface, panel.box, page.style.ground);
     if (const auto block = CellsIn(page, panel)) surface.Image(*block, *map.pictures[i].cells);
+    for (const MapMarks& marks : map.marks) PaintMarks(surface, marks, paint);
     LeeFrame(paint);
     PaintLeeTitles(paint, i);
   }

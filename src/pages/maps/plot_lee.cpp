@@ -10,6 +10,7 @@
 #include "pages/frame/frame.h"
 #include "pages/maps/map_colours.h"
 #include "pages/maps/map_sides.h"
+#include "pages/maps/time_marks.h"
 #include "record/catalogue/graph_texts.h"
 #include "record/number_text.h"
 
@@ -110,15 +111,25 @@ double GreatestOfAll(const MapFound& found, std::size_t picture, ShownRows rows)
   return greatest;
 }
 
+/// The axis across the pictures: from the first to the last sample; of times, which stand where samples do, between
+/// whole femtoseconds.
+XRange AcrossOf(const Page& page) {
+  const SampleAxis& samples = page.map->across.samples;
+  if (page.kind.graph.family != Family::Impulse || samples.count < 2) return {samples.first, samples.last};
+  constexpr double slack = 1e-6;
+  return {std::floor(samples.first + slack), std::ceil(samples.last - slack)};
+}
+
 void AddPanels(Page& page) {
   const PageMap& map = *page.map;
+  const XRange across = AcrossOf(page);
   for (std::size_t i = 0; i < map.pictures.size(); ++i) {
     PagePanel panel;
     panel.place = places[i];
     panel.box = BoxOf(page, panel.place);
     panel.logY = map.up.samples.logarithmic;
-    panel.limits = RepairedLimits({map.across.samples.first, map.across.samples.last, page.homeY.xmin, page.homeY.xmax},
-                                  page.kind.logX, panel.logY);
+    panel.limits =
+        RepairedLimits({across.xmin, across.xmax, page.homeY.xmin, page.homeY.xmax}, page.kind.logX, panel.logY);
     page.panels.push_back(panel);
   }
   if (page.panels.empty()) return;
@@ -178,6 +189,7 @@ void PlotTitled(Page& page, const MapToDraw& map, const Titles& titles) {
     drawn.pictures.push_back({std::string(titles[i]),
                               std::string(CurveNameOf(map.asked.graph, static_cast<CurveKind>(i + 1))),
                               std::make_shared<const std::vector<Colour>>(ColoursOf(values, i, shown, ink))});
+  drawn.marks = TimeMarksOf(map.asked, map.look.timePlot);
   AddLines(drawn, look.series);
   if (look.falseColours) drawn.key = KeyOf(ink.falseColours);
 

@@ -86,14 +86,14 @@ constexpr std::array axisStarts = {
     AxisStart{{14, 10}, true, "0.01", "100", "1000"}, AxisStart{{14, 11}, true, "0.02", "200", "1000"},
     AxisStart{{14, 12}, true, "0.1", "1000", "1000"}, AxisStart{{15, 1}, false, "400", "700", "0.5"},
     AxisStart{{15, 2}, false, "400", "700", "0.5"},   AxisStart{{15, 9}, false, "400", "700", "0.5"},
-    AxisStart{{15, 12}, false, "400", "700", "0.5"},  AxisStart{{16, 1}, true, "0.01", "100", "1000"},
-    AxisStart{{16, 2}, true, "0.1", "1000", "1000"},  AxisStart{{16, 3}, true, "10", "10000", "2000"},
-    AxisStart{{17, 1}, true, "0.01", "100", "1000"},  AxisStart{{17, 2}, true, "0.1", "1000", "1000"},
-    AxisStart{{17, 3}, true, "10", "10000", "2000"},  AxisStart{{18, 1}, false, "1", "20", "0.1"},
-    AxisStart{{18, 2}, false, "2", "40", "0.2"},      AxisStart{{18, 3}, false, "400", "700", "2"},
-    AxisStart{{30, 0}, false, "0", "20", "0.02"},     AxisStart{{31, 0}, false, "1", "100", "1"},
-    AxisStart{{32, 0}, false, "0", "10", "0.01"},     AxisStart{{33, 0}, false, "1", "5", "0.01"},
-    AxisStart{{34, 0}, false, "0", "180", "1"},
+    AxisStart{{15, 12}, false, "400", "700", "0.5"},  AxisStart{{15, 13}, false, "400", "700", "0.5"},
+    AxisStart{{16, 1}, true, "0.01", "100", "1000"},  AxisStart{{16, 2}, true, "0.1", "1000", "1000"},
+    AxisStart{{16, 3}, true, "10", "10000", "2000"},  AxisStart{{17, 1}, true, "0.01", "100", "1000"},
+    AxisStart{{17, 2}, true, "0.1", "1000", "1000"},  AxisStart{{17, 3}, true, "10", "10000", "2000"},
+    AxisStart{{18, 1}, false, "1", "20", "0.1"},      AxisStart{{18, 2}, false, "2", "40", "0.2"},
+    AxisStart{{18, 3}, false, "400", "700", "2"},     AxisStart{{30, 0}, false, "0", "20", "0.02"},
+    AxisStart{{31, 0}, false, "1", "100", "1"},       AxisStart{{32, 0}, false, "0", "10", "0.01"},
+    AxisStart{{33, 0}, false, "1", "5", "0.01"},      AxisStart{{34, 0}, false, "0", "180", "1"},
 };
 
 /// What an axis is called.
@@ -113,6 +113,7 @@ constexpr std::array axisTexts = {
     AxisText{AxisVariable::Terms, "Convergence", "Convergence", "Iterations", ""},
     AxisText{AxisVariable::CrossSection, "", "", "Horizontal scale", "sq \u00B5m"},
     AxisText{AxisVariable::Time, "Time (s)", "Frequency (1/s)", "Time", "s"},
+    AxisText{AxisVariable::PulseTime, "Time (femtoseconds)", "Time (femtoseconds)", "Wavelength scale", "fs"},
     AxisText{AxisVariable::Number, "Number of spheres N", "Number of spheres N", "Number of spheres N", ""},
     AxisText{AxisVariable::Place, "Position x of one sphere (\u00B5m)", "Frequency (1/\u00B5m)",
              "Position of one sphere", micrometres},
@@ -189,6 +190,8 @@ AxisCaptions CaptionsOf(const Graph& graph) {
   const bool ofSphere = graph.quantity == Quantity::Intensity;
   if (ofSphere && graph.axis == AxisVariable::Radius) return {"Radius of sphere", text.unit};
   if (ofSphere && graph.axis == AxisVariable::Diameter) return {"Diameter of sphere", text.unit};
+  // The wavelengths of a pulse stand in the place of an axis.
+  if (graph.axis == AxisVariable::PulseTime) return {text.frame, "nm"};
   if (graph.quantity == Quantity::Power && graph.axis == AxisVariable::Wavelength) return {"Wavelength", text.unit};
   return {text.frame, text.unit};
 }

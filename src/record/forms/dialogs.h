@@ -7,6 +7,7 @@
 #include "record/forms/beam_dialogs.h"
 #include "record/forms/coated_dialog.h"
 #include "record/forms/drop_dialogs.h"
+#include "record/forms/impulse_dialogs.h"
 #include "record/forms/inhom_dialog.h"
 #include "record/forms/light_dialogs.h"
 #include "record/forms/main_form.h"
@@ -60,7 +61,14 @@ struct DlogPlotColour final : Form {
 };
 
 /// Every window and dialog of a session.
-struct Forms : MaterialDialogs, LightDialogs, SizeDialogs, RayDialogs, AngleDialogs, BeamDialogs, DropDialogs {
+struct Forms : MaterialDialogs,
+               LightDialogs,
+               SizeDialogs,
+               RayDialogs,
+               AngleDialogs,
+               BeamDialogs,
+               DropDialogs,
+               ImpulseDialogs {
   // Hundreds of controls are made here: in one place, not in each source that makes a session.
   Forms();
   ~Forms();
@@ -81,8 +89,8 @@ struct Forms : MaterialDialogs, LightDialogs, SizeDialogs, RayDialogs, AngleDial
     std::vector<Form*> all = {
         &form1,           &dlogTemp,   &dlogSpectrumBand, &dlogAverage, &dlogPlotColour, &dlogCoatedSphere,
         &dlogInhomSphere, &dlogVolume, &dlogCalibration,  &form2};
-    for (const auto& more :
-         {MaterialForms(), LightForms(), SizeForms(), RayForms(), AngleForms(), BeamForms(), DropForms()})
+    for (const auto& more : {MaterialForms(), LightForms(), SizeForms(), RayForms(), AngleForms(), BeamForms(),
+                             DropForms(), ImpulseForms()})
       all.insert(all.end(), more.begin(), more.end());
     return all;
   }

@@ -179,6 +179,18 @@ struct Form1Menus : Form1Inputs {
   MenuEntry mnuVolumeRadius{*this, "mnuVolumeRadius", "Intensity v. radius ...", false,
                             "Light of many spheres at random places for each radius"};
 
+  // Advanced: answers to a pulse of light.
+  MenuEntry mnuImpulse{*this, "mnuImpulse", "Angle v. time ...", false,
+                       "Light of a sphere after a short pulse, over scattering angle and time"};
+  MenuEntry mnuImpulseQ{*this, "mnuImpulseQ", "Efficiencies v. time ...", false,
+                        "Qext, Qsca and Qabs of a sphere as its answer to a short pulse"};
+  MenuEntry mnuImpulsePlot{*this, "mnuImpulsePlot", "Response at one angle ...", false,
+                           "Curves of the answer at one scattering angle, in a window of their own"};
+  MenuEntry mnuTimePlot{*this, "mnuTimePlot", "Time plot ...", false,
+                        "Times of rays and of surface waves over the picture"};
+  MenuEntry mnuCCF{*this, "mnuCCF", "Correlate with pulse", false,
+                   "The picture becomes its correlation with the pulse, as a receiver that waits for the pulse has it"};
+
   // Advanced: refractive index.
   MenuEntry mnuRI{*this, "mnuRI", "Refractive index"};
   MenuEntry mnuSphere{*this, "mnuSphere", "Sphere"};

@@ -5,6 +5,7 @@
 #include "record/layout/angle_dialog_lines.h"
 #include "record/layout/beam_dialog_lines.h"
 #include "record/layout/drop_dialog_lines.h"
+#include "record/layout/impulse_dialog_lines.h"
 #include "record/layout/layer_dialog_lines.h"
 #include "record/layout/light_dialog_lines.h"
 #include "record/layout/material_dialog_lines.h"
@@ -115,6 +116,7 @@ std::span<const DialogLayout> Dialogs() {
     add(layerDialogLayouts);
     add(beamDialogLayouts);
     add(dropDialogLayouts);
+    add(impulseDialogLayouts);
     return layouts;
   }();
   return all;

@@ -12,6 +12,7 @@
 #include "session/driver/array_size.h"
 #include "session/inputs/beams/read_beam.h"
 #include "session/inputs/drops/dew_inputs.h"
+#include "session/inputs/impulse_inputs.h"
 #include "session/inputs/map_inputs.h"
 #include "session/inputs/methods/rays_check.h"
 #include "session/inputs/sizes/read_sizes.h"
@@ -37,7 +38,7 @@ bool ComeTo90(double step) {
 
 /// Whether the axis has steps that the user gives; terms of a series have none.
 bool HasSteps(const Graph& graph) {
-  return graph.family == Family::Axis || graph.family == Family::EfficiencyPulse;
+  return graph.family == Family::Axis;
 }
 
 /// Minimum below maximum, above 0, and a number of steps that can be drawn.
@@ -84,10 +85,29 @@ Verdict LogarithmicSteps(Check& check) {
   return Refuse(check, {&list}, "Number of steps must be 1 or more");
 }
 
+namespace {
+
+/// The times of a pulse lie within its window, and a picture of them has steps.
+Verdict TimeRange(Check& check) {
+  auto& form = check.form;
+  constexpr double tolerance = 0.01;  // of limits that are shown rounded
+  constexpr int decimals = 2;
+  const double limit = TimesOfWindow(check.session).high;
+  if (Val(form.txtF9_max.Text) > limit + tolerance)
+    return Refuse(check, {&form.txtF9_max},
+                  "Value must not be greater than " + Shortest(RoundDecimals(limit, decimals)) + " fs");
+  const bool steps = ChosenGraph(check.state).family == Family::Impulse;
+  if (steps && !(Val(form.txtF9_step.Text) > 0))
+    return Refuse(check, {&form.txtF9_step}, "Step size must be greater than zero");
+  return Verdict::GoOn;
+}
+
+}  // namespace
+
 Verdict FurtherAxisRange(Check& check) {
   auto& form = check.form;
   const Graph& graph = ChosenGraph(check.state);
-  const bool impulse = graph.family == Family::Impulse;
+  const bool impulse = graph.OfPulse();
   if (!impulse && !graph.IsMap()) return Verdict::GoOn;
   const double low = Val(form.txtF9_min.Text), high = Val(form.txtF9_max.Text);
   if (low >= high)
@@ -96,6 +116,7 @@ Verdict FurtherAxisRange(Check& check) {
   if (high <= 0) return Refuse(check, {&form.txtF9_max}, "Value must be positive");
   if (form.txtF9_fixed.Visible && Val(form.txtF9_fixed.Text) < 0)
     return Refuse(check, {&form.txtF9_fixed}, "Value must be positive or zero");
+  if (impulse) return TimeRange(check);
   if (graph.MapsIndexAndSize() && Val(form.txtF9_step.Text) <= 1)
     return Refuse(check, {&form.txtF9_step}, "Number of steps must be greater than 1");
   return Verdict::GoOn;
@@ -174,7 +195,8 @@ bool MapNumbers(Check& check) {
   if (map->size == SizeField::Angle && !getval(session, form.txtAngle, largestInput, NumberSign::Positive))
     return false;
   const auto limitOf = [](Swept quantity) {
-    const bool sizes = quantity == Swept::Radius || quantity == Swept::SizeParameter || quantity == Swept::Wavelength;
+    const bool sizes = quantity == Swept::Radius || quantity == Swept::SizeParameter || quantity == Swept::Wavelength ||
+                       quantity == Swept::Time;
     return sizes ? largestInput : largestIndex;
   };
   const bool clear = map->held == Swept::SphereAbsorption;
@@ -278,7 +300,8 @@ Verdict MapSize(Check& check) {
   if (cells && !countable(step)) return Refuse(check, {&form.cboStep}, "Number of steps must be 1 or more");
   const double finest = 180.0 / (mostSpectrumRows - 1);
   const double rows = cells ? step + 1 : (check.Xmax - check.Xmin + 0.5) / std::max(step, finest) + 1;
-  if (rows * (columns + 1) <= mostMapCells) return Verdict::GoOn;
+  const double most = graph.family == Family::Impulse ? mostTimeCells : mostMapCells;
+  if (rows * (columns + 1) <= most) return Verdict::GoOn;
   // The side that has more is the one to make coarser.
   Control& greater = columns + 1 >= rows ? static_cast<Control&>(steps) : form.cboStep;
   return Refuse(check, {&greater}, "Increase the step size or reduce the maximum/minimum range");

@@ -125,6 +125,8 @@ WavelengthRange RangeOfRun(const Session& session) {
     return {Val(form.txtXmin.Text) / 1000, Val(form.txtXmax.Text) / 1000, true, false};
   if (ChosenGraph(session.state).SweepsWavelength())
     return {Val(form.txtF9_min.Text) / 1000, Val(form.txtF9_max.Text) / 1000, false, true};
+  if (ChosenGraph(session.state).OfPulse())
+    return {session.state.PulseBandLow, session.state.PulseBandHigh, false, false, true};
   if (session.state.NumberWavelengths <= 1) return {};
   if (form.cboWave.Text == "RGB") return {0.44, 0.65};
   const auto& band = session.forms.dlogSpectrumBand;

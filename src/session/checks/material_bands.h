@@ -30,6 +30,7 @@ struct WavelengthRange {
   double low = 0, high = 0;  ///< um
   bool onAxis = false;       ///< typed as the limits of the axis
   bool onFurther = false;    ///< typed as those of a map's columns
+  bool ofPulse = false;      ///< those that a pulse of the wavelength holds
   bool Any() const { return onAxis || onFurther || high > 0; }
 };
 

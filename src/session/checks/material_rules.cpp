@@ -16,6 +16,7 @@ namespace {
 Verdict RefuseRange(Check& check, const WavelengthRange& range, const std::string& text, std::string_view title) {
   auto& form = check.form;
   if (range.onAxis) return Refuse(check, {&form.txtXmin, &form.txtXmax}, text, title);
+  if (range.ofPulse) return Refuse(check, {&form.txtLambda}, text, title);
   if (range.onFurther) return Refuse(check, {&form.txtF9_min, &form.txtF9_max}, text, title);
   return Refuse(check, {&form.lblSpectrumBand}, text, title);
 }

@@ -27,10 +27,11 @@ constexpr std::string_view onlyDrops = "Selected graph type is available only fo
 constexpr std::string_view onlyMie = "Selected graph type is available only for Mie calculations";
 
 /// The chart of two angles has sizes of its own; the terms of a point and the partial sums of a series are those of one
-/// sphere.
+/// sphere, and only its field arrives at a time.
 bool NeedsOneSphere(const Graph& graph) {
   return graph.quantity == Quantity::BowAngle || graph.family == Family::TwoAngle ||
-         graph.family == Family::DebyeAnalysis || graph.family == Family::Convergence;
+         graph.family == Family::DebyeAnalysis || graph.family == Family::Convergence ||
+         graph.family == Family::Impulse;
 }
 
 /// Where the index of the sphere is told: its field, or its name where the run has one index a wavelength.

@@ -13,6 +13,7 @@
 #include "session/driver/overplot.h"
 #include "session/driver/read_run.h"
 #include "session/driver/settle_beam.h"
+#include "session/inputs/impulse_inputs.h"
 #include "session/inputs/look/read_look.h"
 #include "session/inputs/methods.h"
 #include "session/inputs/two_angle_inputs.h"
@@ -34,6 +35,10 @@ bool InputsHold(Session& session) {
   NumberWavelengths(session);
   TypeCalc(session);
   if (s.CalcMethod == Method::None) {
+    s.CommandAborted = 1;
+    return false;
+  }
+  if (ChosenGraph(s).OfPulse() && !PulseIsThere(session)) {
     s.CommandAborted = 1;
     return false;
   }
@@ -80,7 +85,8 @@ bool ResultsFitInputs(const Session& session) {
   const auto& s = session.state;
   const Graph& graph = ChosenGraph(s);
   return s.LastResults && s.LastResults->asked.graph == graph &&
-         (graph.family == Family::DebyeAnalysis || Val(session.form1.cboStep.Text) == s.Xstep);
+         (graph.family == Family::DebyeAnalysis || graph.family == Family::PulseAnswer ||
+          Val(session.form1.cboStep.Text) == s.Xstep);
 }
 
 void OfferCommands(Session& session) {
@@ -137,6 +143,23 @@ void cmdNewPlot_Click(Session& session) {
   // A new run is seen as it is before it is transformed.
   if (session.form1.mnuFFT.Checked) session.events.Raise("mnuFFT_Click");
   RunInputs(session, Onto::FreshPage);
+  s.PlotMode = 1;
+  EndCommand(session, before);
+  s.Busy = wasBusy;
+}
+
+void RunAgain(Session& session, const RunRequest& request) {
+  auto& s = session.state;
+  const int wasBusy = s.Busy;
+  const Offered before(session);
+  s.Busy = 1;
+  s.OverplotFromFile = 0;
+  s.StopAnswer = s.CommandAborted = 0;
+  s.PlotMode = 1;
+  if (LeaveGiven(session, request)) {
+    LockON(session);
+    Overplot(session, request, Onto::FreshPage);
+  }
   s.PlotMode = 1;
   EndCommand(session, before);
   s.Busy = wasBusy;

@@ -1,12 +1,15 @@
 #pragma once
 
 #include "record/session.h"
+#include "runs/request.h"
 #include "session/driver/display_run.h"
 
 namespace lumivex {
 
 /// Checks the inputs, calculates and draws a new graph. Bad input ends it with a message and the old graph stays.
 void cmdNewPlot_Click(Session& session);
+/// Runs a request that was made of the last results in place of the inputs, and draws a new graph.
+void RunAgain(Session& session, const RunRequest& request);
 /// The same over the present graph, on its axes.
 void cmdOverPlot_Click(Session& session);
 /// Draws the stored results again with the present scale, polarisation, colour and size; calls no solver. Where the

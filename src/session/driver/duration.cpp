@@ -72,9 +72,10 @@ double FittedSeconds(const RunRequest& request, const AngleMapRun& map) {
 double ReferenceSeconds(const RunRequest& request) {
   // The fits are those of a plane wave.
   const bool plane = request.method.beam.Plane();
-  if (const auto* map = std::get_if<AngleMapRun>(&request.run)) return FittedSeconds(request, *map);
+  if (const auto* map = std::get_if<AngleMapRun>(&request.run); map != nullptr && !map->pulse)
+    return FittedSeconds(request, *map);
   if (const AngleRows* rows = RowsOf(request.run);
-      rows != nullptr && plane && !TraitsOf(request.method.method).takesLong)
+      rows != nullptr && plane && !request.graph.OfPulse() && !TraitsOf(request.method.method).takesLong)
     return FittedSeconds(request, *rows);
   // What the fit gives for a term of a pair of angles of the first plot's sphere.
   constexpr double secondsPerPairTerm = 2e-5;

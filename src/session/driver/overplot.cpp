@@ -4,8 +4,10 @@
 
 #include "runs/run.h"
 #include "session/driver/keep_results.h"
+#include "session/driver/lock.h"
 #include "session/driver/progress.h"
 #include "session/info.h"
+#include "session/inputs/impulse_inputs.h"
 #include "session/inputs/layers/layer_labels.h"
 #include "session/page.h"
 
@@ -43,6 +45,32 @@ void ShowResults(Session& session, Results&& results, Onto onto) {
   DisplayRun(session, onto);
 }
 
+RunEnd RunBeside(Session& session, const RunRequest& request) {
+  auto& s = session.state;
+  auto& form = session.form1;
+  const int wasBusy = s.Busy;
+  const bool replot = form.cmdReplot.Enabled, overPlot = form.cmdOverPlot.Enabled;
+  s.Busy = 1;
+  s.StopAnswer = 0;
+  s.PlotMode = 1;
+  LockON(session);
+  SessionWatch watch(session, request);
+  BeginProgress(session);
+  form.cmdStop.Visible = form.cmdStop.Enabled = true;
+  RunEnd end = Run(request, watch, session.platform.Threads());
+  s.PlotMode = 1;
+  EndProgress(session);
+  watch.Forget();
+  ShowEnded(session);
+  LockOFF(session);
+  form.cmdReplot.Enabled = replot;
+  form.cmdOverPlot.Enabled = overPlot;
+  s.Busy = wasBusy;
+  // The bar of the run went over the page.
+  DrawPage(session);
+  return end;
+}
+
 void Overplot(Session& session, const RunRequest& request, Onto onto) {
   auto& s = session.state;
   ShowLayersOfRun(session);
@@ -52,10 +80,12 @@ void Overplot(Session& session, const RunRequest& request, Onto onto) {
   RunEnd end = Run(request, watch, session.platform.Threads());
   s.PlotMode = onto == Onto::PageOnScreen ? 2 : 1;
   EndProgress(session);
-  if (end.hasResults)
+  if (end.hasResults) {
     KeepResults(session, std::move(end.results));
-  else
+    RemarkOnWindow(session);
+  } else {
     watch.Forget();
+  }
   if (end.hasResults) {
     // What was done before a Stop is on the page at once: page, tables and record tell of the same run.
     if (end.outcome == Outcome::Done)

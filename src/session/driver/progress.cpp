@@ -7,6 +7,7 @@
 
 #include "record/number_text.h"
 #include "runs/map_sums.h"
+#include "runs/run.h"
 #include "session/driver/display_run.h"
 
 namespace lumivex {
@@ -173,11 +174,15 @@ void SessionWatch::DrawColumns(const RunProgress& progress) {
   constexpr double firstDrawing = 0.5, leastPause = 0.3, pausePerDrawing = 9;
   const double now = session_.platform.Timer();
   if (nextDrawing_ == 0) nextDrawing_ = now + firstDrawing;
-  if (progress.columnsDone <= columnsDrawn_ || now < nextDrawing_) return;
-  columnsDrawn_ = progress.columnsDone;
+  // A picture of very many cells is not worth the memory of a second one.
+  const bool byRows = progress.rowsDone > 0;
+  const int done = byRows ? progress.rowsDone : progress.columnsDone;
+  if (done <= columnsDrawn_ || now < nextDrawing_) return;
+  if (byRows && MapCells(request_.run) > mostMapCells) return;
+  columnsDrawn_ = done;
   const auto part = std::make_shared<Results>();
   part->asked = request_;
-  part->found = FirstColumns(*progress.map, progress.columnsDone);
+  part->found = byRows ? FirstRows(*progress.map, done) : FirstColumns(*progress.map, done);
   // A series of maps begins with a map that has ended.
   const ColourState colours = session_.state;
   DrawResults(session_, *part);

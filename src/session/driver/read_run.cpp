@@ -9,6 +9,7 @@
 #include "runs/run.h"
 #include "session/inputs/beams/read_beam.h"
 #include "session/inputs/drops/dew_inputs.h"
+#include "session/inputs/impulse_inputs.h"
 #include "session/inputs/layers/layer_labels.h"
 #include "session/inputs/layers/read_layers.h"
 #include "session/inputs/light/wavelength_list.h"
@@ -87,6 +88,8 @@ Particle ReadParticle(const Session& session, double lambda) {
   OpticalIndices indices;
   if (const auto found = MediumIndexAt(particle.medium, lambda).value) indices.medium = found->n;
   particle.radius = *particle.sizeTyped * lambda / (2 * std::numbers::pi * indices.MediumInUse());
+  // One sphere has the same radius at all wavelengths of a pulse.
+  if (ChosenGraph(session.state).OfPulse()) particle.sizeTyped.reset();
   return particle;
 }
 
@@ -151,6 +154,10 @@ std::optional<FamilyRun> ReadFamily(Session& session, const RunRequest& request)
     case Family::AngleMap:
       return AngleMapRun{ReadAngleRows(session, graph), ReadColumns(session, graph),
                          session.form1.mnuInvWavelength.Checked};
+    case Family::Impulse:
+      return AngleMapRun{ReadAngleRows(session, graph), ReadColumns(session, graph), false, ReadPulsedLight(session)};
+    case Family::PulseAnswer:
+      return ReadPulseAxis(session, request);
     case Family::EfficiencyMap:
       return EfficiencyMapRun{ReadColumns(session, graph), ReadRows(session, graph), angle * std::numbers::pi / 180};
     case Family::Convergence:

@@ -53,6 +53,13 @@ bool NamedByMaterial(const Session& session) {
   return s.SphereIndexTyped == 0 && s.SphereIndexVaries == 0 && !session.form1.mnuRI_Fixed1.Checked;
 }
 
+/// The graph whose axis the panel asks for; null where it is one of angles or has none. Of the answer to a pulse it is
+/// its wavelengths.
+const Graph* AxisInputsOf(const RunState& s) {
+  const Graph& graph = ChosenGraph(s);
+  return graph.family == Family::PulseAnswer ? &graph : ChosenAxisGraph(s);
+}
+
 std::string WithUnit(std::string_view caption, std::string_view unit) {
   return unit.empty() ? std::string(caption) : std::string(caption) + " (" + std::string(unit) + ")";
 }
@@ -84,19 +91,27 @@ void ShowFurtherAxis(Session& session, const Graph* graph) {
   const bool angle =
       (graph != nullptr && !graph->OfEfficiencies() && !power && graph->quantity != Quantity::BowAngle) || strips ||
       onePoint;
-  const bool axis = power || impulse || chosen.family == Family::AngleMap || chosen.family == Family::EfficiencyMap;
+  const bool answer = chosen.family == Family::PulseAnswer;
+  const bool axis =
+      power || impulse || answer || chosen.family == Family::AngleMap || chosen.family == Family::EfficiencyMap;
   form.Frame9.Visible = angle || axis;
   form.Label19.Visible = form.txtAngle.Visible = angle;
   for (Control* control : std::initializer_list<Control*>{&form.Label32, &form.txtF9_min, &form.txtF9_max,
                                                           &form.Label35, &form.txtF9_step})
     control->Visible = axis;
-  form.Label30.Visible = form.txtF9_fixed.Visible = axis && !power;
+  form.Label30.Visible = form.txtF9_fixed.Visible = axis && !power && !answer;
   form.Label19.Caption = !strips                    ? "Scattering angle"
                          : counted == Counted::Rays ? "Number of rays"
                                                     : "Number of strips";
   if (strips) form.Frame9.Caption = counted == Counted::Rays ? "Wavefront" : "Aperture";
   if (onePoint) form.Frame9.Caption = "Angle";
   if (graph == nullptr) return;
+  if (answer) {
+    form.Frame9.Caption = "Time axis";
+    form.Label32.Caption = "Time (femtoseconds)";
+    form.Label35.Visible = form.txtF9_step.Visible = false;
+    return;
+  }
   form.Frame9.Caption = power ? "Scattering angle" : "Angle";
   if (!power) return;
   form.Label32.Caption = "Minimum, maximum";
@@ -128,6 +143,7 @@ void AxisStartValues(Session& session, const Graph& graph, const AxisStart& star
   form.txtXmax.Text = start.xmax;
   form.cboStep.Text = start.step;
   if (graph.axis != AxisVariable::Wavelength && efficiencies) form.txtLambda.Text = "0.65";
+  if (graph.family == Family::PulseAnswer) form.txtRadius.Text = "10";
   if (graph.quantity == Quantity::Asymmetry || graph.quantity == Quantity::Albedo) {
     form.txtRadius.Text = graph.axis == AxisVariable::Wavelength ? "1" : "10";
     form.txtAngle.Text = "0";
@@ -182,7 +198,7 @@ void ChangeFamily(Session& session, const Graph& before) {
   const Graph& chosen = ChosenGraph(s);
   const bool fromPoint = before.family == Family::DebyeAnalysis && chosen.family != Family::DebyeAnalysis;
   if (chosen.SharesRangesWith(before) && !fromPoint) return ChangeWithinFamily(session, before, chosen);
-  const Graph* graph = ChosenAxisGraph(s);
+  const Graph* graph = AxisInputsOf(s);
   const AxisStart* start = graph != nullptr ? FindAxisStart(*graph) : nullptr;
   const bool keeps = form.mnuKeepParameters.Checked;
   NameMaterials(session, before, GraphOf({1, 1}));
@@ -192,6 +208,8 @@ void ChangeFamily(Session& session, const Graph& before) {
   form.mnuXStepLog.Checked = start != nullptr && start->logSteps && !keeps;
   if (keeps) return;
   KeepTypedSize(session, before);
+  // Pictures of time begin with more decades than others have.
+  if (before.family == Family::Impulse) form.cboBright.Text = "1";
   if (start != nullptr) {
     AxisStartValues(session, *graph, *start);
   } else if (FindMapInputs(chosen) != nullptr) {
@@ -230,6 +248,10 @@ void ShowAxisInputs(Session& session) {
                                                           &form.Label5, &form.cboStep})
     control->Visible = axis;
   if (chart) form.Frame2.Caption = "Horizontal scale";
+  // The wavelengths of a pulse follow from it.
+  const bool answer = ChosenGraph(session.state).family == Family::PulseAnswer;
+  form.txtXmin.Enabled = form.txtXmax.Enabled = !answer;
+  if (answer) form.Label5.Visible = form.cboStep.Visible = false;
 }
 
 /// Graphs in absolute units of light ask how far the observer is and how strong the light.
@@ -248,7 +270,7 @@ void AskForDistance(Session& session) {
 void ShowFamilyInputs(Session& session) {
   auto& form = session.form1;
   const Graph& chosen = ChosenGraph(session.state);
-  const Graph* graph = ChosenAxisGraph(session.state);
+  const Graph* graph = AxisInputsOf(session.state);
   if (graph != nullptr) {
     AxisCaptionsOf(form, *graph);
   } else {
@@ -290,7 +312,8 @@ void cboGraph_Click(Session& session) {
   }
   form.mnuRadiusDiameter.Enabled = form.mnuDiameter.Enabled = form.mnuRadius.Enabled = true;
   form.mnuRadiusX.Enabled = false;
-  const bool ofRadii = FindMapInputs(GraphOf(row->code)) != nullptr;
+  const Graph& wanted = GraphOf(row->code);
+  const bool ofRadii = FindMapInputs(wanted) != nullptr && wanted.family != Family::Impulse;
   if (ofRadii && !form.mnuRadius.Checked) session.events.Raise("mnuRadius_Click");
   for (Picture* picture : {&form.Picture1, &form.Picture2, &form.Picture3, &form.Picture1a, &form.Picture2a,
                            &form.Picture3a, &form.Picture1b, &form.Picture2b, &form.Picture3b})
@@ -317,6 +340,7 @@ void cboGraph_Click(Session& session) {
   form.cmdNewPlot.Enabled = true;
   AskForDistance(session);
   if (chosen.family == Family::Volume) session.events.Raise("dlogVolume.Show");
+  if (chosen.OfPulse()) session.events.Raise("dlogImpulse.Show");
 }
 
 void ChooseGraph(Session& session, std::string_view text) {

@@ -5,6 +5,7 @@
 
 #include "record/number_text.h"
 #include "session/inputs/graph_types.h"
+#include "session/inputs/impulse_inputs.h"
 #include "session/inputs/input_tips.h"
 #include "session/inputs/layers/layer_labels.h"
 #include "session/inputs/materials/refractive_index.h"
@@ -84,6 +85,7 @@ void txtLambda_change(Session& session) {
   ShowLayers(session);
   if (one && IsNumber(form.txtLambda.Text) && !RefRel(session, Val(form.txtLambda.Text), LookupVoice::Quiet))
     form.txtLambda.BackColour = colours::Warning;
+  FollowWavelength(session);
   Inputs_Changed(session);
 }
 
@@ -93,6 +95,13 @@ void FurtherAxis_Changed(Session& session) {
                            &form.txtF9_min, &form.txtF9_max, &form.txtF9_step})
     if (input->BackColour == colours::BadInput) input->BackColour = colours::White;
   Inputs_Changed(session);
+}
+
+void Times_Changed(Session& session) {
+  const bool replot = session.form1.cmdReplot.Enabled;
+  FurtherAxis_Changed(session);
+  // Of efficiencies all times are there, whichever are on show.
+  if (ChosenGraph(session.state).family == Family::PulseAnswer) session.form1.cmdReplot.Enabled = replot;
 }
 
 std::string SizeCaption(const Form1& form) {

@@ -14,6 +14,8 @@ void txtRadius_Change(Session& session);
 std::string SizeCaption(const Form1& form);
 /// An input of the further axis, or of the sweep of a Lee diagram, was typed: the results must be calculated anew.
 void FurtherAxis_Changed(Session& session);
+/// A limit of the further axis was typed: the same, but where the results have what lies beyond the limits.
+void Times_Changed(Session& session);
 /// An input that shapes the results was changed: they must be calculated anew.
 void Inputs_Changed(Session& session);
 /// An input that only shapes the picture was changed: it can be drawn anew from the results.

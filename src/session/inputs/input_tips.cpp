@@ -89,6 +89,8 @@ std::string TipOf(Swept quantity) {
       return "wavelength in vacuum, in nanometres";
     case Swept::SizeParameter:
       return "size parameter x of the sphere";
+    case Swept::Time:
+      return "time in femtoseconds, a part of the window of the pulse";
   }
   return "";
 }
@@ -104,6 +106,8 @@ void WriteMapTips(Form1& form, const Graph& graph) {
   high.Tip = "Rightmost column: " + columns;
   (inputs.further ? form.txtF9_step : form.txtRstep).Tip =
       std::string("Number of steps from column to column") + (swept.geometric ? ", of equal ratios" : "");
+  if (graph.family == Family::Impulse)
+    form.txtF9_step.Tip = "Femtoseconds from column to column: that of the samples shows all of them";
   if (inputs.held) form.txtF9_fixed.Tip = "Held still: " + TipOf(*inputs.held);
   if (inputs.size == SizeField::Angle) form.txtAngle.Tip = "Radius of the sphere in micrometres";
   const std::string rows = swept.rows ? TipOf(*swept.rows) : "scattering angle in degrees";

@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "record/number_text.h"
+#include "session/inputs/impulse_inputs.h"
 #include "session/inputs/materials/read_material.h"
 
 namespace lumivex {
@@ -69,7 +70,7 @@ void ShowMapInputs(Session& session) {
   const Graph& graph = ChosenGraph(session.state);
   const MapInputs* inputs = FindMapInputs(graph);
   const bool map = inputs != nullptr;
-  form.mnuRadiusDiameter.Enabled = !map;
+  form.mnuRadiusDiameter.Enabled = !map || graph.family == Family::Impulse;
   // Panels and colours of their own take the place of curves and their scale.
   Show({&form.Frame8, &form.Label1, &form.cboYmax, &form.Label12, &form.cboYmin, &form.OptLog, &form.optLinear,
         &form.OptXLinear, &form.optXLog},
@@ -137,10 +138,12 @@ TextInput& StepsField(Form1& form, const MapInputs& inputs) {
 
 double ColumnSteps(const Session& session, const MapInputs& inputs) {
   const Form1& form = session.form1;
+  if (ChosenGraph(session.state).family == Family::Impulse) return ReadTimes(session).steps;
   return Val((inputs.further ? form.txtF9_step : form.txtRstep).Text);
 }
 
 Sweep ReadColumns(const Session& session, const Graph& graph) {
+  if (graph.family == Family::Impulse) return ReadTimes(session);
   const Form1& form = session.form1;
   const MapInputs& inputs = *FindMapInputs(graph);
   const SweptQuantities& swept = *FindSwept(graph);
@@ -177,7 +180,8 @@ Material MediumOfGraph(const Session& session) {
 std::optional<double> RadiusOfMap(const Session& session) {
   const Graph& graph = ChosenGraph(session.state);
   const MapInputs* inputs = FindMapInputs(graph);
-  if (inputs == nullptr) return std::nullopt;
+  // The sphere of a picture over time is typed as that of a graph is.
+  if (inputs == nullptr || graph.family == Family::Impulse) return std::nullopt;
   if (inputs->size == SizeField::Angle) return Val(session.form1.txtAngle.Text);
   if (inputs->size == SizeField::Radius) return Val(session.form1.txtRadius.Text);
   if (FindSwept(graph)->columns == Swept::Radius) return ReadColumns(session, graph).low;

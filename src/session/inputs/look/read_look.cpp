@@ -6,6 +6,7 @@
 #include "pages/frame/colours.h"
 #include "record/number_text.h"
 #include "session/inputs/look/look_menus.h"
+#include "session/inputs/methods/rays_check.h"
 
 namespace lumivex {
 
@@ -90,14 +91,6 @@ GraphSize SizeTicked(const Form1& form) {
   return form.mnuVLarge.Checked ? GraphSize::VeryLarge : GraphSize::Large;
 }
 
-Polarisations PolarisationsChosen(std::string_view text) {
-  if (text == "All 3") return Polarisations::All;
-  if (text == "Both") return Polarisations::Both;
-  if (text == "Unpolarised") return Polarisations::Unpolarised;
-  if (text.starts_with("Parallel")) return Polarisations::Parallel;
-  return text.starts_with("Perpendicular") ? Polarisations::Perpendicular : Polarisations::None;
-}
-
 LogoPlace LogoPlaceTicked(const Form1& form) {
   if (form.mnuLogoPositionTR.Checked) return LogoPlace::TopRight;
   if (form.mnuLogoPositionTL.Checked) return LogoPlace::TopLeft;
@@ -148,7 +141,33 @@ FourierLook ReadFourier(const DlogFFT& dialog) {
   return fourier;
 }
 
+TimePlotLook ReadTimePlot(const Session& session) {
+  const auto& dialog = session.forms.dlogTimePlot;
+  const auto whole = [](const TextInput& field, double most) {
+    return ToWhole(std::clamp(Val(field.Text), 0.0, most));
+  };
+  TimePlotLook plot;
+  plot.rays = session.state.TimePlotRays != 0 || session.forms.dlogImpulse.chkTimeDelay.Checked;
+  plot.waves = session.state.TimePlotWaves != 0;
+  plot.highestRay = whole(dialog.txtRaysGO, HighestRay);
+  plot.step = std::clamp(Val(dialog.cboStep.Text), 0.001, 1.0);
+  plot.values = dialog.chkValues.Checked;
+  plot.sides = dialog.chkNS.Checked;
+  plot.surfaceIndex = Val(dialog.txtRI_Surface.Text);
+  plot.highestWave = whole(dialog.txtB, HighestRay);
+  plot.halfTurns = whole(dialog.txtQ, HighestRay);
+  return plot;
+}
+
 }  // namespace
+
+Polarisations PolarisationsChosen(std::string_view text) {
+  if (text == "All 3") return Polarisations::All;
+  if (text == "Both") return Polarisations::Both;
+  if (text == "Unpolarised") return Polarisations::Unpolarised;
+  if (text.starts_with("Parallel")) return Polarisations::Parallel;
+  return text.starts_with("Perpendicular") ? Polarisations::Perpendicular : Polarisations::None;
+}
 
 Look ReadLook(const Session& session) {
   const Form1& form = session.form1;
@@ -164,11 +183,14 @@ Look ReadLook(const Session& session) {
   look.interpolate = form.mnuInterpolate.Checked;
   look.polarisations = PolarisationsChosen(form.cboPol.Text);
   look.scale = ReadScale(form);
+  if (ChosenGraph(session.state).family == Family::PulseAnswer)
+    look.scale.x = {Val(form.txtF9_min.Text), Val(form.txtF9_max.Text)};
   if (form.mnuAmpPhase.Checked) look.second = SecondPanel::Phases;
   if (form.mnuIntPol.Checked) look.second = SecondPanel::Polarisation;
   look.amplitude = form.mnuAmplitude.Checked;
   look.invWavelength = form.mnuInvWavelength.Checked;
   if (form.mnuFFT.Checked) look.fourier = ReadFourier(forms.dlogFFT);
+  look.timePlot = ReadTimePlot(session);
   look.sun = {form.optSun.Checked, form.mnuSun.Checked};
   look.colours = ReadColours(session);
   look.components = form.chkComponents.Checked;
@@ -189,6 +211,9 @@ PageGeometry GeometryOf(const Session& session) {
   geometry.polarY = s.PolarCentreY;
   geometry.polarRadius = s.PolarRadius;
   geometry.panelWidth = TickedPanelWidth(session);
+  // Titles of times stand in two lines over the panels of this size.
+  constexpr double topOfTimes = 3900;
+  if (session.form1.mnuLarge.Checked && ChosenGraph(s).family == Family::Impulse) geometry.box.top = topOfTimes;
   geometry.surfaceWidth = session.surface->ScaleWidth();
   geometry.surfaceHeight = session.surface->ScaleHeight();
   return geometry;
