@@ -14,7 +14,7 @@ namespace {
 
 constexpr double pi = std::numbers::pi;
 constexpr double mmPerRadius = 2e-3;  // of a drop's size, by um
-constexpr int skySectors = 36;        // of five degrees
+constexpr int skySectors = 72;        // of two degrees and a half
 
 Refusal DropRefusal(std::string text) {
   return {"Flattened drops", std::move(text)};

@@ -115,7 +115,7 @@ void HideUnavailable(Form1& f) {
   f.optMono.Visible = f.optDisp.Visible = disperse;
   f.cboDistrib.Visible = false;
   f.cmdSimulation.Visible = false;
-  f.txtSWAmp.Visible = f.cboQmin.Visible = f.cboQmax.Visible = f.lblQminQmax.Visible = false;
+  f.lblSWAmp.Visible = f.txtSWAmp.Visible = f.cboQmin.Visible = f.cboQmax.Visible = f.lblQminQmax.Visible = false;
   f.mnuSurfaceWave.Visible = false;
   f.chkDiffraction.Visible = f.chkComponents.Visible = false;
   f.Label9.Visible = f.cboRays.Visible = false;

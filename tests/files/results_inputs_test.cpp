@@ -84,6 +84,32 @@ TEST_F(ResultsFiles, ValuesBelow0AreRefusedWhereNoneCanBe) {
   EXPECT_TRUE(Shown().empty()) << LastText();
 }
 
+TEST_F(ResultsFiles, DropsWhoseRaysOrSkyCannotBeAreRefused) {
+  const auto refused = [this](const std::string& line, const std::string& other) {
+    std::string text = Content("good.lvx");
+    const auto at = text.find("\n" + line);
+    ASSERT_NE(at, std::string::npos) << line;
+    text.replace(at + 1, text.find('\n', at + 1) - at - 1, other);
+    Write("bad.lvx", text);
+    EXPECT_NE(Refused("bad.lvx"), ": ") << other;
+  };
+  Do("dialog dlogNonSpherical ok chkSky=on cboRayCount=1000\nset txtRadius 100\nset cboStep 30\nclick mnuNonSpherical");
+  Save("good.lvx");
+  for (const auto& [line, other] : {std::pair{"sectors ", "sectors 71"},
+                                    {"sectors ", "sectors 100000000"},
+                                    {"sectors ", "sectors -1"},
+                                    {"skyHigh ", "skyHigh 1000000"},
+                                    {"raysDone ", "raysDone many"},
+                                    {"raysDone ", "raysDone 1e9"},
+                                    {"axisRatio ", "axisRatio -1"},
+                                    {"drop ", "drop 2"}})
+    refused(line, other);
+  Do("reset\ndialog dlogNonSpherical ok\nclick mnuBowClock\nset cboStep 60\nclick cmdNewPlot");
+  Save("good.lvx");
+  refused("bow2 ", "bow2 2");
+  refused("bow3 ", "bow4 5");
+}
+
 TEST_F(ResultsFiles, DialogsOfTheRunAreHeldAgainstWhatTheyTakeAndOthersKeepTheirNumbers) {
   const auto fails = [&](const std::string& runs, const std::string& was, const std::string& put) {
     Do("reset\n" + runs + "\nclick cmdNewPlot");

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "files/batch/batch_keywords.h"
 #include "pages/page_table.h"
 #include "runs/run_fixture.h"
 #include "session/session_fixture.h"
@@ -100,6 +101,18 @@ TEST(DewRuns, AreTheSameOnAnyNumberOfThreadsAndStopAtTheEdges) {
   const auto& found = std::get<AngleFound>(stopped.results.found);
   EXPECT_TRUE(found.rows.Contains(341) && found.rows.Contains(381)) << "170 and 190 degrees come first";
   EXPECT_FALSE(found.rows.Contains(361));
+}
+
+TEST_F(Dew, BatchWordsTypeItsSurface) {
+  EXPECT_EQ(FindBatchKeyword("L")->control, "dlogHeiligenschein.txtDistance");
+  for (const char* word : {"L", "gamma", "Jmin", "Jmax", "Axis ratio", "Sun elevation", "Clock angle", "Rays"}) {
+    const std::string target(FindBatchKeyword(word)->control);
+    const auto dot = target.find('.');
+    Form* form =
+        dot == std::string::npos ? &runner.Current().form1 : runner.Current().forms.Find(target.substr(0, dot));
+    ASSERT_NE(form, nullptr) << word;
+    EXPECT_NE(form->Find(dot == std::string::npos ? target : target.substr(dot + 1)), nullptr) << word;
+  }
 }
 
 }  // namespace

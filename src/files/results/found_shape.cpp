@@ -140,6 +140,12 @@ struct Fits {
   }
 };
 
+/// Rays that were traced are some of those asked for.
+bool FitsDrop(const std::optional<DropNumbers>& drop) {
+  return !drop || (drop->axisRatio > 0 && drop->raysDone >= 0 && drop->raysDone <= drop->raysAsked &&
+                   drop->perpendicular >= 0 && drop->parallel >= 0);
+}
+
 /// A table over the sky has the rows of the run, where there is one.
 bool FitsSky(const Results& results) {
   const DropSky& sky = results.sky;
@@ -216,7 +222,7 @@ bool IsSphere(const LastSphere& last) {
 
 std::string MisfitOf(const Results& results) {
   if (!IsSphere(results.last)) return "The sphere of the file cannot be one";
-  if (!std::visit(Fits{results}, results.found) || !FitsSky(results))
+  if (!std::visit(Fits{results}, results.found) || !FitsSky(results) || !FitsDrop(results.last.drop))
     return "The numbers of the file are not as many as its inputs ask for";
   const bool byTerms = SumsTerms(results.asked.method.method);
   if (!HasNoneBelow0(results, byTerms) || !std::visit(Possible{results}, results.found))

@@ -63,7 +63,11 @@ void PaintLinear(FramePaint& paint) {
     PaintSecondScale(paint);
     return;
   }
-  const double step = YTickStep(limits.ymin, limits.ymax);
+  // Angles of bows are some degrees about a hundred, which the decade of the top says nothing of.
+  constexpr double ticksOfBows = 10;
+  const bool bows = paint.kind.graph.quantity == Quantity::BowAngle;
+  const double step =
+      bows ? RoundStepAbove((limits.ymax - limits.ymin) / ticksOfBows) : YTickStep(limits.ymin, limits.ymax);
   const double first = step * (std::floor(limits.ymin / step) + 1);
   const double last = limits.ymax - 0.1 * step;
   const bool gridLines = paint.style.gridLines.majorY;

@@ -17,7 +17,7 @@ namespace {
 constexpr double degree = std::numbers::pi / 180;
 constexpr int outlinePoints = 120, clockStep = 6;
 /// How far rays are drawn beyond the drop, and half of what a section shows (radii).
-constexpr double rayLength = 1.6, sectionReach = 2.3;
+constexpr double rayLength = 1.2, sectionReach = 1.9;
 
 Colour ColourOf(int p) {
   const std::array<Colour, 3> bows = {RGB(200, 0, 0), RGB(0, 0, 255), RGB(0, 130, 0)};
@@ -170,7 +170,7 @@ void PaintBows(DrawingSurface& surface, const PageDrop& drop, Box box) {
   }
   surface.ForeColour = colours::Black;
   surface.Line(box.left, box.top, box.right, box.bottom, LineKind::Box);
-  const std::string title = "Clock angle (deg.)";
+  const std::string title = "Angle of the bow v. clock angle (deg.)";
   PrintAt(surface, (box.left + box.right - surface.TextWidth(title)) / 2, box.bottom + 1.4 * line, title);
 }
 

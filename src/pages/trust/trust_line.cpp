@@ -130,7 +130,9 @@ std::optional<TrustMark> OfSteps(const Results& results, const Sizes& sizes) {
   const AngleRows* rows = RowsOf(results.asked.run);
   // The sizes of a cloud wash the ripples out; rays without interference have none.
   if (rows == nullptr || results.asked.Cloud() || sizes.most <= 1) return std::nullopt;
-  if (results.asked.method.method == Method::Descartes || results.asked.method.method == Method::Rayleigh)
+  const Method method = results.asked.method.method;
+  if (method == Method::Descartes || method == Method::Rayleigh || method == Method::Burgeroid ||
+      method == Method::Heiligenschein)
     return std::nullopt;
   const double period = 180 / sizes.most, points = period / rows->step;
   const Standing standing = Above(points, 4, 2);

@@ -36,6 +36,7 @@ struct Form1Inputs : Form {
   List cboQmin{*this, "cboQmin", Typed, "1", "First pole J of the surface waves that are added, 1 the least damped"};
   List cboQmax{*this, "cboQmax", Typed, "1",
                "Last pole J of the surface waves that are added, to 25; 10 are enough nearly everywhere"};
+  Label lblSWAmp{*this, "lblSWAmp", "Amplitude"};
   TextInput txtSWAmp{*this, "txtSWAmp", "1", "Factor on the amplitudes of surface waves"};
   CheckBox chkDiffraction{*this, "chkDiffraction", "+ Diffraction", false, "Add the diffraction of the sphere's disc"};
 

@@ -19,10 +19,14 @@ namespace lumivex {
 namespace {
 
 constexpr LayoutLine calculationLines[] = {
-    {{"cboType"}},           {{"cboGraph"}},
-    {{"Label8", "cboPol"}},  {{"Label9", "cboRays"}},
-    {{"chkDiffraction"}},    {{"lblQminQmax", "cboQmin", "cboQmax"}},
-    {{"txtSWAmp"}},          {{"Label18", "cboBright"}},
+    {{"cboType"}},
+    {{"cboGraph"}},
+    {{"Label8", "cboPol"}},
+    {{"Label9", "cboRays"}},
+    {{"chkDiffraction"}},
+    {{"lblQminQmax", "cboQmin", "cboQmax"}},
+    {{"lblSWAmp", "txtSWAmp"}},
+    {{"Label18", "cboBright"}},
     {{"Label26", "cboLee"}},
 };
 constexpr LayoutLine sizeLines[] = {

@@ -114,7 +114,8 @@ void cboType_click(Session& session) {
   StripStartValues(session);
   IlluminationOf(session);
   const bool surfaceWave = s.CalcMethod == Method::SurfaceWave;
-  form.cboQmin.Visible = form.cboQmax.Visible = form.lblQminQmax.Visible = form.txtSWAmp.Visible = surfaceWave;
+  form.cboQmin.Visible = form.cboQmax.Visible = form.lblQminQmax.Visible = surfaceWave;
+  form.lblSWAmp.Visible = form.txtSWAmp.Visible = surfaceWave;
   form.mnuSurfaceWave.Visible = surfaceWave;
   if (surfaceWave) form.txtSWAmp.Text = "1";
   PoleStartValues(session, before);
