@@ -7,6 +7,7 @@
 #include <QScrollArea>
 #include <QStatusBar>
 #include <QStyle>
+#include <QVBoxLayout>
 #include <vector>
 
 #include "record/layout/impulse_dialog_lines.h"
@@ -31,7 +32,13 @@ ImpulseWindowView::ImpulseWindowView(CommandGate& gate, Session& session, QWidge
   side->setFrameShape(QFrame::NoFrame);
   side->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   side->setWidgetResizable(true);
-  side->setWidget(panel_);
+  // Frames as high as their lines, from the top.
+  auto* frames = new QWidget(side);
+  auto* column = new QVBoxLayout(frames);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(panel_);
+  column->addStretch(1);
+  side->setWidget(frames);
   canvas_ = new Canvas(body);
   canvas_->setAccessibleName("Response at one angle");
   row->addWidget(side);

@@ -299,6 +299,23 @@ TEST_F(Impulse, EfficienciesAgainstTime) {
   EXPECT_EQ(Drawn().curves.size(), 3U);
   Do("set txtF9_min -40\nset txtF9_max 40\nclick cmdReplot");
   EXPECT_EQ(RangeShown(Drawn()).xmax, 40);
+  // Another graph of the same pulse begins with its own times.
+  Do("choose cboGraph Impulse response");
+  EXPECT_EQ(Get("txtF9_min"), "0");
+  EXPECT_EQ(Get("txtF9_max"), "2218.67");
+}
+
+TEST_F(Impulse, InAWideBeamItIsThatOfAPlaneWave) {
+  Drop("cboFFT=256 cboPulseDuration=10");
+  Do("set txtRadius 3\nset cboStep 30\nclick cmdNewPlot");
+  ASSERT_TRUE(Drawn().map);
+  const double plane = Cell(30, 26);
+  ASSERT_GT(plane, 0);
+  Do("dialog dlogGaussianBeam ok txtBeamWo=200\nclick mnuGaussian\nset txtXmin -30\nset txtXmax 60\nclick cmdNewPlot");
+  ASSERT_TRUE(Drawn().map) << LastText();
+  EXPECT_EQ(Drawn().map->up.samples.first, -30);
+  EXPECT_NEAR(Cell(30, 26), plane, 0.01 * plane);
+  EXPECT_NEAR(Cell(-30, 26), plane, 0.01 * plane);
 }
 
 TEST_F(Impulse, ResultsFilesHoldThePicture) {

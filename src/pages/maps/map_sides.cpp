@@ -39,7 +39,8 @@ MapSide SideOf(const Sweep& sweep) {
 }
 
 MapSide SideOf(const AngleRows& rows, int firstRow, int count) {
-  return {{(firstRow - 1) * rows.step, (firstRow + count - 2) * rows.step, count, false},
+  const double lowest = rows.Origin() + (firstRow - 1) * rows.step;
+  return {{lowest, lowest + (count - 1) * rows.step, count, false},
           "Scattering angle (deg.)",
           "Scattering",
           "angle (deg.)",

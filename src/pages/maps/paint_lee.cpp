@@ -57,11 +57,17 @@ std::optional<std::pair<SurfacePoint, SurfacePoint>> Clipped(SurfacePoint a, Sur
   return std::pair{SurfacePoint{a.x + from * dx, a.y + from * dy}, SurfacePoint{a.x + to * dx, a.y + to * dy}};
 }
 
-/// On a dark edge, so that it is seen on pale cells too.
-void PaintText(DrawingSurface& surface, SurfacePoint at, const std::string& text, Colour colour, const GraphBox& box) {
+/// On a dark edge, so that it is seen on pale cells too; left out where another text stands.
+void PaintText(DrawingSurface& surface, SurfacePoint at, const std::string& text, Colour colour, const GraphBox& box,
+               std::vector<GraphBox>& taken) {
   constexpr double edge = 15;
   const double width = surface.TextWidth(text), height = surface.TextHeight(text);
   const double x = std::min(at.x + 50, box.right - width), y = std::clamp(at.y - height, box.top, box.bottom - height);
+  const auto meets = [&](const GraphBox& other) {
+    return x < other.right && x + width > other.left && y < other.bottom && y + height > other.top;
+  };
+  if (std::ranges::any_of(taken, meets)) return;
+  taken.push_back({x, x + width, y, y + height});
   const auto print = [&](double right, double down, Colour ink) {
     surface.ForeColour = ink;
     surface.CurrentX = x + right;
@@ -73,7 +79,7 @@ void PaintText(DrawingSurface& surface, SurfacePoint at, const std::string& text
 }
 
 /// Marks of one kind over a picture, as far as they lie within it.
-void PaintMarks(DrawingSurface& surface, const MapMarks& marks, const FramePaint& paint) {
+void PaintMarks(DrawingSurface& surface, const MapMarks& marks, const FramePaint& paint, std::vector<GraphBox>& texts) {
   constexpr double dot = 15;  // a pixel to both sides
   const GraphBox& box = paint.Box();
   std::vector<SurfacePoint> places;
@@ -99,7 +105,8 @@ void PaintMarks(DrawingSurface& surface, const MapMarks& marks, const FramePaint
   }
   surface.FontSize = 6;
   for (std::size_t i = 0; i < marks.texts.size(); ++i)
-    if (!marks.texts[i].empty() && inside(places[i])) PaintText(surface, places[i], marks.texts[i], marks.colour, box);
+    if (!marks.texts[i].empty() && inside(places[i]))
+      PaintText(surface, places[i], marks.texts[i], marks.colour, box, texts);
   surface.FontSize = 8;
   surface.ForeColour = colours::Black;
 }
@@ -188,7 +195,8 @@ void PaintLee(DrawingSurface& surface, const Page& page) {
     FramePaint paint(page, panel, surface);
     PaintGround(surface, panel.box, page.style.ground);
     if (const auto block = CellsIn(page, panel)) surface.Image(*block, *map.pictures[i].cells);
-    for (const MapMarks& marks : map.marks) PaintMarks(surface, marks, paint);
+    std::vector<GraphBox> texts;
+    for (const MapMarks& marks : map.marks) PaintMarks(surface, marks, paint, texts);
     LeeFrame(paint);
     PaintLeeTitles(paint, i);
   }

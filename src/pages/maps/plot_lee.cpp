@@ -33,7 +33,7 @@ XRange AnglesShown(const MapToDraw& map, const AngleRows& rows) {
 ShownRows RowsWithin(const MapFound& found, const AngleRows& rows, XRange range) {
   constexpr double rounding = 1e-6;
   // A row reaches half a step to both sides, also where it is the only one.
-  const auto placeOf = [&](double angle) { return angle / rows.step - (found.firstRow - 1); };
+  const auto placeOf = [&](double angle) { return (angle - rows.Origin()) / rows.step - (found.firstRow - 1); };
   const double lowest = placeOf(range.xmin), highest = placeOf(range.xmax);
   if (found.rows < 1 || highest < -0.5 || lowest > found.rows - 0.5) return {0, 0};
   const auto clamped = [&](double row) { return std::clamp(static_cast<int>(row), 0, found.rows - 1); };

@@ -291,6 +291,8 @@ void ShowFamilyInputs(Session& session) {
   form.Label7.Caption = SizeCaption(form);
   ShowFurtherAxis(session, graph);
   ShowMapInputs(session);
+  // Times lie on both sides of a pulse.
+  if (chosen.family == Family::PulseAnswer) form.OptXLinear.Visible = form.optXLog.Visible = false;
   form.Frame3.Visible = form.txtRadius.Visible || form.optMono.Visible;
   form.Frame4.Visible = form.txtLambda.Visible || form.cboWave.Visible || form.optPoint.Visible;
   ShowBeamEntries(session);

@@ -186,6 +186,15 @@ struct TimesTyped {
   std::string lambda, low, high, step;
 };
 
+/// Whether the further axis holds times of the pulse and the graph as they stand.
+bool HasTimes(const Session& session) {
+  constexpr double tolerance = 0.01;
+  const Form1& form = session.form1;
+  const TimeLimits limits = TimesOfWindow(session);
+  return form.txtF9_step.Text == TimeText(ClockOfInputs(session).step) &&
+         Val(form.txtF9_min.Text) >= limits.low - tolerance && Val(form.txtF9_max.Text) <= limits.high + tolerance;
+}
+
 void Choose(Session& session, std::string_view graph) {
   if (session.form1.cboGraph.Text == graph && ChosenGraph(session.state).OfPulse()) return AskImpulse(session);
   ChooseGraph(session, graph);
@@ -284,7 +293,7 @@ void AskImpulse(Session& session) {
   auto& dialog = session.forms.dlogImpulse;
   const bool quiet = session.state.RestoringSettings != 0;
   const PulsedLight before = ReadPulsedLight(session);
-  const bool hadTimes = form.txtF9_step.Text == TimeText(ClockOfInputs(session).step);
+  const bool hadTimes = HasTimes(session);
   const TimesTyped typed(form);
   dialog.txtWavelength.Text = form.txtLambda.Text;
   ImpulseCalc(session, 0, quiet ? PulseVoice::Quiet : PulseVoice::Tell);

@@ -183,8 +183,10 @@ Look ReadLook(const Session& session) {
   look.interpolate = form.mnuInterpolate.Checked;
   look.polarisations = PolarisationsChosen(form.cboPol.Text);
   look.scale = ReadScale(form);
-  if (ChosenGraph(session.state).family == Family::PulseAnswer)
+  if (ChosenGraph(session.state).family == Family::PulseAnswer) {
     look.scale.x = {Val(form.txtF9_min.Text), Val(form.txtF9_max.Text)};
+    look.scale.logX = false;
+  }
   if (form.mnuAmpPhase.Checked) look.second = SecondPanel::Phases;
   if (form.mnuIntPol.Checked) look.second = SecondPanel::Polarisation;
   look.amplitude = form.mnuAmplitude.Checked;
