@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
+#include <algorithm>
 
 #include "pages/build_page.h"
 #include "record/recording_surface.h"
@@ -138,8 +138,11 @@ TEST_F(Drops, FieldsThatMakeNoDropKeepTheDialogOpen) {
 
 TEST_F(Drops, TheDialogDrawsTheDropAndItsBows) {
   Choose("txtAxisRatio=0.8 optBurgeroid=0", "1000");
-  const auto& window = runner.Current().windows[2];
-  ASSERT_EQ(std::string(window.form->Name()), "dlogNonSpherical");
+  const Session& session = runner.Current();
+  const auto at = std::ranges::find_if(
+      session.windows, [&](const Window& each) { return each.form == &session.forms.dlogNonSpherical; });
+  ASSERT_NE(at, session.windows.end());
+  const Window& window = *at;
   ASSERT_TRUE(window.page.drop.has_value());
   const PageDrop& drop = *window.page.drop;
   EXPECT_GE(drop.rays.size(), 2U);
