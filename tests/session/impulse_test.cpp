@@ -311,7 +311,8 @@ TEST_F(Impulse, InAWideBeamItIsThatOfAPlaneWave) {
   ASSERT_TRUE(Drawn().map);
   const double plane = Cell(30, 26);
   ASSERT_GT(plane, 0);
-  Do("dialog dlogGaussianBeam ok txtBeamWo=200\nclick mnuGaussian\nset txtXmin -30\nset txtXmax 60\nclick cmdNewPlot");
+  Do("dialog dlogGaussianBeam ok txtBeamYF=0 txtBeamWo=200\nclick mnuGaussian\nset txtXmin -30\nset txtXmax 60\nclick "
+     "cmdNewPlot");
   ASSERT_TRUE(Drawn().map) << LastText();
   EXPECT_EQ(Drawn().map->up.samples.first, -30);
   EXPECT_NEAR(Cell(30, 26), plane, 0.01 * plane);
