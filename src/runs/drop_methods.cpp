@@ -114,8 +114,8 @@ class DropCount {
 
 std::optional<DropShape> ShapeOfDrop(const DropOptions& options, double radius) {
   const double mm = mmPerRadius * radius;
-  if (options.form == DropForm::Spheroid && options.axisRatio) return DropShape::Spheroid(*options.axisRatio);
   if (!(mm > 0 && mm <= largestDropMm)) return std::nullopt;
+  if (options.form == DropForm::Spheroid && options.axisRatio) return DropShape::Spheroid(*options.axisRatio);
   return options.form == DropForm::Burgeroid ? DropShape::Burgeroid(mm) : DropShape::Spheroid(AxisRatioOfSize(mm));
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <numbers>
+#include <string>
 #include <vector>
 
 #include "runs/further_methods.h"
@@ -11,6 +12,9 @@
 namespace lumivex {
 
 namespace {
+
+/// Orders p that a sphere of any size takes, and how much of x each further one needs.
+constexpr double leastOfMostCuts = 5, sizePerCut = 5;
 
 /// The waves of each selected term; empty after a Stop.
 std::vector<SurfaceWave> WavesOf(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor) {
@@ -44,8 +48,13 @@ Refusal BeyondSurfaceWaves(const MethodOptions& options, double x, double mRe) {
   if (std::ranges::none_of(options.rays.begin() + std::min<std::ptrdiff_t>(1, std::ssize(options.rays)),
                            options.rays.end(), [](int p) { return p != 0; }))
     return NoRays();
-  if (SurfaceWavesApply(x, mRe)) return {};
-  return {"Surface wave", "Surface waves need a larger sphere or a higher refractive index"};
+  if (!SurfaceWavesApply(x, mRe))
+    return {"Surface wave", "Surface waves need a larger sphere or a higher refractive index"};
+  // Poles of order p + 1 are too near each other for their circles where the sphere is small.
+  const int most = static_cast<int>(std::max(leastOfMostCuts, std::min(x / sizePerCut, 1e6)));
+  const auto wanted = std::ranges::find_if(options.rays.rbegin(), options.rays.rend(), [](int p) { return p != 0; });
+  if (options.rays.rend() - wanted - 1 <= most) return {};
+  return {"Surface wave", "Surface waves of more than " + std::to_string(most) + " short cuts need a larger sphere"};
 }
 
 SphereSolution SurfaceWaves(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor) {

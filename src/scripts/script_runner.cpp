@@ -15,6 +15,7 @@
 #include "scripts/script_commands.h"
 #include "scripts/script_line.h"
 #include "session/checks/number_input.h"
+#include "session/impulse/impulse_plot.h"
 #include "session/simulation/simulation_events.h"
 #include "session/start_up.h"
 #include "session/undo.h"
@@ -193,6 +194,7 @@ struct ScriptCommands {
     const std::string x = TakeWord(rest);
     if (!IsNumber(x) || !IsNumber(rest)) throw Failure{"mouse takes X and Y in surface units"};
     if (IsMain(run)) Form_MouseDown(run.Current(), Val(x), Val(rest));
+    if (run.chosen_->form == &run.Current().forms.impulsePlot) InversePlot(run.Current(), Val(x), Val(rest));
     if (run.chosen_->page.photograph) picture1_mousedown(run.Current(), Val(x), Val(rest));
   }
 

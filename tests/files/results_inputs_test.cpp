@@ -101,8 +101,7 @@ TEST_F(ResultsFiles, DropsWhoseRaysOrSkyCannotBeAreRefused) {
                                     {"skyHigh ", "skyHigh 1000000"},
                                     {"raysDone ", "raysDone many"},
                                     {"raysDone ", "raysDone 1e9"},
-                                    {"axisRatio ", "axisRatio -1"},
-                                    {"drop ", "drop 2"}})
+                                    {"axisRatio ", "axisRatio -1"}})
     refused(line, other);
   Do("reset\ndialog dlogNonSpherical ok\nclick mnuBowClock\nset cboStep 60\nclick cmdNewPlot");
   Save("good.lvx");

@@ -57,6 +57,15 @@ TEST_F(Dew, BothSidesAreAlikeWhereTheSurfaceFacesTheSun) {
   EXPECT_NEAR(Brightness(20), 0.4667, 0.01) << "one side alone";
 }
 
+TEST_F(Dew, GraphsThatGoRoundKeepTheAnglesAndSumsOverAllDirectionsTheirs) {
+  Choose("2", "0");
+  Do("set txtXmin 178\nset txtXmax 182\nchoose cboGraph Watts/sq. m. v. scattering angle");
+  EXPECT_EQ(Get("txtXmax"), "182");
+  Do("choose cboGraph Phase function");
+  EXPECT_EQ(Get("txtXmin") + " " + Get("txtXmax"), "0 180");
+  EXPECT_TRUE(Shown().empty()) << LastText();
+}
+
 TEST_F(Dew, BadSurfacesAreRefused) {
   const struct {
     const char *fields, *field;

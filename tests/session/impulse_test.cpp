@@ -341,5 +341,65 @@ TEST_F(Impulse, ResultsFilesHoldThePicture) {
   std::filesystem::remove(path);
 }
 
+TEST_F(Impulse, ChangesAfterTheRunLeaveItsFileWhole) {
+  const std::string file = (std::filesystem::temp_directory_path() / "lumivex_pulse.lvx").string();
+  // Each was once taken for the inputs of the run, and the file could not be read.
+  for (const char* change :
+       {"set txtF9_max 150", "set txtF9_min 20", "set txtF9_step 5",
+        "dialog dlogImpulse ok cboFFT=1024\nclick mnuImpulse", "set txtF9_max 5000\nclick cmdNewPlot"}) {
+    Do("reset");
+    Drop("cboFFT=2048");
+    Do("set txtF9_max 200\nset txtF9_step 2\nclick cmdNewPlot");
+    const double cell = Cell(90, 20);
+    Do(std::string(change) + "\nsave-results " + file + "\nreset\nload " + file);
+    ASSERT_TRUE(Drawn().map) << change;
+    EXPECT_EQ(Get("txtF9_max"), "200") << change;
+    EXPECT_EQ(Get("txtF9_step"), "2") << change;
+    EXPECT_EQ(Cell(90, 20), cell) << change;
+  }
+  std::filesystem::remove(file);
+}
+
+TEST_F(Impulse, CorrelationKeepsTheTimesThatWereTypedAndItsStopTheMenu) {
+  Drop("cboFFT=2048");
+  Do("set txtF9_max 200\nset txtF9_step 2\nclick cmdNewPlot\nclick mnuCCF");
+  EXPECT_EQ(Get("txtF9_max"), "200");
+  EXPECT_EQ(Get("mnuCCF"), "true");
+  Do("click mnuCCF\nset txtRadius 30\nset cboStep 0.5\nset txtF9_max 600\nclick cmdNewPlot");
+  const auto before = Now().state.LastResults;
+  Do("stop-at 5\nclick mnuCCF");
+  if (Now().state.LastResults == before) {
+    EXPECT_EQ(Get("mnuCCF"), "false");
+  }
+}
+
+TEST_F(Impulse, LightWithoutAPhaseIsRefused) {
+  Drop("");
+  Do("choose cboType Descartes\nclick cmdNewPlot");
+  EXPECT_EQ(LastText(), "Intensities of Descartes have no phase, and so no times");
+  EXPECT_FALSE(Drawn().map);
+}
+
+TEST_F(Impulse, TheWindowOffersANewRunAndKeepsItsAngleWithoutOne) {
+  Drop("");
+  Do("set cboStep 10\nclick cmdNewPlot\nclick mnuImpulsePlot\nset ImpulsePlot.cboTheta 20\nclick "
+     "ImpulsePlot.cmdReplot");
+  EXPECT_EQ(Get("ImpulsePlot.cmdReplot.Enabled"), "false");
+  Do("set txtRadius 5\nclick cmdNewPlot");
+  EXPECT_EQ(Get("ImpulsePlot.cmdReplot.Enabled"), "true");
+  Do("click ImpulsePlot.cmdReplot\nwindow ImpulsePlot\nmouse 6000 4000");
+  EXPECT_NE(Get("ImpulsePlot.lblTime"), "");
+  Do("choose cboGraph Intensity v. scattering angle\nclick cmdNewPlot\nset ImpulsePlot.cboTheta 30\n"
+     "click ImpulsePlot.cmdReplot");
+  EXPECT_EQ(LastText(), "The response at one angle needs a graph of an impulse response");
+  EXPECT_EQ(Get("ImpulsePlot.cboTheta"), "20");
+}
+
+TEST_F(Impulse, TimesBeforeTheFirstLightAreRefused) {
+  Drop("");
+  Do("set txtF9_min -10\nclick cmdNewPlot");
+  EXPECT_EQ(LastText(), "Value must not be less than 0 fs");
+}
+
 }  // namespace
 }  // namespace lumivex

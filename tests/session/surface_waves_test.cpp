@@ -71,6 +71,15 @@ TEST_F(SurfaceWaveSession, BeyondTheCriticalAngleTheyAreTheDebyeTerm) {
   EXPECT_LT(worst, 1e-6 * std::abs(At(S2, 84, 0.5)));
 }
 
+TEST_F(SurfaceWaveSession, ManyShortCutsNeedALargeSphere) {
+  Water("50", "10");
+  Run();
+  EXPECT_TRUE(Shown().empty()) << LastText();
+  Do("set cboRays 11");
+  Run();
+  EXPECT_EQ(LastText(), "Surface waves of more than 10 short cuts need a larger sphere");
+}
+
 TEST_F(SurfaceWaveSession, PolesFactorAndSeveralTermsAdd) {
   Water("300", "2");
   EXPECT_EQ(Get("cboQmin") + Get("cboQmax") + Get("txtSWAmp"), "1101");

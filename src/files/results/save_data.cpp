@@ -27,6 +27,25 @@ auto Words(const RunWords& w) {
                   w.medium, w.light, w.sizes, w.scale);
 }
 
+bool SamePulse(const std::optional<PulsedLight>& a, const std::optional<PulsedLight>& b) {
+  if (!a || !b) return a.has_value() == b.has_value();
+  return a->pulse == b->pulse && a->fromCentre == b->fromCentre && a->correlated == b->correlated;
+}
+
+bool SameSweep(const Sweep& a, const Sweep& b) {
+  return a.quantity == b.quantity && a.low == b.low && a.high == b.high && a.steps == b.steps &&
+         a.geometric == b.geometric && a.fromZero == b.fromZero;
+}
+
+/// Columns, and what a pulse made of them.
+bool SameColumns(const FamilyRun& a, const FamilyRun& b) {
+  const auto *first = std::get_if<AngleMapRun>(&a), *second = std::get_if<AngleMapRun>(&b);
+  if (first != nullptr && second != nullptr)
+    return SameSweep(first->columns, second->columns) && SamePulse(first->pulse, second->pulse);
+  const AxisRun *one = AxisOf(a), *other = AxisOf(b);
+  return one == nullptr || other == nullptr || SamePulse(one->pulse, other->pulse);
+}
+
 bool SameRows(const FamilyRun& a, const FamilyRun& b) {
   const AngleRows *first = RowsOf(a), *second = RowsOf(b);
   if (first != nullptr && second != nullptr)
@@ -54,7 +73,7 @@ bool AsksTheSame(const RunRequest& a, const RunRequest& b) {
          a.method.difference == b.method.difference && a.method.beam == b.method.beam && SameLayers(a, b) &&
          a.particle.radius == b.particle.radius && a.light.lambda == b.light.lambda &&
          a.Wavelengths() == b.Wavelengths() && a.run.index() == b.run.index() && Words(a.words) == Words(b.words) &&
-         SameRows(a.run, b.run);
+         SameRows(a.run, b.run) && SameColumns(a.run, b.run);
 }
 
 void WriteNumber(TextInput& field, double value) {

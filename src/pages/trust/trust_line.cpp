@@ -130,6 +130,8 @@ std::optional<TrustMark> OfSteps(const Results& results, const Sizes& sizes) {
   const AngleRows* rows = RowsOf(results.asked.run);
   // The sizes of a cloud wash the ripples out; rays without interference have none.
   if (rows == nullptr || results.asked.Cloud() || sizes.most <= 1) return std::nullopt;
+  // What a pulse makes of it is a ridge, much wider than a ripple.
+  if (results.asked.graph.OfPulse()) return std::nullopt;
   const Method method = results.asked.method.method;
   if (method == Method::Descartes || method == Method::Rayleigh || method == Method::Burgeroid ||
       method == Method::Heiligenschein)

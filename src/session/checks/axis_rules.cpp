@@ -92,10 +92,14 @@ Verdict TimeRange(Check& check) {
   auto& form = check.form;
   constexpr double tolerance = 0.01;  // of limits that are shown rounded
   constexpr int decimals = 2;
-  const double limit = TimesOfWindow(check.session).high;
+  const TimeLimits window = TimesOfWindow(check.session);
+  const double limit = window.high;
   if (Val(form.txtF9_max.Text) > limit + tolerance)
     return Refuse(check, {&form.txtF9_max},
                   "Value must not be greater than " + Shortest(RoundDecimals(limit, decimals)) + " fs");
+  if (Val(form.txtF9_min.Text) < window.low - tolerance)
+    return Refuse(check, {&form.txtF9_min},
+                  "Value must not be less than " + Shortest(RoundDecimals(window.low, decimals)) + " fs");
   const bool steps = ChosenGraph(check.state).family == Family::Impulse;
   if (steps && !(Val(form.txtF9_step.Text) > 0))
     return Refuse(check, {&form.txtF9_step}, "Step size must be greater than zero");

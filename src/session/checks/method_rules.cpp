@@ -34,6 +34,11 @@ bool NeedsOneSphere(const Graph& graph) {
          graph.family == Family::Impulse;
 }
 
+/// Rays whose intensities are added have moduli alone.
+bool HasPhase(Method method) {
+  return method != Method::Descartes && method != Method::Burgeroid && method != Method::Heiligenschein;
+}
+
 /// Where the index of the sphere is told: its field, or its name where the run has one index a wavelength.
 Control* IndexMark(Form1& form, TextInput& field) {
   return field.Visible ? static_cast<Control*>(&field) : &form.lblSphere;
@@ -165,6 +170,9 @@ Verdict MethodAgainstGraph(Check& check) {
   }
   if (form.optDisp.Checked && NeedsOneSphere(graph))
     return Refuse(check, {&form.cboGraph}, "This graph type is available only for monodisperse calculations");
+  if (graph.OfPulse() && !HasPhase(s.CalcMethod))
+    return Refuse(check, {&form.cboGraph},
+                  "Intensities of " + std::string(TextOfMethod(s.CalcMethod, 0)) + " have no phase, and so no times");
   if (graph.methods == MethodsTaken::MieInstead && s.CalcMethod != Method::Mie) {
     Warn(check, "This graph type is available only for Mie calculations");
     ChooseMethod(check.session, "Mie");

@@ -13,6 +13,7 @@
 #include "session/driver/overplot.h"
 #include "session/driver/read_run.h"
 #include "session/driver/settle_beam.h"
+#include "session/impulse/impulse_plot.h"
 #include "session/inputs/impulse_inputs.h"
 #include "session/inputs/look/read_look.h"
 #include "session/inputs/methods.h"
@@ -120,6 +121,9 @@ void EndCommand(Session& session, const Offered& before) {
   if (HasRun(session.state)) session.state.NumberWavelengths = session.state.ResultWavelengths;
   LockOFF(session);
   OfferCommands(session);
+  OfferImpulsePlot(session);
+  // What is typed from now on is a step of its own, into the same field too: before it are the inputs of this run.
+  session.undo.typedInto.clear();
   if (session.state.LastResults == before.results) {
     form.cmdReplot.Enabled = before.replot;
     form.cmdOverPlot.Enabled = before.overPlot;

@@ -204,7 +204,7 @@ RunWords ReadWords(const Session& session, const RunRequest& request) {
     words.sphereName = words.sphere = ProfileEquation(request.method.layers.profile);
   words.light = form.lblSpectrum.Caption;
   if (request.Cloud()) words.sizes = WordsForSizes(session);
-  words.scale = form.Frame2.Caption;
+  words.scale = request.graph.family == Family::PulseAnswer ? "Time" : form.Frame2.Caption;
   words.diagnostics = form.mnuHidden.Visible && form.mnuHidden.Checked;
   return words;
 }

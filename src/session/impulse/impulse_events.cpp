@@ -32,7 +32,7 @@ bool TimePlotHolds(Session& session) {
   };
   bool holds = true;
   for (TextInput* field : {&d.txtRaysGO, &d.txtB, &d.txtQ})
-    holds = mark(*field, within(field->Text, 0, mostOrders)) && holds;
+    holds = mark(*field, within(field->Text, 0, mostOrders) && Val(field->Text) == Int(Val(field->Text))) && holds;
   holds = mark(d.cboStep, within(d.cboStep.Text, leastStep, 1)) && holds;
   return mark(d.txtRI_Surface, within(d.txtRI_Surface.Text, leastStep, largestIndex)) && holds;
 }
@@ -63,8 +63,8 @@ void dlogTimePlot_cmdClear_Click(Session& session) {
 
 void mnuTimePlot_Click(Session& session) {
   auto& dialog = session.forms.dlogTimePlot;
-  // A surface wave creeps through the medium unless another index was typed.
-  if (dialog.txtRI_Surface.Text == "1") dialog.txtRI_Surface.Text = session.form1.txtRefractMedium.Text;
+  // A surface wave creeps through the medium, of each picture its own, unless another index is typed.
+  if (!dialog.Visible) dialog.txtRI_Surface.Text = session.form1.txtRefractMedium.Text;
   session.platform.Show(dialog);
 }
 
@@ -131,10 +131,13 @@ void CCF(Session& session) {
   entry.Checked = !entry.Checked;
   RaiseInputsChanged(session);
   if (!HasPicture(session) || ChosenGraph(session.state).family != Family::Impulse) return;
-  RunRequest request = session.state.LastResults->asked;
+  const auto before = session.state.LastResults;
+  RunRequest request = before->asked;
   std::get<AngleMapRun>(request.run).pulse->correlated = entry.Checked;
-  ImpulseCalc(session, 1, PulseVoice::Quiet);
+  if (!PulseIsThere(session)) return;
   RunAgain(session, request);
+  // One that is stopped before it has anything leaves the picture, and what the menu says of it.
+  if (session.state.LastResults == before) entry.Checked = !entry.Checked;
 }
 
 void TimePlot(Session& session) {

@@ -22,6 +22,7 @@ namespace {
 
 /// A window of no window system (surface units).
 constexpr double blindWidth = 15000, blindHeight = 9000;
+constexpr const char* noPicture = "The response at one angle needs a graph of an impulse response";
 constexpr int firstKind = 1, secondKind = 2, thirdKind = 3;
 
 bool IsPicture(const Results& results) {
@@ -72,6 +73,18 @@ bool TakeAngle(Session& session) {
   session.impulseResults = std::make_shared<const Results>(std::move(end.results));
   session.impulseSource = last;
   return true;
+}
+
+/// What the window shows stays there when another graph has come; of another angle there is nothing to show.
+bool KeepsAngle(Session& session) {
+  const auto& held = session.impulseResults;
+  auto& text = session.forms.impulsePlot.cboTheta.Text;
+  if (!held || held->asked.graph.quantity != Quantity::Intensity) return true;
+  const double angle = std::get<AxisRun>(held->asked.run).angle * 180 / std::numbers::pi;
+  if (IsNumber(text) && std::fabs(Val(text) - angle) < 1e-6) return true;
+  text = Significant(angle, 8);
+  session.platform.Message("Option not available", noPicture);
+  return false;
 }
 
 std::optional<double> LimitOf(const SelectionList& list) {
@@ -164,7 +177,7 @@ Window& ImpulseWindow(Session& session) {
 void OpenImpulsePlot(Session& session, double angle) {
   const auto& last = session.state.LastResults;
   if (!last || !last->asked.graph.OfPulse()) {
-    session.platform.Message("Option not available", "The response at one angle needs a graph of an impulse response");
+    session.platform.Message("Option not available", noPicture);
     return;
   }
   auto& form = session.forms.impulsePlot;
@@ -237,8 +250,11 @@ void ImpulsePlot_Change(Session& session) {
 
 void ImpulsePlot_cmdReplot_Click(Session& session) {
   const auto& last = session.state.LastResults;
-  // What the window shows stays there when another graph has come.
-  if (last && last->asked.graph.OfPulse() && !TakeAngle(session)) return;
+  if (last && last->asked.graph.OfPulse()) {
+    if (!TakeAngle(session)) return;
+  } else if (!KeepsAngle(session)) {
+    return;
+  }
   IPgraph(session);
 }
 
@@ -251,6 +267,14 @@ void ImpulsePlot_mnuPicture_Click(Session& session) {
   if (!path || path->empty()) return;
   const std::string failure = session.platform.SaveDrawing(ImpulseWindow(session).page, *path);
   if (!failure.empty()) session.platform.Message("Error", failure);
+}
+
+void OfferImpulsePlot(Session& session) {
+  auto& form = session.forms.impulsePlot;
+  const auto& last = session.state.LastResults;
+  const bool another = last && last->asked.graph.OfPulse() && session.impulseSource.lock() != last &&
+                       session.impulseResults != last;
+  if (form.Visible && another) form.cmdReplot.Enabled = true;
 }
 
 }  // namespace lumivex

@@ -16,6 +16,9 @@ void OpenImpulsePlot(Session& session, double angle);
 /// Draws the curves of the window as its inputs ask for them. Limits that make no axis are told, and draw nothing.
 void IPgraph(Session& session);
 
+/// After a run: the window can be drawn anew of it.
+void OfferImpulsePlot(Session& session);
+
 /// One curve of the window as rows of time and intensity, by its kind: 1 and 2 are those of InversePlot.
 struct ImpulseCurveRows {
   const std::vector<double>* time = nullptr;

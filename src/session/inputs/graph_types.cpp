@@ -1,3 +1,4 @@
+#include "session/inputs/drops/dew_inputs.h"
 #include "session/inputs/graph_types.h"
 #include "session/inputs/beams/beam_menus.h"
 
@@ -340,6 +341,7 @@ void cboGraph_Click(Session& session) {
   form.cmdReplot.Enabled = form.cmdOverPlot.Enabled = false;
   s.ReplotOfSizes = 0;
   form.cmdNewPlot.Enabled = true;
+  DewAnglesOfGraph(session);
   AskForDistance(session);
   if (chosen.family == Family::Volume) session.events.Raise("dlogVolume.Show");
   if (chosen.OfPulse()) session.events.Raise("dlogImpulse.Show");

@@ -285,6 +285,7 @@ Sweep ReadTimes(const Session& session) {
 AxisRun ReadPulseAxis(const Session& session, const RunRequest& request) {
   PulsedLight light = ReadPulsedLight(session);
   light.fromCentre = true;
+  light.correlated = false;  // pictures alone are correlated
   return WholeWindow(request, light, 0);
 }
 

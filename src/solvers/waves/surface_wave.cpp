@@ -15,6 +15,8 @@ constexpr double pi = std::numbers::pi;
 /// A pole whose field is smaller than that of the strongest by this power of e is lost in its rounding.
 constexpr double lostExponent = 40;
 constexpr double onAxis = 1e-6;
+/// Largest argument of a Bessel function that its power series is summed for.
+constexpr double seriesReach = 14;
 
 ComplexD Exp(const ComplexD& z) {
   const double size = std::exp(z.re);
@@ -74,10 +76,24 @@ HankelPair HankelByExpansion(const ComplexD& z, bool second) {
   return {root * sum0, root * turn * sum1};
 }
 
+/// J0 and J1 by their power series (Abramowitz and Stegun 1964, 9.1.10).
+HankelPair BesselBySeries(const ComplexD& z) {
+  const ComplexD q = -0.25 * (z * z);
+  ComplexD term0(1, 0), term1 = 0.5 * z, J0 = term0, J1 = term1;
+  for (int k = 1; k < 80; ++k) {
+    term0 = 1.0 / (k * k) * (term0 * q);
+    term1 = 1.0 / (k * (k + 1)) * (term1 * q);
+    J0 = J0 + term0;
+    J1 = J1 + term1;
+    if (SquaredModulus(term0) < 1e-36 * SquaredModulus(J0) && k > 4) break;
+  }
+  return {J0, J1};
+}
+
 }  // namespace
 
 HankelPair ScaledHankel(const ComplexD& z, bool second) {
-  return SquaredModulus(z) < 14.0 * 14.0 ? HankelBySeries(z, second) : HankelByExpansion(z, second);
+  return SquaredModulus(z) < seriesReach * seriesReach ? HankelBySeries(z, second) : HankelByExpansion(z, second);
 }
 
 /// Amplitudes of one angle, as far as they are summed: times exp(scale).
@@ -93,11 +109,13 @@ SurfaceWave::SurfaceWave(const std::vector<SurfacePole>& poles, double x, double
   edge_ = halfTurns * pi - turned;
   odd_ = std::fmod(halfTurns, 2.0) != 0;
   const Complex I(0, 1);
+  double largest = 1;
   for (const SurfacePole& pole : poles) {
     if (pole.number < first || pole.number > last) continue;
     const auto count = static_cast<double>(pole.circle.size());
     for (const PolePoint& point : pole.circle) {
       const Complex& lambda = point.lambda;
+      largest = std::max(largest, std::abs(lambda));
       const Complex weight = std::log(point.first * point.offset / count) +
                              static_cast<double>(p - 1) * std::log(point.inner) + 2.0 * p * I * point.chi +
                              I * pi * halfTurns * (lambda - 0.5) +
@@ -105,23 +123,26 @@ SurfaceWave::SurfaceWave(const std::vector<SurfacePole>& poles, double x, double
       points_.push_back({lambda, weight, pole.tm});
     }
   }
+  nearAxis_ = std::min(edge_, seriesReach / largest);
 }
 
-void SurfaceWave::AddPath(double psi, bool isLong, Fields& fields) const {
+void SurfaceWave::AddPath(double psi, SurfacePath path, Fields& fields) const {
   const double sine = std::sin(psi), cosine = std::cos(psi);
-  const double spread = std::sqrt(psi / sine) / 2;
+  const double spread = std::sqrt(psi / sine) * (path == SurfacePath::Both ? 1 : 0.5);
   const double bend = psi < 1e-3 ? psi / 24 * (1 + psi * psi / 15) : (1 / psi - cosine / sine) / 8;
   const double sign = odd_ ? -1 : 1;
   double highest = -1e300;
   const auto exponentOf = [&](const Point& point) {
-    const ComplexD z = psi * point.lambda;
-    return isLong ? point.logWeight + TimesI(z) : point.logWeight - TimesI(z);
+    const ComplexD z = TimesI(psi * point.lambda);
+    return path == SurfacePath::Both ? point.logWeight : path == SurfacePath::Long ? point.logWeight + z : point.logWeight - z;
   };
   for (const Point& point : points_) highest = std::max(highest, exponentOf(point).re);
   for (const Point& point : points_) {
     const ComplexD exponent = exponentOf(point);
     if (exponent.re < highest - lostExponent) continue;
-    const HankelPair hankel = ScaledHankel(psi * point.lambda, !isLong);
+    const ComplexD z = psi * point.lambda;
+    const HankelPair hankel =
+        path == SurfacePath::Both ? BesselBySeries(z) : ScaledHankel(z, path == SurfacePath::Short);
     const ComplexD weight = spread * Exp(exponent);
     const ComplexD c = bend * Reciprocal(point.lambda);
     const ComplexD P = hankel.zero - c * hankel.one;
@@ -140,8 +161,13 @@ std::size_t SurfaceWave::Sum(std::span<const double> angles, double amplitude, A
     if (!monitor.Report(i, angles.size())) return i;
     const double psi = std::clamp(odd_ ? pi - angles[i] : angles[i], onAxis, pi - 1 / x_);
     Fields fields;
-    if (path_ != SurfacePath::Long && psi < edge_) AddPath(psi, false, fields);
-    if (path_ != SurfacePath::Short) AddPath(psi, true, fields);
+    if (path_ == SurfacePath::Both && psi < nearAxis_) {
+      // Each path alone has a focal line there; their sum has none, and would be lost in its parts.
+      AddPath(psi, SurfacePath::Both, fields);
+    } else {
+      if (path_ != SurfacePath::Long && psi < edge_) AddPath(psi, SurfacePath::Short, fields);
+      if (path_ != SurfacePath::Short) AddPath(psi, SurfacePath::Long, fields);
+    }
     const int row = firstRow + static_cast<int>(i);
     S1.At(row, 0) += amplitude * fields.S1.re;
     S1.At(row, 1) += amplitude * fields.S1.im;

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <complex>
 #include <numbers>
+#include <tuple>
 #include <vector>
 
 #include "solvers/functions/complex_algebra.h"
@@ -68,6 +69,18 @@ TEST(SurfacePoles, OfWater) {
     ExpectNear(poles[1].lambda, row.te2, row.share);
     ExpectNear(poles[2].lambda, row.tm1, row.share);
     ExpectNear(poles[3].lambda, row.tm2, row.share);
+  }
+}
+
+TEST(SurfaceWave, OfManyShortCutsIsSmoothOnTheAxis) {
+  // Each path alone has a focal line there, a hundred million times as strong as the sum of both.
+  for (const auto& [x, p, axis, beside] : {std::tuple{200.0, 26, 0.0, 0.1},
+                                           {200.0, 30, 0.0, 0.1},
+                                           {200.0, 28, 180.0, 179.9},
+                                           {1000.0, 26, 0.0, 0.02}}) {
+    const double on = std::abs(At(x, 1.333, p, axis, SurfacePath::Both, 1, 10).S1);
+    const double off = std::abs(At(x, 1.333, p, beside, SurfacePath::Both, 1, 10).S1);
+    EXPECT_NEAR(on / off, 1, 0.05) << x << " " << p;
   }
 }
 

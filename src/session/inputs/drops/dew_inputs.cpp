@@ -50,7 +50,16 @@ bool DewHolds(Session& session) {
 
 bool GoesRound(const Session& session, const Graph& graph) {
   if (session.state.CalcMethod != Method::Heiligenschein || !graph.AgainstAngle()) return false;
-  return graph.quantity == Quantity::Intensity || graph.quantity == Quantity::DifferentialCrossSection;
+  // What is summed over all directions counts each of them once.
+  return graph.quantity == Quantity::Intensity || graph.quantity == Quantity::Irradiance ||
+         graph.quantity == Quantity::DifferentialCrossSection;
+}
+
+void DewAnglesOfGraph(Session& session) {
+  if (session.state.CalcMethod != Method::Heiligenschein || session.state.RestoringSettings != 0) return;
+  const Graph& graph = ChosenGraph(session.state);
+  if (graph.AgainstAngle() && !GoesRound(session, graph) && Val(session.form1.txtXmax.Text) > 180)
+    WriteAngles(session, "0", "180");
 }
 
 void DewStartValues(Session& session, bool wasDew) {

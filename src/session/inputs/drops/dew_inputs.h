@@ -21,6 +21,9 @@ bool GoesRound(const Session& session, const Graph& graph);
 /// Angles about the antisolar point in place of those of the start, and back when the method is left.
 void DewStartValues(Session& session, bool wasDew);
 
+/// Angles to 180 degrees for a graph of dew that does not go round, where those of another reached beyond.
+void DewAnglesOfGraph(Session& session);
+
 /// Events of the dialog and its menu entry.
 std::span<const LayerEvent> DewEvents();
 
