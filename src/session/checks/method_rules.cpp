@@ -136,7 +136,8 @@ Verdict BeamGraphs(Check& check) {
   const bool angles = graph.AgainstAngle() &&
                       (graph.quantity == Quantity::Intensity || graph.quantity == Quantity::DifferentialCrossSection);
   const bool points = graph.family == Family::Axis && graph.quantity == Quantity::Intensity;
-  if (angles || points || graph.family == Family::Impulse || graph.family == Family::Convergence || graph.family == Family::DebyeAnalysis)
+  if (angles || points || graph.family == Family::Impulse || graph.family == Family::Convergence ||
+      graph.family == Family::DebyeAnalysis)
     return Verdict::GoOn;
   const std::string beam = check.form.mnuTopHat.Checked ? "Top hat beam" : "Gaussian beam";
   return Refuse(check, {&check.form.cboGraph},

@@ -272,8 +272,8 @@ void ImpulsePlot_mnuPicture_Click(Session& session) {
 void OfferImpulsePlot(Session& session) {
   auto& form = session.forms.impulsePlot;
   const auto& last = session.state.LastResults;
-  const bool another = last && last->asked.graph.OfPulse() && session.impulseSource.lock() != last &&
-                       session.impulseResults != last;
+  const bool another =
+      last && last->asked.graph.OfPulse() && session.impulseSource.lock() != last && session.impulseResults != last;
   if (form.Visible && another) form.cmdReplot.Enabled = true;
 }
 

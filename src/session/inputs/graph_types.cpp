@@ -1,6 +1,6 @@
-#include "session/inputs/drops/dew_inputs.h"
 #include "session/inputs/graph_types.h"
 #include "session/inputs/beams/beam_menus.h"
+#include "session/inputs/drops/dew_inputs.h"
 
 #include <algorithm>
 #include <array>

@@ -134,7 +134,9 @@ void SurfaceWave::AddPath(double psi, SurfacePath path, Fields& fields) const {
   double highest = -1e300;
   const auto exponentOf = [&](const Point& point) {
     const ComplexD z = TimesI(psi * point.lambda);
-    return path == SurfacePath::Both ? point.logWeight : path == SurfacePath::Long ? point.logWeight + z : point.logWeight - z;
+    return path == SurfacePath::Both   ? point.logWeight
+           : path == SurfacePath::Long ? point.logWeight + z
+                                       : point.logWeight - z;
   };
   for (const Point& point : points_) highest = std::max(highest, exponentOf(point).re);
   for (const Point& point : points_) {

@@ -21,8 +21,8 @@ enum class SurfacePath { Both, Short, Long };
 /// With D = p (pi - 2 arcsin(1/Re m)), h the whole number of half turns not below it and psi the angle from the axis
 /// that it is nearest to, the short path creeps along h pi - D - psi and the long one along h pi - D + psi. Beyond the
 /// edge ray, psi > h pi - D, the short path has ended; there `Both` is the long one alone. Either alone has a focal
-/// line on the axis, where it is held at psi = 1e-6; near it `Both` is summed as one, with J_n in place of the two halves,
-/// whose difference would lose what high orders p are right to. On the other end of the axis it is held at 1/x.
+/// line on the axis, where it is held at psi = 1e-6; near it `Both` is summed as one, with J_n in place of the two
+/// halves, whose difference would lose what high orders p are right to. On the other end of the axis it is held at 1/x.
 class SurfaceWave {
  public:
   /// @param poles  of FindSurfacePoles with lastTerm >= p; those numbered first..last are summed.
@@ -51,7 +51,7 @@ class SurfaceWave {
   double x_;
   double edge_;      // h pi - D
   double nearAxis_;  // up to there both paths are summed as one
-  bool odd_;     // h is odd: psi counts from 180 degrees
+  bool odd_;         // h is odd: psi counts from 180 degrees
   SurfacePath path_;
 };
 

@@ -74,10 +74,8 @@ TEST(SurfacePoles, OfWater) {
 
 TEST(SurfaceWave, OfManyShortCutsIsSmoothOnTheAxis) {
   // Each path alone has a focal line there, a hundred million times as strong as the sum of both.
-  for (const auto& [x, p, axis, beside] : {std::tuple{200.0, 26, 0.0, 0.1},
-                                           {200.0, 30, 0.0, 0.1},
-                                           {200.0, 28, 180.0, 179.9},
-                                           {1000.0, 26, 0.0, 0.02}}) {
+  for (const auto& [x, p, axis, beside] :
+       {std::tuple{200.0, 26, 0.0, 0.1}, {200.0, 30, 0.0, 0.1}, {200.0, 28, 180.0, 179.9}, {1000.0, 26, 0.0, 0.02}}) {
     const double on = std::abs(At(x, 1.333, p, axis, SurfacePath::Both, 1, 10).S1);
     const double off = std::abs(At(x, 1.333, p, beside, SurfacePath::Both, 1, 10).S1);
     EXPECT_NEAR(on / off, 1, 0.05) << x << " " << p;
