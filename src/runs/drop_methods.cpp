@@ -38,7 +38,7 @@ class DropCount {
         side_(static_cast<int>(std::ceil(std::sqrt(options.drop.rays)))) {
     constexpr double raysPerNet = 1e5, degree = pi / 180;
     constexpr int leastNets = 64;
-    nets_ = std::clamp(static_cast<int>(options.drop.rays / raysPerNet), leastNets, side_);
+    nets_ = std::min(std::max(static_cast<int>(options.drop.rays / raysPerNet), leastNets), side_);
     rows_.first = asked.grid.Angle(window_.low);
     rows_.step = asked.grid.NANG > 1 ? asked.grid.DANG : degree;
     rows_.count = window_.high - window_.low + 1;
