@@ -26,7 +26,9 @@ struct FieldLines {
   template <class Field>
   void operator()(std::string_view name, const Field& field) {
     const auto tells = [&](std::string_view part) { return name.find(part) != std::string_view::npos; };
-    if (tells("Seconds") || tells("Progress") || tells("Time") || tells("Folder") || tells("LastFile")) return;
+    if (tells("Seconds") || tells("Progress") || tells("LoopIndex") || tells("Time") || tells("Folder") ||
+        tells("LastFile"))
+      return;
     if constexpr (std::is_arithmetic_v<Field>) {
       const auto value = static_cast<double>(field);
       Add(name, "=" + Digits(std::abs(value) < 1e-9 ? 0.0 : value));
