@@ -13,16 +13,19 @@ struct NormalSizes {
   std::vector<float> z;   ///< points of the standard normal distribution, first index 1
   double relativeSD = 0;  ///< standard deviation over the mean radius
   bool logarithmic = true;
+  bool operator==(const NormalSizes&) const = default;
 };
 /// A gamma distribution of the run's radius as effective radius.
 struct GammaShape {
   double shape = 2;
+  bool operator==(const GammaShape&) const = default;
 };
 /// A model cut into samples.
 struct ModelSizes {
   std::variant<SizeModel, GammaShape> model;
   int samples = 20;
   SizeSteps steps = SizeSteps::Ratio;
+  bool operator==(const ModelSizes&) const = default;
 };
 /// A table from a file.
 struct FileSizes {
@@ -34,10 +37,13 @@ struct FileSizes {
   std::vector<double> upper =
       {};                 ///< upper ends of the classes whose middles are the radii (um); empty without classes
   std::string name = {};  ///< of the file
+  bool operator==(const FileSizes&) const = default;
 };
 
 /// The sizes of a cloud: one radius, or a distribution.
-struct OneSize {};
+struct OneSize {
+  bool operator==(const OneSize&) const = default;
+};
 using SizeDistribution = std::variant<OneSize, NormalSizes, ModelSizes, FileSizes>;
 
 /// Why a distribution cannot be used; the part of it that is to blame.

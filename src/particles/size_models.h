@@ -10,6 +10,7 @@ namespace lumivex {
 /// n(r) proportional to r^alpha exp(-b r^gamma), r in um: the modified gamma distribution.
 struct GammaSizes {
   double alpha = 0, b = 0, gamma = 1;
+  bool operator==(const GammaSizes&) const = default;
 };
 
 /// A log-normal mode: dn/dln r = fraction/(sqrt(2 pi) ln spread) exp(-(ln(r/median)/ln spread)^2/2).
@@ -17,6 +18,7 @@ struct SizeMode {
   double median = 0;    ///< um
   double spread = 0;    ///< geometric standard deviation, above 1
   double fraction = 0;  ///< number, relative to the other modes
+  bool operator==(const SizeMode&) const = default;
 };
 
 using SizeModel = std::variant<GammaSizes, std::vector<SizeMode>>;

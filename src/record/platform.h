@@ -49,6 +49,8 @@ class Platform {
   /// The decimal symbol that inputs must be typed with; the user is told of one that is not a point.
   virtual char DecimalSymbol() = 0;
   virtual void Beep() = 0;
+  /// Opens a slider beside the input that the user is in; without a screen there is none.
+  virtual void ShowSlider() {}
   /// Opens the user guide at a page ("" for its start).
   virtual void Help(std::string_view page) = 0;
   /// Brings a window to the front.

@@ -2,6 +2,7 @@
 
 #include <deque>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "record/drawing_surface.h"
@@ -28,6 +29,13 @@ struct Remark {
   std::weak_ptr<const Results> of;  ///< it is told while these are the last ones
 };
 
+/// What the present inputs would draw, on show in the place of the page while nobody has asked for it. It is no part of
+/// the record: results, page, tables and files are those of the last run that was asked for.
+struct Preview {
+  std::shared_ptr<const Results> results;
+  Page page;
+};
+
 /// What every routine acts on: the record, the forms, the outside world, the windows and the events.
 /// Plain data; OpenSession (session/session_start) ties one together and starts it.
 struct Session {
@@ -44,6 +52,7 @@ struct Session {
   DrawingSurface*& surface = windows.front().surface;  ///< of the main window; never null
   Page& page = windows.front().page;                   ///< of the main window
   Events& events;
+  std::optional<Preview> preview;  ///< made in windows alone (session/live); scripts never have one
   UndoHistory undo;
   Settings settings;
   Remark remark;

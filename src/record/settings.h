@@ -30,7 +30,7 @@ struct ProgramIdentity {
 /// What has changed in this program and is not in the configuration yet. It is the changes that are written, not the
 /// whole, so that two programs at once keep what the other has changed.
 struct UnsavedSettings {
-  bool window = false, calibration = false;
+  bool window = false, calibration = false, liveGraph = false;
   bool recentCleared = false;  ///< before `recent` came
   std::vector<RecentFile> recent;
 };
@@ -40,6 +40,7 @@ struct UnsavedSettings {
 struct Settings {
   std::string folder;              ///< of "Lumivex.ini" and of the files of sessions; empty: nothing is kept
   std::string windowPlace;         ///< the window's size and place, in the words of the window system; empty: none yet
+  bool liveGraph = true;           ///< the graph follows what is typed
   std::vector<RecentFile> recent;  ///< the last first
   UnsavedSettings unsaved;
   ProgramIdentity program;      ///< this program

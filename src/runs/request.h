@@ -29,6 +29,7 @@ enum class Difference { None, MieLessDebye, RaysLessDebye, DebyeLessRays };
 /// The partial waves that the Debye terms are summed over, as ratios of x.
 struct PartialWaveRange {
   double first = 0.2, last = 0.4;
+  bool operator==(const PartialWaveRange&) const = default;
 };
 
 /// How a sphere whose index goes with the radius is taken apart into uniform layers.
@@ -36,6 +37,7 @@ struct ProfileLayers {
   IndexProfile profile;
   int layers = 128;
   bool byTangents = false;  ///< see LayeredSphereByTangents
+  bool operator==(const ProfileLayers&) const = default;
 };
 
 /// The light that a sphere stands in: a plane wave, or beams along the same axis that are polarised along x. Lengths
@@ -63,6 +65,7 @@ struct SurfaceWaveOptions {
   SurfacePath path = SurfacePath::Both;
   int firstPole = 1, lastPole = 10;
   double amplitude = 1;  ///< factor on S1 and S2
+  bool operator==(const SurfaceWaveOptions&) const = default;
 };
 
 /// Rays of a drop that is no sphere. The radius is that of the sphere of equal volume.
@@ -74,12 +77,14 @@ struct DropOptions {
   double clockHalfWidth = 0;        ///< radians; 0 for all round
   double rays = 4e6;
   bool sky = false;  ///< a table by angle and clock angle is made as well
+  bool operator==(const DropOptions&) const = default;
 };
 
 /// A sphere before a white surface.
 struct DewOptions {
   double distance = 2;  ///< of the surface from the centre (radii)
   double slope = 0;     ///< of its normal to the sun (radians)
+  bool operator==(const DewOptions&) const = default;
 };
 
 /// How one sphere is calculated, whatever its size.
@@ -106,6 +111,7 @@ struct MethodOptions {
 
   /// Of p = 0 alone.
   bool OnlyReflected() const { return rays.size() == 1 && rays[0] != 0; }
+  bool operator==(const MethodOptions&) const = default;
 };
 
 /// What of a coated sphere stays as it is while its size varies.
@@ -120,6 +126,7 @@ struct SphereCore {
   double radius = 7.5;  ///< um, less than that of the sphere
   Material material = FixedIndex{1.5, 0};
   CoatedSizes sizes = CoatedSizes::FixedCore;
+  bool operator==(const SphereCore&) const = default;
 };
 
 /// The sphere and the medium about it. Of a coated sphere `sphere` is the coating; of one whose index is a profile it
@@ -130,6 +137,7 @@ struct Particle {
   Material sphere = FixedIndex{1.33, 0};
   Material medium = Vacuum{};
   std::optional<SphereCore> core = std::nullopt;
+  bool operator==(const Particle&) const = default;
 };
 
 /// Wavelengths with their weights and colours; first index 1.
@@ -141,6 +149,7 @@ struct SpectrumOfLight {
   int Count() const { return wavelength.empty() ? 0 : static_cast<int>(wavelength.size()) - 1; }
   /// The one in the middle, which stands for the others where only one can be told.
   int Middle() const { return (Count() + 1) / 2; }
+  bool operator==(const SpectrumOfLight&) const = default;
 };
 
 struct Light {
@@ -148,6 +157,7 @@ struct Light {
   std::optional<SpectrumOfLight> spectrum;  ///< of more than one wavelength
   double incidentDensity = 100;             ///< W/m2
   double distance = 1;                      ///< of the observer (m)
+  bool operator==(const Light&) const = default;
 };
 
 /// Rows of scattering angle: row j is (j - 1) step degrees.
@@ -165,22 +175,26 @@ struct AngleRows {
     constexpr double degree = std::numbers::pi / 180;
     return origin ? AngleGrid::From(*origin * degree, step * degree, NANG) : AngleGrid(NANG);
   }
+  bool operator==(const AngleRows&) const = default;
 };
 
 // The families. One alternative each; what they share stands in RunRequest.
 
 struct AngleRun {
   AngleRows rows;
+  bool operator==(const AngleRun&) const = default;
 };
 /// A spectrum against scattering angle.
 struct SpectrumRun {
   AngleRows rows;
+  bool operator==(const SpectrumRun&) const = default;
 };
 /// A short pulse in place of steady light, and where its times are counted from.
 struct PulsedLight {
   PulseRequest pulse;
   bool fromCentre = false;  ///< see ResponseClock
   bool correlated = false;  ///< what is found is correlated with the pulse, as by CorrelationOf
+  bool operator==(const PulsedLight&) const = default;
 };
 
 /// Points along an axis.
@@ -193,24 +207,29 @@ struct AxisRun {
   bool constantVolume = false;  ///< per volume of the spheres
   struct Range {
     double low = 0, high = 180, step = 0.1;  ///< degrees
-  } range;                                   ///< of a scattered power
+    bool operator==(const Range&) const = default;
+  } range;  ///< of a scattered power
   /// Of an answer to a pulse: the axis is time (fs), its points are all samples from `xmin` on.
   std::optional<PulsedLight> pulse = std::nullopt;
+  bool operator==(const AxisRun&) const = default;
 };
 struct ConvergenceRun {
   /// What the sums of a beam, which are double, run over; those of a plane wave have one number of terms.
   enum class Over { L, M };
   double angle = 0;  ///< degrees
   Over over = Over::L;
+  bool operator==(const ConvergenceRun&) const = default;
 };
 struct DebyeAnalysisRun {
   double angle = 0;  ///< radians
   int limit = 0;     ///< the highest p
+  bool operator==(const DebyeAnalysisRun&) const = default;
 };
 struct TwoAngleRun {
   double angle1Min = 0, angle1Max = 0, angle2Min = 0, angle2Max = 0;  ///< degrees
   std::vector<double> index;   ///< of the sphere in vacuo, by column, first index 0
   std::vector<double> radius;  ///< um, by row, first index 0
+  bool operator==(const TwoAngleRun&) const = default;
 };
 /// Samples of what a map varies: the first at `low`, the last at `high`.
 struct Sweep {
@@ -222,6 +241,7 @@ struct Sweep {
   double LowShown() const { return fromZero ? 0 : low; }
   int Count() const { return steps + 1; }
   double At(int sample) const;  ///< first index 0
+  bool operator==(const Sweep&) const = default;
 };
 /// Columns of scattering angles: Lee diagrams and maps over angle. A column is a sphere, or a cloud, in the light of
 /// the request: of one wavelength, or of a spectrum whose colours are summed up in each cell.
@@ -230,11 +250,13 @@ struct AngleMapRun {
   Sweep columns;
   bool invWavelength = false;  ///< intensities are freed of the square of the wave number before they are summed
   std::optional<PulsedLight> pulse = std::nullopt;  ///< of columns that are times after a pulse
+  bool operator==(const AngleMapRun&) const = default;
 };
 /// Efficiencies, or intensities at one angle, over two quantities.
 struct EfficiencyMapRun {
   Sweep columns, rows;
   double angle = 0;  ///< radians
+  bool operator==(const EfficiencyMapRun&) const = default;
 };
 /// Many spheres at random places in a cube, whose fields at one angle are added with their phases.
 struct VolumeRun {
@@ -242,6 +264,7 @@ struct VolumeRun {
   int count = 100;         ///< spheres; along an axis of numbers the largest
   double side = 1000;      ///< of the cube (um)
   std::uint64_t seed = 1;  ///< of places, sizes and motion
+  bool operator==(const VolumeRun&) const = default;
 };
 using FamilyRun = std::variant<AngleRun, SpectrumRun, AxisRun, ConvergenceRun, DebyeAnalysisRun, TwoAngleRun,
                                AngleMapRun, EfficiencyMapRun, VolumeRun>;
@@ -274,6 +297,11 @@ struct RunRequest {
 
   bool Cloud() const { return IsCloud(sizes); }
   int Wavelengths() const { return light.spectrum ? light.spectrum->Count() : 1; }
+  /// Whether both ask for the same numbers, whatever words stand with them.
+  bool AsksSame(const RunRequest& other) const {
+    return graph == other.graph && method == other.method && particle == other.particle && light == other.light &&
+           sizes == other.sizes && run == other.run;
+  }
 };
 
 }  // namespace lumivex

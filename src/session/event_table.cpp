@@ -23,6 +23,7 @@
 #include "session/inputs/methods/debye_menus.h"
 #include "session/inputs/two_angle_inputs.h"
 #include "session/inputs/volume_inputs.h"
+#include "session/live/live_events.h"
 #include "session/page.h"
 #include "session/simulation/simulation_events.h"
 #include "session/start_up.h"
@@ -76,6 +77,8 @@ constexpr EventRow eventRows[] = {
     {"dlogFFT.OKButton_Click", dlogFFT_Change},
     {"mnuDiffCrossSection_Click", mnuDiffCrossSection_Click},
     {"mnuConvergence_Click", mnuConvergence_Click},
+    {"mnuLiveGraph_Click", mnuLiveGraph_Click},
+    {"mnuSlider_Click", mnuSlider_Click},
     {"dlogTwoAngle.Show", AskTwoAngle},
     {"dlogTwoAngle.OKButton_Click", dlogTwoAngle_OKButton_Click},
     {"mnuVolumePlace_Click", mnuVolumePlace_Click},

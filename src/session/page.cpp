@@ -98,9 +98,14 @@ void EndMapSeries(MainFormState& s) {
   s.MapReferenceKind = MapValues::Intensity;
 }
 
+const Page& ShownPage(const Session& session) {
+  return session.preview ? session.preview->page : session.page;
+}
+
 void DrawPage(Session& session) {
   session.page = PlacePage(std::move(session.page), GeometryOf(session));
-  Paint(session.page, *session.surface);
+  if (session.preview) session.preview->page = PlacePage(std::move(session.preview->page), session.page.geometry);
+  Paint(ShownPage(session), *session.surface);
 }
 
 void ShowPage(Session& session, Page page) {
@@ -126,7 +131,18 @@ void RecolourPage(Session& session) {
 }
 
 void ShowView(Session& session, const PageView& view) {
-  if (HasXAxis(session.page)) ShowPage(session, WithView(session.page, view, ReadLook(session)));
+  if (!HasXAxis(ShownPage(session))) return;
+  const Look look = ReadLook(session);
+  bool onPage = true;
+  if (session.preview) {
+    Page& preview = session.preview->page;
+    onPage = preview.kind.graph == session.page.kind.graph && preview.home == session.page.home;
+    preview = WithView(std::move(preview), view, look);
+  }
+  if (onPage)
+    ShowPage(session, WithView(session.page, view, look));
+  else
+    DrawPage(session);
 }
 
 }  // namespace lumivex

@@ -5,7 +5,10 @@
 
 namespace lumivex {
 
-/// Paints the page of the main window anew, at the present size of its surface. Calculates nothing and changes no field
+/// What the main window shows: the preview of the present inputs, where there is one, in place of its page.
+const Page& ShownPage(const Session& session);
+
+/// Paints what the main window shows anew, at the present size of its surface. Calculates nothing and changes no field
 /// of the record and no control.
 void DrawPage(Session& session);
 
@@ -30,7 +33,8 @@ void TakeMapReference(Session& session);
 /// Ends a series of maps.
 void EndMapSeries(MainFormState& s);
 
-/// Makes a part of the page's axes the one on the screen. The inputs stay as they are.
+/// Makes a part of the axes the one on the screen, of the page and of a preview on the same axes. The inputs stay as
+/// they are.
 void ShowView(Session& session, const PageView& view);
 
 }  // namespace lumivex

@@ -88,6 +88,7 @@ void Canvas::paintEvent(QPaintEvent*) {
     painter.setPen(QPen(Qt::black, 1.2));
     painter.drawEllipse(centre, markRadiusPx, markRadiusPx);
   }
+  if (!note_.isEmpty()) PaintNote(painter);
   if (firstPainted) QTimer::singleShot(0, this, std::exchange(firstPainted, nullptr));
   if (IsStale() && !resizeTimer_.isActive()) resizeTimer_.start();  // moved to a screen of another density
 }
@@ -144,6 +145,36 @@ void Canvas::SetMark(std::optional<SurfacePoint> mark) {
   const QRect before = MarkArea();
   mark_ = mark;
   update(before.united(MarkArea()));
+}
+
+QRect Canvas::NoteArea() const {
+  if (note_.isEmpty()) return {};
+  constexpr int side = 7, edge = 2, apart = 6;
+  const QSize size = fontMetrics().size(Qt::TextSingleLine, note_) + QSize(2 * side, 2 * edge);
+  const QPoint corner(static_cast<int>(noteCorner_.x * unitPx_), static_cast<int>(noteCorner_.y * unitPx_));
+  return {corner + QPoint(-size.width() - apart, apart), size};
+}
+
+void Canvas::PaintNote(QPainter& painter) const {
+  // The colours of a selection made pale: seen on every background, and no alarm.
+  constexpr float strength = 0.85F;
+  QColor ground = palette().color(QPalette::Highlight);
+  ground.setAlphaF(strength);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(ground);
+  const QRect area = NoteArea();
+  painter.drawRoundedRect(area, area.height() / 2.0, area.height() / 2.0);
+  painter.setPen(palette().color(QPalette::HighlightedText));
+  painter.drawText(area, Qt::AlignCenter, note_);
+}
+
+void Canvas::SetNote(const QString& note, SurfacePoint corner) {
+  if (note == note_ && corner.x == noteCorner_.x && corner.y == noteCorner_.y) return;
+  const QRect before = NoteArea();
+  note_ = note;
+  noteCorner_ = corner;
+  update(before.united(NoteArea()));
 }
 
 void Canvas::keyPressEvent(QKeyEvent* event) {

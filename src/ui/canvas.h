@@ -59,6 +59,11 @@ class Canvas final : public QWidget {
   void SetMark(std::optional<SurfacePoint> mark);
   const std::optional<SurfacePoint>& Mark() const { return mark_; }
 
+  /// A few words in a corner over the drawing, which is not part of it; none for an empty text.
+  /// @param corner  top right, in surface units.
+  void SetNote(const QString& note, SurfacePoint corner);
+  const QString& Note() const { return note_; }
+
   CanvasMouse mouse;
   /// What the drawing shows, for those who hear it; asked when a screen reader asks.
   std::function<std::string()> inWords;
@@ -84,9 +89,13 @@ class Canvas final : public QWidget {
   QPointF UnitsAt(const QPointF& px) const { return px / unitPx_; }
 
   QRect MarkArea() const;
+  QRect NoteArea() const;
+  void PaintNote(QPainter& painter) const;
 
   double unitPx_ = 1.0 / 15;
   std::optional<SurfacePoint> mark_;
+  QString note_;
+  SurfacePoint noteCorner_;
   QPointF panFrom_;
   ImageSurface surface_;
   QTimer resizeTimer_;

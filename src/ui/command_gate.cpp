@@ -46,6 +46,7 @@ CommandGate::~CommandGate() {
 
 bool CommandGate::Do(const Action& command) {
   if (depth_ > 0 && dialogs_ == 0) return false;
+  if (depth_ == 0 && begins) begins();
   if (depth_ == 0) lastServed_ = Clock::now();
   ++depth_;
   const auto leave = qScopeGuard([this] {

@@ -47,6 +47,7 @@ class CommandGate final : public QObject {
     CommandGate& gate_;
   };
 
+  Action begins;                 ///< before an outermost command
   Action refresh;                ///< after every command and before every yield: show what has changed
   Action whenFree;               ///< after the outermost command, before the kept input is delivered
   Action stop;                   ///< Esc during a run

@@ -58,7 +58,7 @@ GraphPointer::GraphPointer(Canvas& canvas, std::function<void(const CommandGate:
   };
   canvas_.mouse.doubleClick = [this](double x, double y) {
     click_.stop();
-    if (ZoneAt({x, y}) != Zone::None) Show(HomeOf(session_->page));
+    if (ZoneAt({x, y}) != Zone::None) Show(HomeOf(ShownPage(*session_)));
   };
   canvas_.mouse.wheel = [this](const CanvasWheel& wheel) { return Wheel(wheel); };
   canvas_.mouse.leave = [this] { Forget(); };
@@ -73,25 +73,26 @@ void GraphPointer::Attach(Session& session) {
 }
 
 bool GraphPointer::Ready() const {
-  return session_ && session_->state.Busy == 0 && HasXAxis(session_->page);
+  return session_ && session_->state.Busy == 0 && HasXAxis(ShownPage(*session_));
 }
 
 GraphPointer::Zone GraphPointer::ZoneAt(SurfacePoint place) const {
   if (!Ready()) return Zone::None;
-  const auto& panels = session_->page.panels;
+  const auto& panels = ShownPage(*session_).panels;
   for (const auto& panel : panels)
     if (panel.box.Holds(place.x, place.y)) return Zone::Plot;
   const GraphBox &main = panels.front().box, &last = panels.back().box;
   const bool besides = place.x >= 0 && place.x < main.left && place.y >= main.top && place.y <= main.bottom;
   if (besides) return Zone::YAxis;
-  const auto bars = BarBoxes(session_->page);
+  const auto bars = BarBoxes(ShownPage(*session_));
   const double foot = bars ? bars->back().bottom : last.bottom + numbersX;
   const bool below = place.y > last.bottom && place.y <= foot;
   return below && place.x >= main.left && place.x <= last.right ? Zone::XAxis : Zone::None;
 }
 
 bool GraphPointer::IsOnTimes(SurfacePoint place) const {
-  return ZoneAt(place) == Zone::Plot && session_->page.map && session_->page.kind.graph.family == Family::Impulse;
+  return ZoneAt(place) == Zone::Plot && ShownPage(*session_).map &&
+         ShownPage(*session_).kind.graph.family == Family::Impulse;
 }
 
 void GraphPointer::Press(SurfacePoint place) {
@@ -104,7 +105,7 @@ bool GraphPointer::Wheel(const CanvasWheel& wheel) {
   const SurfacePoint at{wheel.x, wheel.y};
   const Zone zone = ZoneAt(at);
   if (zone == Zone::None) return false;
-  const Page& page = session_->page;
+  const Page& page = ShownPage(*session_);
   const double factor = std::pow(zoomOfStep, wheel.steps);
   PageView view = ViewOf(page);
   if (zone != Zone::YAxis) view.x = ZoomAt(page, at.x, factor);
@@ -126,7 +127,7 @@ void GraphPointer::Drag(SurfacePoint place) {
 }
 
 void GraphPointer::Pan(double right, double down) {
-  const Page& page = session_->page;
+  const Page& page = ShownPage(*session_);
   PageView view = ViewOf(page);
   view.x = PanBy(page, right);
   // The vertical axis follows what is in view unless it was zoomed itself.
@@ -137,7 +138,7 @@ void GraphPointer::Pan(double right, double down) {
 void GraphPointer::Read(SurfacePoint place) {
   if (!session_) return;
   place_ = place;
-  reading_ = ReadAt(session_->page, place.x, place.y);
+  reading_ = ReadAt(ShownPage(*session_), place.x, place.y);
   canvas_.SetMark(reading_ && reading_->onCurve ? std::optional(reading_->place) : std::nullopt);
   if (readingChanged) readingChanged();
 }
@@ -151,7 +152,7 @@ void GraphPointer::Forget() {
 
 void GraphPointer::Renew() {
   if (place_ && session_) {
-    reading_ = ReadAt(session_->page, place_->x, place_->y);
+    reading_ = ReadAt(ShownPage(*session_), place_->x, place_->y);
     canvas_.SetMark(reading_ && reading_->onCurve ? std::optional(reading_->place) : std::nullopt);
   }
 }
@@ -161,13 +162,13 @@ QString GraphPointer::Text() const {
 }
 
 void GraphPointer::BeginStep() {
-  if (!rest_.isActive()) past_.push_back(ViewOf(session_->page));
+  if (!rest_.isActive()) past_.push_back(ViewOf(ShownPage(*session_)));
   if (past_.size() > mostSteps) past_.erase(past_.begin());
   rest_.start();
 }
 
 void GraphPointer::Show(const PageView& view) {
-  if (view == ViewOf(session_->page)) return;
+  if (view == ViewOf(ShownPage(*session_))) return;
   BeginStep();
   zoomedLast_ = true;
   act_([this, view] { ShowView(*session_, view); });
@@ -189,13 +190,13 @@ QString GraphPointer::Offer() const {
 }
 
 void GraphPointer::Step(int direction) {
-  if (!session_ || session_->page.panels.empty()) return;
+  if (!session_ || ShownPage(*session_).panels.empty()) return;
   if (!reading_ || !reading_->onCurve) {
-    const GraphBox& box = session_->page.panels.front().box;
+    const GraphBox& box = ShownPage(*session_).panels.front().box;
     Read({0.5 * (box.left + box.right), 0.5 * (box.top + box.bottom)});
     return;
   }
-  reading_ = StepAlongCurve(session_->page, *reading_, direction);
+  reading_ = StepAlongCurve(ShownPage(*session_), *reading_, direction);
   place_ = reading_->place;
   canvas_.SetMark(reading_->place);
   if (readingChanged) readingChanged();
@@ -203,7 +204,7 @@ void GraphPointer::Step(int direction) {
 
 void GraphPointer::NextCurve(int direction) {
   if (!session_ || !reading_ || !reading_->onCurve) return Step(1);
-  const auto next = NeighbourCurve(session_->page, *reading_, direction);
+  const auto next = NeighbourCurve(ShownPage(*session_), *reading_, direction);
   if (!next) return;
   reading_ = next;
   place_ = next->place;
@@ -236,11 +237,11 @@ bool GraphPointer::Key(const QKeyEvent& event) {
   const bool home = event.key() == Qt::Key_Home;
   if (!left && !right && !zoomIn && !zoomOut && !home) return false;
   if (!Ready()) return true;
-  const GraphBox& box = session_->page.panels.front().box;
+  const GraphBox& box = ShownPage(*session_).panels.front().box;
   const bool upright = event.key() == Qt::Key_Up || event.key() == Qt::Key_Down;
   if (home) {
-    Show(HomeOf(session_->page));
-  } else if (upright && session_->page.zoomedY) {
+    Show(HomeOf(ShownPage(*session_)));
+  } else if (upright && ShownPage(*session_).zoomedY) {
     Pan(0, (right ? panOfStep : -panOfStep) * box.Height());
   } else if (left || right) {
     Pan((right ? -panOfStep : panOfStep) * box.Width(), 0);
@@ -252,7 +253,7 @@ bool GraphPointer::Key(const QKeyEvent& event) {
 
 void GraphPointer::ZoomX(double factor) {
   // At the reading, where there is one; else at the middle.
-  const Page& page = session_->page;
+  const Page& page = ShownPage(*session_);
   const GraphBox& box = page.panels.front().box;
   const double x = reading_ && reading_->onCurve ? reading_->place.x : 0.5 * (box.left + box.right);
   PageView view = ViewOf(page);

@@ -74,6 +74,13 @@ MainWindow::MainWindow(CommandGate& gate)
       canvas_(new Canvas(scroll_)),
       statusLine_(*statusBar()),
       pointer_(*canvas_, [this](const CommandGate::Action& command) { Act(command); }),
+      live_(
+          *this, *canvas_,
+          [this](const CommandGate::Action& command) {
+            pointer_.LeaveView();
+            Act(command);
+          },
+          [this] { Refresh(); }),
       undoKeys_([this](bool redo) {
         auto& form = session_->form1;
         Act([&] { UserClicks(*session_, redo ? form.mnuRedo : form.mnuUndo); });
@@ -86,7 +93,7 @@ MainWindow::MainWindow(CommandGate& gate)
   setCentralWidget(scroll_);
   setAcceptDrops(true);
   canvas_->resized = [this] { Resized(); };
-  canvas_->inWords = [this] { return session_ ? PageInWords(session_->page) : std::string(); };
+  canvas_->inWords = [this] { return session_ ? PageInWords(ShownPage(*session_)) : std::string(); };
   canvas_->mouse.press = [this](double x, double y) {
     // A press on a picture of times may begin a drag: it counts when it has ended as a click.
     if (!pointer_.IsOnTimes({x, y})) Act([this, x, y] { Form_MouseDown(*session_, x, y); });
@@ -101,7 +108,11 @@ MainWindow::MainWindow(CommandGate& gate)
   gate_.whenFree = [this] {
     if (lookIsStale_) TakeNewLook();
     if (canvas_->IsStale()) Resized();
+    // Last: a resize is a command too.
+    if (!gate_.Running() && live_.Follow()) Refresh();
   };
+  gate_.begins = [this] { live_.Pause(); };
+  live_.savePicture = [this](const std::string& path) { return SavePage(ShownPage(*session_), Page(), path); };
   gate_.stop = [this] {
     if (session_->forms.form2.cmdStopSim.Enabled) UserClicks(*session_, session_->forms.form2.cmdStopSim);
     UserClicks(*session_, session_->form1.cmdStop);
@@ -113,7 +124,7 @@ MainWindow::MainWindow(CommandGate& gate)
 }
 
 MainWindow::~MainWindow() {
-  gate_.refresh = gate_.whenFree = gate_.stop = nullptr;
+  gate_.begins = gate_.refresh = gate_.whenFree = gate_.stop = nullptr;
 }
 
 ControlActions MainWindow::Actions() {
@@ -145,6 +156,7 @@ void MainWindow::Attach(Session& session) {
   delete std::exchange(photograph_, nullptr);
   delete std::exchange(impulse_, nullptr);
   delete std::exchange(panel_, nullptr);
+  live_.Attach(session, *menu_);
   RenewInfo();
   FitPanel();
   // The first thing to type is a size.
@@ -230,6 +242,7 @@ void MainWindow::WatchInputs() {
   for (auto* box : panel_->findChildren<QComboBox*>()) box->installEventFilter(this);
   for (auto* edit : panel_->findChildren<QLineEdit*>()) edit->installEventFilter(this);
   undoKeys_.Watch(*panel_);
+  live_.Watch(*panel_);
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
@@ -255,6 +268,10 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
     ShowHelpOfInput();
     return;
   }
+  if (event->key() == Qt::Key_Escape && live_.Escape()) {
+    Refresh();
+    return;
+  }
   if (!IsReturn(event)) {
     QMainWindow::keyPressEvent(event);
     return;
@@ -277,6 +294,10 @@ void MainWindow::ShowHelpOfInput() {
     return;
   }
   session_->platform.Help("");
+}
+
+void MainWindow::ShowSlider() {
+  live_.ShowSlider(focusWidget() ? session_->form1.Find(FromQString(focusWidget()->objectName())) : nullptr);
 }
 
 void MainWindow::NewPlot() {
@@ -336,8 +357,9 @@ void MainWindow::Refresh() {
   }
   panel_->Sync();
   menu_->Sync();
-  info_->Sync(session_->page, canvas_->Unit(), scroll_->maximumViewportSize().width());
-  statusLine_.Show(*session_, pointer_.Offer());
+  info_->Sync(ShownPage(*session_), canvas_->Unit(), scroll_->maximumViewportSize().width());
+  statusLine_.Show(*session_, pointer_.Offer(), live_.Words());
+  live_.Sync();
   for (DialogView* dialog : dialogs_) dialog->Sync();
   for (const auto& window : windows_)
     if (window) window->Sync();

@@ -16,6 +16,7 @@
 #include "ui/graph_pointer.h"
 #include "ui/impulse_window.h"
 #include "ui/info_overlay.h"
+#include "ui/live_view.h"
 #include "ui/menu_view.h"
 #include "ui/page_picture.h"
 #include "ui/panel_density.h"
@@ -43,6 +44,12 @@ class MainWindow final : public QMainWindow {
   void Attach(Session& session);
   /// Shows every control, menu entry and label as it is now, and the drawing.
   void Refresh();
+
+  /// Lets the graph follow the inputs from now on (session/live); a window that runs a script leaves it.
+  void FollowInputs() { live_.Start(); }
+  LiveView& Live() { return live_; }
+  /// Opens the slider beside the input that has the focus.
+  void ShowSlider();
 
   /// Shows a window over a form of the layout and goes on; one that is open comes to the front.
   void Show(Form& form);
@@ -106,6 +113,7 @@ class MainWindow final : public QMainWindow {
   Canvas* canvas_;
   StatusLine statusLine_;
   GraphPointer pointer_;
+  LiveView live_;
   PanelView* panel_ = nullptr;
   InfoOverlay* info_ = nullptr;
   std::size_t density_ = 0;                ///< of the panel

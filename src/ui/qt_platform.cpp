@@ -98,6 +98,10 @@ void QtPlatform::Beep() {
   QApplication::beep();
 }
 
+void QtPlatform::ShowSlider() {
+  if (showSlider) showSlider();
+}
+
 void QtPlatform::Help(std::string_view page) {
   if (!help_) help_ = new HelpWindow(window);
   help_->ShowTopic(page);

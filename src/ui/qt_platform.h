@@ -32,6 +32,7 @@ class QtPlatform final : public Platform {
   /// The window takes a decimal comma for a point, so that no setting of the system stands in the way of its inputs.
   char DecimalSymbol() override { return '.'; }
   void Beep() override;
+  void ShowSlider() override;
   void Help(std::string_view page) override;
   void BringToFront(Form& form) override;
   std::string SavePicture(std::string_view path) override;
@@ -46,6 +47,7 @@ class QtPlatform final : public Platform {
   std::function<void(Form&)> show;       ///< modeless
   std::function<bool(Form&)> showModal;  ///< true is OK
   std::function<void(Form&)> bringToFront;
+  std::function<void()> showSlider;
   std::function<std::string(std::string_view)> savePicture;  ///< returns a sentence on what went wrong
 
  private:

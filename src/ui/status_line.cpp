@@ -86,9 +86,11 @@ void StatusLine::ShowReading(const QString& text) {
   reading_->setVisible(!text.isEmpty());
 }
 
-void StatusLine::Show(const Session& session, const QString& offer) {
+void StatusLine::Show(const Session& session, const QString& offer, const QString& live) {
   const auto& form = session.form1;
-  SetText(*status_, ToQString(StatusText(session)) + (offer.isEmpty() ? offer : "      " + offer));
+  QStringList parts = {live, ToQString(StatusText(session)), offer};
+  parts.removeAll(QString());
+  SetText(*status_, parts.join("      "));
   SetText(*average_, form.mnuAverage.Checked ? ToQString(form.lblAverage.Caption) : QString());
   const bool busy = form.txtProgress.Visible;
   const int percent = std::clamp(static_cast<int>(session.state.ProgressPercent), 0, 100);

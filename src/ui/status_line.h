@@ -28,7 +28,8 @@ class StatusLine {
   /// What is read off the graph; empty where the pointer is elsewhere.
   void ShowReading(const QString& text);
   /// @param offer  what a key would do now; empty where it does nothing.
-  void Show(const Session& session, const QString& offer);
+  /// @param live   how the graph stands to the inputs, which comes first; empty where it shows them.
+  void Show(const Session& session, const QString& offer, const QString& live);
   /// Takes up the font of the desktop.
   void Measure();
 

@@ -16,8 +16,10 @@ WindowedSession::WindowedSession() : platform_(gate_), window_(gate_), open_(pla
   platform_.showModal = [this](Form& form) { return window_.ShowDialog(form); };
   platform_.bringToFront = [this](Form& form) { window_.BringToFront(form); };
   platform_.savePicture = [this](std::string_view path) { return window_.SavePicture(path); };
+  platform_.showSlider = [this] { window_.ShowSlider(); };
   AddFileEvents(open_);
   window_.Attach(open_.Get());
+  window_.FollowInputs();
 }
 
 void WindowedSession::Load() {
@@ -49,6 +51,8 @@ void WindowedSession::End() {
   const std::string place = window_.Place();
   settings.unsaved.window = place != settings.windowPlace;
   settings.windowPlace = place;
+  // Undo may have taken the tick back.
+  settings.unsaved.liveGraph |= Current().form1.mnuLiveGraph.Checked != settings.liveGraph;
   Save_ini(open_.Get());
   EndSession(open_.Get());
 }

@@ -13,33 +13,6 @@ namespace lumivex {
 
 namespace {
 
-/// The parts of the record that inputs put there, and those that say how the inputs are read.
-void CopyInputParts(const MainFormState& from, MainFormState& to) {
-  static_cast<RunState&>(to) = from;
-  static_cast<OpticalState&>(to) = from;
-  static_cast<AxisState&>(to) = from;
-  static_cast<MaterialState&>(to) = from;
-  static_cast<LightState&>(to) = from;
-  static_cast<SizeState&>(to) = from;
-  static_cast<ColourState&>(to) = from;
-  static_cast<GraphState&>(to) = from;
-  static_cast<RayState&>(to) = from;
-}
-
-/// Lists and captions, which a snapshot of the values has not.
-void CopyLooks(Form& from, Form& to) {
-  for (std::size_t i = 0; i < from.Controls().size(); ++i) {
-    Control& source = *from.Controls()[i];
-    Control& target = *to.Controls()[i];
-    target.Visible = source.Visible;
-    target.Enabled = source.Enabled;
-    if (source.Kind() == ControlKind::SelectionList)
-      static_cast<SelectionList&>(target).Items = static_cast<SelectionList&>(source).Items;
-    if (source.Kind() == ControlKind::MenuEntry)
-      static_cast<MenuEntry&>(target).Caption = static_cast<MenuEntry&>(source).Caption;
-  }
-}
-
 void RaiseTicked(Session& session, const std::vector<MenuEntry*>& entries) {
   for (const MenuEntry* entry : entries)
     if (entry->Checked) {
@@ -107,17 +80,9 @@ void TickAlone(const std::vector<MenuEntry*>& entries, const MenuEntry& ticked) 
   for (MenuEntry* entry : entries) entry->Checked = entry == &ticked;
 }
 
-InputSheet::InputSheet(Session& session)
-    : surface_(session.surface->ScaleWidth(), session.surface->ScaleHeight()), open_(platform_, surface_) {
-  Session& sheet = open_.Get();
+InputSheet::InputSheet(Session& session) : copy_(session) {
   NoteNumbers();
-  CopyInputParts(session.state, sheet.state);
-  sheet.state.Busy = 1;  // nothing is drawn
-  sheet.state.RestoringSettings = 1;
-  sheet.state.PlotMode = 1;
-  const auto from = session.forms.All(), to = sheet.forms.All();
-  for (std::size_t i = 0; i < from.size(); ++i) CopyLooks(*from[i], *to[i]);
-  RestoreInputs(sheet, PresentInputs(session));
+  copy_.Take(session);
   for (Number& number : numbers_) number.present = number.field->Text;
 }
 
@@ -163,12 +128,13 @@ void InputSheet::Settle() {
 }
 
 std::string InputSheet::Fault() {
-  platform_.told.clear();
   Session& sheet = Inputs();
+  copy_.World().told.clear();
   if (std::string fault = FaultOfInputs(sheet); !fault.empty()) return fault;
   const bool good = InputsHold(sheet);
   if (good) return {};
-  return platform_.told.empty() ? "an input that is marked as bad" : platform_.told.front();
+  const auto& told = copy_.World().told;
+  return told.empty() ? "an input that is marked as bad" : told.front();
 }
 
 std::string InputSheet::FaultOfShown(const InputState& shown) {

@@ -3,41 +3,16 @@
 #include <string>
 #include <vector>
 
-#include "record/recording_surface.h"
-#include "session/open_session.h"
+#include "session/input_copy.h"
 
 namespace lumivex {
 
-/// An outside world without a user: every question is a no, and what is told is kept.
-class SilentPlatform final : public Platform {
- public:
-  void Message(std::string_view, std::string_view text) override { told.emplace_back(text); }
-  bool Question(std::string_view, std::string_view) override { return false; }
-  std::optional<std::string> OpenFileName(const FileDialog&) override { return std::nullopt; }
-  std::optional<std::string> SaveFileName(const FileDialog&) override { return std::nullopt; }
-  bool ShowModal(Form&) override { return false; }
-  void Show(Form&) override {}
-  void Yield() override {}
-  double Timer() override { return 0; }
-  ScreenSize Screen() override { return {}; }
-  char DecimalSymbol() override { return '.'; }
-  void Beep() override {}
-  void Help(std::string_view) override {}
-  void BringToFront(Form&) override {}
-  std::string SavePicture(std::string_view) override { return {}; }
-  void CopyText(std::string_view) override {}
-  void Quit() override {}
-
-  std::vector<std::string> told;
-};
-
-/// A copy of a session's inputs to read a file into, or to write one from: forms, menus and the parts of the record
-/// that inputs put there. What is done to it is nothing to the session, so that a file that turns out to be bad halfway
-/// leaves no trace.
+/// A copy of a session's inputs to read a file into, or to write one from. What is done to it is nothing to the
+/// session, so that a file that turns out to be bad halfway leaves no trace.
 class InputSheet {
  public:
   explicit InputSheet(Session& session);
-  Session& Inputs() { return open_.Get(); }
+  Session& Inputs() { return copy_.Inputs(); }
 
   /// Chooses what stands in the lists and menus (graph, method, sizes, light, materials), as a user who answers each
   /// dialog with what stands in it, so that names and captions follow; the values stay.
@@ -63,9 +38,7 @@ class InputSheet {
   /// Fields that hold numbers do so from the start.
   void NoteNumbers();
 
-  SilentPlatform platform_;
-  RecordingSurface surface_;
-  OpenSession open_;
+  InputCopy copy_;
   std::vector<Number> numbers_;
 };
 

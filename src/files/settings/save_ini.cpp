@@ -18,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view window = "Window", calibration = "Calibration", recentSection = "Recent";
+constexpr std::string_view window = "Window", calibration = "Calibration", graph = "Graph", recentSection = "Recent";
 constexpr std::array<std::string_view, fileKinds> kindWords = {"results", "batch",    "sphere",
                                                                "medium",  "spectrum", "sizes"};
 
@@ -81,6 +81,7 @@ void Change(IniText& ini, const Session& session) {
     ini.Set(calibration, "State", std::to_string(session.state.CalibrationState));
     ini.Set(calibration, "Speed", Shortest(1e-6 / session.state.SecondsPerPairTerm));
   }
+  if (unsaved.liveGraph) ini.Set(graph, "Live", session.form1.mnuLiveGraph.Checked ? "1" : "0");
   if (unsaved.recentCleared || !unsaved.recent.empty()) WriteRecent(ini, Merged(ini, unsaved));
 }
 
@@ -101,12 +102,14 @@ void ReadIni(Session& session) {
   settings.windowPlace = ini.Value(window, "Place").value_or("");
   settings.recent = RecentIn(ini);
   ReadCalibration(session.state, ini);
+  settings.liveGraph = session.form1.mnuLiveGraph.Checked = ini.Number(graph, "Live") != 0.0;
 }
 
 void Save_ini(Session& session) {
   auto& settings = session.settings;
   const auto& unsaved = settings.unsaved;
-  const bool changed = unsaved.window || unsaved.calibration || unsaved.recentCleared || !unsaved.recent.empty();
+  const bool changed =
+      unsaved.window || unsaved.calibration || unsaved.liveGraph || unsaved.recentCleared || !unsaved.recent.empty();
   if (settings.folder.empty() || !changed) return;
   std::vector<RecentFile> recent;
   const std::string failure = iniFileUpdate(PathOf(settings.folder), [&](IniText& ini) {
@@ -115,6 +118,7 @@ void Save_ini(Session& session) {
   });
   if (!failure.empty()) return;
   settings.recent = std::move(recent);
+  settings.liveGraph = session.form1.mnuLiveGraph.Checked;
   settings.unsaved = {};
   // Another program's files are shown too.
   ShowRecentFiles(session);

@@ -13,32 +13,42 @@ namespace lumivex {
 
 // The models of a refractive index, as values.
 
-struct Vacuum {};
+struct Vacuum {
+  bool operator==(const Vacuum&) const = default;
+};
 struct FixedIndex {
   double n = 1, k = 0;
+  bool operator==(const FixedIndex&) const = default;
 };
 /// A dielectric function e1 + i e2 that does not depend on wavelength.
 struct FixedDielectric {
   double e1 = 1, e2 = 0;
+  bool operator==(const FixedDielectric&) const = default;
 };
 struct SellmeierGlass {
   SellmeierTerms terms;
+  bool operator==(const SellmeierGlass&) const = default;
 };
 /// Tables of water: Ray's and Segelstein's, with or without absorption.
 enum class WaterSource { Ray, Segelstein };
 struct WaterTable {
   WaterSource source = WaterSource::Segelstein;
   bool complex = true;
+  bool operator==(const WaterTable&) const = default;
 };
 /// Water by the formula of the IAPWS, its absorption by Segelstein.
 struct WaterFormula {
   double density = 0.99996382;         ///< g/cm3
   double tempRatio = 278.15 / 273.15;  ///< (T + 273.15) / 273.15
   bool complex = true;
+  bool operator==(const WaterFormula&) const = default;
 };
-struct WaterKayeLaby {};
+struct WaterKayeLaby {
+  bool operator==(const WaterKayeLaby&) const = default;
+};
 struct AirAt {
   double temperature = 0;  ///< C
+  bool operator==(const AirAt&) const = default;
 };
 enum class MetalName { Gold, Silver, Copper };
 struct MetalFilm {
@@ -47,15 +57,18 @@ struct MetalFilm {
   /// Of a sphere in layers: read along straight lines it does not absorb, but gold and silver at exactly the last row;
   /// copper never does. Results saved with coated metals rely on it.
   bool layer = false;
+  bool operator==(const MetalFilm&) const = default;
 };
 struct IndexFromFile {
   std::shared_ptr<const IndexTable> table;
   TableRule rule = TableRule::Linear;
   CubicGate gate;
+  bool operator==(const IndexFromFile&) const = default;
 };
 /// The cubic through four points.
 struct FourPoints {
   std::array<double, 4> lambda{}, n{};
+  bool operator==(const FourPoints&) const = default;
 };
 
 /// A material: whatever gives a refractive index at a wavelength.

@@ -66,6 +66,7 @@ struct FileTable {
 struct CubicGate {
   int rows = 0;           ///< the cubic is used in interval i where i + 3 <= rows
   bool endCubic = false;  ///< the last interval has a cubic of its own; the one before needs row i + 2
+  bool operator==(const CubicGate&) const = default;
 };
 
 struct FileLookup {

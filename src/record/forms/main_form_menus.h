@@ -91,6 +91,10 @@ struct Form1Menus : Form1Inputs {
   MenuEntry mnuXStepLog{*this, "mnuXStepLog", "Logarithmic steps"};
   MenuEntry mnuInvWavelength{*this, "mnuInvWavelength", "Intensity independent of wavelength"};
   MenuEntry mnuConstantVolume{*this, "mnuConstantVolume", "Constant volume"};
+  MenuEntry mnuLiveGraph{*this, "mnuLiveGraph", "Live graph", true,
+                         "The graph follows what is typed and chosen, as long as that takes no time"};
+  MenuEntry mnuSlider{*this, "mnuSlider", "Slider ...", false,
+                      "Sweeps the radius, the wavelength, the index, the temperature or p by hand or as a film"};
 
   // Colour.
   MenuEntry mnuPhoto{*this, "mnuPhoto", "Photo", true};

@@ -96,6 +96,9 @@ constexpr std::array menuRows = {
     MenuRow{"Graph", "mnuXStepLog", AxisFamilies},
     MenuRow{"Graph", "mnuInvWavelength", GraphLook},
     MenuRow{"Graph", "mnuConstantVolume", AxisFamilies},
+    MenuRow{"Graph", "-"},
+    MenuRow{"Graph", "mnuLiveGraph", Always, "Ctrl+L"},
+    MenuRow{"Graph", "mnuSlider", Always, "Ctrl+Shift+L"},
 
     MenuRow{"Colour/Saturation", "mnuPhoto", ColourBars},
     MenuRow{"Colour/Saturation", "mnuFreeze", ColourBars},

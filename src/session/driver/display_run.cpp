@@ -30,6 +30,8 @@ void ShowLastResults(Session& session, Onto onto) {
   constexpr int over = 2;
   auto& s = session.state;
   if (!s.LastResults) return;
+  // What was asked for takes the place of what was tried.
+  session.preview.reset();
   const Look look = ReadLook(session);
   s.SecondLineColour = LineColour(look.pen, s.LastResults->asked.light.lambda).second;
   const auto shown = WithSizesFolded(session);
@@ -52,6 +54,7 @@ void RedrawMap(Session& session) {
 }
 
 void DrawResults(Session& session, const Results& results) {
+  session.preview.reset();
   const Look look = ReadLook(session);
   ShowPage(session, InView(BuildPage(results, look, GeometryOf(session), session.state), session.page, look));
 }

@@ -24,6 +24,7 @@ struct PathCounts {
   bool enters = true;  ///< false: the light that does not enter, and the others are 0
   int Visits() const { return r + 1 - p; }
   PathLabel Label() const;
+  bool operator==(const PathCounts&) const = default;
 };
 
 /// The counts of a label; empty where no way has these numbers.
@@ -54,6 +55,7 @@ PathCounts PathOfOrders(int P, int Q);
 struct WeightedPath {
   PathCounts counts;
   double weight = 1.0;
+  bool operator==(const WeightedPath&) const = default;
 };
 
 /// a_n, b_n of the sum of these ways, each times its weight.
