@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Tests Lumivex: sets up what is missing, builds with warnings as errors, runs every test, then the core's tests once more
-# under the address and undefined-behaviour sanitizers, the fuzz programs for 20 seconds each, and the runs in several
-# threads under the thread sanitizer. --tidy runs clang-tidy over the sources as well.
+# under the address and undefined-behaviour sanitizers (but the records of every pair of graph and method: another test goes
+# through the pairs), the fuzz programs for 20 seconds each, and the runs in several threads under the thread sanitizer.
+# --tidy runs clang-tidy over the sources as well.
 set -euo pipefail
 cd "$(dirname "$0")"
 . cmake/setup.sh

@@ -1,15 +1,15 @@
 #!/bin/sh
 # Fuzzes readers, writers and texts, each program for a bounded time: run.sh [SECONDS]. Builds what is missing in
-# build/fuzz. Each begins with the inputs that once failed (findings/PROGRAM), the examples and what earlier runs kept;
+# build/asan. Each begins with the inputs that once failed (findings/PROGRAM), the examples and what earlier runs kept;
 # an input that fails is left in the folder it prints: mend the fault and put the input, made small, into findings.
 set -eu
 seconds=${1:-60}
 root=$(cd "$(dirname "$0")/../.." && pwd)
-build=$root/build/fuzz
+build=$root/build/asan
 work=${FUZZ_FOLDER:-$build/work}
 cd "$root"
-cmake --preset fuzz >/dev/null
-cmake --build --preset fuzz -j "$(nproc)"
+cmake --preset asan >/dev/null
+cmake --build --preset asan --target fuzz -j "$(nproc)"
 
 seed() { # LETTER FILE
   { printf '%s' "$1"; cat "$2"; } > "$work/input_files.seeds/$1_$(basename "$2")"
@@ -34,10 +34,20 @@ printf '%s\n' 'Lumivex v4.4.00' 'Intensity v. scattering angle' ' Water' 'a vacu
   0.65 Radius 1 1.33 0 0 180 90 Automatic .1 Automatic 1000 .2 900 Log 2 '90 90 90' '1 2 1.5' '3 3 3' \
   > "$work/results_files.seeds/drop"
 
-for program in input_files texts writers batch_files results_files; do
-  echo "== fuzz $program"
-  mkdir -p "$work/$program.kept"
-  "$build/fuzz_$program" -dict="$root/tests/fuzz/words" -max_total_time="$seconds" -max_len=65536 -timeout=10 \
+fuzz() { # PROGRAM
+  mkdir -p "$work/$1.kept"
+  "$build/fuzz_$1" -dict="$root/tests/fuzz/words" -max_total_time="$seconds" -max_len=65536 -timeout=10 \
     -rss_limit_mb=1024 -artifact_prefix="$work/" -print_funcs=0 -verbosity=0 \
-    "$work/$program.kept" "$work/$program.seeds" "$root/tests/fuzz/findings/$program"
+    "$work/$1.kept" "$work/$1.seeds" "$root/tests/fuzz/findings/$1" >"$work/$1.log" 2>&1
+}
+# Two at a time.
+set -- input_files texts writers batch_files results_files
+while [ $# -gt 0 ]; do
+  first=$1 second=${2:-}
+  echo "== fuzz $first $second"
+  fuzz "$first" & pids=$!
+  if [ -n "$second" ]; then fuzz "$second" || { cat "$work/$second.log"; wait; exit 1; }; fi
+  wait "$pids" || { cat "$work/$first.log"; exit 1; }
+  shift
+  [ $# -eq 0 ] || shift
 done

@@ -37,8 +37,9 @@ TEST_F(AxisGraphs, EveryPairOfGraphAndMethodGivesNumbersOrAMessage) {
       if (State().GraphType >= 10) Do("set cboStep " + std::string(Get("mnuXStepLog") == "true" ? "20" : "1"));
       if (State().GraphType == 12) Do("set cboStep 0.02");
       if (State().GraphType == 18) Do("set cboStep 5\nset txtF9_step 5");
-      // A point of dew is a hundred thousand rays.
-      if (method == "Heiligenschein" && State().GraphType >= 10) Do("set cboStep " + CoarseStep());
+      // A point of dew, and of a flattened drop, is hundreds of thousands of rays.
+      if (method == "Heiligenschein") Do("set cboStep " + (State().GraphType >= 10 ? CoarseStep() : std::string("3")));
+      Do("set dlogNonSpherical.cboRayCount 2000");
       runner.World().messages.clear();
       Do("click cmdNewPlot");
       if (!Shown().empty()) continue;

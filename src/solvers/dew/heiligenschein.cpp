@@ -32,32 +32,55 @@ std::size_t HashOf(std::uint64_t cell) {
   return static_cast<std::size_t>((cell * 0x9E3779B97F4A7C15ULL) >> 20);
 }
 
-}  // namespace
+/// Where a ray of a bundle meets the sphere: its distance from the axis, and on which side.
+struct Impact {
+  double b, cosine, sine;
+};
 
-std::vector<Heiligenschein::Ray> Heiligenschein::Bundle(const DewDrop& drop, std::uint64_t seed) {
-  const double m = drop.m;
+/// Strata of equal area, a ray somewhere in each.
+std::vector<Impact> ImpactsOf(std::uint64_t seed) {
   std::mt19937_64 generator(seed);
-  std::vector<Ray> rays;
-  rays.reserve(static_cast<std::size_t>(bundleSide) * azimuthSide);
-  for (int k = 0; k < bundleSide; ++k) {
+  std::vector<Impact> impacts;
+  impacts.reserve(static_cast<std::size_t>(bundleSide) * azimuthSide);
+  for (int k = 0; k < bundleSide; ++k)
     for (int l = 0; l < azimuthSide; ++l) {
       const double b = std::sqrt((k + NextFraction(generator)) / bundleSide);
       const double f = pi * (l + NextFraction(generator)) / azimuthSide;
-      if (b > m) continue;  // totally reflected
-      // Sines and cosines of i and r make those of where the ray leaves, 2 r - i, and where to, 2 (i - r).
-      const double ci = std::sqrt(1 - b * b), sr = b / m, cr = std::sqrt(1 - sr * sr);
-      const double s2r = 2 * sr * cr, c2r = 1 - 2 * sr * sr;
-      const double placeSine = s2r * ci - c2r * b, placeCosine = c2r * ci + s2r * b;
-      const double half = b * cr - ci * sr, halfCosine = ci * cr + b * sr;
-      const double turnSine = 2 * half * halfCosine, turnCosine = 1 - 2 * half * half;
-      const double cf = std::cos(f), sf = std::sin(f);
-      rays.push_back({placeSine * cf, placeSine * sf, placeCosine, -turnSine * cf, -turnSine * sf, turnCosine,
-                      TransmissionOfBoth(ci, cr, m) * std::exp(-drop.absorption * 2 * cr) * pi /
-                          (static_cast<double>(bundleSide) * azimuthSide)});
+      impacts.push_back({b, std::cos(f), std::sin(f)});
     }
-  }
-  return rays;
+  return impacts;
 }
+
+// The same for every drop, and along an axis there is another drop at each point.
+const std::vector<Impact>& SunImpacts() {
+  static const std::vector<Impact> impacts = ImpactsOf(sunSeed);
+  return impacts;
+}
+
+const std::vector<Impact>& ObserverImpacts() {
+  static const std::vector<Impact> impacts = ImpactsOf(observerSeed);
+  return impacts;
+}
+
+/// What `visit` gets is a ray of a bundle along z, as it leaves the sphere.
+template <class Ray, class Visit>
+void EachRay(const DewDrop& drop, const std::vector<Impact>& impacts, Visit visit) {
+  const double m = drop.m, area = pi / (static_cast<double>(bundleSide) * azimuthSide);
+  for (const auto& [b, cf, sf] : impacts) {
+    if (b > m) continue;  // totally reflected
+    // Sines and cosines of i and r make those of where the ray leaves, 2 r - i, and where to, 2 (i - r).
+    const double ci = std::sqrt(1 - b * b), sr = b / m, cr = std::sqrt(1 - sr * sr);
+    const double s2r = 2 * sr * cr, c2r = 1 - 2 * sr * sr;
+    const double placeSine = s2r * ci - c2r * b, placeCosine = c2r * ci + s2r * b;
+    const double half = b * cr - ci * sr, halfCosine = ci * cr + b * sr;
+    const double turnSine = 2 * half * halfCosine, turnCosine = 1 - 2 * half * half;
+    const double passed = drop.absorption == 0 ? 1 : std::exp(-drop.absorption * 2 * cr);
+    visit(Ray{placeSine * cf, placeSine * sf, placeCosine, -turnSine * cf, -turnSine * sf, turnCosine,
+              TransmissionOfBoth(ci, cr, m) * passed * area});
+  }
+}
+
+}  // namespace
 
 Heiligenschein::Landing Heiligenschein::Land(const Ray& ray, double cosine, double sine) const {
   const double x = ray.x * cosine - ray.z * sine, z = ray.x * sine + ray.z * cosine;
@@ -89,15 +112,16 @@ Heiligenschein::Heiligenschein(const DewDrop& drop)
       cosSlope_(std::cos(drop.slope)),
       sinSlope_(std::sin(drop.slope)),
       side_(drop.distance * drop.resolution),
-      observer_(Bundle(drop, observerSeed)),
       spots_(std::size_t{1} << 19, Spot{emptyCell, 0.0}),
       lit_(litBits / wordBits) {
+  observer_.reserve(ObserverImpacts().size());
+  EachRay<Ray>(drop, ObserverImpacts(), [&](const Ray& ray) { observer_.push_back(ray); });
   const std::size_t mask = spots_.size() - 1;
   // Both halves of the sun's bundle land in a cell of |y|, which is as large as two.
   const double share = 1 / (2 * side_ * side_);
-  for (const Ray& ray : Bundle(drop, sunSeed)) {
+  EachRay<Ray>(drop, SunImpacts(), [&](const Ray& ray) {
     const Landing landing = Land(ray, 1, 0);
-    if (!landing.meets) continue;
+    if (!landing.meets) return;
     const std::uint64_t cell = Cell(landing);
     const std::size_t hash = HashOf(cell), bit = hash & (litBits - 1);
     lit_[bit / wordBits] |= std::uint64_t{1} << (bit % wordBits);
@@ -105,7 +129,7 @@ Heiligenschein::Heiligenschein(const DewDrop& drop)
     while (spots_[i].cell != cell && spots_[i].cell != emptyCell) i = (i + 1) & mask;
     spots_[i].cell = cell;
     spots_[i].weight += ray.weight * share;
-  }
+  });
 }
 
 DewBrightness Heiligenschein::At(double delta) const {

@@ -54,7 +54,6 @@ class Heiligenschein {
     double x, y;  ///< across the sunlight
     bool meets;
   };
-  static std::vector<Ray> Bundle(const DewDrop& drop, std::uint64_t seed);
   Landing Land(const Ray& ray, double cosine, double sine) const;
   std::uint64_t Cell(const Landing& landing) const;
   double WeightOf(std::uint64_t cell) const;
