@@ -1,8 +1,10 @@
 /// The rainbows of a flattened drop along the clock.
 
+#include <array>
 #include <cmath>
 #include <limits>
 #include <numbers>
+#include <vector>
 
 #include "runs/families.h"
 #include "runs/further_methods.h"
@@ -20,6 +22,24 @@ bool IsSelected(const MethodOptions& options, int p) {
 }
 
 }  // namespace
+
+std::vector<std::array<double, 2>> BowsOfSectors(const Results& results, int sectors) {
+  constexpr int primary = 2, secondary = 3;
+  std::vector<std::array<double, 2>> bows(static_cast<std::size_t>(sectors), {none, none});
+  const MethodOptions& method = results.asked.method;
+  const auto shape = ShapeOfDrop(method.drop, results.last.radius);
+  if (method.method != Method::Burgeroid || !shape) return bows;
+  const DropLight light(method.drop.elevation);
+  for (int sector = 0; sector < sectors; ++sector) {
+    const double clock = (sector + 0.5) / sectors * std::numbers::pi;
+    for (const int p : {secondary, primary}) {
+      if (!IsSelected(method, p)) continue;
+      const auto bow = FindDropBow(*shape, results.last.relativeRe, light, p, clock);
+      if (bow) bows[static_cast<std::size_t>(sector)][p == primary ? 1 : 0] = bow->angle / degree;
+    }
+  }
+  return bows;
+}
 
 Refusal SolveBows(const RunRequest& request, const Setting& setting, TaskPool& pool, AxisFound& found) {
   SphereAsked asked{setting.x, setting.mRe, setting.mIm, {}, {}, nullptr};

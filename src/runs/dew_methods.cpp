@@ -74,7 +74,8 @@ class DewRows {
 
 Refusal BeyondDew(double x) {
   if (x >= leastSizeOfRays) return {};
-  return {"Heiligenschein", "Heiligenschein needs a larger sphere: its size parameter x must be at least 10"};
+  return {"Heiligenschein", "Heiligenschein needs a larger sphere: its size parameter x must be at least 10",
+          InputAtFault::Size};
 }
 
 SphereSolution Dew(const MethodOptions& options, const SphereAsked& asked, RunMonitor& monitor) {

@@ -16,8 +16,8 @@ constexpr double pi = std::numbers::pi;
 constexpr double mmPerRadius = 2e-3;  // of a drop's size, by um
 constexpr int skySectors = 72;        // of two degrees and a half
 
-Refusal DropRefusal(std::string text) {
-  return {"Flattened drops", std::move(text)};
+Refusal DropRefusal(std::string text, InputAtFault at = InputAtFault::Size) {
+  return {"Flattened drops", std::move(text), at};
 }
 
 DropMaterial MaterialOf(const SphereAsked& asked) {
@@ -122,7 +122,8 @@ std::optional<DropShape> ShapeOfDrop(const DropOptions& options, double radius) 
 Refusal BeyondDrops(const MethodOptions& options, const SphereAsked& asked) {
   if (std::ranges::none_of(options.rays, [](int p) { return p != 0; })) return NoRays();
   if (!(options.drop.rays >= 1)) return NoRays();
-  if (!(asked.mRe > 1)) return DropRefusal("Flattened drops need a refractive index greater than that of the medium");
+  if (!(asked.mRe > 1))
+    return DropRefusal("Flattened drops need a refractive index greater than that of the medium", InputAtFault::None);
   if (asked.x < leastSizeOfRays)
     return DropRefusal("Flattened drops need a larger size: the size parameter x must be at least 10");
   const auto shape = ShapeOfDrop(options.drop, asked.radius);

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <array>
 #include <functional>
 #include <optional>
+#include <vector>
 
+#include "runs/results.h"
 #include "runs/sphere_solver.h"
 #include "runs/task_pool.h"
 #include "solvers/drops/drop_rainbow.h"
@@ -21,6 +24,10 @@ SphereSolution SurfaceWavesInParts(const MethodOptions& options, const SphereAsk
 
 /// Fits a drop of a radius (um); nothing where no drop is so large.
 std::optional<DropShape> ShapeOfDrop(const DropOptions& options, double radius);
+/// Where the secondary and the primary bow of a sphere's drops stand in the middle of each of so many equal sectors of
+/// the clock, from the top of the bow to its foot: scattering angles (degrees), not a number where one is not counted
+/// or has ended.
+std::vector<std::array<double, 2>> BowsOfSectors(const Results& results, int sectors);
 /// No rays, no index above 1, too small, larger than drops get, or concave.
 Refusal BeyondDrops(const MethodOptions& options, const SphereAsked& asked);
 /// After a Stop all rows are there, counted from the rays that were traced.

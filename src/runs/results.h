@@ -28,7 +28,7 @@ enum class Outcome {
 };
 
 /// The input that is to blame for a refusal.
-enum class InputAtFault { None, StandardDeviation, Distribution };
+enum class InputAtFault { None, StandardDeviation, Distribution, Size };
 
 /// What is told of a refused run.
 struct Refusal {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <limits>
 #include <numbers>
 
 #include "sky/paint_sky.h"
@@ -106,6 +107,34 @@ TEST(LightTable, LiesOnStraightLinesBetweenItsRowsAndEndsAtThem) {
   EXPECT_TRUE(table.Holds(14));
   EXPECT_FALSE(table.Holds(14.001));
   EXPECT_FALSE(table.Holds(9.999));
+}
+
+// Between two sectors a bow stands between its places in both, as bright as in them.
+TEST(LightTable, BowsMoveEvenlyFromSectorToSector) {
+  LightTable table{0, 1, std::vector<PolarisedLight>(181)};
+  constexpr double nowhere = std::numeric_limits<double>::quiet_NaN();
+  const auto sector = [&](int secondary, int primary) {
+    std::vector<PolarisedLight> rows(181);
+    const ColourTriple red{100, 0, 0}, green{0, 100, 0};
+    if (secondary > 0) rows[static_cast<std::size_t>(secondary)] = {green, green};
+    rows[static_cast<std::size_t>(primary)] = {red, red};
+    table.sectors.push_back(std::move(rows));
+    table.bows.push_back({secondary > 0 ? secondary : nowhere, static_cast<double>(primary)});
+  };
+  sector(128, 140);
+  sector(126, 146);
+  sector(0, 150);
+  const auto light = [&](double sectorsFromTop, double angle) {
+    return LightOfSectors(table, (sectorsFromTop + 0.5) / 3 * std::numbers::pi, angle, 0.5, 0.5);
+  };
+  EXPECT_NEAR(light(0, 140).r, 100, 1e-9);
+  EXPECT_NEAR(light(0.5, 143).r, 100, 1e-9);
+  EXPECT_NEAR(light(0.5, 140).r, 0, 1e-9);
+  EXPECT_NEAR(light(0.25, 127.5).g, 100, 1e-9);
+  EXPECT_NEAR(LightOfSectors(table, -std::numbers::pi / 3, 143, 0.5, 0.5).r, 100, 1e-9) << "the other side";
+  // A bow that has ended fades where it was.
+  EXPECT_NEAR(light(1.5, 148).r, 100, 1e-9);
+  EXPECT_NEAR(light(1.5, 0).g + light(1.5, 180).g, 0, 1e-9);
 }
 
 // The top of the bow, its sides and its foot are those of the sky, however the camera stands.

@@ -35,6 +35,7 @@ void Tell(Session& session, const Refusal& refusal) {
   auto& form = session.form1;
   if (refusal.at == InputAtFault::StandardDeviation) form.cboSD.BackColour = colours::BadInput;
   if (refusal.at == InputAtFault::Distribution) form.cboDistrib.BackColour = colours::BadInput;
+  if (refusal.at == InputAtFault::Size && form.txtRadius.Visible) form.txtRadius.BackColour = colours::BadInput;
   session.platform.Message(refusal.title, refusal.text);
 }
 

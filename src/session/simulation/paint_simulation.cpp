@@ -6,6 +6,7 @@
 #include "record/features.h"
 #include "record/number_text.h"
 #include "runs/curves.h"
+#include "runs/further_methods.h"
 #include "session/checks/number_input.h"
 #include "session/driver/lock.h"
 #include "session/inputs/look/read_look.h"
@@ -91,6 +92,8 @@ void StoreLight(Session& session) {
   if (rows == nullptr) return;
   auto light = LightOfBars(session.page, {rows->xmin, rows->xmax}, ReadLook(session).colours.rules);
   if (!light) return;
+  const Results& results = *s.LastResults;
+  if (!light->sectors.empty()) light->bows = BowsOfSectors(results, static_cast<int>(light->sectors.size()));
   simulation.stored = simulation.light = std::make_shared<const LightTable>(std::move(*light));
   simulation.lightWords.clear();
   s.SimTableRows = static_cast<int>(simulation.stored->rows.size());
