@@ -3,10 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "materials/index/material.h"
 #include "pages/maps/map_sides.h"
+#include "pages/run_phrases.h"
 #include "particles/random_places.h"
-#include "record/catalogue/graph_texts.h"
 #include "record/number_text.h"
 #include "runs/curves.h"
 #include "runs/settings.h"
@@ -14,14 +13,6 @@
 namespace lumivex {
 
 namespace {
-
-std::string Number(double value) {
-  return Significant(value, 8);
-}
-
-std::string IndexWords(double real, double imaginary) {
-  return imaginary == 0 ? Number(real) : Number(real) + " + " + Number(imaginary) + " i";
-}
 
 /// First and last of a list and the number between.
 std::string SpanWords(const std::vector<double>& values) {
@@ -45,35 +36,6 @@ std::string SpectrumRange(const SpectrumOfLight& light, int count) {
   const double last = 1000 * double{light.wavelength[static_cast<std::size_t>(count)]};
   if (count == 1) return Significant(first, 6) + " nm";
   return Significant(std::min(first, last), 6) + " to " + Significant(std::max(first, last), 6) + " nm";
-}
-
-constexpr double degreesPerRadian = 180 / 3.14159265358979324;
-
-/// "400 to 700 nm in steps of 0.5 nm".
-std::string AxisRange(double xmin, double xmax, double step, bool logSteps, const std::string& unit) {
-  return Number(xmin) + " to " + Number(xmax) + unit +
-         (logSteps ? " in " + CountOf(step, "step") : " in steps of " + Number(step) + unit);
-}
-
-/// The unit behind a number of the horizontal axis.
-std::string UnitOfAxis(const Graph& graph) {
-  if (graph.AgainstAngle()) return "\u00B0";
-  const std::string unit(XUnitOf(graph));
-  return unit.empty() ? "" : " " + unit;
-}
-
-/// Scattering angles that a graph against something else is for: "140\u00B0", "0 to 180\u00B0"; empty without.
-std::string AnglesAsked(const RunRequest& asked) {
-  if (const auto* analysis = std::get_if<DebyeAnalysisRun>(&asked.run))
-    return Number(analysis->angle * degreesPerRadian) + "\u00B0";
-  if (const auto* convergence = std::get_if<ConvergenceRun>(&asked.run)) return Number(convergence->angle) + "\u00B0";
-  if (const auto* map = std::get_if<EfficiencyMapRun>(&asked.run))
-    return asked.graph.quantity == Quantity::Intensity ? Number(map->angle * degreesPerRadian) + "\u00B0" : "";
-  const AxisRun* axis = AxisOf(asked.run);
-  if (axis == nullptr) return "";
-  if (asked.graph.AtOneAngle()) return Number(axis->angle * degreesPerRadian) + "\u00B0";
-  if (asked.graph.quantity != Quantity::Power) return "";
-  return AxisRange(axis->range.low, axis->range.high, axis->range.step, false, "\u00B0");
 }
 
 /// What the running sums of a series run over.
@@ -129,54 +91,6 @@ void AddLines(std::string_view text, std::vector<std::string>& lines) {
   }
 }
 
-/// The beam; empty in a plane wave.
-std::string BeamWords(const Illumination& light) {
-  if (light.Plane()) return "";
-  const bool disc = light.kind == Illumination::Kind::TopHat;
-  std::string words = std::string(disc ? "Top hat" : "Gaussian") + " beam: x0 = " + Number(light.x0) +
-                      ", y0 = " + Number(light.y0) + ", z0 = " + Number(light.z0) + ", w0 = " + Number(light.w0) +
-                      " \u00B5m";
-  if (light.oneBeam) words += ", tilt " + Number(light.phi * degreesPerRadian) + "\u00B0";
-  if (light.pair) words += ", multiple beams";
-  if (light.central) words += ", central beam";
-  return words;
-}
-
-/// What tells the series of a beam from others beside the beam itself: limits and sums that were typed.
-std::string BeamSumWords(const Illumination& light) {
-  std::string words;
-  const BeamLimits typed = light.limits.value_or(BeamLimits{0, 0});
-  if (typed.Lmax > 0) words = "Lmax = " + std::to_string(typed.Lmax);
-  if (typed.Mmax > 0) words += (words.empty() ? "Mmax = " : ", Mmax = ") + std::to_string(typed.Mmax);
-  if (light.rule.closed) return words;
-  return words + (words.empty() ? "" : ", ") + "sums to j = " + std::to_string(light.rule.Jmax) + " or " +
-         Number(light.rule.error) + (light.rule.logarithms ? "" : " by factorials");
-}
-
-std::string_view NameOf(PulseForm form) {
-  switch (form) {
-    case PulseForm::Rectangular:
-      return "Rectangular";
-    case PulseForm::RaisedCosine:
-      return "Raised cosine";
-    case PulseForm::Hamming:
-      return "Hamming";
-    case PulseForm::AM:
-      return "AM";
-    case PulseForm::FM:
-      return "FM";
-    case PulseForm::Gaussian:
-      break;
-  }
-  return "Gaussian";
-}
-
-const PulsedLight* PulseOf(const RunRequest& asked) {
-  if (const auto* map = std::get_if<AngleMapRun>(&asked.run)) return map->pulse ? &*map->pulse : nullptr;
-  const AxisRun* axis = AxisOf(asked.run);
-  return axis != nullptr && axis->pulse ? &*axis->pulse : nullptr;
-}
-
 void AddMethod(const Results& results, std::vector<std::string>& lines) {
   const RunRequest& asked = results.asked;
   lines.push_back("Method: " + asked.words.method);
@@ -197,59 +111,6 @@ void AddMethod(const Results& results, std::vector<std::string>& lines) {
   if (const std::string pulse = PulseWords(asked); !pulse.empty()) lines.push_back(pulse);
 }
 
-/// Sizes that a table or a model has by itself are those of no radius.
-bool HasRadius(const RunRequest& asked) {
-  if (Sweeps(asked.run, Swept::Radius) || Sweeps(asked.run, Swept::SizeParameter)) return false;
-  if (asked.graph.SizeAxis() || std::holds_alternative<FileSizes>(asked.sizes)) return false;
-  const auto* model = std::get_if<ModelSizes>(&asked.sizes);
-  return model == nullptr || std::holds_alternative<GammaShape>(model->model);
-}
-
-std::string SizesWords(const RunRequest& asked) {
-  const auto* file = std::get_if<FileSizes>(&asked.sizes);
-  if (file == nullptr) return asked.words.sizes;
-  const std::string name = file->name.empty() ? "Special" : "Special (" + file->name + ")";
-  return name + ", " + std::to_string(SamplesOf(asked.sizes, RadiusOfSizes(asked.particle)).Count()) + " sizes";
-}
-
-/// The index along an axis of wavelengths (nm): of the first and of the last one, in its words for one where they are
-/// the same; empty where the material has none at an end.
-std::string IndexAlong(XRange axis, const Material& material, bool medium) {
-  std::string words[2];
-  for (const int end : {0, 1}) {
-    const double lambda = (end == 0 ? axis.xmin : axis.xmax) / 1000;
-    const auto found = medium ? MediumIndexAt(material, lambda).value : IndexAt(material, lambda).value;
-    if (!found) return "";
-    words[end] = IndexWords(found->n, medium ? 0 : found->k);
-  }
-  return words[0] == words[1] ? words[0] : words[0] + " to " + words[1];
-}
-
-/// The wavelengths (nm) that an axis or a map goes through; nothing at one wavelength.
-std::optional<XRange> WavelengthRange(const RunRequest& asked) {
-  if (asked.graph.WavelengthAxis()) {
-    const auto& axis = std::get<AxisRun>(asked.run);
-    return XRange{axis.xmin, axis.xmax};
-  }
-  if (!Sweeps(asked.run, Swept::Wavelength)) return std::nullopt;
-  const Sweep& sweep = std::get<AngleMapRun>(asked.run).columns;
-  return XRange{sweep.low, sweep.high};
-}
-
-/// Refractive index of the sphere, or of the medium, as far as it is one of the run; empty where the axis has it.
-std::string IndexOf(const Results& results, bool medium) {
-  const RunRequest& asked = results.asked;
-  const OpticalIndices& indices = results.last.indices;
-  if (const auto range = WavelengthRange(asked))
-    return IndexAlong(*range, medium ? asked.particle.medium : asked.particle.sphere, medium);
-  if (medium) return Sweeps(asked.run, Swept::MediumIndex) ? "" : Number(indices.MediumInUse());
-  if (Sweeps(asked.run, Swept::SphereAbsorption))
-    return Sweeps(asked.run, Swept::SphereIndex) ? "" : Number(indices.sphereN) + " + that of the axis i";
-  if (!asked.graph.VariesIndex() && !Sweeps(asked.run, Swept::SphereIndex))
-    return IndexWords(indices.sphereN, indices.sphereK);
-  return indices.sphereK == 0 ? "" : "that of the axis + " + Number(indices.sphereK) + " i";
-}
-
 void AddIndex(const Results& results, bool medium, const std::string& middle, std::vector<std::string>& lines) {
   lines.push_back(medium ? results.asked.words.medium : results.asked.words.sphere);
   if (const std::string index = IndexOf(results, medium); !index.empty()) lines.push_back("   n = " + index + middle);
@@ -267,10 +128,6 @@ std::string VariationWords(const Particle& particle) {
       return " of the cores, coating fixed";
   }
   return ", core fixed";
-}
-
-std::string LayersWords(const ProfileLayers& layers) {
-  return std::to_string(layers.layers) + " layers, " + (layers.byTangents ? "old code" : "new code");
 }
 
 void AddSphere(const Results& results, const std::string& middle, std::vector<std::string>& lines) {
@@ -331,70 +188,6 @@ void AddVolume(const Results& results, std::vector<std::string>& lines) {
       asked.Cloud() ? motion : motion + ": D = " + Significant(DiffusionCoefficient(radius), 4) + " \u00B5m\u00B2/s");
 }
 
-/// Whether a material is a number that was typed.
-bool IsTyped(const Material& material) {
-  return std::holds_alternative<FixedIndex>(material) || std::holds_alternative<FixedDielectric>(material);
-}
-
-std::string OnOneLine(std::string text) {
-  std::ranges::replace(text, '\n', ' ');
-  return text;
-}
-
-/// The method by its label, which tells p; by its name where that tells more, as of two forms of diffraction, or where
-/// there is no label.
-std::string MethodMark(const RunRequest& asked) {
-  const std::string label = OnOneLine(asked.words.methodLabel);
-  const bool named = asked.method.method != Method::Mie && !asked.words.method.starts_with(label);
-  return named ? label : asked.words.method;
-}
-
-std::string SizeMark(const Results& results) {
-  const RunRequest& asked = results.asked;
-  if (std::holds_alternative<TwoAngleRun>(asked.run)) return "";
-  std::string radius;
-  if (HasRadius(asked))
-    radius = asked.particle.sizeTyped ? "x = " + Number(*asked.particle.sizeTyped)
-                                      : "r = " + Number(asked.particle.radius) + " \u00B5m";
-  if (!asked.Cloud()) return radius;
-  return SizesWords(asked) + (radius.empty() ? "" : ", " + radius);
-}
-
-/// What tells spheres in layers from others; empty for a homogeneous one.
-std::string LayersMark(const RunRequest& asked) {
-  if (asked.method.method == Method::InhomogeneousSphere) return asked.words.sphereName;
-  if (!asked.particle.core) return "";
-  return asked.words.core + "; " + asked.words.sphere;
-}
-
-std::string MaterialMark(const Results& results, bool medium) {
-  const RunRequest& asked = results.asked;
-  if (!medium && TraitsOf(asked.method.method).layered) return LayersMark(asked);
-  const Material& material = medium ? asked.particle.medium : asked.particle.sphere;
-  const bool varied = !medium && (asked.graph.VariesIndex() || std::holds_alternative<TwoAngleRun>(asked.run));
-  const std::string name(Trim(medium ? asked.words.mediumName : asked.words.sphereName));
-  if (varied || !IsTyped(material)) return varied ? "" : (medium ? "in " : "") + name;
-  return (medium ? "medium n = " : "n = ") + IndexOf(results, medium);
-}
-
-// What tells the volumes of runs from each other.
-
-std::string CountMark(const RunRequest& asked) {
-  const auto* volume = std::get_if<VolumeRun>(&asked.run);
-  const bool told = volume != nullptr && asked.graph.axis != AxisVariable::Number;
-  return told ? "N = " + std::to_string(volume->count) : "";
-}
-
-std::string SideMark(const RunRequest& asked) {
-  const auto* volume = std::get_if<VolumeRun>(&asked.run);
-  return volume != nullptr ? "side " + Number(volume->side) + " \u00B5m" : "";
-}
-
-std::string SeedMark(const RunRequest& asked) {
-  const auto* volume = std::get_if<VolumeRun>(&asked.run);
-  return volume != nullptr ? "seed " + std::to_string(volume->seed) : "";
-}
-
 }  // namespace
 
 std::string RunTitleOf(const Results& results) {
@@ -424,19 +217,11 @@ std::string RunTitleOf(const Results& results) {
 
 std::string MethodLabelOf(const Results& results) {
   // Beside the title there is room for one line.
-  const std::string& label = results.asked.words.methodLabel;
-  return label.substr(0, label.find('\n'));
-}
-
-std::string PulseWords(const RunRequest& asked) {
-  const PulsedLight* light = PulseOf(asked);
-  if (light == nullptr) return "";
-  const PulseRequest& pulse = light->pulse;
-  std::string words = std::string(NameOf(pulse.form)) + " pulse, " + Number(pulse.duration) + " fs, cut-off " +
-                      Number(pulse.cutOff) + " dB, " + std::to_string(pulse.length) + " samples of " +
-                      Number(RoundDecimals(SampleStep(pulse), 4)) + " fs";
-  if (light->fromCentre) words += ", times from the centre";
-  return light->correlated ? words + ", correlated with the pulse" : words;
+  const RunRequest& asked = results.asked;
+  const std::string& label = asked.words.methodLabel;
+  const std::string line = label.substr(0, label.find('\n'));
+  if (asked.graph.quantity != Quantity::BowAngle) return line;
+  return line + ", sun at " + Number(asked.method.drop.elevation * degreesPerRadian) + "\u00B0";
 }
 
 std::vector<std::string> ParameterLinesOf(const Results& results) {
@@ -510,59 +295,6 @@ std::vector<std::string> ChangeLinesOf(const Results& results, const Look& look)
                      : look.fourier->root  ? ", square roots"
                                            : ""));
   return lines;
-}
-
-std::vector<std::string> MarksOf(const Results& results) {
-  const RunRequest& asked = results.asked;
-  const bool oneWavelength = !asked.light.spectrum && !asked.graph.WavelengthAxis();
-  return {MethodMark(asked),
-          asked.method.divideBySize ? "divided by x" : "",
-          BeamWords(asked.method.beam),
-          PulseWords(asked),
-          SizeMark(results),
-          MaterialMark(results, false),
-          MaterialMark(results, true),
-          oneWavelength ? Number(1000 * asked.light.lambda) + " nm" : "",
-          AnglesAsked(asked),
-          CountMark(asked)};
-}
-
-std::vector<std::string> PlaceMarksOf(const Results& results) {
-  return {SideMark(results.asked), SeedMark(results.asked)};
-}
-
-std::vector<std::string> FinerMarksOf(const Results& results) {
-  const RunRequest& asked = results.asked;
-  const std::string sphere = IndexOf(results, false), medium = IndexOf(results, true);
-  double step = 0;
-  if (const AngleRows* rows = RowsOf(asked.run)) step = rows->step;
-  const AxisRun* axis = AxisOf(asked.run);
-  if (axis != nullptr) step = axis->step;
-  const bool logSteps = axis != nullptr && axis->logSteps;
-  return {sphere.empty() ? "" : "n = " + sphere,
-          medium.empty() ? "" : "medium n = " + medium,
-          step == 0  ? ""
-          : logSteps ? CountOf(step, "step")
-                     : "step " + Number(step),
-          asked.words.method,
-          OnOneLine(asked.words.methodLabel),
-          asked.words.paths,
-          BeamSumWords(asked.method.beam),
-          asked.method.method == Method::InhomogeneousSphere ? LayersWords(asked.method.layers) : "",
-          FurtherWordsOf(results)};
-}
-
-std::string FurtherWordsOf(const Results& results) {
-  const MethodOptions& method = results.asked.method;
-  if (method.method == Method::SurfaceWave) {
-    const SurfaceWaveOptions& waves = method.surface;
-    const std::string poles = "J = " + std::to_string(waves.firstPole) + " to " + std::to_string(waves.lastPole);
-    return waves.amplitude == 1 ? poles : poles + ", amplitude times " + Number(waves.amplitude);
-  }
-  const auto& drop = results.last.drop;
-  if (!drop) return "";
-  const std::string asked = Format(drop->raysAsked, "#,##0"), done = Format(drop->raysDone, "#,##0");
-  return (drop->raysDone < drop->raysAsked ? done + " of " + asked : asked) + " rays";
 }
 
 std::string TimeWords(double seconds) {
