@@ -9,6 +9,7 @@
 #include <QRadioButton>
 #include <QSignalBlocker>
 
+#include "ui/access_keys.h"
 #include "ui/canvas.h"
 #include "ui/look.h"
 #include "ui/wrap_label.h"
@@ -190,7 +191,7 @@ void ControlView::SyncValue() {
     }
     case ControlKind::CommandButton: {
       auto* button = static_cast<QPushButton*>(widget_.data());
-      SetCaption(button, ShownText(control_->ShownCaption()));
+      SetCaption(button, WithAccessKey(*button, ShownText(control_->ShownCaption())));
       if (button->isDefault() != static_cast<CommandButton*>(control_)->Default)
         button->setDefault(static_cast<CommandButton*>(control_)->Default);
       break;

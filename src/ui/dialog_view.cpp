@@ -9,6 +9,7 @@
 #include <string>
 
 #include "record/number_text.h"
+#include "ui/access_keys.h"
 #include "ui/canvas.h"
 #include "ui/look.h"
 
@@ -41,6 +42,7 @@ DialogView::DialogView(Form& form, Hooks hooks, QWidget* parent)
   column->addSpacing(6);
   column->addWidget(buttons);
   Sync();
+  AssignAccessKeys(*this);
   for (const auto& view : lines_->Views()) {
     if (view->Widget()->focusPolicy() == Qt::NoFocus || view->Widget()->isHidden()) continue;
     view->Widget()->setFocus();
@@ -72,6 +74,7 @@ void DialogView::TakeNewLook() {
   const QString focused = focusWidget() ? focusWidget()->objectName() : QString();
   BuildLines();
   Sync();
+  AssignAccessKeys(*this);
   if (auto* widget = focused.isEmpty() ? nullptr : body_->findChild<QWidget*>(focused)) widget->setFocus();
   adjustSize();
 }
@@ -80,7 +83,8 @@ void DialogView::Sync() {
   lines_->Sync();
   // A dialog that declares the button has a word of its own for it, and says when it may be pressed.
   if (const Control* button = form_.Find("OKButton")) {
-    ok_->setText(ToQString(button->ShownCaption()));
+    const QString text = WithAccessKey(*ok_, ToQString(button->ShownCaption()));
+    if (ok_->text() != text) ok_->setText(text);
     ok_->setEnabled(button->Enabled);
   }
   DrawPictures();

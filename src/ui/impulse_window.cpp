@@ -13,6 +13,7 @@
 #include "record/layout/impulse_dialog_lines.h"
 #include "session/impulse/impulse_plot.h"
 #include "session/user_actions.h"
+#include "ui/access_keys.h"
 #include "ui/look.h"
 
 namespace lumivex {
@@ -53,6 +54,7 @@ ImpulseWindowView::ImpulseWindowView(CommandGate& gate, Session& session, QWidge
                                      std::vector<MenuRow>(std::begin(impulsePlotMenu), std::end(impulsePlotMenu)),
                                      Actions().clicks);
   panel_->Sync();
+  AssignAccessKeys(*this, KeysOfMenus(*menuBar()));
   side->setFixedWidth(panel_->sizeHint().width() + side->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2);
   canvas_->resized = [this] {
     if (!gate_.Running()) Act([this] { RenewDrawing(); });

@@ -15,6 +15,7 @@
 #include <QMimeData>
 #include <QPointer>
 #include <QScreen>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QTimer>
 #include <QUrl>
@@ -31,6 +32,7 @@
 #include "session/undo.h"
 #include "session/user_actions.h"
 #include "session/window_events.h"
+#include "ui/access_keys.h"
 #include "ui/help/help_topics.h"
 #include "ui/look.h"
 
@@ -120,7 +122,22 @@ MainWindow::MainWindow(CommandGate& gate)
     if (session_->state.StopAnswer != 0) gate_.DropEnter();
     Refresh();
   };
+  AddKeys();
   resize(QSize(startWidthPx, startHeightPx).boundedTo(RoomOnScreen(*this)));
+}
+
+void MainWindow::AddKeys() {
+  const auto add = [this](const QKeySequence& keys, auto action) {
+    connect(new QShortcut(keys, this), &QShortcut::activated, this, action);
+  };
+  add(Qt::CTRL | Qt::Key_N, [this] { NewPlot(); });
+  add(Qt::Key_F5, [this] {
+    auto& replot = session_->form1.cmdReplot;
+    if (!replot.Enabled || !replot.Visible) return NewPlot();
+    Act([this, &replot] { UserClicks(*session_, replot); });
+  });
+  add(Qt::CTRL | Qt::Key_E, [this] { Act([this] { UserClicks(*session_, session_->form1.mnuSavePicture); }); });
+  add(Qt::CTRL | Qt::Key_0, [this] { pointer_.Key(QKeyEvent(QEvent::KeyPress, Qt::Key_Home, Qt::NoModifier)); });
 }
 
 MainWindow::~MainWindow() {
@@ -219,6 +236,7 @@ void MainWindow::BuildPanel(std::size_t density) {
   gate_.stopButton = panel_->WidgetOf(session_->form1.cmdStop);
   WatchInputs();
   panel_->Sync();
+  AssignAccessKeys(*panel_, KeysOfMenus(*menuBar()));
   panel_->show();
   info_->raise();
   if (auto* widget = focused.isEmpty() ? nullptr : panel_->findChild<QWidget*>(focused)) widget->setFocus();

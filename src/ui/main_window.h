@@ -101,6 +101,7 @@ class MainWindow final : public QMainWindow {
   void WatchInputs();
   void Act(const CommandGate::Action& command);
   void NewPlot();
+  void AddKeys();
   /// The guide at what it says of the input under the pointer, or of the one with the focus.
   void ShowHelpOfInput();
   void Resized();

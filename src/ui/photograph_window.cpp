@@ -19,6 +19,7 @@
 #include "session/simulation/simulation_events.h"
 #include "session/simulation/simulation_page.h"
 #include "session/user_actions.h"
+#include "ui/access_keys.h"
 #include "ui/look.h"
 
 namespace lumivex {
@@ -73,6 +74,7 @@ PhotographWindow::PhotographWindow(CommandGate& gate, Session& session, QWidget*
       form_.txtStrength, [](double place) { return RoundDecimals(mostStrength * place, 2); },
       [](double value) { return value / mostStrength; });
   panel_->Sync();
+  AssignAccessKeys(*this, KeysOfMenus(*menuBar()));
   undoKeys_.Watch(*panel_);
   side->setFixedWidth(panel_->sizeHint().width() + side->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2);
   follow_.setSingleShot(true);

@@ -2,8 +2,12 @@
 
 #include <QAccessible>
 #include <QComboBox>
+#include <QPushButton>
+#include <algorithm>
 
+#include "pages/read_out.h"
 #include "record/layout/panel_layout.h"
+#include "ui/access_keys.h"
 #include "ui/window_fixture.h"
 
 namespace lumivex {
@@ -24,6 +28,23 @@ void CollectNameless(QWidget& widget, QStringList& nameless) {
   }
 }
 
+/// The letters that are pressed with Alt, of buttons that are on show and of menus.
+QString KeysOf(QWidget& window) {
+  QString keys = KeysOfMenus(window);
+  for (const auto* button : window.findChildren<QPushButton*>()) {
+    if (!button->isVisibleTo(&window)) continue;
+    const auto at = button->text().indexOf('&');
+    EXPECT_GE(at, 0) << button->text().toStdString() << " has no key";
+    if (at >= 0) keys += button->text()[at + 1].toLower();
+  }
+  return keys;
+}
+
+/// Whether no letter stands for two.
+bool AreDifferent(const QString& keys) {
+  return std::ranges::all_of(keys, [&](QChar key) { return keys.count(key) == 1; });
+}
+
 using AccessTest = WindowTest;
 
 TEST_F(AccessTest, NothingThatCanBeReachedIsNameless) {
@@ -38,6 +59,7 @@ TEST_F(AccessTest, NothingThatCanBeReachedIsNameless) {
       ++opened;
       QStringList inDialog;
       CollectNameless(open, inDialog);
+      EXPECT_TRUE(AreDifferent(KeysOf(open))) << layout.form << ": " << KeysOf(open).toStdString();
       EXPECT_TRUE(inDialog.isEmpty()) << layout.form << ": " << inDialog.join(", ").toStdString();
       open.reject();
     }};
@@ -45,6 +67,36 @@ TEST_F(AccessTest, NothingThatCanBeReachedIsNameless) {
     dialogs.clear();
   }
   EXPECT_EQ(opened, static_cast<int>(Dialogs().size()));
+}
+
+TEST_F(AccessTest, CommandsHaveKeysWhateverHasTheFocus) {
+  EXPECT_TRUE(AreDifferent(KeysOf(program.Window()))) << KeysOf(program.Window()).toStdString();
+  const auto radius = [&] { return Now().state.LastResults->last.radius; };
+  const auto press = [&](Qt::Key key, Qt::KeyboardModifiers with = Qt::NoModifier) {
+    QTest::keyClick(WidgetOf(Form().txtLambda), key, with);
+    // A button that is pressed by its letter shows so for a moment.
+    constexpr int longerThanAPress = 200;
+    QTest::qWait(with == Qt::AltModifier ? longerThanAPress : 1);
+  };
+  Type(Form().txtRadius, "11");
+  press(Qt::Key_N, Qt::ControlModifier);
+  EXPECT_EQ(radius(), 11);
+  Type(Form().txtRadius, "12");
+  press(Qt::Key_N, Qt::AltModifier);
+  EXPECT_EQ(radius(), 12);
+  // Replot, where it is offered, calculates nothing.
+  ASSERT_TRUE(Form().cmdReplot.Enabled);
+  const auto results = Now().state.LastResults;
+  press(Qt::Key_F5);
+  EXPECT_EQ(Now().state.LastResults, results);
+  Form().cmdReplot.Enabled = false;
+  press(Qt::Key_F5);
+  EXPECT_NE(Now().state.LastResults, results);
+  const XRange whole = RangeShown(Now().page);
+  QTest::keyClick(&program.Window().Drawing(), Qt::Key_Plus);
+  EXPECT_FALSE(RangeShown(Now().page) == whole);
+  press(Qt::Key_0, Qt::ControlModifier);
+  EXPECT_EQ(RangeShown(Now().page), whole);
 }
 
 TEST_F(AccessTest, TheGraphTellsItsAxesAndWhereItsCurvesAreHighest) {
