@@ -1,10 +1,9 @@
-# Sourced by run.sh and test.sh: installs what packages.txt names and this machine lacks (Debian).
-lumivex_setup() {
+# Sourced by run.sh, test.sh and package.sh: installs Debian packages that this machine lacks.
+lumivex_install() {
   local missing=() package
-  while read -r package; do
-    [ -z "$package" ] && continue
+  for package in "$@"; do
     dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing+=("$package")
-  done < <(sed 's/#.*//; s/[[:space:]]*$//' packages.txt)
+  done
   [ ${#missing[@]} -eq 0 ] && return 0
   echo "Installing: ${missing[*]}" >&2
   local root=()
@@ -14,4 +13,11 @@ lumivex_setup() {
   fi
   "${root[@]}" apt-get update -qq >&2 || true
   "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >&2
+}
+
+# What packages.txt names.
+lumivex_setup() {
+  local packages
+  mapfile -t packages < <(sed 's/#.*//; s/[[:space:]]//g; /^$/d' packages.txt)
+  lumivex_install "${packages[@]}"
 }
