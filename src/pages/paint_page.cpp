@@ -4,6 +4,7 @@
 #include "pages/bars/bar_place.h"
 #include "pages/build_page.h"
 #include "pages/curves/curve_key.h"
+#include "pages/curves/curve_legends.h"
 #include "pages/curves/curve_path.h"
 #include "pages/frame/frame.h"
 #include "pages/frame/polar_plot.h"
@@ -126,6 +127,7 @@ void Paint(const Page& page, DrawingSurface& surface) {
   if (page.phasors) PaintPhasors(surface, *page.phasors, page.style.ground);
   PaintTwoAngleNotes(surface, page);
   PaintBars(surface, page);
+  PaintLegends(surface, page);
   PaintKey(surface, page, polarLabels);
   PrintTitle(surface, page);
   PaintStrip(surface, page);

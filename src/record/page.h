@@ -62,6 +62,7 @@ struct PageStyle {
   Colour logoColour;
   bool narrowScreen = false;  ///< on which logos at the right of a map begin a little further right
   bool readingsVisible = true;
+  bool legends = false;  ///< the names of curves stand beside their starts, and no key below
 };
 
 /// A second panel below the first; in a polar plot phases turn the curve itself.

@@ -28,6 +28,7 @@ struct DialogSettings {
   int mapReferenceKind = 0;
   SellmeierChoice sellmeier;
   LayerLabels layers;
+  int timePlotRays = 0, timePlotWaves = 0;
   bool operator==(const DialogSettings&) const = default;
 };
 

@@ -32,6 +32,8 @@ void RestoreSettings(MainFormState& s, const DialogSettings& settings) {
   s.MapReferenceKind = static_cast<MapValues>(settings.mapReferenceKind);
   s.Sellmeier = settings.sellmeier;
   s.Layers = settings.layers;
+  s.TimePlotRays = settings.timePlotRays;
+  s.TimePlotWaves = settings.timePlotWaves;
 }
 
 /// What a cancelled dialog puts back, and what the selection of rays comes to, are those of the lists as they stand.
@@ -119,7 +121,9 @@ InputState PresentInputs(Session& session) {
                     s.MapReferenceThird,
                     static_cast<int>(s.MapReferenceKind),
                     s.Sellmeier,
-                    s.Layers};
+                    s.Layers,
+                    s.TimePlotRays,
+                    s.TimePlotWaves};
   for (const Form* form : session.forms.All()) state.forms.push_back(form->Snapshot());
   ForEachCaption(session.form1, [&](Control&, const std::string& caption) { state.captions.push_back(caption); });
   return state;
@@ -141,6 +145,10 @@ void RestoreInputs(Session& session, const InputState& state) {
   ForEachCaption(session.form1, [&](Control&, std::string& caption) {
     if (i < state.captions.size()) caption = state.captions[i++];
   });
+  // What the lines tell of a pulse or of light comes back with its graph.
+  const Graph& graph = ChosenGraph(s);
+  for (Label* line : {&session.form1.lblWatts, &session.form1.lblDistance})
+    line->Visible = (graph.OfPulse() || graph.InUnitsOfLight()) && !line->Caption.empty();
   for (Control* control : session.form1.Controls()) control->BackColour = colours::White;
   s.LoadingFlag = 0;
   Inputs_Changed(session);

@@ -7,7 +7,9 @@
 #include <filesystem>
 #include <fstream>
 
+#include "pages/drawing_reader.h"
 #include "pages/read_out.h"
+#include "record/recording_surface.h"
 #include "runs/pulse_band.h"
 #include "session/impulse/impulse_plot.h"
 #include "session/session_fixture.h"
@@ -171,7 +173,7 @@ TEST_F(Impulse, AShortWindowIsTold) {
 
 TEST_F(Impulse, AClickShowsTheResponseAtItsAngle) {
   Drop("cboFFT=4096 cbodB=-40");
-  Do("set txtF9_max 400\nclick cmdNewPlot");
+  Do("set cboStep 0.5\nset txtF9_max 400\nclick cmdNewPlot");
   Do(Mouse(PlaceOf(90, 200)));
   EXPECT_EQ(Get("ImpulsePlot.cboTheta"), "90");
   EXPECT_EQ(Get("ImpulsePlot.txtXmax"), "400");
@@ -193,6 +195,16 @@ TEST_F(Impulse, AClickShowsTheResponseAtItsAngle) {
   EXPECT_EQ(Get("ImpulsePlot.lblTime"), "Time = 19.54 fs");
   EXPECT_EQ(Get("ImpulsePlot.lblIntensity1"), "Intensity 1 = 1.23E+02");
   EXPECT_EQ(Get("ImpulsePlot.lblIntensity2"), "Intensity 2 = 6.52E+00");
+  // Each curve has its name beside its start.
+  Do("choose ImpulsePlot.cboPol All 3\nclick ImpulsePlot.cmdReplot");
+  const DrawingReader drawing(static_cast<const RecordingSurface&>(*ImpulseWindow(Now()).surface));
+  const auto names = drawing.TextsIn(box);
+  for (const char* name : {"Perpendicular", "Parallel", "Unpolarised"})
+    EXPECT_EQ(std::ranges::count(names, name), 1) << name;
+  // Times of the picture, whatever the panel says by now.
+  Do("set txtF9_max 300\n" + Mouse(PlaceOf(90, 200)));
+  EXPECT_EQ(Get("ImpulsePlot.txtXmax"), "399.79");
+  Do("set txtF9_max 400\n" + Mouse(PlaceOf(90, 200)));
   // Another angle is calculated anew.
   Do("set ImpulsePlot.cboTheta 180");
   EXPECT_TRUE(Now().forms.impulsePlot.cmdReplot.Enabled);
@@ -258,8 +270,14 @@ TEST_F(Impulse, RaysLieOnTheirRidges) {
   // They stay over another look of the picture, and go with Remove.
   Do("set cboBright 2");
   EXPECT_EQ(Drawn().map->marks.size(), 6U);
+  const std::string file = (std::filesystem::temp_directory_path() / "lumivex_ridges.lvx").string();
+  Do("save-results " + file + "\nreset\nload " + file);
+  EXPECT_EQ(Drawn().map->marks.size(), 6U) << "a file has them too";
+  std::filesystem::remove(file);
   Do("click dlogTimePlot.cmdClear");
   EXPECT_TRUE(Drawn().map->marks.empty());
+  Do("click mnuUndo");
+  EXPECT_EQ(Drawn().map->marks.size(), 6U);
   Do("choose cboGraph Intensity v. scattering angle\nclick cmdNewPlot\nclick dlogTimePlot.cmdGO");
   EXPECT_EQ(LastTitle(), "Option not available");
 }
@@ -341,6 +359,34 @@ TEST_F(Impulse, ResultsFilesHoldThePicture) {
   std::filesystem::remove(path);
 }
 
+TEST_F(Impulse, UndoBringsBackWhatIsToldOfThePulse) {
+  Drop("cboFFT=2048");
+  const std::string told = Get("lblWatts");
+  Do("choose cboGraph Intensity v. scattering angle");
+  EXPECT_EQ(Get("lblWatts.Visible"), "false");
+  Do("click mnuUndo");
+  EXPECT_EQ(Get("lblWatts.Visible") + Get("lblDistance.Visible"), "truetrue");
+  EXPECT_EQ(Get("lblWatts"), told);
+  Do("click mnuRedo");
+  EXPECT_EQ(Get("lblWatts.Visible"), "false");
+}
+
+TEST_F(Impulse, RowsThatAStopHasLeftHaveNoCells) {
+  Drop("cboFFT=2048");
+  Do("click cmdNewPlot");
+  Page page = Drawn();
+  // As it is after a stop: the rows up to 60 degrees.
+  page.map->up.samples = {0, 60, 13};
+  const auto reading = [&](double angle) {
+    const SurfacePoint at = PlaceOf(angle, 100);
+    return ReadAt(page, at.x, at.y);
+  };
+  ASSERT_TRUE(reading(50) && reading(150));
+  EXPECT_TRUE(reading(50)->onCurve);
+  EXPECT_FALSE(reading(150)->onCurve);
+  EXPECT_NEAR(reading(150)->y, 150, 0.5);
+}
+
 TEST_F(Impulse, ChangesAfterTheRunLeaveItsFileWhole) {
   const std::string file = (std::filesystem::temp_directory_path() / "lumivex_pulse.lvx").string();
   // Each was once taken for the inputs of the run, and the file could not be read.
@@ -367,10 +413,10 @@ TEST_F(Impulse, CorrelationKeepsTheTimesThatWereTypedAndItsStopTheMenu) {
   EXPECT_EQ(Get("mnuCCF"), "true");
   Do("click mnuCCF\nset txtRadius 30\nset cboStep 0.5\nset txtF9_max 600\nclick cmdNewPlot");
   const auto before = Now().state.LastResults;
-  Do("stop-at 5\nclick mnuCCF");
-  if (Now().state.LastResults == before) {
-    EXPECT_EQ(Get("mnuCCF"), "false");
-  }
+  // There is one block of rows, and a stop within it leaves the picture.
+  Do("stop-at 1\nclick mnuCCF");
+  EXPECT_EQ(Now().state.LastResults, before);
+  EXPECT_EQ(Get("mnuCCF"), "false");
 }
 
 TEST_F(Impulse, LightWithoutAPhaseIsRefused) {

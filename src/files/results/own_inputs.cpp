@@ -49,6 +49,8 @@ void ForEachSetting(DialogSettings& s, Visitor&& visit) {
   visit("LayerSphereKept", s.layers.sphereKept);
   visit("LayerMediumShown", s.layers.mediumShown);
   visit("LayerMediumKept", s.layers.mediumKept);
+  visit("TimePlotRays", s.timePlotRays);
+  visit("TimePlotWaves", s.timePlotWaves);
 }
 
 bool HasText(ControlKind kind) {

@@ -95,8 +95,8 @@ std::vector<Entry> EntriesOf(const Page& page) {
 }
 
 bool HasKey(const Page& page) {
-  // The lines of a chart of two angles carry their names themselves.
-  if (page.panels.empty() || page.kind.IsTwoAngle()) return false;
+  // Where lines carry their names themselves, as those of a chart of two angles, there is none.
+  if (page.panels.empty() || page.kind.IsTwoAngle() || page.style.legends) return false;
   std::size_t count = 0;
   for (const PageCurve& curve : page.curves) {
     if (!StandsInKey(page, curve)) continue;

@@ -33,7 +33,7 @@ void ForEachTick(double step, int decimals, AxisLimits limits, Visit&& visit) {
 std::string EndText(double value, double range) {
   if (value >= scientificFrom) return Format(value, "Scientific");
   // Like the numbers between them, which have no commas.
-  if (value == 0 || value > 10) return std::string(Trim(Str(value)));
+  if (value == 0 || std::fabs(value) > 10) return std::string(Trim(Str(value)));
   double shown = value;
   if (value > 0.05 && range >= 1e-5) shown = RoundTo(value, range < 0.001 ? 6 : 5);
   return Format(shown, range < 1e-5 ? "###,##0.#########" : "###,##0.#######");

@@ -99,6 +99,8 @@ void PaintCurve(DrawingSurface& surface, const Plot& plot, const std::vector<dou
   for (std::size_t i = 0; i < x.size(); ++i)
     if (x[i] >= plot.low && x[i] <= plot.high) points.push_back({plot.X(x[i]), plot.Y(y[i])});
   surface.ForeColour = RGB(0, 0, 192);
+  // Of a pulse shorter than a sample all but one are 0, and what is within the box may be that one alone.
+  if (points.size() == 1) surface.Line(points[0].x, plot.Y(0), points[0].x, points[0].y);
   if (points.size() > 1) surface.Polyline(points);
   surface.ForeColour = colours::Black;
 }

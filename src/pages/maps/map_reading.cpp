@@ -28,6 +28,12 @@ std::string SideText(const MapSide& side, double value) {
   return side.unit.empty() ? number : number + " " + side.unit;
 }
 
+/// Beyond the rows or columns that a stopped run has, there is no cell.
+bool HasSampleAt(const SampleAxis& samples, double value) {
+  const double place = samples.PlaceOf(value);
+  return place >= -1 && place <= samples.count;
+}
+
 int NearestSample(const SampleAxis& samples, double value) {
   return std::clamp(static_cast<int>(std::lround(samples.PlaceOf(value))), 0, std::max(samples.count - 1, 0));
 }
@@ -80,6 +86,10 @@ std::optional<GraphReading> ReadMap(const Page& page, double surfaceX, double su
     reading.panel = i;
     reading.x = MapOf(page, i).XAt(surfaceX);
     reading.y = MapOf(page, i).YAt(surfaceY);
+    if (!HasSampleAt(page.map->across.samples, reading.x) || !HasSampleAt(page.map->up.samples, reading.y)) {
+      reading.text = SideText(page.map->across, reading.x) + "   " + SideText(page.map->up, reading.y);
+      return reading;
+    }
     AddCell(page,
             {i, NearestSample(page.map->across.samples, reading.x), NearestSample(page.map->up.samples, reading.y)},
             reading);

@@ -9,6 +9,7 @@
 #include "session/inputs/dialog_use.h"
 #include "session/inputs/impulse_inputs.h"
 #include "session/page.h"
+#include "session/undo.h"
 
 namespace lumivex {
 
@@ -44,6 +45,8 @@ void Plot(Session& session, int ImpulseState::*shown) {
     return;
   }
   if (!TimePlotHolds(session)) return;
+  // Marks are a look of the picture, which its buttons change like any input.
+  RememberInputs(session, "");
   session.state.*shown = 1;
   RenewLook(session);
 }
@@ -56,6 +59,7 @@ void dlogTimePlot_Change(Session& session) {
 }
 
 void dlogTimePlot_cmdClear_Click(Session& session) {
+  RememberInputs(session, "");
   session.state.TimePlotRays = session.state.TimePlotWaves = 0;
   session.forms.dlogImpulse.chkTimeDelay.Checked = false;
   if (HasPicture(session)) RenewLook(session);

@@ -40,6 +40,33 @@ RunRequest AtAngle(const RunRequest& picture, double angle) {
   return request;
 }
 
+/// The times of the graph on show, whatever the panel says by now: of a picture its columns.
+std::pair<double, double> TimesOnShow(const Session& session) {
+  const RunRequest& request = session.state.LastResults->asked;
+  if (const auto* map = std::get_if<AngleMapRun>(&request.run))
+    return {map->columns.At(0), map->columns.At(map->columns.steps)};
+  const Page& page = session.page;
+  if (!page.panels.empty() && page.kind.graph.family == Family::PulseAnswer)
+    return {page.panels.front().limits.xmin, page.panels.front().limits.xmax};
+  const auto& axis = std::get<AxisRun>(request.run);
+  return {axis.xmin, axis.xmax};
+}
+
+/// As the panel has them where they are still those of the graph: there they are round, samples are not.
+void WriteTimes(Session& session) {
+  constexpr int decimals = 2;
+  auto& form = session.forms.impulsePlot;
+  const Form1& panel = session.form1;
+  const auto [low, high] = TimesOnShow(session);
+  const RunRequest& request = session.state.LastResults->asked;
+  const auto* map = std::get_if<AngleMapRun>(&request.run);
+  const double step = map != nullptr ? map->columns.At(1) - map->columns.At(0) : StepOf(request);
+  const bool same =
+      std::fabs(Val(panel.txtF9_min.Text) - low) <= step && std::fabs(Val(panel.txtF9_max.Text) - high) <= step;
+  form.txtXmin.Text = same ? panel.txtF9_min.Text : Shortest(RoundDecimals(low, decimals));
+  form.txtXmax.Text = same ? panel.txtF9_max.Text : Shortest(RoundDecimals(high, decimals));
+}
+
 /// Whether the results of the window are those of the angle.
 bool HasAngle(const Session& session, double angle) {
   const auto& held = session.impulseResults;
@@ -102,6 +129,10 @@ bool LimitsHold(Session& session) {
   };
   for (Control* input : std::initializer_list<Control*>{&form.txtXmin, &form.txtXmax, &form.cboYmin, &form.cboYmax})
     input->BackColour = colours::White;
+  for (Control* input : std::initializer_list<Control*>{&form.cboYmin, &form.cboYmax}) {
+    const auto& list = *static_cast<SelectionList*>(input);
+    if (LimitOf(list) && !IsNumber(list.Text)) return refuse(*input, "Value must be a number or \"Automatic\"");
+  }
   if (!(Val(form.txtXmin.Text) < Val(form.txtXmax.Text)))
     return refuse(form.txtXmin, "Minimum value must be less than maximum value");
   const auto low = LimitOf(form.cboYmin), high = LimitOf(form.cboYmax);
@@ -184,8 +215,7 @@ void OpenImpulsePlot(Session& session, double angle) {
   const bool picture = IsPicture(*last);
   form.cboTheta.Enabled = picture;
   if (picture) form.cboTheta.Text = Significant(angle, 8);
-  form.txtXmin.Text = session.form1.txtF9_min.Text;
-  form.txtXmax.Text = session.form1.txtF9_max.Text;
+  WriteTimes(session);
   if (!picture) form.cboPol.Text = "All 3";
   if (!TakeAngle(session)) return;
   ImpulseWindow(session);
@@ -201,6 +231,7 @@ void IPgraph(Session& session) {
   FitBottom(*session.impulseResults, look);
   window.page = BuildPage(*session.impulseResults, look, GeometryOfWindow(*window.surface), window.page.scale);
   NameCurves(window.page);
+  window.page.style.legends = true;
   const bool ofAngle = session.impulseResults->asked.graph.quantity == Quantity::Intensity;
   form.Caption = ofAngle ? "Impulse response at " + form.cboTheta.Text + "\u00B0" : "Impulse response";
   ClearReading(form);

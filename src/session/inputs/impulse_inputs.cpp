@@ -326,9 +326,10 @@ void RemarkOnWindow(Session& session) {
 void FollowWavelength(Session& session) {
   auto& dialog = session.forms.dlogImpulse;
   const std::string& lambda = session.form1.txtLambda.Text;
-  if (!ChosenGraph(session.state).OfPulse() || dialog.txtWavelength.Text == lambda) return;
-  if (!IsWithin(lambda, 0, longestWavelength)) return;
+  if (!ChosenGraph(session.state).OfPulse() || !IsWithin(lambda, 0, longestWavelength)) return;
+  const bool same = IsNumber(dialog.txtWavelength.Text) && Val(dialog.txtWavelength.Text) == Val(lambda);
   dialog.txtWavelength.Text = lambda;
+  if (same) return;
   ImpulseCalc(session, 0, PulseVoice::Quiet);
 }
 
