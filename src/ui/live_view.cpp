@@ -79,9 +79,8 @@ void LiveView::Sync() {
   canvas_.SetNote(note, {double{s.GraphRight}, double{s.GraphTop}});
   if (!slider_) return;
   slider_->Sync();
-  // Half a line above the plot, whose uppermost number stands there.
-  slider_->StandAbove(static_cast<int>(s.GraphTop * canvas_.Unit()) - canvas_.fontMetrics().height() / 2,
-                      canvas_.width());
+  // A line above the plot, whose uppermost number stands there.
+  slider_->StandAbove(static_cast<int>(s.GraphTop * canvas_.Unit()) - canvas_.fontMetrics().height(), canvas_.width());
 }
 
 void LiveView::StepNumber(QLineEdit& field, int steps) {

@@ -375,7 +375,8 @@ void MainWindow::Refresh() {
   }
   panel_->Sync();
   menu_->Sync();
-  info_->Sync(ShownPage(*session_), canvas_->Unit(), scroll_->maximumViewportSize().width());
+  // It stands where the kept page leaves room for it, and does not wander while a sweep goes on.
+  info_->Sync(session_->page, canvas_->Unit(), scroll_->maximumViewportSize().width());
   statusLine_.Show(*session_, pointer_.Offer(), live_.Words());
   live_.Sync();
   for (DialogView* dialog : dialogs_) dialog->Sync();

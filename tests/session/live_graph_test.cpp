@@ -211,10 +211,18 @@ TEST_F(LiveGraphTest, WhatTakesLongWaitsForEnter) {
   EXPECT_FALSE(Now().preview);
   EXPECT_THAT(live->Words(), HasSubstr("Inputs changed"));
   EXPECT_EQ(Settle("set cboWave 1\nset txtRadius 11\nset cboStep 0.1"), Standing::Preview);
-  // What would be asked or repaired first does as well.
-  Act("set txtRefractImag -0.1");
-  EXPECT_EQ(Settle(), Standing::Waiting);
-  EXPECT_EQ(Form().txtRefractImag.Text, "-0.1");
+  // What New plot would ask first does as well.
+  EXPECT_EQ(Settle("dialog dlogGaussianBeam ok txtBeamWo=0.5\nclick mnuGaussian"), Standing::Waiting) << live->Words();
+}
+
+TEST_F(LiveGraphTest, WhatIsPutRightIsShownAsNewPlotWould) {
+  ASSERT_EQ(Settle("set txtRefractImag -0.1"), Standing::Preview);
+  EXPECT_THAT(live->Words(), HasSubstr("NOT be negative"));
+  EXPECT_EQ(Form().txtRefractImag.Text, "-0.1") << "the input is the user's";
+  const auto tried = Now().preview->results;
+  Act("click cmdNewPlot");
+  EXPECT_TRUE(tried->asked.AsksSame(Now().state.LastResults->asked));
+  EXPECT_EQ(Settle("choose cboType Airy"), Standing::Preview) << live->Words();
 }
 
 TEST_F(LiveGraphTest, TheLastOfManyChangesIsShown) {
@@ -280,6 +288,13 @@ TEST_F(LiveGraphTest, WhatNewPlotWasAskedIsWhatTheInputsAsk) {
     const LiveInputs inputs = ReadLiveInputs(Now());
     ASSERT_TRUE(inputs.request) << graph << inputs.why;
     EXPECT_TRUE(inputs.request->AsksSame(Now().state.LastResults->asked)) << graph;
+  }
+  for (const char* menu : {"mnuGaussian", "mnuCoatedSphere", "mnuInhomSphere"}) {
+    Restart();
+    Do("click " + std::string(menu) + "\nset cboStep 1\nclick cmdNewPlot");
+    const LiveInputs inputs = ReadLiveInputs(Now());
+    ASSERT_TRUE(inputs.request) << menu << inputs.why;
+    EXPECT_TRUE(inputs.request->AsksSame(Now().state.LastResults->asked)) << menu;
   }
   const std::vector<std::string> methods = Form().cboType.Items;
   for (const std::string& method : methods) {

@@ -63,12 +63,19 @@ bool LiveGraph::IsKept(const LiveInputs& inputs) const {
   return (!scale.ymin || *scale.ymin == limits.xmin) && (!scale.ymax || *scale.ymax == limits.xmax);
 }
 
+void LiveGraph::Learn(double seconds) {
+  // Of shorter runs the time is not that of their work.
+  constexpr double tellingEstimate = 0.005, greatestPace = 8;
+  if (estimate_ < tellingEstimate) return;
+  pace_ = std::clamp((pace_ + seconds / estimate_) / 2, 1.0, greatestPace);
+}
+
 bool LiveGraph::IsShort(const RunRequest& request) {
-  if (patient_) return true;
   const auto& s = session_.state;
   if (s.CalibrationState == 0 && secondsPerPairTerm_ == 0) secondsPerPairTerm_ = MeasurePairTerm(session_.platform);
   const double term = s.CalibrationState != 0 ? s.SecondsPerPairTerm : secondsPerPairTerm_;
-  return LiveSeconds(request, term, ThreadsOf(session_.platform)) < longestLiveRun;
+  estimate_ = LiveSeconds(request, term, ThreadsOf(session_.platform));
+  return patient_ || pace_ * estimate_ < longestLiveRun;
 }
 
 void LiveGraph::Mark(const std::vector<Control*>& bad) {
@@ -142,6 +149,7 @@ void LiveGraph::Try(LiveInputs inputs) {
 
 void LiveGraph::Take(std::uint64_t turn, std::optional<Preview> preview) {
   if (turn != turn_) return;
+  Learn(preview ? preview->results->seconds : patience);
   if (preview) {
     session_.preview = std::move(preview);
     hasShown_ = true;
@@ -165,7 +173,7 @@ bool LiveGraph::Drop() {
 
 std::string LiveGraph::Words() const {
   if (standing_ == Standing::Refused) return why_.empty() ? "This cannot be calculated" : why_;
-  if (session_.preview) return "Live: Enter keeps it, Esc drops it";
+  if (session_.preview) return "Live: Enter keeps it, Esc drops it" + (why_.empty() ? "" : " (" + why_ + ")");
   return standing_ == Standing::Waiting ? "Inputs changed: Enter draws them" : "";
 }
 

@@ -61,6 +61,8 @@ class LiveGraph {
   bool Noticed();
   bool IsKept(const LiveInputs& inputs) const;
   bool IsShort(const RunRequest& request);
+  /// A run has taken so long: this machine, with what else it does, may be slower than it was measured.
+  void Learn(double seconds);
   void Mark(const std::vector<Control*>& bad);
   void Try(LiveInputs inputs);
   void Take(std::uint64_t turn, std::optional<Preview> preview);
@@ -74,6 +76,8 @@ class LiveGraph {
   bool hasShown_ = false;          ///< a preview, which may be gone by now
   bool interrupted_ = false;       ///< a run was stopped by a command
   double secondsPerPairTerm_ = 0;  ///< measured when it is first needed
+  double estimate_ = 0;            ///< of the run that was asked for last (seconds)
+  double pace_ = 1;                ///< seconds that runs take for each that is estimated
   std::weak_ptr<const Results> keptResults_;
   InputState seenInputs_;
   /// What was marked here, with the colours of before.

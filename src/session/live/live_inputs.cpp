@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "record/number_text.h"
 #include "runs/run.h"
 #include "runs/work.h"
 #include "session/driver/commands.h"
@@ -14,29 +13,14 @@ namespace lumivex {
 
 namespace {
 
-/// Whether two values ask for the same: checks take blanks and needless zeros off a number.
-bool IsSameValue(const ControlValue& a, const ControlValue& b) {
-  if (a == b) return true;
-  return a.checked == b.checked && IsNumber(Trim(a.text)) && IsNumber(b.text) && Val(a.text) == Val(b.text);
-}
-
-/// Whether the checks have put something right that the user would be told of.
-bool IsRepaired(InputCopy& copy, const FormSnapshot& before) {
-  if (copy.World().told.empty()) return false;
-  const FormSnapshot after = copy.Inputs().form1.Snapshot();
-  return !std::ranges::equal(before, after,
-                             [](const auto& a, const auto& b) { return IsSameValue(a.second, b.second); });
-}
-
 /// Checks the inputs of the copy and reads the request, as New plot does before it runs.
 std::optional<RunRequest> RequestOf(InputCopy& copy) {
   Session& inputs = copy.Inputs();
   // A new run is seen as it is before it is transformed.
   if (inputs.form1.mnuFFT.Checked) inputs.events.Raise("mnuFFT_Click");
-  const FormSnapshot before = inputs.form1.Snapshot();
   if (!InputsHold(inputs) || !SettleBeam(inputs)) return std::nullopt;
   auto request = ReadRun(inputs);
-  if (!request || copy.World().asked > 0 || IsRepaired(copy, before)) return std::nullopt;
+  if (!request || copy.World().asked > 0) return std::nullopt;
   if (Refusal beyond = BeyondVolume(*request); !beyond.text.empty()) {
     copy.World().told.push_back(beyond.text);
     return std::nullopt;
@@ -57,8 +41,8 @@ LiveInputs ReadLiveInputs(Session& session) {
   live.copy->World().asked = 0;
   live.request = RequestOf(*live.copy);
   const auto& told = live.copy->World().told;
-  if (live.request) return live;
   if (!told.empty()) live.why = told.front().substr(0, told.front().find('\n'));
+  if (live.request) return live;
   const auto& checked = inputs.form1.Controls();
   for (std::size_t i = 0; i < checked.size(); ++i)
     if (checked[i]->BackColour == colours::BadInput) live.bad.push_back(session.form1.Controls()[i]);

@@ -14,9 +14,9 @@ namespace lumivex {
 /// anything, and the session stays as it is.
 struct LiveInputs {
   std::unique_ptr<InputCopy> copy;    ///< as the checks have left it
-  std::optional<RunRequest> request;  ///< nothing where New plot would refuse, or ask or repair something first
+  std::optional<RunRequest> request;  ///< nothing where New plot would refuse, or ask something first
   std::vector<Control*> bad;          ///< inputs of the session's main window that the checks would mark
-  std::string why;                    ///< what would be told first; may be empty
+  std::string why;                    ///< what would be told first, of a repair too; may be empty
 };
 
 LiveInputs ReadLiveInputs(Session& session);

@@ -42,6 +42,21 @@ TEST(SaveIni, RecentFilesAndCalibrationReturnAtTheNextStart) {
   EXPECT_FALSE(KeepingProgram(folder).Now().form1.mnuRecent.Enabled);
 }
 
+TEST(SaveIni, GraphsThatDoNotFollowStayThatWay) {
+  const OwnFolder folder;
+  {
+    KeepingProgram program(folder);
+    EXPECT_TRUE(program.Now().form1.mnuLiveGraph.Checked);
+    program.Do("click mnuLiveGraph\nset txtRadius 12\nclick cmdNewPlot");
+    program.End();
+  }
+  KeepingProgram next(folder);
+  EXPECT_FALSE(next.Now().form1.mnuLiveGraph.Checked);
+  // It is no input of the session: what is continued leaves it as it is.
+  next.Do("click mnuLiveGraph\nclick mnuContinueSession");
+  EXPECT_TRUE(next.Now().form1.mnuLiveGraph.Checked);
+}
+
 TEST(SaveIni, ProgramsAtOnceKeepWhatTheOtherHasChanged) {
   const OwnFolder folder;
   folder.Write(iniName, "[Of a later version]\nkey=value\n");
