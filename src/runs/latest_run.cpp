@@ -1,6 +1,7 @@
 #include "runs/latest_run.h"
 
 #include <chrono>
+#include <new>
 #include <utility>
 
 #include "runs/run.h"
@@ -67,8 +68,13 @@ void LatestRun::Work() {
     const std::uint64_t own = newest_;
     lock.unlock();
     NewestWatch watch(newest_, own, run.mostSeconds);
-    RunEnd end = Run(run.request, watch, run.threads);
-    if (newest_ == own) run.done(std::move(end));
+    try {
+      RunEnd end = Run(run.request, watch, run.threads);
+      if (newest_ == own) run.done(std::move(end));
+    } catch (const std::bad_alloc&) {
+      // What has no room is only not tried; the program goes on.
+      if (newest_ == own) run.done({});
+    }
     // What the caller handed over with the request goes before the next one is waited for.
     run = {};
     lock.lock();

@@ -18,8 +18,8 @@ struct TriedRun {
   RunRequest request;
   double mostSeconds = 0;  ///< after which the run is stopped; 0 for as long as it takes
   unsigned threads = 0;    ///< as Run takes them
-  /// Called by the thread of the runs with what came of it; not called for a run that another has taken the place of,
-  /// or that was cancelled. One that comes at that very moment may still be told.
+  /// Called by the thread of the runs with what came of it, nothing where memory did not suffice; not called for a run
+  /// that another has taken the place of, or that was cancelled. One that comes at that very moment may still be told.
   std::function<void(RunEnd)> done;
 };
 

@@ -1,9 +1,13 @@
 #include "ui/live_view.h"
 
 #include <QAction>
+#include <QComboBox>
+#include <QContextMenuEvent>
 #include <QMainWindow>
+#include <QMenu>
 #include <QMenuBar>
 #include <QToolBar>
+#include <initializer_list>
 #include <utility>
 
 #include "session/live/number_step.h"
@@ -51,6 +55,31 @@ void LiveView::Attach(Session& session, const MenuView& menu) {
   for (const MenuEntry* entry : {&session.form1.mnuLiveGraph, &session.form1.mnuSlider})
     if (QAction* action = menu.ActionOf(*entry)) tools_->addAction(action);
   if (follows_) Begin();
+}
+
+void LiveView::Watch(QWidget& panel) {
+  keys_.Watch(panel);
+  const Form1& form = session_->form1;
+  const std::initializer_list<const Control*> sliding = {&form.txtRadius, &form.txtLambda, &form.txtRefractReal,
+                                                         &form.cboRays};
+  for (const Control* control : sliding) {
+    auto* widget = panel.findChild<QWidget*>(ToQString(control->Name()));
+    auto* list = qobject_cast<QComboBox*>(widget);
+    if (QWidget* field = list ? list->lineEdit() : widget) field->installEventFilter(this);
+  }
+}
+
+bool LiveView::eventFilter(QObject* watched, QEvent* event) {
+  auto* field = qobject_cast<QLineEdit*>(watched);
+  if (event->type() != QEvent::ContextMenu || !field || !graph_) return QObject::eventFilter(watched, event);
+  QMenu* menu = field->createStandardContextMenu();
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  menu->addSeparator();
+  const QWidget* named = qobject_cast<QComboBox*>(field->parentWidget());
+  const std::string name = FromQString((named ? named : field)->objectName());
+  menu->addAction(tr("Slider ..."), this, [this, name] { ShowSlider(session_->form1.Find(name)); });
+  menu->popup(static_cast<QContextMenuEvent*>(event)->globalPos());
+  return true;
 }
 
 void LiveView::Pause() {

@@ -35,8 +35,8 @@ class LiveView final : public QObject {
   void Start();
   /// Another session, with the menu of its window.
   void Attach(Session& session, const MenuView& menu);
-  /// Another panel: its fields take keys and wheel.
-  void Watch(QWidget& panel) { keys_.Watch(panel); }
+  /// Another panel: its fields take keys and wheel, and those that slide offer it in their menus.
+  void Watch(QWidget& panel);
 
   /// A command begins, and has ended: whether anything has changed that is on show.
   void Pause();
@@ -54,6 +54,9 @@ class LiveView final : public QObject {
   std::function<std::string(const std::string& path)> savePicture;
   LiveGraph* Graph() const { return graph_.get(); }
   SliderView* Slider() const;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void Begin();

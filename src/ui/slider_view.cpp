@@ -165,9 +165,10 @@ void SliderView::StandAbove(int bottom, int room) {
   setGeometry(0, std::max(0, bottom - size.height()), size.width(), size.height());
 }
 
-void SliderView::Slide(double place) {
+bool SliderView::Slide(double place) {
   const std::string text = range_.TextAt(place);
   act_([this, &text] { UserSlides(session_, what_, text); });
+  return SlidText(session_, what_) == text;
 }
 
 void SliderView::Play() {
@@ -180,6 +181,9 @@ void SliderView::Play() {
 }
 
 void SliderView::GoOn() {
+  // What stands in an open dialog is not to be mixed with what the film types.
+  if (session_.state.Busy != 0 || !session_.undo.open.empty()) return;
+  if (!CanSlide(session_, what_) || !session_.form1.mnuLiveGraph.Checked) return Stop();
   if (film_) return SaveOn();
   // The place goes by the clock: slow runs have fewer pictures, and none is cut off.
   if (graph_->Stands() == LiveGraph::Standing::Running) return;
@@ -213,8 +217,8 @@ void SliderView::SaveOn() {
     film_->awaited = false;
     if (++film_->next == count) return EndFilm({});
   }
-  film_->awaited = true;
-  Slide(static_cast<double>(film_->next) / (count - 1));
+  // While another command is under way nothing is typed: the next look tries again.
+  film_->awaited = Slide(static_cast<double>(film_->next) / (count - 1));
 }
 
 void SliderView::EndFilm(const std::string& trouble) {

@@ -55,7 +55,8 @@ class SliderView final : public QFrame {
   void Build();
   void Choose(Slid what);
   void TakeEnds();
-  void Slide(double place);
+  /// @return whether the input holds that place now: not while another command is under way.
+  bool Slide(double place);
   void Play();
   void GoOn();
   void AskForFilm();

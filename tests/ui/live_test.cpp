@@ -3,7 +3,9 @@
 #include <QAccessible>
 #include <QAction>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QFileDialog>
+#include <QMenu>
 #include <QPushButton>
 #include <QSlider>
 #include <QSpinBox>
@@ -128,6 +130,16 @@ TEST_F(LiveTest, TheSliderIsReachedAndNamed) {
     const auto* access = QAccessible::queryAccessibleInterface(child);
     EXPECT_FALSE(access->text(QAccessible::Name).isEmpty()) << child->metaObject()->className();
   }
+  // The menu of a field leads there as well.
+  QContextMenuEvent asks(QContextMenuEvent::Mouse, {4, 4}, WidgetOf(Form().txtRefractReal)->mapToGlobal(QPoint(4, 4)));
+  QApplication::sendEvent(WidgetOf(Form().txtRefractReal), &asks);
+  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_NE(menu, nullptr);
+  menu->actions().back()->trigger();
+  menu->close();
+  EXPECT_EQ(slider->accessibleName(), "Refractive index");
+  WidgetOf(Form().txtLambda)->setFocus();
+  OpenSlider();
   QTest::keyClick(slider, Qt::Key_Right);
   EXPECT_NE(Form().txtLambda.Text, "0.65");
   EXPECT_TRUE(QTest::qWaitFor([&] { return Now().preview.has_value(); }));
@@ -185,6 +197,17 @@ TEST_F(LiveTest, AFilmIsASeriesOfWholePictures) {
   EXPECT_NE(first, last);
   EXPECT_FALSE(QFile::exists(folder.filePath("bow_0005.png")));
   EXPECT_EQ(Form().txtRadius.Text, "10") << "the input is what it was";
+  // A film that is stopped leaves the pictures that it has, whole.
+  view.findChild<QSpinBox*>()->setValue(2000);
+  saveAs(folder.filePath("stopped.png"));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(folder.filePath("stopped_0002.png")); }));
+  save->click();
+  QTest::qWait(50);
+  const QStringList pictures = QDir(folder.path()).entryList({"stopped_*"});
+  EXPECT_LT(pictures.size(), 2000);
+  for (const QString& picture : pictures)
+    EXPECT_FALSE(QImage(folder.filePath(picture)).isNull()) << picture.toStdString();
+  EXPECT_EQ(Form().txtRadius.Text, "10");
   // A name that cannot be written tells why, and the program goes on.
   saveAs("/nowhere/bow.png");
   EXPECT_TRUE(QTest::qWaitFor([&] { return messages.size() == 1; }));
