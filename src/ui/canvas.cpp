@@ -1,9 +1,11 @@
 #include "ui/canvas.h"
 
 #include <QAccessibleWidget>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 #include <QWheelEvent>
 #include <cmath>
 #include <utility>
@@ -175,6 +177,22 @@ void Canvas::SetNote(const QString& note, SurfacePoint corner) {
   note_ = note;
   noteCorner_ = corner;
   update(before.united(NoteArea()));
+}
+
+bool Canvas::event(QEvent* event) {
+  if (event->type() == QEvent::ToolTip && tip) {
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const QPointF at = UnitsAt(help->pos());
+    const QString words = ToQString(tip(at.x(), at.y()));
+    if (words.isEmpty()) {
+      QToolTip::hideText();
+      event->ignore();
+    } else {
+      QToolTip::showText(help->globalPos(), words, this);
+    }
+    return true;
+  }
+  return QWidget::event(event);
 }
 
 void Canvas::keyPressEvent(QKeyEvent* event) {

@@ -67,6 +67,8 @@ class Canvas final : public QWidget {
   CanvasMouse mouse;
   /// What the drawing shows, for those who hear it; asked when a screen reader asks.
   std::function<std::string()> inWords;
+  /// What is told of a place of the drawing while the pointer rests there (surface units); nothing for an empty text.
+  std::function<std::string(double x, double y)> tip;
   /// A key while the graph has the focus; true when it meant something.
   std::function<bool(const QKeyEvent& event)> key;
   /// The widget has a new size and the drawing has not: called when it is time to renew it.
@@ -75,6 +77,7 @@ class Canvas final : public QWidget {
   std::function<void()> firstPainted;
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;

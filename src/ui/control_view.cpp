@@ -11,6 +11,7 @@
 
 #include "ui/access_keys.h"
 #include "ui/canvas.h"
+#include "ui/grouped_list.h"
 #include "ui/look.h"
 #include "ui/wrap_label.h"
 
@@ -99,7 +100,7 @@ void ControlView::MakeList(const ControlActions& actions) {
                      [&list, types = actions.types](const QString& text) { types(list, FromQString(text)); });
   }
   QObject::connect(box, &QComboBox::activated, box, [&list, box, chooses = actions.chooses](int place) {
-    list.Picked = place;
+    list.Picked = ItemOfRow(*box, place);
     chooses(list, FromQString(box->itemText(place)));
   });
   widget_ = box;
@@ -153,8 +154,7 @@ void ControlView::SyncList(SelectionList& list) {
   const QSignalBlocker quiet(box);
   if (items_ != list.Items) {
     items_ = list.Items;
-    box->clear();
-    for (const auto& item : items_) box->addItem(ToQString(item));
+    FillBox(*box, list);
     const int wanted = box->view()->sizeHintForColumn(0) + box->fontMetrics().horizontalAdvance("MM");
     box->view()->setMinimumWidth(wanted);
   }
@@ -162,7 +162,7 @@ void ControlView::SyncList(SelectionList& list) {
   QLineEdit* edit = box->lineEdit();
   const bool typing = edit && edit->hasFocus() && edit->text() == text;
   const int cursor = edit ? edit->cursorPosition() : 0;
-  const int index = box->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+  const int index = RowOfText(*box, text);
   if (box->currentIndex() != index && !(index >= 0 && box->itemText(box->currentIndex()) == text))
     box->setCurrentIndex(index);
   if (edit) {

@@ -25,6 +25,7 @@
 
 #include "files/open_file.h"
 #include "pages/build_page.h"
+#include "pages/items/readings.h"
 #include "pages/page_in_words.h"
 #include "record/text_file.h"
 #include "session/info.h"
@@ -35,6 +36,7 @@
 #include "ui/access_keys.h"
 #include "ui/help/help_topics.h"
 #include "ui/look.h"
+#include "ui/menu_button.h"
 
 namespace lumivex {
 
@@ -96,6 +98,9 @@ MainWindow::MainWindow(CommandGate& gate)
   setAcceptDrops(true);
   canvas_->resized = [this] { Resized(); };
   canvas_->inWords = [this] { return session_ ? PageInWords(ShownPage(*session_)) : std::string(); };
+  canvas_->tip = [this](double x, double y) {
+    return session_ ? MeaningOfReadingAt(canvas_->Surface(), session_->page, x, y) : std::string();
+  };
   canvas_->mouse.press = [this](double x, double y) {
     // A press on a picture of times may begin a drag: it counts when it has ended as a click.
     if (!pointer_.IsOnTimes({x, y})) Act([this, x, y] { Form_MouseDown(*session_, x, y); });
@@ -105,6 +110,9 @@ MainWindow::MainWindow(CommandGate& gate)
     if (pointer_.IsOnTimes({x, y})) Act([this, x, y] { Form_MouseDown(*session_, x, y); });
   };
   canvas_->key = [this](const QKeyEvent& event) { return pointer_.Key(event); };
+  statusLine_.spectrumWanted = [this] {
+    Act([this] { UserChooses(*session_, session_->form1.cboWave, std::to_string(wavelengthsOfSun)); });
+  };
   pointer_.readingChanged = [this] { statusLine_.ShowReading(pointer_.Text()); };
   gate_.refresh = [this] { Refresh(); };
   gate_.whenFree = [this] {
@@ -235,12 +243,23 @@ void MainWindow::BuildPanel(std::size_t density) {
   panel_->setGeometry(0, 0, static_cast<int>(panelUnits * unit), static_cast<int>(panelHeight * unit));
   gate_.stopButton = panel_->WidgetOf(session_->form1.cmdStop);
   WatchInputs();
+  AddMaterialMenus();
   panel_->Sync();
   AssignAccessKeys(*panel_, KeysOfMenus(*menuBar()));
   panel_->show();
   info_->raise();
   if (auto* widget = focused.isEmpty() ? nullptr : panel_->findChild<QWidget*>(focused)) widget->setFocus();
   ReserveRoom();
+}
+
+void MainWindow::AddMaterialMenus() {
+  const auto add = [this](const Label& control, const char* path, const QString& name) {
+    auto* label = qobject_cast<QLabel*>(panel_->WidgetOf(control));
+    QMenu* menu = menu_->MenuAt(path);
+    if (label && menu) new MenuButton(*label, *menu, name);
+  };
+  add(session_->form1.lblSphere, "Advanced/Refractive index/Sphere", "Material of the sphere");
+  add(session_->form1.lblRI_Medium, "Advanced/Refractive index/Medium", "Material of the medium");
 }
 
 void MainWindow::ReserveRoom() {

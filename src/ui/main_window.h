@@ -99,6 +99,8 @@ class MainWindow final : public QMainWindow {
   void ReserveRoom();
   void RenewDrawing();
   void WatchInputs();
+  /// The menus of materials, opened beside what the panel tells of them.
+  void AddMaterialMenus();
   void Act(const CommandGate::Action& command);
   void NewPlot();
   void AddKeys();

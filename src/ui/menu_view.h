@@ -25,6 +25,8 @@ class MenuView {
   void Sync();
   /// The action of an entry, null where the menu does not offer it.
   QAction* ActionOf(const MenuEntry& entry) const;
+  /// The menu of a path, as "Light/Spectrum"; null where the bar does not have it.
+  QMenu* MenuAt(const QString& path) const { return menus_.contains(path) ? menus_.at(path) : nullptr; }
 
  private:
   struct Item {

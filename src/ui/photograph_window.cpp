@@ -1,13 +1,7 @@
 #include "ui/photograph_window.h"
 
-#include <QCloseEvent>
-#include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QMenuBar>
-#include <QScrollArea>
 #include <QSignalBlocker>
-#include <QStatusBar>
-#include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <cmath>
@@ -19,7 +13,6 @@
 #include "session/simulation/simulation_events.h"
 #include "session/simulation/simulation_page.h"
 #include "session/user_actions.h"
-#include "ui/access_keys.h"
 #include "ui/look.h"
 
 namespace lumivex {
@@ -36,36 +29,15 @@ constexpr double shortestFocal = 8, longestFocal = 400, mostStrength = 3;
 }  // namespace
 
 PhotographWindow::PhotographWindow(CommandGate& gate, Session& session, QWidget* parent)
-    : QMainWindow(parent, Qt::Window),
-      gate_(gate),
-      session_(session),
+    : SideWindow(gate, session,
+                 {session.forms.form2, simulationFrames, simulationMenu, session.forms.form2.cmdExit2,
+                  session.forms.form2.cmdSimPlot, "Photograph", startSize},
+                 parent),
       form_(session.forms.form2),
       undoKeys_([this](bool redo) {
         auto& main = session_.form1;
         Act([&] { UserClicks(session_, redo ? main.mnuRedo : main.mnuUndo); });
       }) {
-  auto* body = new QWidget(this);
-  auto* row = new QHBoxLayout(body);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(0);
-  panel_ = new PanelView(form_, simulationFrames, Actions(), false, nullptr);
-  auto* side = new QScrollArea(body);
-  side->setFrameShape(QFrame::NoFrame);
-  side->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  side->setWidgetResizable(true);
-  side->setWidget(panel_);
-  canvas_ = new Canvas(body);
-  canvas_->setAccessibleName("Photograph");
-  row->addWidget(side);
-  row->addWidget(canvas_, 1);
-  setCentralWidget(body);
-  reading_ = new QLabel(this);
-  reading_->setTextFormat(Qt::PlainText);
-  reading_->setContentsMargins(4, 0, 0, 0);
-  reading_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  statusBar()->addWidget(reading_, 1);
-  menu_ = std::make_unique<MenuView>(
-      *menuBar(), form_, std::vector<MenuRow>(std::begin(simulationMenu), std::end(simulationMenu)), Actions().clicks);
   const double octaves = std::log(longestFocal / shortestFocal);
   AddSlider(
       form_.cboScale, [octaves](double place) { return RoundDecimals(shortestFocal * std::exp(octaves * place), 1); },
@@ -73,17 +45,11 @@ PhotographWindow::PhotographWindow(CommandGate& gate, Session& session, QWidget*
   AddSlider(
       form_.txtStrength, [](double place) { return RoundDecimals(mostStrength * place, 2); },
       [](double value) { return value / mostStrength; });
-  panel_->Sync();
-  AssignAccessKeys(*this, KeysOfMenus(*menuBar()));
   undoKeys_.Watch(*panel_);
-  side->setFixedWidth(panel_->sizeHint().width() + side->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2);
   follow_.setSingleShot(true);
   connect(&follow_, &QTimer::timeout, this, [this] { Follow(); });
-  canvas_->resized = [this] {
-    if (!gate_.Running()) Act([this] { RenewDrawing(); });
-  };
   ConnectMouse();
-  resize(startSize);
+  FitPanel();
 }
 
 void PhotographWindow::ConnectMouse() {
@@ -149,7 +115,7 @@ void PhotographWindow::AddSlider(Control& input, std::function<double(double)> v
   });
 }
 
-void PhotographWindow::SyncSliders() {
+void PhotographWindow::SyncMore() {
   for (const Slider& slider : sliders_) {
     const double place = sliderSteps * slider.placeOf(Val(slider.input->Value().text));
     const QSignalBlocker silent(slider.widget);
@@ -161,68 +127,28 @@ void PhotographWindow::SyncSliders() {
   }
 }
 
-ControlActions PhotographWindow::Actions() {
-  return {[this](Control& control, const std::string& text) {
-            Act([this, &control, &text] { UserTypes(session_, control, text); });
-          },
-          [this](SelectionList& list, const std::string& item) {
-            Act([this, &list, &item] { UserChooses(session_, list, item); });
-          },
-          [this](Control& control) {
-            // Stop acts inside the painting; the gate lets nothing else through.
-            if (gate_.Running() && &control == &form_.cmdStopSim) {
-              UserClicks(session_, control);
-            } else {
-              Act([this, &control] {
-                const auto stopButton = std::exchange(gate_.stopButton, panel_->WidgetOf(form_.cmdStopSim));
-                UserClicks(session_, control);
-                gate_.stopButton = stopButton;
-              });
-            }
-          }};
+void PhotographWindow::Click(Control& control) {
+  if (gate_.Running() && &control == &form_.cmdStopSim) return static_cast<void>(UserClicks(session_, control));
+  Act([this, &control] {
+    const auto stopButton = std::exchange(gate_.stopButton, panel_->WidgetOf(form_.cmdStopSim));
+    UserClicks(session_, control);
+    gate_.stopButton = stopButton;
+  });
 }
 
-void PhotographWindow::Act(const CommandGate::Action& command) {
-  if (!gate_.Do(command)) Refresh();
-}
-
-void PhotographWindow::RenewDrawing() {
-  canvas_->Renew();
+void PhotographWindow::Draw() {
   Window& window = SimulationWindow(session_);
   window.surface = &canvas_->Surface();
   if (window.page.photograph) window.page.photograph->unitsPerDot = unitsPerPixel / canvas_->devicePixelRatioF();
   DrawSimulation(session_);
-  canvas_->update();
 }
 
-void PhotographWindow::Settle() {
-  QCoreApplication::sendPostedEvents();
-  centralWidget()->layout()->activate();
-  if (canvas_->IsStale()) RenewDrawing();
-}
-
-void PhotographWindow::Refresh() {
-  if (isVisible() != form_.Visible) setVisible(form_.Visible);
-  if (!form_.Visible) return;
-  panel_->Sync();
-  SyncSliders();
-  menu_->Sync();
-  const QString title = ToQString(form_.Caption), text = ToQString(form_.lblPosition.Caption);
-  if (windowTitle() != title) setWindowTitle(title);
-  if (reading_->text() != text) reading_->setText(text);
-  canvas_->ShowChanges();
-}
-
-void PhotographWindow::closeEvent(QCloseEvent* event) {
-  // The session closes it, when it is free to.
-  event->ignore();
-  if (!gate_.Running()) Act([this] { UserClicks(session_, form_.cmdExit2); });
+QString PhotographWindow::Reading() const {
+  return ToQString(form_.lblPosition.Caption);
 }
 
 void PhotographWindow::keyPressEvent(QKeyEvent* event) {
-  if (undoKeys_.Take(*event)) return;
-  if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return QMainWindow::keyPressEvent(event);
-  Actions().clicks(form_.cmdSimPlot);
+  if (!undoKeys_.Take(*event)) SideWindow::keyPressEvent(event);
 }
 
 }  // namespace lumivex

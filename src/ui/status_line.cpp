@@ -4,6 +4,7 @@
 #include <QProgressBar>
 #include <QStatusBar>
 #include <QStyleOption>
+#include <QToolButton>
 #include <algorithm>
 
 #include "pages/trust/trust_line.h"
@@ -52,6 +53,7 @@ void ShortenedLabel::paintEvent(QPaintEvent*) {
 StatusLine::StatusLine(QStatusBar& bar)
     : reading_(new QLabel(&bar)),
       status_(new QLabel(&bar)),
+      spectrum_(new QToolButton(&bar)),
       trust_(new ShortenedLabel(&bar)),
       average_(new QLabel(&bar)),
       progress_(new QProgressBar(&bar)) {
@@ -63,6 +65,14 @@ StatusLine::StatusLine(QStatusBar& bar)
   reading_->setAccessibleName("Reading of the graph");
   reading_->setContentsMargins(4, 0, 12, 0);
   reading_->hide();
+  spectrum_->setText(QString("The Sun in %1 wavelengths").arg(wavelengthsOfSun));
+  spectrum_->setToolTip("Sunlight has all colours: takes so many in place of one");
+  spectrum_->setAutoRaise(true);
+  spectrum_->setFocusPolicy(Qt::TabFocus);
+  spectrum_->hide();
+  QObject::connect(spectrum_, &QToolButton::clicked, spectrum_, [this] {
+    if (spectrumWanted) spectrumWanted();
+  });
   trust_->setAccessibleName("Trust in the numbers");
   progress_->setAccessibleName("Progress of the calculation");
   progress_->setRange(0, 100);
@@ -70,6 +80,7 @@ StatusLine::StatusLine(QStatusBar& bar)
   progress_->hide();
   bar.addWidget(reading_);
   bar.addWidget(status_, 1);
+  bar.addWidget(spectrum_);
   bar.addWidget(trust_, 2);
   bar.addPermanentWidget(average_);
   bar.addPermanentWidget(progress_);
@@ -97,6 +108,9 @@ void StatusLine::Show(const Session& session, const QString& offer, const QStrin
   if (progress_->value() != percent) progress_->setValue(percent);
   if (progress_->isHidden() == busy) progress_->setVisible(busy);
   trust_->setVisible(!busy);
+  const bool oneColour = form.optSun.Visible && form.optSun.Checked && form.cboWave.Visible && form.cboWave.Enabled &&
+                         form.cboWave.Text == "1";
+  spectrum_->setVisible(oneColour && !busy);
   ShowTrust(session);
 }
 

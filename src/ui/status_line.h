@@ -2,13 +2,18 @@
 
 #include <QLabel>
 #include <QString>
+#include <functional>
 
 class QProgressBar;
 class QStatusBar;
+class QToolButton;
 
 namespace lumivex {
 
 struct Session;
+
+/// Wavelengths that make a smooth bow.
+inline constexpr int wavelengthsOfSun = 30;
 
 /// A line of text that ends in dots where it has no room, and makes no window wider.
 class ShortenedLabel final : public QLabel {
@@ -25,6 +30,9 @@ class StatusLine {
  public:
   explicit StatusLine(QStatusBar& bar);
 
+  /// Pressed where the Sun shines in one wavelength: its light has many.
+  std::function<void()> spectrumWanted;
+
   /// What is read off the graph; empty where the pointer is elsewhere.
   void ShowReading(const QString& text);
   /// @param offer  what a key would do now; empty where it does nothing.
@@ -38,6 +46,7 @@ class StatusLine {
 
   QLabel* reading_;
   QLabel* status_;
+  QToolButton* spectrum_;
   ShortenedLabel* trust_;
   QLabel* average_;
   QProgressBar* progress_;

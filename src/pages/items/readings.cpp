@@ -1,10 +1,12 @@
 #include "pages/items/readings.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <initializer_list>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "colour/wavelength_colour.h"
@@ -175,6 +177,64 @@ void AddBeam(const RunWords& words, const BeamNumbers& beam, Lines& lines) {
     if (seconds > 0) Add(lines, name + Significant(seconds, digits) + " s");
 }
 
+struct PlacedReading {
+  PageLine line;
+  GraphBox box;
+};
+
+/// Sets the font that they stand in.
+std::vector<PlacedReading> PlacedReadings(DrawingSurface& surface, const Page& page) {
+  std::vector<PlacedReading> placed;
+  const auto place = [&](const PageLine& line, double x, double y) {
+    placed.push_back({line, {x, x + surface.TextWidth(line.text), y, y + surface.TextHeight("X")}});
+  };
+  if (StandBesideInputs(surface, page.readings)) {
+    double y = firstLine;
+    for (const PageLine& line : page.readings) {
+      place(line, left, y);
+      y += lineHeight;
+    }
+    return placed;
+  }
+  double y = TopOfFoot(surface, page);
+  for (const Lines& row : FootRows(surface, page)) {
+    double x = LeftOfFoot(page);
+    for (const PageLine& line : row) {
+      place(line, x, y);
+      x += surface.TextWidth(line.text) + betweenReadings;
+    }
+    y += surface.TextHeight("X");
+  }
+  return placed;
+}
+
+struct Meaning {
+  std::string_view start;  ///< of the reading
+  std::string_view words;
+};
+constexpr std::array meanings = {
+    Meaning{"Qsca", "Scattering efficiency: the power that is scattered, over that which falls on \u03C0 a\u00B2"},
+    Meaning{"Qext",
+            "Extinction efficiency: the power that is lost to the light, over that which falls on \u03C0 a\u00B2"},
+    Meaning{"Qabs", "Absorption efficiency: Qext - Qsca"},
+    Meaning{"Qback", "Light straight back: |S1(180\u00B0)|\u00B2 / (\u03C0 x\u00B2)"},
+    Meaning{"Qradar", "(\u03C0/4) Qback"},
+    Meaning{"g =", "Asymmetry: the mean cosine of the scattering angle, from -1 (all back) to 1 (all forward)"},
+    Meaning{"0 deg", "Unpolarised intensity straight forward: (|S1|\u00B2 + |S2|\u00B2)/2"},
+    Meaning{"180 deg", "Unpolarised intensity straight back: (|S1|\u00B2 + |S2|\u00B2)/2"},
+    Meaning{"X =", "Size parameter: 2\u03C0 a n/\u03BB, with the index n of the medium"},
+    Meaning{"Scattered power", "Power that the sphere scatters into all directions, in watts"},
+    Meaning{"Backscattered power", "Power that the sphere scatters beyond 90\u00B0, in watts"},
+    Meaning{"s =", "Confinement of the beam: 1/(k w0)"},
+    Meaning{"Length =", "Length over which the beam spreads: w0/s, in \u00B5m"},
+};
+
+std::string MeaningOf(std::string_view reading) {
+  for (const auto& [start, words] : meanings)
+    if (reading.starts_with(start)) return std::string(words);
+  return "";
+}
+
 bool HasEfficiencies(const MethodOptions& method) {
   const bool told =
       method.method == Method::Mie || method.method == Method::Debye || method.method == Method::CoatedSphere;
@@ -229,32 +289,24 @@ double TopOfFoot(DrawingSurface& surface, const Page& page) {
 }
 
 void PaintReadings(DrawingSurface& surface, const Page& page) {
-  const auto print = [&](const PageLine& line, double x, double y) {
-    surface.ForeColour = line.colour;
-    surface.CurrentX = x;
-    surface.CurrentY = y;
-    surface.Print(line.text);
-  };
   const SurfacePen pen = surface;
-  if (StandBesideInputs(surface, page.readings)) {
-    double y = firstLine;
-    for (const PageLine& line : page.readings) {
-      print(line, left, y);
-      y += lineHeight;
-    }
-  } else {
-    double y = TopOfFoot(surface, page);
-    for (const Lines& row : FootRows(surface, page)) {
-      double x = LeftOfFoot(page);
-      for (const PageLine& line : row) {
-        print(line, x, y);
-        x += surface.TextWidth(line.text) + betweenReadings;
-      }
-      y += surface.TextHeight("X");
-    }
+  for (const PlacedReading& reading : PlacedReadings(surface, page)) {
+    surface.ForeColour = reading.line.colour;
+    surface.CurrentX = reading.box.left;
+    surface.CurrentY = reading.box.top;
+    surface.Print(reading.line.text);
   }
   static_cast<SurfacePen&>(surface) = pen;
   surface.ForeColour = colours::Black;
+}
+
+std::string MeaningOfReadingAt(DrawingSurface& surface, const Page& page, double x, double y) {
+  if (!page.style.readingsVisible) return "";
+  const SurfacePen pen = surface;
+  const auto placed = PlacedReadings(surface, page);
+  static_cast<SurfacePen&>(surface) = pen;
+  const auto under = std::ranges::find_if(placed, [&](const PlacedReading& r) { return r.box.Holds(x, y); });
+  return under == placed.end() ? "" : MeaningOf(Trim(under->line.text));
 }
 
 }  // namespace lumivex

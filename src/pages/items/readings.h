@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "pages/look.h"
@@ -19,6 +20,10 @@ std::vector<PageLine> VisibleData(const Results& results);
 /// Paints the readings of a page beside the inputs, at x 12000 of the surface; where one would be cut at its right
 /// edge, all in rows at its foot.
 void PaintReadings(DrawingSurface& surface, const Page& page);
+
+/// What the reading at a place of the surface means and what it is measured in; empty where there is none, or nothing
+/// to say of it.
+std::string MeaningOfReadingAt(DrawingSurface& surface, const Page& page, double x, double y);
 
 /// Top of the rows at the foot; the height of the surface where there are none.
 double TopOfFoot(DrawingSurface& surface, const Page& page);
