@@ -166,7 +166,8 @@ std::optional<GraphReading> ReadAt(const Page& page, double surfaceX, double sur
                     WithUnit(reading.curveX, DigitsOfX(reading.curveX, range), xUnit) + "   " +
                     WithUnit(reading.curveY, 6, yUnit);
   }
-  if (page.kind.fourier) reading.text += "      " + RaysNear(page.frequencies, reading.x);
+  if (page.kind.fourier)
+    reading.text += "      " + RaysNear(page.frequencies, reading.onCurve ? reading.curveX : reading.x);
   return reading;
 }
 

@@ -228,6 +228,12 @@ Refusal SolveBand(const RunRequest& request, const PulseBand& band, double angle
   return RunSettings(plan, pool).refusal;
 }
 
+/// A time (fs) as it is to be read: the last digits of a sum of steps tell nothing.
+double WithoutRounding(double time) {
+  constexpr double finest = 1e9;
+  return std::nearbyint(time * finest) / finest;
+}
+
 /// Points of time with everything else that the points of an axis have.
 AxisFound PointsOfTime(const AxisRun& run, const Setting& middle) {
   AxisFound found;
@@ -239,7 +245,7 @@ AxisFound PointsOfTime(const AxisRun& run, const Setting& middle) {
   found.radius.assign(size, middle.radius);
   found.size.assign(size, middle.x);
   for (int point = 1; point <= run.points; ++point)
-    found.x[static_cast<std::size_t>(point)] = run.xmin + (point - 1) * run.step;
+    found.x[static_cast<std::size_t>(point)] = WithoutRounding(run.xmin + (point - 1) * run.step);
   found.S1.Resize(run.points);
   found.S2.Resize(run.points);
   found.done = run.points;

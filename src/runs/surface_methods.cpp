@@ -49,7 +49,8 @@ Refusal BeyondSurfaceWaves(const MethodOptions& options, double x, double mRe) {
                            options.rays.end(), [](int p) { return p != 0; }))
     return NoRays();
   if (!SurfaceWavesApply(x, mRe))
-    return {"Surface wave", "Surface waves need a larger sphere or a higher refractive index", InputAtFault::Size};
+    return {"Surface wave", "Surface waves need a larger sphere or a higher refractive index",
+            mRe > 1 ? InputAtFault::Size : InputAtFault::None};
   // Poles of order p + 1 are too near each other for their circles where the sphere is small.
   const int most = static_cast<int>(std::max(leastOfMostCuts, std::min(x / sizePerCut, 1e6)));
   const auto wanted = std::ranges::find_if(options.rays.rbegin(), options.rays.rend(), [](int p) { return p != 0; });

@@ -84,6 +84,8 @@ TEST_F(Dew, BadSurfacesAreRefused) {
   Do("set txtRadius 0.5\nclick cmdNewPlot");
   EXPECT_EQ(LastText(), "Heiligenschein needs a larger sphere: its size parameter x must be at least 10");
   EXPECT_EQ(runner.Current().form1.txtRadius.BackColour, colours::BadInput);
+  Do("choose cboType Mie");
+  EXPECT_EQ(runner.Current().form1.txtRadius.BackColour, colours::White) << "it is good for another method";
   Choose("2", "0");
   Do("set txtXmax 361\nclick cmdNewPlot");
   EXPECT_EQ(LastText(), "Maximum angle > 360 degrees");

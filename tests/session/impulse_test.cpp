@@ -371,6 +371,31 @@ TEST_F(Impulse, UndoBringsBackWhatIsToldOfThePulse) {
   EXPECT_EQ(Get("lblWatts.Visible"), "false");
 }
 
+TEST_F(Impulse, WhatIsToldOfAPulseGoesWithIt) {
+  Do("dialog dlogImpulse ok\nchoose cboGraph Impulse response\nset txtF9_max 280\n"
+     "choose cboGraph Qext/Qsca/Qabs impulse response");
+  EXPECT_EQ(Get("txtF9_min"), "-554.67") << "times of another graph";
+  Do("dialog dlogIncident cancel\nchoose cboGraph Watts/sq. m. v. scattering angle");
+  EXPECT_EQ(Get("lblWatts") + Get("lblDistance"), "");
+  // A window that does not hold its pulse is told.
+  runner.World().messages.clear();
+  Do("dialog dlogImpulse ok cboFFT=128 cboPulseDuration=100\nchoose cboGraph Impulse response");
+  ASSERT_FALSE(Shown().empty());
+  EXPECT_EQ(LastText(), "The time window of 69.33 fs cuts the pulse off. Select more samples.");
+}
+
+TEST_F(Impulse, BeyondItsSamplesTheWindowTellsNothing) {
+  Drop("cboFFT=2048");
+  Do("click cmdNewPlot\nclick mnuImpulsePlot\nset ImpulsePlot.txtXmax 6000\nset ImpulsePlot.txtXmin 1000\n"
+     "click ImpulsePlot.cmdReplot");
+  const GraphBox box = Plot().panels.front().box;
+  InversePlot(Now(), box.right - 10, 2000);
+  EXPECT_NE(Get("ImpulsePlot.lblTime"), "");
+  EXPECT_EQ(Get("ImpulsePlot.lblIntensity1") + Get("ImpulsePlot.lblIntensity2"), "");
+  InversePlot(Now(), box.left + 10, 2000);
+  EXPECT_NE(Get("ImpulsePlot.lblIntensity1"), "");
+}
+
 TEST_F(Impulse, RowsThatAStopHasLeftHaveNoCells) {
   Drop("cboFFT=2048");
   Do("click cmdNewPlot");

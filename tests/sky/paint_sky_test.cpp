@@ -111,30 +111,34 @@ TEST(LightTable, LiesOnStraightLinesBetweenItsRowsAndEndsAtThem) {
 
 // Between two sectors a bow stands between its places in both, as bright as in them.
 TEST(LightTable, BowsMoveEvenlyFromSectorToSector) {
-  LightTable table{0, 1, std::vector<PolarisedLight>(181)};
-  constexpr double nowhere = std::numeric_limits<double>::quiet_NaN();
-  const auto sector = [&](int secondary, int primary) {
-    std::vector<PolarisedLight> rows(181);
+  constexpr int sectors = 24;
+  LightTable table{0, 0.5, std::vector<PolarisedLight>(361)};
+  const auto primary = [](double sector) { return 138 + 0.5 * sector; };
+  const auto secondary = [](double sector) { return 130 - 0.25 * sector; };
+  for (int k = 0; k < sectors; ++k) {
+    std::vector<PolarisedLight> rows(361);
+    const auto row = [](double angle) { return static_cast<std::size_t>(std::lround(2 * angle)); };
     const ColourTriple red{100, 0, 0}, green{0, 100, 0};
-    if (secondary > 0) rows[static_cast<std::size_t>(secondary)] = {green, green};
-    rows[static_cast<std::size_t>(primary)] = {red, red};
+    for (std::size_t i = row(primary(k)); i < rows.size(); ++i) rows[i] = {red, red};
+    for (std::size_t i = 0; i <= row(secondary(k)); ++i) rows[i] = {green, green};
     table.sectors.push_back(std::move(rows));
-    table.bows.push_back({secondary > 0 ? secondary : nowhere, static_cast<double>(primary)});
+    table.bows.push_back({secondary(k), primary(k)});
+  }
+  const auto light = [&](double place, double angle) {
+    return LightOfSectors(table, (place + 0.5) / sectors * std::numbers::pi, angle, 0.5, 0.5);
   };
-  sector(128, 140);
-  sector(126, 146);
-  sector(0, 150);
-  const auto light = [&](double sectorsFromTop, double angle) {
-    return LightOfSectors(table, (sectorsFromTop + 0.5) / 3 * std::numbers::pi, angle, 0.5, 0.5);
-  };
-  EXPECT_NEAR(light(0, 140).r, 100, 1e-9);
-  EXPECT_NEAR(light(0.5, 143).r, 100, 1e-9);
-  EXPECT_NEAR(light(0.5, 140).r, 0, 1e-9);
-  EXPECT_NEAR(light(0.25, 127.5).g, 100, 1e-9);
-  EXPECT_NEAR(LightOfSectors(table, -std::numbers::pi / 3, 143, 0.5, 0.5).r, 100, 1e-9) << "the other side";
-  // A bow that has ended fades where it was.
-  EXPECT_NEAR(light(1.5, 148).r, 100, 1e-9);
-  EXPECT_NEAR(light(1.5, 0).g + light(1.5, 180).g, 0, 1e-9);
+  // A step of brightness that goes along with the bow, wherever between the sectors it is looked at.
+  for (double place = 4; place <= 18; place += 0.3) {
+    EXPECT_LT(light(place, primary(place) - 0.8).r, 1) << place;
+    EXPECT_GT(light(place, primary(place) + 0.4).r, 99) << place;
+    EXPECT_LT(light(place, secondary(place) + 0.8).g, 1) << place;
+    EXPECT_GT(light(place, secondary(place) - 0.4).g, 99) << place;
+    EXPECT_EQ(light(place, 150).r, light(-place - 1, 150).r) << "the other side";
+  }
+  // One that has ended is where it was; nothing is added or lost.
+  for (std::size_t k = 12; k < sectors; ++k) table.bows[k][0] = std::numeric_limits<double>::quiet_NaN();
+  EXPECT_NEAR(light(20, 10).g, 100, 1e-9);
+  EXPECT_NEAR(light(0, 179).r, 100, 1e-9);
 }
 
 // The top of the bow, its sides and its foot are those of the sky, however the camera stands.

@@ -53,9 +53,6 @@ void PaintLegends(DrawingSurface& surface, const Page& page) {
     const double width = surface.TextWidth(name);
     const double top = TopOf(labels, page.panels[curve.panel].box, *start, width, height);
     labels.Take(start->x + fromStart, top, width, height);
-    // Curves cross what stands beside their starts.
-    surface.ForeColour = page.style.ground;
-    surface.Line(start->x + fromStart, top, start->x + fromStart + width, top + height, LineKind::FilledBox);
     surface.ForeColour = curve.colour;
     surface.CurrentX = start->x + fromStart;
     surface.CurrentY = top;

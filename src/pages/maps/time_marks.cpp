@@ -14,7 +14,7 @@ namespace {
 
 /// Colours that stand out from a ramp over all hues: white and black, and pale shades, in turns.
 const std::array waveColours = {RGB(255, 255, 255), RGB(255, 190, 255), RGB(190, 255, 255), RGB(255, 255, 150)};
-const Colour rayColour = RGB(255, 255, 255), fallingColour = RGB(255, 128, 255);
+const Colour rayColour = RGB(255, 255, 255), fallingColour = RGB(255, 140, 0);
 
 /// Dots that have their values beside them are a tenth of the radius apart.
 constexpr double betweenValues = 0.1;
@@ -49,7 +49,7 @@ std::optional<RaysOfRun> RaysOf(const RunRequest& request, const PulsedLight& li
 
 std::string ValuesAt(double angle, double time) {
   constexpr int digits = 5;
-  return Significant(angle, digits) + "\u00B0 " + Significant(time, digits);
+  return Significant(angle, digits) + "\u00B0 " + Significant(time, digits) + " fs";
 }
 
 void AddRays(const RaysOfRun& run, const TimePlotLook& look, std::vector<MapMarks>& marks) {

@@ -260,7 +260,10 @@ void InversePlot(Session& session, double x, double) {
   const auto last = static_cast<double>(curves.x.size() - 1);
   const auto row = static_cast<std::size_t>(std::clamp(std::round((time - curves.x[1]) / step) + 1, 1.0, last));
   constexpr int digits = 6;
+  ClearReading(form);
   form.lblTime.Caption = "Time = " + Significant(time, digits) + " fs";
+  // Before the first sample and after the last there is nothing.
+  if (!(std::fabs(curves.x[row] - time) <= step)) return;
   form.lblIntensity1.Caption = "Intensity 1 = " + Format(curves.perpendicular[row], "Scientific");
   form.lblIntensity2.Caption = "Intensity 2 = " + Format(curves.parallel[row], "Scientific");
 }

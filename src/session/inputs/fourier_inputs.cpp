@@ -120,6 +120,11 @@ void AskFourier(Session& session) {
   session.events.Raise("cmdReplot_Click");
 }
 
+void OfferTransform(Session& session) {
+  auto& form = session.form1;
+  form.mnuFFT.Enabled = form.mnuFFT.Checked || !form.mnuXStepLog.Checked;
+}
+
 void mnuFFT_Click(Session& session) {
   auto& form = session.form1;
   if (form.mnuFFT.Checked) {

@@ -9,6 +9,9 @@ namespace lumivex {
 /// of several wavelengths have no spectrum, which is told.
 void mnuFFT_Click(Session& session);
 
+/// Transforms take equal steps: with logarithmic ones nothing but the way back is offered.
+void OfferTransform(Session& session);
+
 /// The dialog is shown.
 void AskFourier(Session& session);
 

@@ -7,6 +7,7 @@
 #include <initializer_list>
 
 #include "record/number_text.h"
+#include "session/inputs/fourier_inputs.h"
 #include "session/inputs/input_events.h"
 #include "session/inputs/input_tips.h"
 #include "session/inputs/map_inputs.h"
@@ -330,6 +331,12 @@ void cboGraph_Click(Session& session) {
   SetGraph(s, row->code);
   const Graph& chosen = ChosenGraph(s);
   ChangeFamily(session, before);
+  // What is told of a pulse says nothing of another light, and the times of one graph are none of another's.
+  if (before.OfPulse() && !chosen.OfPulse()) {
+    form.lblWatts.Caption.clear();
+    form.lblDistance.Caption.clear();
+  }
+  if (before.OfPulse() && before.family != chosen.family) form.txtF9_step.Text.clear();
   EnterOrLeaveTwoAngle(session, before.family == Family::TwoAngle);
   if (chosen.OfAngles()) {
     form.mnuInvWavelength.Checked = Trim(form.cboWave.Text) != "1";
@@ -342,6 +349,7 @@ void cboGraph_Click(Session& session) {
   s.ReplotOfSizes = 0;
   form.cmdNewPlot.Enabled = true;
   DewAnglesOfGraph(session);
+  OfferTransform(session);
   AskForDistance(session);
   if (chosen.family == Family::Volume) session.events.Raise("dlogVolume.Show");
   if (chosen.OfPulse()) session.events.Raise("dlogImpulse.Show");

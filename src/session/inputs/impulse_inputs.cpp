@@ -170,6 +170,9 @@ std::string ShortWindowWords(double window, double wanted) {
 
 std::string ShortWindowOfInputs(const Session& session) {
   const ResponseClock clock = ClockOfInputs(session);
+  const PulseRequest pulse = ReadPulsedLight(session).pulse;
+  if (!IsSignal(pulse.form) && clock.Window() < 2 * pulse.duration)
+    return "The time window of " + TimeText(clock.Window()) + " fs cuts the pulse off. Select more samples.";
   const double medium = MediumIndexInUse(session), m = Val(session.form1.txtRefractReal.Text) / medium;
   return ShortWindowWords(clock.Window(), WindowWanted(clock.diameterTime, m));
 }

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "record/number_text.h"
+#include "session/inputs/fourier_inputs.h"
 #include "session/inputs/graph_types.h"
 #include "session/inputs/impulse_inputs.h"
 #include "session/inputs/input_tips.h"
@@ -37,6 +38,10 @@ void Inputs_Changed(Session& session) {
   form.cmdNewPlot.Enabled = true;
   form.cmdReplot.Enabled = false;
   session.state.ReplotOfSizes = 0;
+  // A size that a method has refused may be good for what has been changed.
+  if (form.txtRadius.BackColour == colours::BadInput && IsNumber(form.txtRadius.Text) && Val(form.txtRadius.Text) > 0)
+    form.txtRadius.BackColour = colours::White;
+  OfferTransform(session);
 }
 
 void Picture_Changed(Session& session) {

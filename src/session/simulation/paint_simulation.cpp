@@ -1,5 +1,6 @@
 #include "session/simulation/paint_simulation.h"
 
+#include <numbers>
 #include <vector>
 
 #include "pages/photograph/sky_light.h"
@@ -93,7 +94,14 @@ void StoreLight(Session& session) {
   auto light = LightOfBars(session.page, {rows->xmin, rows->xmax}, ReadLook(session).colours.rules);
   if (!light) return;
   const Results& results = *s.LastResults;
-  if (!light->sectors.empty()) light->bows = BowsOfSectors(results, static_cast<int>(light->sectors.size()));
+  if (!light->sectors.empty()) {
+    light->bows = BowsOfSectors(results, static_cast<int>(light->sectors.size()));
+    // Flattened drops have been lit by a sun of one elevation, which is that of the sky now.
+    auto& form = session.forms.form2;
+    constexpr int digits = 6;
+    if (ChosenPoint(form) != PointKind::Arc)
+      form.txtSunElevation.Text = Significant(results.asked.method.drop.elevation * 180 / std::numbers::pi, digits);
+  }
   simulation.stored = simulation.light = std::make_shared<const LightTable>(std::move(*light));
   simulation.lightWords.clear();
   s.SimTableRows = static_cast<int>(simulation.stored->rows.size());

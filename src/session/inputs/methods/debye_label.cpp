@@ -100,8 +100,10 @@ std::string ProfileText(const Details::RadialProfile& profile) {
 }
 
 std::string DropText(const Details::Drop& drop) {
-  return drop.shape + " (p = " + drop.rays + ")\nSun elevation " + drop.elevation + "\u00B0, " +
-         (drop.clock.empty() ? "all round" : "clock angle " + drop.clock + "\u00B0");
+  using enum Details::Drop::Place;
+  const std::string text = drop.shape + " (p = " + drop.rays + ")\nSun elevation " + drop.elevation + "\u00B0";
+  if (drop.place == Along) return text;
+  return text + (drop.place == AllRound ? ", all round" : ", clock angle " + drop.clock + "\u00B0");
 }
 
 Details::Drop DropOf(const Session& session) {
@@ -112,7 +114,10 @@ Details::Drop DropOf(const Session& session) {
                                          : "Spheroid, axis ratio by size";
   drop.rays = SelectedRaysText(RaysOfDrop(session));
   drop.elevation = d.txtElevation.Text;
-  if (!d.chkAllRound.Checked) drop.clock = d.txtClock.Text + " \u00B1 " + d.txtClockWidth.Text;
+  drop.clock = d.txtClock.Text + " \u00B1 " + d.txtClockWidth.Text;
+  drop.place = ChosenGraph(session.state).quantity == Quantity::BowAngle ? Details::Drop::Place::Along
+               : d.chkAllRound.Checked                                   ? Details::Drop::Place::AllRound
+                                                                         : Details::Drop::Place::About;
   return drop;
 }
 

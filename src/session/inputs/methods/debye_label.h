@@ -37,9 +37,12 @@ struct DebyeLabelDetails {
     std::string B, C, F;
   };
 
-  /// A flattened drop, which rays of it are counted and where; `clock` is empty for all round.
+  /// A flattened drop, which rays of it are counted and where: all round, about a clock angle, or along the whole
+  /// clock.
   struct Drop {
+    enum class Place { AllRound, About, Along };
     std::string shape, rays, elevation, clock;
+    Place place = Place::AllRound;
   };
 
   Method method = Method::Mie;
