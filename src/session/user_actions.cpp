@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "record/number_text.h"
 #include "session/checks/number_input.h"
 #include "session/undo.h"
 
@@ -16,6 +17,12 @@ bool Takes(const Control& control) {
 /// The mark of a bad input belongs to what stood there.
 void TakeMarkOff(Control& control) {
   if (control.BackColour == colours::BadInput) control.BackColour = colours::White;
+}
+
+/// A size that a method has refused may be good for whatever is changed.
+void TakeSizeMarkOff(Session& session) {
+  auto& radius = session.form1.txtRadius;
+  if (IsNumber(radius.Text) && Val(radius.Text) > 0) TakeMarkOff(radius);
 }
 
 void SetByClick(Control& control) {
@@ -43,6 +50,7 @@ bool UserTypes(Session& session, Control& control, std::string_view text) {
     const ActionScope acting(session.undo);
     *field = text;
     TakeMarkOff(control);
+    TakeSizeMarkOff(session);
     if (control.Kind() == ControlKind::SelectionList) static_cast<SelectionList&>(control).Picked = -1;
     if (!session.events.Raise(EventName(control, "Change"))) session.events.Raise(EventName(control, "Click"));
   }
@@ -57,6 +65,7 @@ bool UserChooses(Session& session, SelectionList& list, std::string_view item) {
     const ActionScope acting(session.undo);
     list.Text = item;
     TakeMarkOff(list);
+    TakeSizeMarkOff(session);
     list.Picked = list.PlaceOf(item);
     if (!session.events.Raise(EventName(list, "Click"))) session.events.Raise(EventName(list, "Change"));
   }
@@ -73,6 +82,7 @@ bool UserClicks(Session& session, Control& control) {
     RememberInputs(session, "");
     const ActionScope acting(session.undo);
     SetByClick(control);
+    TakeSizeMarkOff(session);
     session.events.Raise(EventName(control, "Click"));
   }
   OfferHistory(session);

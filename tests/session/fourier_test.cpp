@@ -93,7 +93,13 @@ TEST_F(Fourier, ExtinctionRipplesWithTheLightStraightThrough) {
   const PagePanel& panel = Drawn().panels.front();
   const PanelMap map{panel.box, panel.limits, false, panel.logY};
   const double middle = (panel.box.top + panel.box.bottom) / 2;
-  EXPECT_NE(ReadAt(Drawn(), map.X(0.106), middle)->text.find("rays p = 1 and diffraction"), std::string::npos);
+  // Of the point that is told, wherever the pointer is.
+  for (const double beside : {-0.002, 0.002}) {
+    const auto reading = ReadAt(Drawn(), map.X(slow.frequency + beside), map.Y(slow.magnitude));
+    ASSERT_TRUE(reading->onCurve);
+    EXPECT_NEAR(reading->curveX, slow.frequency, 1e-9);
+    EXPECT_NE(reading->text.find("rays p = 1 and diffraction"), std::string::npos) << reading->text;
+  }
   EXPECT_NE(ReadAt(Drawn(), map.X(3.3), middle)->text.find("no rays"), std::string::npos);
 }
 
@@ -147,13 +153,17 @@ TEST_F(Fourier, TheDialogHoldsItsFields) {
 }
 
 TEST_F(Fourier, CurvesWithoutASpectrumAreTold) {
-  for (const char* run : {"set cboWave 7", "choose cboGraph Lee diagram: radius\nset txtXmin 137\nset txtXmax 140",
-                          "choose cboGraph Qback v. radius\nset cboStep 50"}) {
+  for (const char* run : {"set cboWave 7", "choose cboGraph Lee diagram: radius\nset txtXmin 137\nset txtXmax 140"}) {
     Do(std::string("reset\nset txtRadius 2\n") + run + "\nclick cmdNewPlot\nclick mnuFFT");
     ASSERT_FALSE(Shown().empty()) << run;
     EXPECT_EQ(LastTitle(), "Option not available") << run;
     EXPECT_EQ(Get("mnuFFT"), "false") << run;
   }
+  // Logarithmic steps are known before.
+  Do("reset\nchoose cboGraph Qback v. radius");
+  EXPECT_EQ(Get("mnuFFT.Enabled"), "false");
+  Do("click mnuXStepLog");
+  EXPECT_EQ(Get("mnuFFT.Enabled"), "true");
   // Means over a cloud have no phases.
   Do("reset\nclick optDisp\nset cboStep 1\nclick cmdNewPlot\ndialog dlogFFT ok\nclick mnuFFT");
   EXPECT_EQ(Get("dlogFFT.optFFTcomplex"), "false");

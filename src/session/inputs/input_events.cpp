@@ -38,9 +38,6 @@ void Inputs_Changed(Session& session) {
   form.cmdNewPlot.Enabled = true;
   form.cmdReplot.Enabled = false;
   session.state.ReplotOfSizes = 0;
-  // A size that a method has refused may be good for what has been changed.
-  if (form.txtRadius.BackColour == colours::BadInput && IsNumber(form.txtRadius.Text) && Val(form.txtRadius.Text) > 0)
-    form.txtRadius.BackColour = colours::White;
   OfferTransform(session);
 }
 
