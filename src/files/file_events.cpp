@@ -5,6 +5,7 @@
 #include "files/batch/read_batch.h"
 #include "files/examples/example_events.h"
 #include "files/examples/gallery.h"
+#include "files/measured/open_data.h"
 #include "files/reports/save_impulse.h"
 #include "files/reports/save_text.h"
 #include "files/results/read_file.h"
@@ -29,13 +30,10 @@ void TickAmplitudes(Session& session) {
 }
 
 constexpr std::array fileEventRows = {
-    EventRow{"mnuRead_Click", mnuRead_Click},
-    EventRow{"mnuSave_Click", mnuSave_Click},
-    EventRow{"mnuOverplot_Click", mnuOverplot_Click},
-    EventRow{"mnuS1S2_Click", TickAmplitudes},
-    EventRow{"mnuBatchFile_Click", mnuBatchFile_Click},
-    EventRow{"mnuSaveText_Click", mnuSaveText_Click},
-    EventRow{"ImpulsePlot.mnuSave_Click", ImpulsePlot_mnuSave_Click},
+    EventRow{"mnuRead_Click", mnuRead_Click},         EventRow{"mnuSave_Click", mnuSave_Click},
+    EventRow{"mnuOverplot_Click", mnuOverplot_Click}, EventRow{"mnuOpenData_Click", mnuOpenData_Click},
+    EventRow{"mnuS1S2_Click", TickAmplitudes},        EventRow{"mnuBatchFile_Click", mnuBatchFile_Click},
+    EventRow{"mnuSaveText_Click", mnuSaveText_Click}, EventRow{"ImpulsePlot.mnuSave_Click", ImpulsePlot_mnuSave_Click},
 };
 
 /// The menus of files are filled once the session stands.

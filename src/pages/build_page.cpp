@@ -51,8 +51,8 @@ std::string NameOfSizes(const RunWords& words) {
 /// A run in words; what the look makes of its curves tells it from others too.
 PageRun WordsOf(const RunToDraw& run) {
   const Results& results = run.results;
-  PageRun words{RunTitleOf(results), MethodLabelOf(results), ParameterLinesOf(results),
-                MarksOf(results),    FinerMarksOf(results),  PlaceMarksOf(results)};
+  PageRun words{results.number,   RunTitleOf(results),   MethodLabelOf(results), ParameterLinesOf(results),
+                MarksOf(results), FinerMarksOf(results), PlaceMarksOf(results)};
   const bool disc = run.look.sun.disc && results.asked.graph.AgainstAngle();
   words.marks.emplace_back(disc ? "disc of the sun" : "");
   words.marks.push_back(run.look.averageWidth ? "mean over " + Significant(*run.look.averageWidth, 8) : "");
@@ -142,15 +142,6 @@ void AddRun(Page& page, const RunToDraw& run) {
   page.wavefronts = angles != nullptr ? angles->wavefronts : std::vector<HuygensWave>();
 }
 
-/// Whether curves of one kind may be drawn on the axes of the other.
-bool SharesAxes(const PageKind& page, const PageKind& run) {
-  return page.graph == run.graph && page.graph.drawing != Drawing::PhasorDiagram &&
-         page.graph.drawing != Drawing::ColourImage && page.wavelengths == 1 && run.wavelengths == 1 &&
-         page.second == run.second && page.amplitude == run.amplitude && page.invWavelength == run.invWavelength &&
-         page.perVolume == run.perVolume && page.fourier == run.fourier && page.xTitle == run.xTitle &&
-         page.yTitle == run.yTitle;
-}
-
 }  // namespace
 
 Page BuildPage(const Results& results, const Look& wanted, const PageGeometry& geometry, const ScaleMemory& memory) {
@@ -164,6 +155,14 @@ Page BuildPage(const Results& results, const Look& wanted, const PageGeometry& g
   AddRun(page, run);
   // Curves have come to the key since the frame was placed.
   return PlacePage(std::move(page), geometry);
+}
+
+bool SharesAxes(const PageKind& page, const PageKind& run) {
+  return page.graph == run.graph && page.graph.drawing != Drawing::PhasorDiagram &&
+         page.graph.drawing != Drawing::ColourImage && page.wavelengths == 1 && run.wavelengths == 1 &&
+         page.second == run.second && page.amplitude == run.amplitude && page.invWavelength == run.invWavelength &&
+         page.perVolume == run.perVolume && page.fourier == run.fourier && page.xTitle == run.xTitle &&
+         page.yTitle == run.yTitle;
 }
 
 Page DrawOver(const Page& page, const Results& results, const Look& wanted) {

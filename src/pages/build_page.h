@@ -15,6 +15,9 @@ Page BuildPage(const Results& results, const Look& look, const PageGeometry& geo
 /// others, a fresh page of the results.
 Page DrawOver(const Page& page, const Results& results, const Look& look);
 
+/// Whether curves of one kind may be drawn on the axes of the other.
+bool SharesAxes(const PageKind& page, const PageKind& run);
+
 /// The page on a surface of another size.
 Page PlacePage(Page page, const PageGeometry& geometry);
 

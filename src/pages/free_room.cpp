@@ -81,7 +81,7 @@ SurfacePoint FreeRoom(const Page& page, double width, double height, double left
   const double taken = page.histogram ? HistogramRight : ReadingsRight;
   if (mostLeft >= taken && edge + height <= stripEnd) return {std::min(std::max(left, taken), mostLeft), edge};
 
-  const GraphBox box = BoxOf(page, PanelPlace::Whole);
+  const GraphBox box = PlotBox(page);
   if (mostLeft >= box.right + edge) return {mostLeft, box.top};
 
   CoveredCells cells(box);

@@ -63,6 +63,9 @@ std::string PageInWords(const Page& page) {
     if (curve.panel == 0 && told++ < mostCurves)
       words += CurveInWords(curve, names.Of(curve), {panel.limits.xmin, panel.limits.xmax});
   if (told > mostCurves) words += " And " + std::to_string(told - mostCurves) + " more curves.";
+  if (page.panels.back().below != BelowGraph::Nothing)
+    words += page.panels.back().below == BelowGraph::Ratio ? " Below it ratios." : " Below it differences.";
+  for (const PageNote& note : page.notes) words += " " + note.text + ".";
   return words;
 }
 

@@ -138,6 +138,14 @@ void AddBarColumns(const PageBars& bars, RowSpan rows, std::vector<Column>& colu
     }
 }
 
+/// Errors of measured data, for rows that have a place.
+Column ErrorColumn(const std::vector<Column>& columns, const PageCurve& points, const std::string& name, RowSpan rows) {
+  Column errors{Unused(columns, name + ": error"), {}};
+  for (std::size_t i = rows.first; i <= rows.last; ++i)
+    if (std::isfinite(points.x[i])) errors.cells.push_back(Cell(points.error[i]));
+  return errors;
+}
+
 }  // namespace
 
 std::vector<TableColumn> TableOf(const Page& page) {
@@ -167,6 +175,7 @@ std::vector<TableColumn> TableOf(const Page& page) {
       for (std::size_t i = rows.first; i <= rows.last; ++i)
         if (std::isfinite(x[i])) ys.cells.push_back(Cell(values[i]));
       columns.push_back(std::move(ys));
+      if (!curve.error.empty()) columns.push_back(ErrorColumn(columns, curve, names.InKey(curve), rows));
     }
     if (barsStand || !SameValues(x, page.bars->angle)) continue;
     AddBarColumns(*page.bars, rows, columns);
@@ -175,19 +184,33 @@ std::vector<TableColumn> TableOf(const Page& page) {
   return columns;
 }
 
+namespace {
+
+/// What is compared, and how measured data fit.
+void AddNotes(const Page& page, std::vector<std::string>& lines) {
+  for (const PageNote& note : page.notes) lines.push_back("Compared: " + note.text);
+}
+
+}  // namespace
+
 std::vector<std::string> HeaderOf(const Page& page) {
   std::vector<std::string> lines;
   for (std::size_t i = 0; i < page.runs.size(); ++i) {
     if (page.runs.size() > 1) lines.push_back("Run " + std::to_string(i + 1));
     lines.insert(lines.end(), page.runs[i].parameters.begin(), page.runs[i].parameters.end());
   }
+  AddNotes(page, lines);
   return lines;
 }
 
 std::vector<std::string> HeaderInShort(const Page& page) {
   if (page.runs.empty()) return {};
   const auto& first = page.runs.front().parameters;
-  if (page.runs.size() == 1) return first;
+  if (page.runs.size() == 1) {
+    std::vector<std::string> all = first;
+    AddNotes(page, all);
+    return all;
+  }
   const auto isIn = [](const std::vector<std::string>& lines, const std::string& line) {
     return std::ranges::find(lines, line) != lines.end();
   };
@@ -202,6 +225,7 @@ std::vector<std::string> HeaderInShort(const Page& page) {
       if (!inAll(line)) own += (own.empty() ? "" : "; ") + std::string(Trim(line));
     lines.push_back("Run " + std::to_string(i + 1) + (own.empty() ? "" : ": " + own));
   }
+  AddNotes(page, lines);
   return lines;
 }
 

@@ -3,6 +3,8 @@
 
 #include "pages/bars/bar_place.h"
 #include "pages/build_page.h"
+#include "pages/compare/below_panel.h"
+#include "pages/compare/paint_points.h"
 #include "pages/curves/curve_key.h"
 #include "pages/curves/curve_legends.h"
 #include "pages/curves/curve_path.h"
@@ -39,7 +41,10 @@ void PaintPanel(DrawingSurface& surface, const Page& page, std::size_t index, Ti
     if (page.kind.polar) PaintPolarTicks(surface, page, curve, polarLabels);
   }
   if (!page.kind.polar) PaintBoxSides(surface, page.kind, panel.box);
-  if (panel.second && page.kind.second == SecondPanel::Polarisation) PaintMiddleLine(surface, panel.box);
+  if (panel.below != BelowGraph::Nothing)
+    PaintBelowNotes(surface, page, panel);
+  else if (panel.second && page.kind.second == SecondPanel::Polarisation)
+    PaintMiddleLine(surface, panel.box);
 }
 
 /// Lines of text in columns over the room of the graph.
@@ -128,6 +133,7 @@ void Paint(const Page& page, DrawingSurface& surface) {
   PaintTwoAngleNotes(surface, page);
   PaintBars(surface, page);
   PaintLegends(surface, page);
+  PaintMarkers(surface, page);
   PaintKey(surface, page, polarLabels);
   PrintTitle(surface, page);
   PaintStrip(surface, page);

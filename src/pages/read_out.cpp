@@ -126,9 +126,9 @@ std::string_view XUnit(const PageKind& kind) {
   return XUnitOf(kind.graph, {kind.fourier, kind.invWavelength});
 }
 
-std::string_view YUnit(const PageKind& kind, bool secondPanel) {
-  if (kind.fourier) return "";
-  if (secondPanel) return kind.second == SecondPanel::Phases ? "deg" : "";
+std::string_view YUnit(const PageKind& kind, const PagePanel& panel) {
+  if (kind.fourier || panel.below == BelowGraph::Ratio) return "";
+  if (panel.second && panel.below == BelowGraph::Nothing) return kind.second == SecondPanel::Phases ? "deg" : "";
   return YUnitOf(kind.graph, {kind.amplitude, kind.invWavelength, kind.perVolume});
 }
 
@@ -156,7 +156,7 @@ std::optional<GraphReading> ReadAt(const Page& page, double surfaceX, double sur
 
   const PagePanel& panel = page.panels[reading.panel];
   const XRange range{panel.limits.xmin, panel.limits.xmax};
-  const std::string_view xUnit = XUnit(page.kind), yUnit = YUnit(page.kind, panel.second);
+  const std::string_view xUnit = XUnit(page.kind), yUnit = UnitOfY(page, panel);
   reading.text = WithUnit(reading.x, DigitsOfX(reading.x, range), xUnit) + "   " + WithUnit(reading.y, 4, yUnit);
   const CurveNames names(page);
   if (reading.onCurve && page.kind.IsTwoAngle()) {
@@ -169,6 +169,10 @@ std::optional<GraphReading> ReadAt(const Page& page, double surfaceX, double sur
   if (page.kind.fourier)
     reading.text += "      " + RaysNear(page.frequencies, reading.onCurve ? reading.curveX : reading.x);
   return reading;
+}
+
+std::string_view UnitOfY(const Page& page, const PagePanel& panel) {
+  return YUnit(page.kind, panel);
 }
 
 XRange RangeShown(const Page& page) {

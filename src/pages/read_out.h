@@ -23,6 +23,9 @@ struct GraphReading {
 /// and the light of the column.
 std::optional<GraphReading> ReadAt(const Page& page, double surfaceX, double surfaceY);
 
+/// Unit of the vertical axis of a panel; empty where it has none.
+std::string_view UnitOfY(const Page& page, const PagePanel& panel);
+
 /// The x range after a zoom at a place of the surface: `factor` below 1 shows less, the value under the place stays
 /// there. Angles keep within 0 to 180 degrees, other axes within the range of the frame and of its curves.
 XRange ZoomAt(const Page& page, double surfaceX, double factor);

@@ -169,6 +169,7 @@ Page WithView(Page page, const PageView& view, const Look& look) {
 
 bool HasDataOver(const Page& page, XRange range) {
   for (const auto& curve : page.curves) {
+    if (curve.data != 0) continue;
     const auto extent = ExtentOf(curve);
     if (!extent) continue;
     // The last step of an axis may end short of it.

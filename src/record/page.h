@@ -90,8 +90,12 @@ struct PageKind {
   bool IsComplexPolar() const { return polar && second == SecondPanel::Phases; }
 };
 
-/// Where a panel stands, so that it finds its place again when the graph changes its size.
-enum class PanelPlace { Whole, Upper, Lower, Left, Middle, Right };
+/// What a panel below the graph shows of two curves, or of measured data and a curve.
+enum class BelowGraph { Nothing, Difference, Ratio };
+
+/// Where a panel stands, so that it finds its place again when the graph changes its size. The panel below the graph
+/// takes its room from the others.
+enum class PanelPlace { Whole, Upper, Lower, Left, Middle, Right, Below };
 
 /// One frame with its axes.
 struct PagePanel {
@@ -99,8 +103,9 @@ struct PagePanel {
   GraphBox box;  ///< surface units
   AxisLimits limits;
   bool logY = true;
-  bool second = false;  ///< phases, polarisation or ratios, on a scale of their own
-  double oddTest = 0;   ///< GridOddTest as the frame before left it
+  bool second = false;                     ///< phases, polarisation or ratios, or a comparison, on a scale of their own
+  BelowGraph below = BelowGraph::Nothing;  ///< what the panel below the graph compares
+  double oddTest = 0;                      ///< GridOddTest as the frame before left it
 };
 
 /// Numbers that do not change once they are made. Copies share them: a page of long curves is copied at every zoom, and
@@ -152,6 +157,7 @@ struct PageCurve {
   int kind = 1;              ///< 1 perpendicular, 2 parallel, 3 unpolarised; a ratio of the matrix in this order
   std::string name;          ///< polarisation, efficiency or ratio that it is
   std::string keyName;       ///< what key and tables say in place of the name, where it is more; otherwise empty
+  std::string givenName;     ///< what is said everywhere in place of run and name; empty where nobody has given one
   SharedValues x;            ///< in the unit of the x axis; in a polar plot the polar angle (degrees)
   SharedValues y;            ///< after the fold with the solar disc
   SharedValues angle;        ///< what runs along the curve where x does not: the scattering angle (degrees) where x
@@ -165,10 +171,13 @@ struct PageCurve {
   std::vector<Colour> colours;  ///< of each row, where the curve shows the colour of its light; otherwise empty
   int drawStyle = 0;            ///< 0 solid, 1 dash, 2 dot
   int drawWidth = 1;            ///< 1 or 2
+  int data = 0;                 ///< number of the measured data that its points are; 0 for what was calculated
+  SharedValues error;           ///< of such points, to both sides of y; empty without
 };
 
 /// A run that a page shows, in words.
 struct PageRun {
+  int number = 0;  ///< that its session has given it; 0 outside one
   std::string title, methodLabel;
   std::vector<std::string> parameters;
   /// What may tell it from other runs: method, size, sphere, medium, wavelength, angle, what was made of its curves.
@@ -305,6 +314,35 @@ struct PageBars {
   std::array<std::vector<Colour>, 3> columns;
 };
 
+/// Where the key of a page begins, as parts of the width and height of its plot.
+struct KeyPlace {
+  double x = 0, y = 0;
+  bool operator==(const KeyPlace&) const = default;
+};
+
+/// A point of the graph with its number beside it.
+struct PageMarker {
+  int number = 1;
+  std::size_t panel = 0;
+  double x = 0, y = 0;  ///< in the units of the axes
+};
+
+/// The words in the panel below the graph, in the colour of what they are of.
+struct PageNote {
+  std::string text;
+  Colour colour;
+};
+
+/// What a page had before curves were kept, hidden, renamed and compared on it.
+struct PlainCurves {
+  std::vector<PageCurve> curves;
+  std::vector<PageRun> runs;
+  std::size_t runOfBars = 0;
+  XRange x, y;  ///< of the main panel
+  double autoBottom = 0, autoTop = 0;
+  ScaleMemory scale;
+};
+
 /// A page: everything that is on a drawing, as plain data. Overplots stand beside what was there, so that a resize, a
 /// zoom, the read-out and an export show them all.
 struct Page {
@@ -330,6 +368,10 @@ struct Page {
   std::optional<PagePhotograph> photograph;  ///< fills the page of the simulation window, in place of everything else
   std::vector<PageRun> runs;                 ///< in the order drawn
   std::size_t runsLeftOut = 0;               ///< oldest ones that gave way to others
+  std::optional<KeyPlace> keyAt;             ///< nothing: the key stands below the graph
+  std::vector<PageMarker> markers;
+  std::vector<PageNote> notes;               ///< in the panel below the graph
+  std::shared_ptr<const PlainCurves> plain;  ///< of a page that compares; null where it is as its runs gave it
   std::vector<std::string> sheet;            ///< lines of text that stand in place of a graph
 
   /// Whether there is no graph.

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "record/comparison.h"
 #include "record/drawing_surface.h"
 #include "record/events.h"
 #include "record/forms/dialogs.h"
@@ -54,6 +55,7 @@ struct Session {
   Events& events;
   std::optional<Preview> preview;  ///< made in windows alone (session/live); scripts never have one
   UndoHistory undo;
+  Comparison comparison;
   Settings settings;
   Remark remark;
   SimulationPictures simulation;

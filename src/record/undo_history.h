@@ -8,6 +8,7 @@
 #include "catalogue/graph.h"
 #include "catalogue/method.h"
 #include "record/colour.h"
+#include "record/comparison.h"
 #include "record/form.h"
 #include "record/groups/material_state.h"
 
@@ -40,11 +41,12 @@ struct InputState {
   std::string sphereName, mediumName;
   std::vector<std::string> captions;  ///< of the main window's labels and frames, in their order
   DialogSettings settings;
+  Comparison comparison;
   /// The results that Replot was offered for: while they are the last ones, it is offered with these inputs again.
   /// Two states of the same inputs are the same, whatever was calculated.
   std::weak_ptr<const Results> replots;
 
-  auto Inputs() const { return std::tie(forms, graph, method, sphereName, mediumName, captions, settings); }
+  auto Inputs() const { return std::tie(forms, graph, method, sphereName, mediumName, captions, settings, comparison); }
   bool operator==(const InputState& other) const { return Inputs() == other.Inputs(); }
 };
 

@@ -195,6 +195,9 @@ struct Results : std::enable_shared_from_this<Results> {
   LastSphere last;
   DropSky sky;
   double seconds = 0;  ///< that the run took
+  /// That its session has given it, from 1; 0 outside one, and unasked of what nobody has asked for yet.
+  int number = 0;
+  static constexpr int unasked = -1;
 
   const Graph& AskedGraph() const { return asked.graph; }
   template <class Family>

@@ -176,6 +176,8 @@ std::string CurveTable(const Session& session) {
   // A chart of two signals has as many curves as indices, a map tables of cells.
   const Drawing drawing = s.LastResults ? s.LastResults->asked.graph.drawing : Drawing::Curves;
   if (drawing == Drawing::TwoAngleChart || drawing == Drawing::ColourImage) return TableAsCsv(session.page);
+  // What was changed, kept or compared stands on the page alone.
+  if (session.page.plain) return TableAsCsv(session.page);
   const RowRange rows = DisplayedRows(s);
   const bool volume = s.LastResults && s.LastResults->asked.graph.family == Family::Volume;
   const PageKind& kind = session.page.kind;

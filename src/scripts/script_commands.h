@@ -16,7 +16,8 @@ Control* FindControl(Session& session, std::string_view name);
 /// A value as `get` prints it: of a control, of one of its looks ("txtRadius.Visible"), or of a scalar of the record.
 std::optional<std::string> ReadValue(Session& session, std::string_view name);
 
-/// The stored curve's displayed points as CSV; of a chart of two angles what its page shows.
+/// The stored curve's displayed points as CSV; of a chart of two angles, and where curves
+/// are compared, what the page shows.
 std::string CurveTable(const Session& session);
 
 /// The amplitudes of the displayed rows, or of the points of an x-axis run, as CSV.

@@ -12,6 +12,7 @@
 #include "pages/read_out.h"
 #include "record/number_text.h"
 #include "record/text_file.h"
+#include "scripts/compare_commands.h"
 #include "scripts/script_commands.h"
 #include "scripts/script_line.h"
 #include "session/checks/number_input.h"
@@ -252,6 +253,14 @@ struct ScriptCommands {
     run.Written(run.window_.picture(*run.chosen_->form, path, size.width, size.height));
   }
 
+  /// Commands about curves, measured data and marks.
+  template <CompareAnswer (*Command)(Session&, std::string_view)>
+  static void Compare(ScriptRunner& run, std::string_view rest) {
+    const CompareAnswer answer = Command(run.Current(), rest);
+    if (!answer.failure.empty()) throw Failure{answer.failure};
+    if (!answer.table.empty()) run.printer_.Table(answer.table);
+  }
+
   static void Screenshot(ScriptRunner& run, std::string_view rest) {
     if (!run.window_.screenshot) throw Failure{"screenshots need a window: lumivex --script"};
     const std::string path = PathIn(rest);
@@ -268,18 +277,37 @@ struct CommandRow {
 };
 
 constexpr CommandRow commandRows[] = {
-    {"set", ScriptCommands::Set},         {"choose", ScriptCommands::Choose},
-    {"click", ScriptCommands::Click},     {"dialog", ScriptCommands::Dialog},
-    {"answer", ScriptCommands::Answer},   {"open", ScriptCommands::OpenPath},
-    {"save", ScriptCommands::SavePath},   {"get", ScriptCommands::Get},
-    {"table", ScriptCommands::Table},     {"amplitudes", ScriptCommands::Amplitudes},
-    {"array", ScriptCommands::Array},     {"window", ScriptCommands::ChooseWindow},
-    {"drawing", ScriptCommands::Drawing}, {"mouse", ScriptCommands::Mouse},
-    {"size", ScriptCommands::Size},       {"stop-at", ScriptCommands::StopAt},
-    {"load", ScriptCommands::Load},       {"save-results", ScriptCommands::SaveResults},
-    {"reset", ScriptCommands::Reset},     {"messages", ScriptCommands::Messages},
-    {"picture", ScriptCommands::Picture}, {"screenshot", ScriptCommands::Screenshot},
+    {"set", ScriptCommands::Set},
+    {"choose", ScriptCommands::Choose},
+    {"click", ScriptCommands::Click},
+    {"dialog", ScriptCommands::Dialog},
+    {"answer", ScriptCommands::Answer},
+    {"open", ScriptCommands::OpenPath},
+    {"save", ScriptCommands::SavePath},
+    {"get", ScriptCommands::Get},
+    {"table", ScriptCommands::Table},
+    {"amplitudes", ScriptCommands::Amplitudes},
+    {"array", ScriptCommands::Array},
+    {"window", ScriptCommands::ChooseWindow},
+    {"drawing", ScriptCommands::Drawing},
+    {"mouse", ScriptCommands::Mouse},
+    {"size", ScriptCommands::Size},
+    {"stop-at", ScriptCommands::StopAt},
+    {"load", ScriptCommands::Load},
+    {"save-results", ScriptCommands::SaveResults},
+    {"reset", ScriptCommands::Reset},
+    {"messages", ScriptCommands::Messages},
+    {"picture", ScriptCommands::Picture},
+    {"screenshot", ScriptCommands::Screenshot},
     {"read", ScriptCommands::Read},
+    {"curve", ScriptCommands::Compare<CurveCommand>},
+    {"curves", ScriptCommands::Compare<CurvesCommand>},
+    {"below", ScriptCommands::Compare<BelowCommand>},
+    {"data", ScriptCommands::Compare<DataCommand>},
+    {"mark", ScriptCommands::Compare<MarkCommand>},
+    {"marker", ScriptCommands::Compare<MarkerCommand>},
+    {"markers", ScriptCommands::Compare<MarkersCommand>},
+    {"key", ScriptCommands::Compare<KeyCommand>},
 };
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
+#include "session/compare/compare.h"
 #include "session/driver/calibration.h"
 #include "session/driver/commands.h"
 #include "session/driver/display_run.h"
@@ -48,6 +49,10 @@ constexpr EventRow eventRows[] = {
     {"cmdInfo_Click", cmdInfo_Click},
     {"cmdDefault_Click", cmdDefault_Click},
     {"cmdExit_Click", mnuExit_Click},
+
+    // Comparing.
+    {"mnuCurves_Click", mnuCurves_Click},
+    {"mnuMarkPoints_Click", mnuMarkPoints_Click},
 
     // Method and graph.
     {"cboType_click", cboType_click},

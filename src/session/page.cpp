@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "pages/build_page.h"
+#include "pages/compare/compare_page.h"
 #include "pages/frame/frame.h"
 #include "session/inputs/look/read_look.h"
 #include "session/simulation/paint_simulation.h"
@@ -13,7 +14,8 @@ namespace {
 
 void KeepLogo(Session& session, const Page& page) {
   if (page.panels.empty()) return;
-  const LogoPlacement placed = LogoOf(page, page.panels.back());
+  const bool below = page.panels.back().below != BelowGraph::Nothing;
+  const LogoPlacement placed = LogoOf(page, page.panels[page.panels.size() - (below ? 2 : 1)]);
   auto& logo = session.form1.lblLogo;
   logo.Left = placed.left;
   logo.Top = placed.top;
@@ -109,7 +111,10 @@ void DrawPage(Session& session) {
 }
 
 void ShowPage(Session& session, Page page) {
-  session.page = std::move(page);
+  const Look look = ReadLook(session);
+  session.page = WithComparison(std::move(page), session.comparison, look);
+  if (session.preview)
+    session.preview->page = WithComparison(std::move(session.preview->page), session.comparison, look);
   KeepScale(session.state, session.page);
   KeepLogo(session, session.page);
   KeepBars(session);
@@ -137,10 +142,10 @@ void ShowView(Session& session, const PageView& view) {
   if (session.preview) {
     Page& preview = session.preview->page;
     onPage = preview.kind.graph == session.page.kind.graph && preview.home == session.page.home;
-    preview = WithView(std::move(preview), view, look);
+    preview = WithComparison(WithView(PlainPage(std::move(preview)), view, look), session.comparison, look);
   }
   if (onPage)
-    ShowPage(session, WithView(session.page, view, look));
+    ShowPage(session, WithView(PlainPage(session.page), view, look));
   else
     DrawPage(session);
 }

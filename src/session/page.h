@@ -12,9 +12,9 @@ const Page& ShownPage(const Session& session);
 /// of the record and no control.
 void DrawPage(Session& session);
 
-/// Shows a page in the main window. Limits, extremes and what the scales remember go to the record (Ymin, Ymax,
-/// YAutoMin, YAutoMax, StoredTop ...), what its bars show too (BarScale, SimColourTable ...), of a map
-/// LeeOverallMaximum and LeeCurrentMaximum, place and colour of the logo to its label.
+/// Shows a page in the main window, with what the session compares laid over it. Limits, extremes and what the scales
+/// remember go to the record (Ymin, Ymax, YAutoMin, YAutoMax, StoredTop ...), what its bars show too (BarScale,
+/// SimColourTable ...), of a map LeeOverallMaximum and LeeCurrentMaximum, place and colour of the logo to its label.
 void ShowPage(Session& session, Page page);
 
 /// Shows the page in the colours, with the grid lines and the readings that the menus ask for now; its curves and

@@ -124,6 +124,7 @@ InputState PresentInputs(Session& session) {
                     s.Layers,
                     s.TimePlotRays,
                     s.TimePlotWaves};
+  state.comparison = session.comparison;
   for (const Form* form : session.forms.All()) state.forms.push_back(form->Snapshot());
   ForEachCaption(session.form1, [&](Control&, const std::string& caption) { state.captions.push_back(caption); });
   return state;
@@ -139,6 +140,7 @@ void RestoreInputs(Session& session, const InputState& state) {
   s.SphereName = state.sphereName;
   s.MediumName = state.mediumName;
   RestoreSettings(s, state.settings);
+  session.comparison = state.comparison;
   FollowLists(session);
   ShowFamilyInputs(session);
   std::size_t i = 0;

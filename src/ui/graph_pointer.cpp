@@ -7,7 +7,9 @@
 #include <utility>
 
 #include "pages/bars/bar_place.h"
+#include "pages/curves/curve_key.h"
 #include "pages/read_out.h"
+#include "session/compare/compare.h"
 #include "session/page.h"
 #include "session/view.h"
 #include "ui/look.h"
@@ -37,6 +39,11 @@ PageView Settled(const Page& page, PageView view) {
   return view;
 }
 
+/// Keys that move the key of a page together with Shift.
+bool IsMovingKey(int key) {
+  return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_Home;
+}
+
 }  // namespace
 
 GraphPointer::GraphPointer(Canvas& canvas, std::function<void(const CommandGate::Action&)> act)
@@ -53,11 +60,13 @@ GraphPointer::GraphPointer(Canvas& canvas, std::function<void(const CommandGate:
     // Two clicks bring the whole picture back: the first waits whether it stays alone.
     if (dragFrom_ && !dragged_) clickAt_ = SurfacePoint{x, y}, click_.start(QApplication::doubleClickInterval());
     dragFrom_.reset();
+    keyGrip_.reset();
     rest_.stop();
     Read({x, y});
   };
   canvas_.mouse.doubleClick = [this](double x, double y) {
     click_.stop();
+    if (IsOnKey({x, y})) return act_([this] { MoveKey(*session_, std::nullopt); });
     if (ZoneAt({x, y}) != Zone::None) Show(HomeOf(ShownPage(*session_)));
   };
   canvas_.mouse.wheel = [this](const CanvasWheel& wheel) { return Wheel(wheel); };
@@ -98,6 +107,11 @@ bool GraphPointer::IsOnTimes(SurfacePoint place) const {
 void GraphPointer::Press(SurfacePoint place) {
   click_.stop();
   dragged_ = false;
+  if (IsOnKey(place)) {
+    const auto box = KeyBox(canvas_.Surface(), ShownPage(*session_));
+    keyGrip_ = SurfacePoint{place.x - box->left, place.y - box->top};
+    return;
+  }
   if (ZoneAt(place) == Zone::Plot) dragFrom_ = place;
 }
 
@@ -117,7 +131,17 @@ bool GraphPointer::Wheel(const CanvasWheel& wheel) {
   return true;
 }
 
+bool GraphPointer::IsOnKey(SurfacePoint place) {
+  if (!session_ || session_->state.Busy != 0 || !TakesComparison(ShownPage(*session_))) return false;
+  const auto box = KeyBox(canvas_.Surface(), ShownPage(*session_));
+  return box && box->Holds(place.x, place.y);
+}
+
 void GraphPointer::Drag(SurfacePoint place) {
+  if (keyGrip_) {
+    const KeyPlace to = KeyPlaceAt(ShownPage(*session_), place.x - keyGrip_->x, place.y - keyGrip_->y);
+    return act_([this, to] { MoveKey(*session_, to); });
+  }
   if (!dragFrom_ || !Ready()) return;
   const double right = place.x - dragFrom_->x, down = place.y - dragFrom_->y;
   if (std::hypot(right, down) < leastDrag) return;
@@ -138,6 +162,7 @@ void GraphPointer::Pan(double right, double down) {
 void GraphPointer::Read(SurfacePoint place) {
   if (!session_) return;
   place_ = place;
+  canvas_.setCursor(IsOnKey(place) ? Qt::SizeAllCursor : Qt::ArrowCursor);
   reading_ = ReadAt(ShownPage(*session_), place.x, place.y);
   canvas_.SetMark(reading_ && reading_->onCurve ? std::optional(reading_->place) : std::nullopt);
   if (readingChanged) readingChanged();
@@ -212,8 +237,34 @@ void GraphPointer::NextCurve(int direction) {
   if (readingChanged) readingChanged();
 }
 
+bool GraphPointer::MoveKeyBy(const QKeyEvent& event) {
+  constexpr double step = 0.02;
+  constexpr KeyPlace fromBelow{0.6, 0.04};
+  if (!(event.modifiers() & Qt::ShiftModifier) || !IsMovingKey(event.key())) return false;
+  if (!KeyBox(canvas_.Surface(), ShownPage(*session_))) return true;
+  if (event.key() == Qt::Key_Home) {
+    act_([this] { MoveKey(*session_, std::nullopt); });
+    return true;
+  }
+  KeyPlace to = ShownPage(*session_).keyAt.value_or(fromBelow);
+  if (ShownPage(*session_).keyAt) {
+    if (event.key() == Qt::Key_Left) to.x -= step;
+    if (event.key() == Qt::Key_Right) to.x += step;
+    if (event.key() == Qt::Key_Up) to.y -= step;
+    if (event.key() == Qt::Key_Down) to.y += step;
+  }
+  to = {std::clamp(to.x, 0.0, 1.0), std::clamp(to.y, 0.0, 1.0)};
+  act_([this, to] { MoveKey(*session_, to); });
+  return true;
+}
+
 bool GraphPointer::Key(const QKeyEvent& event) {
   if (!session_) return false;
+  if (TakesComparison(ShownPage(*session_)) && MoveKeyBy(event)) return true;
+  if (event.key() == Qt::Key_M && event.modifiers() == Qt::NoModifier) {
+    if (reading_ && reading_->onCurve) act_([this] { MarkPoint(*session_, reading_->place.x, reading_->place.y); });
+    return true;
+  }
   const bool ctrl = event.modifiers() & Qt::ControlModifier;
   const bool left = event.key() == Qt::Key_Left || event.key() == Qt::Key_Down;
   const bool right = event.key() == Qt::Key_Right || event.key() == Qt::Key_Up;

@@ -20,7 +20,10 @@ namespace lumivex {
 /// The pointer reads; the wheel zooms both axes at the pointer, with Shift or over the numbers of an axis only one; a
 /// drag pans, a double click shows the whole again. With the focus on the graph, + and - zoom the horizontal axis, the
 /// arrows pan, Home shows the whole, Backspace goes back to the view before, and Ctrl with an arrow steps the reading
-/// from point to point, with Page up and Page down from curve to curve.
+/// from point to point, with Page up and Page down from curve to curve; M marks the point that is read.
+///
+/// The key is dragged, or moved with Shift and an arrow; a double click on it, or Shift and Home, puts it below the
+/// graph again.
 ///
 /// A zoom draws what is stored and calculates nothing. Turns of the wheel that follow each other, and one drag, are one
 /// step back.
@@ -32,6 +35,8 @@ class GraphPointer final : public QObject {
   void Attach(Session& session);
   /// The button went down in the graph: a drag may follow.
   void Press(SurfacePoint place);
+  /// Whether a place lies on the key, which is dragged there.
+  bool IsOnKey(SurfacePoint place);
   /// Whether a place lies on a picture of angle and time, where a click has a meaning of its own.
   bool IsOnTimes(SurfacePoint place) const;
   /// Whether the key meant something here.
@@ -66,6 +71,7 @@ class GraphPointer final : public QObject {
   void NextCurve(int direction);
   void Pan(double right, double down);
   void ZoomX(double factor);
+  bool MoveKeyBy(const QKeyEvent& event);
   bool Ready() const;
   Zone ZoneAt(SurfacePoint place) const;
 
@@ -75,12 +81,13 @@ class GraphPointer final : public QObject {
   std::optional<SurfacePoint> place_;
   std::optional<GraphReading> reading_;
   std::optional<SurfacePoint> dragFrom_;
-  bool dragged_ = false;        ///< the graph has followed the hand since the button went down
-  SurfacePoint clickAt_;        ///< where the button came up
-  QTimer click_;                ///< runs while a second click would make one of two
-  std::vector<PageView> past_;  ///< views before each step
-  bool zoomedLast_ = false;     ///< nothing was typed or chosen since
-  QTimer rest_;                 ///< runs while the hand has not rested: what follows belongs to the same step
+  std::optional<SurfacePoint> keyGrip_;  ///< where the key is held, from its upper left corner
+  bool dragged_ = false;                 ///< the graph has followed the hand since the button went down
+  SurfacePoint clickAt_;                 ///< where the button came up
+  QTimer click_;                         ///< runs while a second click would make one of two
+  std::vector<PageView> past_;           ///< views before each step
+  bool zoomedLast_ = false;              ///< nothing was typed or chosen since
+  QTimer rest_;                          ///< runs while the hand has not rested: what follows belongs to the same step
 };
 
 }  // namespace lumivex

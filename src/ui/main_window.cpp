@@ -103,11 +103,13 @@ MainWindow::MainWindow(CommandGate& gate)
   };
   canvas_->mouse.press = [this](double x, double y) {
     // A press on a picture of times may begin a drag: it counts when it has ended as a click.
-    if (!pointer_.IsOnTimes({x, y})) Act([this, x, y] { Form_MouseDown(*session_, x, y); });
+    if (!pointer_.IsOnTimes({x, y}) && !pointer_.IsOnKey({x, y}))
+      Act([this, x, y] { Form_MouseDown(*session_, x, y); });
     pointer_.Press({x, y});
   };
   pointer_.clicked = [this](double x, double y) {
     if (pointer_.IsOnTimes({x, y})) Act([this, x, y] { Form_MouseDown(*session_, x, y); });
+    if (session_->form1.mnuMarkPoints.Checked) Act([this, x, y] { MarkPoint(*session_, x, y); });
   };
   canvas_->key = [this](const QKeyEvent& event) { return pointer_.Key(event); };
   statusLine_.spectrumWanted = [this] {
@@ -180,6 +182,7 @@ void MainWindow::Attach(Session& session) {
   for (const auto& window : std::exchange(windows_, {})) delete window;
   delete std::exchange(photograph_, nullptr);
   delete std::exchange(impulse_, nullptr);
+  delete std::exchange(curves_, nullptr);
   delete std::exchange(panel_, nullptr);
   live_.Attach(session, *menu_);
   RenewInfo();
@@ -403,6 +406,7 @@ void MainWindow::Refresh() {
     if (window) window->Sync();
   if (photograph_) photograph_->Refresh();
   if (impulse_) impulse_->Refresh();
+  if (curves_) curves_->Refresh();
   pointer_.Renew();
   statusLine_.ShowReading(pointer_.Text());
   ReserveRoom();
@@ -451,7 +455,15 @@ void MainWindow::ShowImpulse() {
   BringToFront(session_->forms.impulsePlot);
 }
 
+void MainWindow::ShowCurves() {
+  if (!curves_) curves_ = new CurvesWindow(gate_, *session_, this);
+  curves_->Refresh();
+  curves_->raise();
+  curves_->activateWindow();
+}
+
 void MainWindow::Show(Form& form) {
+  if (&form == &session_->forms.curves) return ShowCurves();
   if (&form == &session_->forms.form2) return ShowPhotograph();
   if (&form == &session_->forms.impulsePlot) return ShowImpulse();
   const auto open =

@@ -12,6 +12,7 @@
 #include "record/session.h"
 #include "ui/canvas.h"
 #include "ui/command_gate.h"
+#include "ui/curves_window.h"
 #include "ui/dialog_view.h"
 #include "ui/graph_pointer.h"
 #include "ui/impulse_window.h"
@@ -59,6 +60,8 @@ class MainWindow final : public QMainWindow {
   PhotographWindow* Photograph() const { return photograph_; }
   /// The window of one angle, null before it has been shown.
   ImpulseWindowView* Impulse() const { return impulse_; }
+  /// The window of curves, null before it has been shown.
+  CurvesWindow* Curves() const { return curves_; }
   /// Saves the drawing of another form as a picture.
   std::string SaveDrawingOf(const Form& form, std::string_view path) const;
   /// Shows a dialog and waits; true is OK.
@@ -90,6 +93,7 @@ class MainWindow final : public QMainWindow {
 
  private:
   void ShowImpulse();
+  void ShowCurves();
   void ShowPhotograph();
   void FitPanel();
   void BuildPanel(std::size_t density);
@@ -128,6 +132,7 @@ class MainWindow final : public QMainWindow {
   std::vector<QPointer<DialogView>> windows_;  ///< modeless ones
   PhotographWindow* photograph_ = nullptr;
   ImpulseWindowView* impulse_ = nullptr;
+  CurvesWindow* curves_ = nullptr;
   UndoKeys undoKeys_;
 };
 

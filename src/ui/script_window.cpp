@@ -26,6 +26,7 @@ ScriptWindow FunctionsOf(MainWindow& window) {
     return SameName(form.Name(), "Form2") ? window.Photograph() : nullptr;
   };
   const auto second = [&window, photograph](const Form& form) -> QWidget* {
+    if (SameName(form.Name(), "Curves")) return window.Curves();
     return SameName(form.Name(), "ImpulsePlot") ? static_cast<QWidget*>(window.Impulse()) : photograph(form);
   };
   functions.screenshot = [&window, second](Form& form, std::string_view file) {
@@ -35,6 +36,10 @@ ScriptWindow FunctionsOf(MainWindow& window) {
     if (auto* picture = photograph(form)) {
       picture->resize(widthPx, heightPx);
       picture->Settle();
+      return;
+    }
+    if (auto* curves = window.Curves(); curves != nullptr && SameName(form.Name(), "Curves")) {
+      curves->resize(widthPx, heightPx);
       return;
     }
     if (auto* impulse = window.Impulse(); impulse != nullptr && SameName(form.Name(), "ImpulsePlot")) {
@@ -63,7 +68,8 @@ int RunScript(const std::string& path) {
   ScriptRunner runner(std::cout, std::cerr);
   // Dialogs are answered by the script; this window is one to look at.
   runner.World().showForm = [&window](Form& form) {
-    if (SameName(form.Name(), "Form2") || SameName(form.Name(), "ImpulsePlot")) window.Show(form);
+    for (const std::string_view shown : {"Form2", "ImpulsePlot", "Curves"})
+      if (SameName(form.Name(), shown)) window.Show(form);
   };
   runner.World().openPhotograph = ReadPhotographFile;
   runner.World().savePhotograph = WritePhotographFile;

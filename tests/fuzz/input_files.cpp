@@ -1,6 +1,7 @@
 /// Fuzzes the readers of input files: the first byte of the input chooses the reader. Whatever the bytes are, a reader
 /// must end, keep within its rows and hand out a table of consistent length, and a run with it must end too.
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -9,6 +10,7 @@
 #include <utility>
 #include <variant>
 
+#include "files/measured/measured_text.h"
 #include "fuzz/require.h"
 #include "materials/files/catalogue_file.h"
 #include "materials/files/index_import.h"
@@ -81,6 +83,19 @@ void CheckCatalogue(const Catalogue& catalogue) {
   Require(ReadCatalogueFile(again).entries.size() == catalogue.entries.size());
 }
 
+/// Every line is a point or has a fault, and points stand by rising x.
+void CheckMeasured(const std::string& content) {
+  const ColumnText text = ReadColumns(content);
+  if (!text.failure.empty()) return;
+  const int last = static_cast<int>(text.names.size()) - 1;
+  for (const int error : {-1, last}) {
+    const ReadPoints read = PointsFrom(text, 0, 1, error);
+    const MeasuredPoints& points = *read.points;
+    Require(points.x.size() + read.faults.size() == text.rows.size() && points.y.size() == points.x.size());
+    Require(points.error.size() == (error < 0 ? 0 : points.x.size()) && std::ranges::is_sorted(points.x));
+  }
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -104,6 +119,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
       break;
     case 'D':
       CheckSizes(ReadSizeFile(stream, {false, false}));
+      break;
+    case 'm':
+      CheckMeasured(stream.str());
       break;
     case 'x':
       CheckCatalogue(ReadCatalogueFile(stream));

@@ -17,7 +17,7 @@ seed() { # LETTER FILE
 mkdir -p "$work/input_files.seeds" "$work/texts.seeds" "$work/writers.seeds" "$work/batch_files.seeds" "$work/results_files.seeds"
 examples=$root/data/examples
 for file in "$examples"/*.rix; do seed r "$file"; done
-for file in "$examples"/*.csv; do seed c "$file"; done
+for file in "$examples"/*.csv; do seed c "$file"; seed m "$file"; done
 for file in "$examples"/*.yml; do seed y "$file"; done
 for file in "$examples"/*.spe; do seed s "$file"; done
 for file in "$examples"/*.dis; do seed d "$file"; seed D "$file"; done

@@ -339,7 +339,10 @@ TEST_F(Recorded, Pages) {
       heading = line;
       script.clear();
     } else {
-      script += line + "\n";
+      // Files of the source folder, wherever that is.
+      constexpr std::string_view read = "data ";
+      const bool isRead = line.starts_with(read);
+      script += (isRead ? std::string(read) + SourceFolder() + "/" + line.substr(read.size()) : line) + "\n";
     }
   }
   draw(heading, script);

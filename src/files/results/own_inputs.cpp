@@ -77,7 +77,8 @@ std::vector<NamedValue> NamedValues(Session& sheet, InputState& state) {
       const Control* control = forms[i]->Find(name);
       // The panel of parameters, habits of the user's and the windows of their own, which are no matter of a run.
       if (control == nullptr || control == &sheet.form1.mnuInfo || control == &sheet.form1.mnuLiveGraph ||
-          forms[i] == &sheet.forms.form2 || forms[i] == &sheet.forms.impulsePlot)
+          control == &sheet.form1.mnuMarkPoints || forms[i] == &sheet.forms.form2 ||
+          forms[i] == &sheet.forms.impulsePlot || forms[i] == &sheet.forms.dlogMeasured)
         continue;
       if (HasText(control->Kind())) values.push_back({prefix + name, &value.text, nullptr});
       if (IsTicked(control->Kind())) values.push_back({prefix + name, nullptr, &value.checked});

@@ -37,6 +37,7 @@ constexpr double namesInLine = 4, readableLine = 170;
 double RoomForKey(const Page& page) {
   // So many curves fill the key whatever they are called.
   constexpr std::size_t surelyMost = 100;
+  if (page.keyAt) return oneLineOfKey;
   if (page.curves.size() > surelyMost) return mostForKey;
   const double lines = std::ceil(static_cast<double>(EntriesInKey(page)) / namesInLine);
   return std::clamp(readableLine * lines, twoLinesOfKey, mostForKey);
@@ -123,7 +124,7 @@ double RoomForBars(const Page& page) {
 
 std::optional<std::array<GraphBox, 3>> BarBoxes(const Page& page) {
   if (!page.bars || page.panels.empty()) return std::nullopt;
-  const GraphBox plot = BoxOf(page, PanelPlace::Whole);
+  const GraphBox plot = PlotBox(page);
   const double top = plot.bottom + (page.style.special ? titleRoomSlide : titleRoom);
   const double room = page.geometry.surfaceHeight - RoomForFoot(page) - oneLineOfKey - top;
   const double height = std::min(WantedHeight(page), (room - 2 * betweenBars) / 3);

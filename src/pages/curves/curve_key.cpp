@@ -9,8 +9,10 @@
 #include <vector>
 
 #include "pages/bars/bar_place.h"
+#include "pages/compare/paint_points.h"
 #include "pages/curves/curve_names.h"
 #include "pages/curves/curve_rows.h"
+#include "pages/frame/colours.h"
 #include "pages/items/readings.h"
 
 namespace lumivex {
@@ -22,6 +24,7 @@ struct Entry {
   Colour colour;
   int drawStyle = 0, drawWidth = 1;
   int line = 0;  ///< of its polarisation
+  int data = 0;  ///< number of the measured data that it is
   bool operator==(const Entry&) const = default;
 };
 
@@ -33,27 +36,22 @@ constexpr double margin = 60;
 
 constexpr double largestFont = 8, smallestFont = 5, fontStep = 0.5;
 
-/// Text in the colour of its curve, darker where the curve is too light for the page around the plot.
-Colour TextColour(Colour curve) {
-  constexpr double lightest = 160;
-  const double lightness = 0.3 * curve.Red() + 0.59 * curve.Green() + 0.11 * curve.Blue();
-  const double factor = lightness > lightest ? 0.5 : 1;
-  return RGB(factor * curve.Red(), factor * curve.Green(), factor * curve.Blue());
-}
-
 /// The second panel of phases has the pens and kinds of the first, and a title. The title of the degree of polarisation
 /// tells its curve as long as there is one.
 bool StandsInKey(const Page& page, const PageCurve& curve) {
-  if (curve.panel >= page.panels.size()) return false;
+  // The panel below the graph says itself what it compares.
+  if (curve.panel >= page.panels.size() || page.panels[curve.panel].below != BelowGraph::Nothing) return false;
+  if (!curve.givenName.empty()) return true;
   if (!page.panels[curve.panel].second || page.kind.second == SecondPanel::Ratios) return true;
   return page.kind.second == SecondPanel::Polarisation &&
          std::ranges::any_of(page.curves, [&](const PageCurve& other) { return other.run != curve.run; });
 }
 
 /// The line of a curve in the key: its kind. Ratios come below the curve above them, the degree of polarisation below
-/// all kinds.
+/// all kinds, measured data last.
 int LineOf(const Page& page, const PageCurve& curve) {
-  constexpr int belowKinds = 4;
+  constexpr int belowKinds = 4, belowAll = 5;
+  if (curve.data != 0) return belowAll;
   if (!page.panels[curve.panel].second) return curve.kind;
   return page.kind.second == SecondPanel::Polarisation ? belowKinds : curve.kind + 1;
 }
@@ -86,7 +84,8 @@ std::vector<Entry> EntriesOf(const Page& page) {
   const CurveNames names(page);
   for (const PageCurve& curve : page.curves) {
     if (!StandsInKey(page, curve)) continue;
-    const Entry entry{names.InKey(curve), curve.colour, curve.drawStyle, curve.drawWidth, LineOf(page, curve)};
+    const Entry entry{names.InKey(curve), curve.colour,        curve.drawStyle,
+                      curve.drawWidth,    LineOf(page, curve), curve.data};
     if (std::ranges::find(entries, entry) == entries.end()) entries.push_back(entry);
   }
   if (page.kind.wavelengths > 1) MergeWavelengths(entries);
@@ -101,7 +100,7 @@ bool HasKey(const Page& page) {
   for (const PageCurve& curve : page.curves) {
     if (!StandsInKey(page, curve)) continue;
     ++count;
-    if (count > 1 || !curve.keyName.empty()) return true;
+    if (count > 1 || !curve.keyName.empty() || !curve.givenName.empty()) return true;
   }
   return page.runsLeftOut > 0;
 }
@@ -201,14 +200,90 @@ void PrintEntry(DrawingSurface& surface, const Entry& entry, Colour ground, Surf
     surface.ForeColour = entry.colour;
     surface.DrawStyle = entry.drawStyle;
     surface.DrawWidth = entry.drawWidth;
-    surface.Line(x, y + 0.5 * height, x + sampleWidth, y + 0.5 * height);
+    const double middle = y + 0.5 * height;
+    if (entry.data != 0)
+      PaintPoint(surface, entry.data, {x + 0.5 * sampleWidth, middle}, entry.colour);
+    else
+      surface.Line(x, middle, x + sampleWidth, middle);
     surface.DrawStyle = 0;
     surface.DrawWidth = 1;
   }
-  surface.ForeColour = TextColour(entry.colour);
+  surface.ForeColour = OnPaper(entry.colour);
   surface.CurrentX = x + sampleWidth + afterSample;
   surface.CurrentY = y;
   surface.Print(entry.name, false);
+}
+
+/// The plot that a moved key stands in: all panels, of a polar plot the room around the circle.
+GraphBox PlotOf(const Page& page) {
+  if (page.kind.polar) return page.geometry.box;
+  return {page.panels.front().box.left, page.panels.front().box.right, page.panels.front().box.top,
+          page.panels.back().box.bottom};
+}
+
+/// What the key says, and where.
+struct KeyLayout {
+  std::vector<Entry> entries;
+  Places places;
+
+  GraphBox Box(const DrawingSurface& surface) const {
+    GraphBox box{places.front().x, places.front().x, places.front().y, places.front().y};
+    for (std::size_t i = 0; i < places.size(); ++i) {
+      box.left = std::min(box.left, places[i].x);
+      box.top = std::min(box.top, places[i].y);
+      box.right = std::max(box.right, places[i].x + WidthOf(surface, entries[i]));
+      box.bottom = std::max(box.bottom, places[i].y + surface.TextHeight("X"));
+    }
+    return box;
+  }
+};
+
+/// Air around the entries of a key within the plot.
+constexpr double keyAir = 60;
+
+/// Entries below each other at the place in the plot; where that is too near to an edge, so far from it that all of the
+/// key is within.
+void MoveIntoPlot(const DrawingSurface& surface, const Page& page, KeyLayout& layout) {
+  const GraphBox plot = PlotOf(page), block = layout.Box(surface);
+  const auto within = [](double wanted, double from, double to) { return std::max(from, std::min(wanted, to)); };
+  const double x = within(plot.left + page.keyAt->x * plot.Width(), plot.left + keyAir,
+                          plot.right - keyAir - block.Width()),
+               y = within(plot.top + page.keyAt->y * plot.Height(), plot.top + keyAir,
+                          plot.bottom - keyAir - block.Height());
+  for (SurfacePoint& place : layout.places) place = {place.x + x - block.left, place.y + y - block.top};
+}
+
+/// Lays the key out with the letters that the surface has afterwards.
+KeyLayout LayOut(DrawingSurface& surface, const Page& page, const TickLabels& polarLabels) {
+  surface.FontName = "MS Sans Serif";
+  surface.FontSize = largestFont;
+  surface.FontBold = false;
+  KeyLayout layout;
+  layout.entries = EntriesOf(page);
+  if (page.runsLeftOut > 0)
+    layout.entries.insert(
+        layout.entries.begin(),
+        Entry{"Oldest runs left out, for want of memory: " + std::to_string(page.runsLeftOut), colours::Black});
+  if (page.keyAt) {
+    const GraphBox plot = PlotOf(page);
+    const Room room{plot.left + keyAir, plot.top + keyAir, plot.right - keyAir, plot.bottom - keyAir};
+    for (; surface.FontSize > smallestFont && layout.places.empty(); surface.FontSize -= fontStep)
+      if (layout.places = PlaceInColumns(surface, layout.entries, room); !layout.places.empty()) break;
+  }
+  if (layout.places.empty()) {
+    layout.places = PlaceAll(surface, layout.entries, RoomOf(surface, page, polarLabels));
+  } else {
+    MoveIntoPlot(surface, page, layout);
+  }
+  return layout;
+}
+
+/// Paper behind a key that stands in the plot.
+void PaintGroundOfKey(DrawingSurface& surface, const Page& page, const GraphBox& box) {
+  surface.ForeColour = page.style.paper;
+  surface.Line(box.left - keyAir, box.top - keyAir, box.right + keyAir, box.bottom + keyAir, LineKind::FilledBox);
+  surface.ForeColour = RGB(128, 128, 128);
+  surface.Line(box.left - keyAir, box.top - keyAir, box.right + keyAir, box.bottom + keyAir, LineKind::Box);
 }
 
 }  // namespace
@@ -217,19 +292,29 @@ std::size_t EntriesInKey(const Page& page) {
   return HasKey(page) ? EntriesOf(page).size() : 0;
 }
 
+std::optional<GraphBox> KeyBox(DrawingSurface& surface, const Page& page) {
+  if (!HasKey(page)) return std::nullopt;
+  const SurfacePen pen = surface;
+  const KeyLayout layout = LayOut(surface, page, TickLabels(surface));
+  std::optional<GraphBox> box;
+  if (!layout.places.empty()) box = layout.Box(surface);
+  static_cast<SurfacePen&>(surface) = pen;
+  return box;
+}
+
+KeyPlace KeyPlaceAt(const Page& page, double surfaceX, double surfaceY) {
+  const GraphBox plot = PlotOf(page);
+  const auto part = [](double value) { return std::round(1000 * std::clamp(value, 0.0, 1.0)) / 1000; };
+  return {part((surfaceX - plot.left) / plot.Width()), part((surfaceY - plot.top) / plot.Height())};
+}
+
 void PaintKey(DrawingSurface& surface, const Page& page, const TickLabels& polarLabels) {
   if (!HasKey(page)) return;
   const SurfacePen pen = surface;
-  surface.FontName = "MS Sans Serif";
-  surface.FontSize = largestFont;
-  surface.FontBold = false;
-  std::vector<Entry> entries = EntriesOf(page);
-  if (page.runsLeftOut > 0)
-    entries.insert(
-        entries.begin(),
-        Entry{"Oldest runs left out, for want of memory: " + std::to_string(page.runsLeftOut), colours::Black});
-  const Places places = PlaceAll(surface, entries, RoomOf(surface, page, polarLabels));
-  for (std::size_t i = 0; i < entries.size(); ++i) PrintEntry(surface, entries[i], page.style.ground, places[i]);
+  const KeyLayout layout = LayOut(surface, page, polarLabels);
+  if (page.keyAt && !layout.places.empty()) PaintGroundOfKey(surface, page, layout.Box(surface));
+  for (std::size_t i = 0; i < layout.places.size(); ++i)
+    PrintEntry(surface, layout.entries[i], page.style.ground, layout.places[i]);
   static_cast<SurfacePen&>(surface) = pen;
 }
 

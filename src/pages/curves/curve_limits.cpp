@@ -21,7 +21,12 @@ void ChooseLimitsInView(Page& page, std::size_t index, const Look& look) {
       bottom = AMIN(bottom, curve.y[i]);
     }
   }
-  if (!(top > 0)) return;
+  if (top > 0) ChooseLimitsFor(page, index, {bottom, top}, look);
+}
+
+void ChooseLimitsFor(Page& page, std::size_t index, XRange values, const Look& look) {
+  PagePanel& panel = page.panels[index];
+  const auto [bottom, top] = values;
   ScaleLook scale = look.scale;
   scale.logY = page.kind.logY;
   scale.polar = page.kind.polar;

@@ -60,10 +60,12 @@ const std::string& CurveNames::RunOf(const PageCurve& curve) const {
 }
 
 std::string CurveNames::Of(const PageCurve& curve) const {
+  if (!curve.givenName.empty()) return curve.givenName;
   return Joined(RunOf(curve), curve.name);
 }
 
 std::string CurveNames::InKey(const PageCurve& curve) const {
+  if (!curve.givenName.empty()) return curve.givenName;
   return Joined(RunOf(curve), curve.keyName.empty() ? curve.name : curve.keyName);
 }
 

@@ -11,7 +11,7 @@ namespace lumivex {
 ///
 /// A curve is its polarisation, efficiency or ratio; with several runs on the page there stands before it whatever of
 /// method, size, sphere, medium, wavelength and angle is not the same in all of them: "Debye series (p = 2): Parallel
-/// polarisation".
+/// polarisation". A name that the user has given stands for all of it.
 class CurveNames {
  public:
   explicit CurveNames(const Page& page);

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "axes/curve_smoothing.h"
+#include "pages/compare/paint_points.h"
 
 namespace lumivex {
 
@@ -216,6 +217,7 @@ std::vector<std::vector<SurfacePoint>> CurveRuns(const Page& page, const PagePan
 }
 
 void PaintCurve(DrawingSurface& surface, const Page& page, const PageCurve& curve) {
+  if (curve.data != 0) return PaintPoints(surface, page, curve);
   const PagePanel& panel = page.panels[curve.panel];
   surface.ForeColour = curve.colour;
   surface.DrawStyle = curve.drawStyle;

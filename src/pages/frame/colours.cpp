@@ -10,6 +10,13 @@ Colour HalfOf(Colour colour) {
   return RGB(0.5 * colour.Red(), 0.5 * colour.Green(), 0.5 * colour.Blue());
 }
 
+Colour OnPaper(Colour curve) {
+  constexpr double lightest = 160;
+  const double lightness = 0.3 * curve.Red() + 0.59 * curve.Green() + 0.11 * curve.Blue();
+  const double factor = lightness > lightest ? 0.5 : 1;
+  return RGB(factor * curve.Red(), factor * curve.Green(), factor * curve.Blue());
+}
+
 LinePair LineColour(const PenLook& pen, double lambda) {
   if (!pen.trueColour) return {pen.first, pen.second};
   const ColourTriple c = colRGB2(lambda);

@@ -18,6 +18,9 @@ struct LinePair {
 /// The colours of a pen; the true colour is that of a wavelength (um).
 LinePair LineColour(const PenLook& pen, double lambda);
 
+/// Text in the colour of its curve, darker where that is too light for the page around the plot.
+Colour OnPaper(Colour curve);
+
 /// How a value becomes a false colour.
 enum class FalseColours {
   Greys,       ///< 0 to 1 from black to white

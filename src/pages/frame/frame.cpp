@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "pages/bars/bar_place.h"
+#include "pages/compare/below_panel.h"
 #include "pages/curves/curve_path.h"
 #include "pages/frame/polar_plot.h"
 #include "pages/items/readings.h"
@@ -18,6 +19,9 @@ constexpr double gapBetweenPanels = 800;
 /// Below the plot, for the numbers and the title of the axis and a line of the key: as much as a window that scrolls
 /// has below a graph of fixed size. The large letters of slides take more.
 constexpr double roomBelow = 900, roomBelowSlide = 1200;
+
+/// What a panel below the graph leaves to it.
+constexpr double shareAbove = 0.68;
 
 /// A plot does not get lower than this, whatever the surface.
 constexpr double leastHeight = 1500;
@@ -59,13 +63,26 @@ void PaintLogo(FramePaint& paint) {
 
 }  // namespace
 
-GraphBox BoxOf(const Page& page, PanelPlace place) {
-  if (place >= PanelPlace::Left)
-    return LeePanelBox(page.geometry, page.style, static_cast<int>(place) - static_cast<int>(PanelPlace::Left));
+GraphBox PlotBox(const Page& page) {
   GraphBox box = page.geometry.box;
   const double below = (page.style.special ? roomBelowSlide : roomBelow) + RoomForBars(page) + RoomForFoot(page);
   const double lowest = page.geometry.surfaceHeight - below;
   box.bottom = std::min(box.bottom, std::max(lowest, box.top + leastHeight));
+  return box;
+}
+
+GraphBox BoxOf(const Page& page, PanelPlace place) {
+  if (place >= PanelPlace::Left && place <= PanelPlace::Right)
+    return LeePanelBox(page.geometry, page.style, static_cast<int>(place) - static_cast<int>(PanelPlace::Left));
+  GraphBox box = PlotBox(page);
+  if (!page.panels.empty() && page.panels.back().below != BelowGraph::Nothing) {
+    const double gap = RoomForNotes(page), above = shareAbove * (box.Height() - gap);
+    if (place == PanelPlace::Below) {
+      box.top += above + gap;
+      return box;
+    }
+    box.bottom = box.top + above;
+  }
   if (place == PanelPlace::Upper) box.bottom = 0.5 * (box.top + box.bottom - gapBetweenPanels);
   if (place == PanelPlace::Lower) box.top = 0.5 * (box.top + box.bottom + gapBetweenPanels);
   return box;
@@ -85,7 +102,7 @@ LogoPlacement LogoOf(const Page& page, const PagePanel& panel) {
     logo.top = 3200;
     if (style.special) logo.fontSize = 24;
   }
-  logo.visible = !style.logo.empty() && panel.place != PanelPlace::Upper;
+  logo.visible = !style.logo.empty() && panel.place != PanelPlace::Upper && panel.place != PanelPlace::Below;
   return logo;
 }
 

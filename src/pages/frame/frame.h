@@ -4,9 +4,13 @@
 
 namespace lumivex {
 
-/// The plot box of a page's geometry, or one of its halves: between them there is room for the numbers of the upper one
-/// and the title of the lower one. On a surface too low for it the box ends higher, so that the axis, its title, the
-/// bars and the key are on the surface.
+/// The plot box of a page's geometry with all of its panels. On a surface too low for it the box ends higher, so that
+/// the axis, its title, the bars and the key are on the surface.
+GraphBox PlotBox(const Page& page);
+
+/// The place of a panel in it: all of it, or one of its halves, between which there is room for the numbers of the
+/// upper one and the title of the lower one. A panel below the graph (Page::panels has it last) takes its room from the
+/// others.
 GraphBox BoxOf(const Page& page, PanelPlace place);
 
 /// Adds a frame to a page. Limits that cannot be drawn are repaired; a small xmin on a linear axis becomes 0.

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "pages/compare/below_panel.h"
 #include "pages/frame/frame_paint.h"
 #include "record/catalogue/graph_texts.h"
 
@@ -161,10 +162,14 @@ void PaintSpectrumTitle(FramePaint& paint) {
 }  // namespace
 
 void PaintAxisTitles(FramePaint& paint) {
-  // The upper of two panels shares the title of the horizontal axis with the lower one.
-  if (paint.panel.place != PanelPlace::Upper) PaintXTitle(paint);
+  // Panels above each other share the title of the horizontal axis.
+  const bool overAnother =
+      paint.page.panels.back().below != BelowGraph::Nothing && paint.panel.below == BelowGraph::Nothing;
+  if (paint.panel.place != PanelPlace::Upper && !overAnother) PaintXTitle(paint);
   Restore(paint.surface);
-  if (paint.panel.second) {
+  if (paint.panel.below != BelowGraph::Nothing) {
+    PaintBelowTitle(paint);
+  } else if (paint.panel.second) {
     if (paint.kind.wavelengths <= 1) PaintSecondTitle(paint);
   } else if (paint.kind.wavelengths <= 1) {
     PaintYTitle(paint);

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <span>
 
+#include "pages/compare/below_panel.h"
 #include "pages/frame/frame_paint.h"
 #include "pages/frame/scale.h"
 #include "record/number_text.h"
@@ -264,10 +265,14 @@ void PaintLogarithmic(FramePaint& paint) {
 }  // namespace
 
 void PaintYAxis(FramePaint& paint) {
-  if (paint.map.logY && !paint.panel.second)
+  const bool below = paint.panel.below != BelowGraph::Nothing;
+  if (paint.map.logY && (below || !paint.panel.second))
     PaintLogarithmic(paint);
+  else if (below)
+    PaintBelowScale(paint);
   else
     PaintLinear(paint);
+  if (below) PaintBelowMiddle(paint);
 }
 
 }  // namespace lumivex

@@ -6,6 +6,7 @@
 #include "record/forms/angle_dialogs.h"
 #include "record/forms/beam_dialogs.h"
 #include "record/forms/coated_dialog.h"
+#include "record/forms/compare_dialogs.h"
 #include "record/forms/drop_dialogs.h"
 #include "record/forms/impulse_dialogs.h"
 #include "record/forms/inhom_dialog.h"
@@ -68,7 +69,8 @@ struct Forms : MaterialDialogs,
                AngleDialogs,
                BeamDialogs,
                DropDialogs,
-               ImpulseDialogs {
+               ImpulseDialogs,
+               CompareDialogs {
   // Hundreds of controls are made here: in one place, not in each source that makes a session.
   Forms();
   ~Forms();
@@ -90,7 +92,7 @@ struct Forms : MaterialDialogs,
         &form1,           &dlogTemp,   &dlogSpectrumBand, &dlogAverage, &dlogPlotColour, &dlogCoatedSphere,
         &dlogInhomSphere, &dlogVolume, &dlogCalibration,  &form2};
     for (const auto& more : {MaterialForms(), LightForms(), SizeForms(), RayForms(), AngleForms(), BeamForms(),
-                             DropForms(), ImpulseForms()})
+                             DropForms(), ImpulseForms(), CompareForms()})
       all.insert(all.end(), more.begin(), more.end());
     return all;
   }

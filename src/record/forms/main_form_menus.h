@@ -13,6 +13,8 @@ struct Form1Menus : Form1Inputs {
   MenuEntry mnuSave{*this, "mnuSave", "Save results ..."};
   MenuEntry mnuOverplot{*this, "mnuOverplot", "Overplot from file ..."};
   MenuEntry mnuS1S2{*this, "mnuS1S2", "Include S1 and S2 in text"};
+  MenuEntry mnuOpenData{*this, "mnuOpenData", "Open measured data ...", false,
+                        "Columns of a text file as points over the curves"};
   MenuEntry mnuBatchFile{*this, "mnuBatchFile", "Batch file ..."};
   MenuEntry mnuRecent{*this, "mnuRecent", "Recent files"};
   NumberedEntries recentEntries{*this, recentEntryNames};
@@ -95,6 +97,10 @@ struct Form1Menus : Form1Inputs {
                          "The graph follows what is typed and chosen, as long as that takes no time"};
   MenuEntry mnuSlider{*this, "mnuSlider", "Slider ...", false,
                       "Sweeps the radius, the wavelength, the index, the temperature or p by hand or as a film"};
+  MenuEntry mnuCurves{*this, "mnuCurves", "Curves ...", false,
+                      "Names, colours, differences and ratios of curves, measured data and marked points"};
+  MenuEntry mnuMarkPoints{*this, "mnuMarkPoints", "Mark points by clicks", false,
+                          "A click on a curve marks its nearest point and keeps its values"};
 
   // Colour.
   MenuEntry mnuPhoto{*this, "mnuPhoto", "Photo", true};

@@ -15,6 +15,7 @@ constexpr std::array menuRows = {
     MenuRow{"File", "mnuRead", Always, "Ctrl+O"},
     MenuRow{"File", "mnuSave", Always, "Ctrl+S"},
     MenuRow{"File", "mnuOverplot"},
+    MenuRow{"File", "mnuOpenData"},
     MenuRow{"File", "mnuBatchFile", BatchFiles},
     MenuRow{"File", "mnuS1S2"},
     MenuRow{"File", "-"},
@@ -99,6 +100,8 @@ constexpr std::array menuRows = {
     MenuRow{"Graph", "-"},
     MenuRow{"Graph", "mnuLiveGraph", Always, "Ctrl+L"},
     MenuRow{"Graph", "mnuSlider", Always, "Ctrl+Shift+L"},
+    MenuRow{"Graph", "mnuCurves", Always, "Ctrl+U"},
+    MenuRow{"Graph", "mnuMarkPoints", Always, "Ctrl+M"},
 
     MenuRow{"Colour/Saturation", "mnuPhoto", ColourBars},
     MenuRow{"Colour/Saturation", "mnuFreeze", ColourBars},

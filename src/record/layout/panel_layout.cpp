@@ -4,6 +4,7 @@
 
 #include "record/layout/angle_dialog_lines.h"
 #include "record/layout/beam_dialog_lines.h"
+#include "record/layout/compare_dialog_lines.h"
 #include "record/layout/drop_dialog_lines.h"
 #include "record/layout/impulse_dialog_lines.h"
 #include "record/layout/layer_dialog_lines.h"
@@ -121,6 +122,7 @@ std::span<const DialogLayout> Dialogs() {
     add(beamDialogLayouts);
     add(dropDialogLayouts);
     add(impulseDialogLayouts);
+    add(compareDialogLayouts);
     return layouts;
   }();
   return all;

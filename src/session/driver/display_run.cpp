@@ -1,9 +1,12 @@
 #include "session/driver/display_run.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "pages/build_page.h"
+#include "pages/compare/compare_page.h"
 #include "pages/frame/colours.h"
+#include "session/compare/compare.h"
 #include "session/driver/fold_sizes.h"
 #include "session/inputs/look/read_look.h"
 #include "session/page.h"
@@ -36,7 +39,7 @@ void ShowLastResults(Session& session, Onto onto) {
   s.SecondLineColour = LineColour(look.pen, s.LastResults->asked.light.lambda).second;
   const auto shown = WithSizesFolded(session);
   if (onto == Onto::PageOnScreen || s.OverplotFromFile == 1)
-    ShowPage(session, DrawOver(PlacePage(session.page, GeometryOf(session)), *shown, look));
+    ShowPage(session, DrawOver(PlacePage(PlainPage(session.page), GeometryOf(session)), *shown, look));
   else
     DrawResults(session, *shown);
   s.PlotMode = over;
@@ -56,7 +59,11 @@ void RedrawMap(Session& session) {
 void DrawResults(Session& session, const Results& results) {
   session.preview.reset();
   const Look look = ReadLook(session);
-  ShowPage(session, InView(BuildPage(results, look, GeometryOf(session), session.state), session.page, look));
+  Page page = InView(BuildPage(results, look, GeometryOf(session), session.state), session.page, look);
+  // Replot is of a run that is on the page, and what is shown of one on its way has no number yet.
+  const auto isOfRun = [&](const PageRun& run) { return run.number == results.number; };
+  if (results.number > 0 && std::ranges::none_of(session.page.runs, isOfRun)) BeginNewPlot(session, page);
+  ShowPage(session, std::move(page));
 }
 
 }  // namespace lumivex

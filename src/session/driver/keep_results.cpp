@@ -221,6 +221,7 @@ void KeepResults(Session& session, Results&& kept) {
   // Views of the results before.
   static_cast<LeeResults&>(s) = {};
   s.FoldedResults.reset();
+  if (kept.number == 0) kept.number = s.LastResults ? s.LastResults->number + 1 : 1;
   s.LastResults = std::make_shared<const Results>(std::move(kept));
   const Results& results = *s.LastResults;
   s.PrevGraphType = s.GraphType;

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "pages/build_page.h"
+#include "pages/compare/compare_page.h"
 #include "pages/zoom.h"
 #include "session/driver/display_run.h"
 #include "session/driver/keep_results.h"
@@ -54,6 +55,7 @@ std::size_t RunsOn(const Page& page) {
 }  // namespace
 
 Preview PreviewOf(Session& copy, Results&& results, const Page& kept) {
+  results.number = Results::unasked;
   KeepResults(copy, std::move(results));
   copy.page = kept;
   ShowLastResults(copy, Onto::FreshPage);
@@ -61,15 +63,15 @@ Preview PreviewOf(Session& copy, Results&& results, const Page& kept) {
   const Look look = ReadLook(copy);
   if (!HasItsAxes(kept, preview.page, look)) return preview;
   const auto& folded = copy.state.FoldedResults;
-  Page over = DrawOver(PlacePage(kept, preview.page.geometry), folded ? *folded : *preview.results, look);
-  if (RunsOn(over) == RunsOn(preview.page)) return preview;
+  Page over = DrawOver(PlacePage(PlainPage(kept), preview.page.geometry), folded ? *folded : *preview.results, look);
+  if (RunsOn(over) == RunsOn(PlainPage(preview.page))) return preview;
   SketchLastRun(over);
   // Limits that were chosen for the curves are chosen anew, so that the new one does not leave the frame.
   if (HasXAxis(over)) {
     const PageView view = ViewOf(over);
     over = WithView(std::move(over), view, look);
   }
-  preview.page = std::move(over);
+  preview.page = WithComparison(std::move(over), copy.comparison, look);
   return preview;
 }
 

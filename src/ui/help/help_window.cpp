@@ -31,6 +31,7 @@ constexpr const char* pages[] = {
     "user_guide.md",
     "input_pages.md",
     "user_guide_graphs.md",
+    "user_guide_comparing.md",
     "graph_pages.md",
     "user_guide_methods.md",
     "method_pages.md",
