@@ -7,6 +7,8 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyledItemDelegate>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -46,6 +48,13 @@ QTreeWidget* List(const QString& name, const QStringList& heads, QWidget* parent
   return list;
 }
 
+/// A column of ticks alone has no text to be typed.
+class TicksOnly final : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  QWidget* createEditor(QWidget*, const QStyleOptionViewItem&, const QModelIndex&) const override { return nullptr; }
+};
+
 bool SameList(const std::vector<ListedCurve>& a, const std::vector<ListedCurve>& b) {
   return std::ranges::equal(a, b, [](const ListedCurve& p, const ListedCurve& q) {
     return p.id == q.id && p.name == q.name && p.colour == q.colour && p.shown == q.shown && p.kept == q.kept &&
@@ -65,6 +74,7 @@ CurvesWindow::CurvesWindow(CommandGate& gate, Session& session, QWidget* parent)
   };
   auto* tabs = new QTabWidget(this);
   tabs->setAccessibleName("Curves and marked points");
+  tabs->tabBar()->setAccessibleName("Curves or marked points");
   tabs->addTab(BuildCurves(), "C&urves");
   tabs->addTab(BuildMarkers(), "Marked &points");
   auto* column = new QVBoxLayout(this);
@@ -91,6 +101,7 @@ QWidget* CurvesWindow::BuildCurves() {
   curves_->header()->setStretchLastSection(false);
   curves_->header()->setSectionResizeMode(nameColumn, QHeaderView::Stretch);
   curves_->header()->setSectionResizeMode(keptColumn, QHeaderView::ResizeToContents);
+  curves_->setItemDelegateForColumn(keptColumn, new TicksOnly(curves_));
   curves_->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
   curves_->setToolTip("A tick shows a curve; double click or F2 to give it a name; kept curves stay over new plots");
   connect(curves_, &QTreeWidget::itemChanged, this, &CurvesWindow::Changed);
@@ -308,7 +319,7 @@ void CurvesWindow::ShowChosen() {
   words_->setVisible(points != nullptr);
   if (!points) return;
   (points->fitted ? fitted_ : typed_)->setChecked(true);
-  if (!points->fitted) factor_->setText(ToQString(std::string(Trim(Significant(points->factor, 8)))));
+  factor_->setText(ToQString(std::string(Trim(Significant(curve->factor, 8)))));
   words_->setText(ToQString(curve->words));
 }
 

@@ -13,10 +13,12 @@
 #include <vector>
 
 #include "record_snapshot.h"
+#include "session/compare/compare.h"
 #include "session/page.h"
 #include "session/undo.h"
 #include "session/user_actions.h"
 #include "session_fixture.h"
+#include "source_folder.h"
 
 namespace lumivex {
 namespace {
@@ -103,6 +105,23 @@ std::vector<std::string> Differences(const RecordSnapshot& a, const RecordSnapsh
     if (bytes != b.at(name) && !name.starts_with("Lee") && std::ranges::find(ofTime, name) == ofTime.end())
       names.push_back(name);
   return names;
+}
+
+TEST_F(LiveGraphTest, MeasuredDataAreHeldAgainstThePreview) {
+  Settle("choose cboPol Unpolarised\nset cboStep 0.5\nset txtRadius 1.9\nclick cmdNewPlot");
+  Settle("data " + SourceFolder() + "/data/examples/goniometer.csv\ncurve 1 keep\ncurve 1 name kept");
+  ASSERT_EQ(Settle("set txtRadius 2"), Standing::Preview);
+  const Page& shown = Now().preview->page;
+  ASSERT_EQ(shown.notes.size(), 1U);
+  EXPECT_THAT(shown.notes[0].text, HasSubstr("per degree of freedom 0.9596")) << "of the radius that is tried";
+  EXPECT_THAT(Now().page.notes[0].text, testing::Not(HasSubstr("0.9596")));
+  EXPECT_EQ(shown.curves[0].givenName, "kept") << "the page below is as it was";
+  EXPECT_NE(shown.curves[1].givenName, "kept");
+  Settle("curve 1 hide");
+  EXPECT_EQ(Now().preview->page.curves[0].givenName, "") << "what is hidden is hidden in both";
+  Settle("click cmdNewPlot");
+  EXPECT_THAT(Now().page.notes[0].text, HasSubstr("0.9596"));
+  EXPECT_EQ(CurvesOnPage(Now()).size(), 3U);
 }
 
 TEST_F(LiveGraphTest, APreviewLeavesEverythingAlone) {

@@ -67,6 +67,10 @@ TEST_F(AccessTest, NothingThatCanBeReachedIsNameless) {
     dialogs.clear();
   }
   EXPECT_EQ(opened, static_cast<int>(Dialogs().size()));
+  program.Window().ActionOf(Form().mnuCurves)->trigger();
+  QStringList amongCurves;
+  CollectNameless(*program.Window().Curves(), amongCurves);
+  EXPECT_TRUE(amongCurves.isEmpty()) << "curves: " << amongCurves.join(", ").toStdString();
 }
 
 TEST_F(AccessTest, CommandsHaveKeysWhateverHasTheFocus) {

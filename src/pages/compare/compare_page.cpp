@@ -203,6 +203,9 @@ void TakeIn(Page& page, const Look& look) {
       bottom = std::min(bottom, curve.y[i]);
     }
   }
+  // Noise about nothing comes as near to 0 as it likes.
+  constexpr double farthestBelow = 1e-3;
+  if (panel.logY) bottom = std::max(bottom, farthestBelow * panel.limits.ymin);
   if (!(top > panel.limits.ymax) && !(bottom < panel.limits.ymin)) return;
   ChooseLimitsFor(page, 0, {std::min(bottom, page.autoBottom), std::max(top, page.autoTop)}, look);
 }
@@ -271,7 +274,7 @@ std::vector<ListedCurve> ListCurves(const Page& shown, const Comparison& compari
   };
   std::ranges::stable_sort(page.curves, {}, place);
   for (const PageCurve& curve : page.curves) {
-    ListedCurve listed{IdOf(page, curve), names.InKey(curve), curve.colour, true, false, {}, {}};
+    ListedCurve listed{IdOf(page, curve), names.InKey(curve), curve.colour, true, false, {}, 1, {}};
     if (const CurveChange* change = FindChange(comparison, listed.id)) {
       if (change->removed) continue;
       listed.shown = !change->hidden;
@@ -281,6 +284,7 @@ std::vector<ListedCurve> ListCurves(const Page& shown, const Comparison& compari
       if (curve.data != fitted.data->number) continue;
       listed.shown = !fitted.data->hidden;
       if (const PageCurve* reference = ReferenceOf(page, *fitted.data)) listed.against = IdOf(page, *reference);
+      listed.factor = fitted.fit.factor;
       listed.words = WordsOf(fitted.fit, fitted.data->fitted) + NotDrawn(page, curve);
     }
     list.push_back(std::move(listed));

@@ -35,8 +35,9 @@ struct ListedCurve {
   Colour colour;
   bool shown = true;
   bool kept = false;
-  /// Of measured data how they fit, and the curve that they are held against; empty for a curve.
+  /// Of measured data how they fit, with which factor, and the curve that they are held against; empty for a curve.
   std::string words;
+  double factor = 1;
   CurveId against = {};
 };
 /// All curves of the page and all measured data that lie along its axis, in the order of their numbers in scripts.
