@@ -89,7 +89,7 @@ TEST_F(Comparing, AKeptCurveStaysWhereItFits) {
       << Drawn()[2];
   EXPECT_EQ(Shown().runs.back().number, runner.Current().state.LastResults->number)
       << "title and readings are those of the last run";
-  Do("choose cboGraph Qext/Qsca/Qabs v. radius\nset cboStep 1\nclick cmdNewPlot");
+  Do("choose cboGraph Qext/Qsca/Qabs v. radius\nclick cmdNewPlot");
   EXPECT_TRUE(std::ranges::none_of(Listed(), &ListedCurve::kept)) << "efficiencies have no place for it";
   Do("choose cboGraph Intensity v. scattering angle\nset cboStep 1\nclick cmdNewPlot");
   EXPECT_TRUE(std::ranges::any_of(Listed(), &ListedCurve::kept));
@@ -127,7 +127,7 @@ TEST_F(Comparing, AZoomKeepsTheComparison) {
   EXPECT_EQ(part.xmin, 100);
   EXPECT_EQ(Shown().panels.front().limits.xmax, 150);
   EXPECT_LT(part.ymax - part.ymin, whole.ymax - whole.ymin) << "its scale goes by what is seen";
-  EXPECT_EQ(Drawn()[0], "one");
+  EXPECT_TRUE(HasColumn("one"));
   ShowView(runner.Current(), {{0, 180}, std::nullopt});
   EXPECT_EQ(Shown().panels.back().limits, whole);
 }
@@ -154,9 +154,9 @@ TEST_F(Comparing, MeasuredDataAreFittedAndStay) {
   Do("data 3 against 2\ndata 3 fit");
   EXPECT_EQ(runner.Current().comparison.data[0].against.name, parallel);
   Do("set txtXmax 90\nclick cmdNewPlot");
-  EXPECT_NE(Listed().back().words.find("8 beyond the ends of the axis not drawn"), std::string::npos)
+  EXPECT_NE(Listed().back().words.find("7 beyond the ends of the axis not drawn"), std::string::npos)
       << Listed().back().words;
-  Do("choose cboGraph Qext/Qsca/Qabs v. radius\nset cboStep 1\nclick cmdNewPlot");
+  Do("choose cboGraph Qext/Qsca/Qabs v. radius\nclick cmdNewPlot");
   EXPECT_TRUE(std::ranges::none_of(Shown().curves, [](const PageCurve& curve) { return curve.data != 0; }));
   EXPECT_EQ(Shown().panels.size(), 1U);
 }
