@@ -2,6 +2,7 @@
 
 #include <QMenuBar>
 #include <QPushButton>
+#include <QShortcutEvent>
 #include <QVariant>
 
 namespace lumivex {
@@ -9,6 +10,21 @@ namespace lumivex {
 namespace {
 
 constexpr const char* keyProperty = "accessKey";
+
+/// Presses a button at once where its letter is pressed: by itself it would wait for a moment, and take what is typed
+/// meanwhile.
+class PressAtOnce final : public QObject {
+ public:
+  using QObject::QObject;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    const auto* shortcut = event->type() == QEvent::Shortcut ? static_cast<QShortcutEvent*>(event) : nullptr;
+    if (shortcut == nullptr || shortcut->isAmbiguous()) return false;
+    static_cast<QPushButton*>(watched)->click();
+    return true;
+  }
+};
 
 /// The place of the first letter that can be a button's key; -1 where there is none.
 qsizetype FreeLetter(const QString& text, const QString& taken) {
@@ -26,6 +42,7 @@ QString AssignAccessKeys(QWidget& window, QString taken) {
     const auto at = FreeLetter(text, taken);
     if (at < 0) continue;
     taken += text[at].toLower();
+    if (!button->property(keyProperty).isValid()) button->installEventFilter(new PressAtOnce(button));
     button->setProperty(keyProperty, text[at].toLower());
     button->setText(WithAccessKey(*button, text));
   }

@@ -20,6 +20,7 @@
 #include <QTimer>
 #include <QUrl>
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <utility>
 
@@ -289,6 +290,15 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
   if (IsReturn(event)) {
     if (!pointer_.Enter()) NewPlot();
     return true;
+  }
+  // Fields take some letters with Ctrl for editing, as to empty themselves, which the window has other uses for.
+  if (event->type() == QEvent::ShortcutOverride) {
+    const auto* key = static_cast<QKeyEvent*>(event);
+    constexpr std::array ofWindow = {Qt::Key_E, Qt::Key_U, Qt::Key_K};
+    if (key->modifiers() == Qt::ControlModifier && std::ranges::find(ofWindow, key->key()) != ofWindow.end()) {
+      event->ignore();
+      return true;
+    }
   }
   // A file is for the window: an input would take its path as text.
   if (event->type() == QEvent::DragEnter && static_cast<QDragEnterEvent*>(event)->mimeData()->hasUrls()) {

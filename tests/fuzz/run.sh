@@ -1,15 +1,15 @@
 #!/bin/sh
 # Fuzzes readers, writers and texts, each program for a bounded time: run.sh [SECONDS]. Builds what is missing in
-# build/asan. Each begins with the inputs that once failed (findings/PROGRAM), the examples and what earlier runs kept;
+# build/fuzz. Each begins with the inputs that once failed (findings/PROGRAM), the examples and what earlier runs kept;
 # an input that fails is left in the folder it prints: mend the fault and put the input, made small, into findings.
 set -eu
 seconds=${1:-60}
 root=$(cd "$(dirname "$0")/../.." && pwd)
-build=$root/build/asan
+build=$root/build/fuzz
 work=${FUZZ_FOLDER:-$build/work}
 cd "$root"
-cmake --preset asan >/dev/null
-cmake --build --preset asan --target fuzz -j "$(nproc)"
+cmake --preset fuzz >/dev/null
+cmake --build --preset fuzz -j "$(nproc)"
 
 seed() { # LETTER FILE
   { printf '%s' "$1"; cat "$2"; } > "$work/input_files.seeds/$1_$(basename "$2")"

@@ -23,7 +23,7 @@ namespace {
 /// A window of no window system (surface units).
 constexpr double blindWidth = 15000, blindHeight = 9000;
 constexpr const char* noPicture = "The response at one angle needs a graph of an impulse response";
-constexpr int firstKind = 1, secondKind = 2, thirdKind = 3;
+constexpr int secondKind = 2, thirdKind = 3;
 
 bool IsPicture(const Results& results) {
   return results.asked.graph.family == Family::Impulse;

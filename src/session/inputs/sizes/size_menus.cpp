@@ -82,8 +82,8 @@ void ShowSizeInputs(Session& session) {
   const DistributionInputs& inputs = InputsOf(form.cboDistrib.Text);
   const Graph& graph = ChosenGraph(session.state);
   // Sizes along an axis, or in a dialog of the graph's own, leave none to be typed.
-  const bool ownSizes = (graph.AgainstAxis() && graph.SizeAxis()) || graph.family == Family::TwoAngle;
-  const bool radius = (!disperse || inputs.radius) && !ownSizes;
+  const bool sizesElsewhere = (graph.AgainstAxis() && graph.SizeAxis()) || graph.family == Family::TwoAngle;
+  const bool radius = (!disperse || inputs.radius) && !sizesElsewhere;
   form.cboDistrib.Visible = disperse;
   form.Label7.Visible = form.txtRadius.Visible = radius;
   form.Label11.Visible = form.cboSD.Visible = disperse && inputs.deviation;
