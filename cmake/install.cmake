@@ -8,6 +8,7 @@ install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DATADIR}/lumivex/doc FILES_M
 install(DIRECTORY share/cluster DESTINATION ${CMAKE_INSTALL_DATADIR}/lumivex USE_SOURCE_PERMISSIONS)
 install(DIRECTORY data/examples/batch DESTINATION ${CMAKE_INSTALL_DATADIR}/lumivex/examples)
 install(DIRECTORY data/examples/gallery/ DESTINATION ${CMAKE_INSTALL_DATADIR}/lumivex/examples FILES_MATCHING PATTERN "*.lvx" PATTERN "Gallery.ini")
+install(FILES data/examples/goniometer.csv DESTINATION ${CMAKE_INSTALL_DATADIR}/lumivex/examples)
 install(FILES data/Dispersion.rxi data/DispersionBackup.rxi DESTINATION ${CMAKE_INSTALL_DATADIR}/lumivex)
 install(FILES share/man/lumivex-run.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 if(LUMIVEX_UI)

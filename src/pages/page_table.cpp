@@ -13,6 +13,7 @@
 #include "pages/items/phasor_diagram.h"
 #include "pages/maps/map_table.h"
 #include "record/catalogue/graph_texts.h"
+#include "record/csv_cell.h"
 #include "record/number_text.h"
 
 namespace lumivex {
@@ -87,11 +88,6 @@ std::vector<Column> PhasorColumns(const PagePhasors& dots) {
   return columns;
 }
 
-/// A cell of a table whose cells are parted by `separator`.
-std::string Quoted(const std::string& text, char separator) {
-  return text.find(separator) == std::string::npos ? text : '"' + text + '"';
-}
-
 std::string Table(const std::vector<Column>& columns, char separator) {
   if (columns.empty()) return {};
   std::size_t rows = 0;
@@ -104,7 +100,7 @@ std::string Table(const std::vector<Column>& columns, char separator) {
     }
     text += '\n';
   };
-  line([&](const Column& column) { return Quoted(column.name, separator); });
+  line([&](const Column& column) { return CsvCell(column.name, separator); });
   for (std::size_t row = 0; row < rows; ++row)
     line([&](const Column& column) { return row < column.cells.size() ? column.cells[row] : std::string(); });
   return text;

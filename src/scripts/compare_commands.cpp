@@ -6,8 +6,10 @@
 
 #include "files/measured/open_data.h"
 #include "materials/files/readable_text.h"
+#include "record/csv_cell.h"
 #include "record/number_text.h"
 #include "scripts/script_line.h"
+#include "scripts/script_printer.h"
 #include "session/compare/compare.h"
 
 namespace lumivex {
@@ -49,8 +51,9 @@ std::string TextOfColour(Colour colour) {
   return text;
 }
 
+/// A name as a cell: one that reads like a number is a name all the same.
 std::string Quoted(const std::string& text) {
-  return text.find(',') == std::string::npos ? text : '"' + text + '"';
+  return JsonValue(text) == JsonString(text) ? CsvCell(text) : CsvText(text);
 }
 
 std::optional<BelowGraph> BelowOf(std::string_view word) {
@@ -117,7 +120,8 @@ CompareAnswer CurvesCommand(Session& session, std::string_view) {
   int number = 0;
   for (const ListedCurve& curve : CurvesOnPage(session))
     text += std::to_string(++number) + "," + Quoted(curve.name) + "," + (curve.shown ? "true" : "false") + "," +
-            (curve.kept ? "true" : "false") + "," + TextOfColour(curve.colour) + "," + Quoted(curve.words) + "\n";
+            (curve.kept ? "true" : "false") + "," + Quoted(TextOfColour(curve.colour)) + "," + Quoted(curve.words) +
+            "\n";
   return {{}, text};
 }
 

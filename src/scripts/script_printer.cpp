@@ -34,30 +34,44 @@ bool IsJsonNumber(std::string_view text) {
   return i == text.size();
 }
 
+struct Cell {
+  std::string text;
+  bool quoted = false;  ///< and so a text, whatever it looks like
+};
+
 /// The cells of a row of CSV. Within quotes a comma is a comma and two quotes are one.
-std::vector<std::string> CellsOf(std::string_view row) {
-  std::vector<std::string> cells(1);
+std::vector<Cell> CellsOf(std::string_view row) {
+  std::vector<Cell> cells(1);
   bool quoted = false;
   for (std::size_t i = 0; i < row.size(); ++i) {
     const char c = row[i];
     if (c == '"' && quoted && i + 1 < row.size() && row[i + 1] == '"') {
-      cells.back() += row[++i];
+      cells.back().text += row[++i];
     } else if (c == '"') {
       quoted = !quoted;
+      cells.back().quoted = true;
     } else if (c == ',' && !quoted) {
       cells.emplace_back();
     } else {
-      cells.back() += c;
+      cells.back().text += c;
     }
   }
   return cells;
 }
 
-template <class Item>
-std::string ListOf(const std::vector<Item>& items, std::string (*write)(std::string_view)) {
+template <class Item, class Write>
+std::string ListOf(const std::vector<Item>& items, Write write) {
   std::string list = "[";
   for (const auto& item : items) list += (list.size() > 1 ? "," : "") + write(item);
   return list + "]";
+}
+
+std::string JsonText(const Cell& cell) {
+  return JsonString(cell.text);
+}
+
+std::string JsonOf(const Cell& cell) {
+  return cell.quoted ? JsonString(cell.text) : JsonValue(cell.text);
 }
 
 std::vector<std::string_view> LinesOf(std::string_view text) {
@@ -72,8 +86,7 @@ std::vector<std::string_view> LinesOf(std::string_view text) {
 
 std::string RowsOf(const std::vector<std::string_view>& lines, std::size_t first) {
   std::string rows = "[";
-  for (std::size_t i = first; i < lines.size(); ++i)
-    rows += (i > first ? "," : "") + ListOf(CellsOf(lines[i]), JsonValue);
+  for (std::size_t i = first; i < lines.size(); ++i) rows += (i > first ? "," : "") + ListOf(CellsOf(lines[i]), JsonOf);
   return rows + "]";
 }
 
@@ -137,7 +150,7 @@ void ScriptPrinter::Table(std::string_view csv) {
     if (table.empty()) return;
     Open();
     if (!name.empty()) output_ << ",\"name\":" << JsonString(name);
-    output_ << ",\"columns\":" << ListOf(CellsOf(table[0]), JsonString) << ",\"rows\":" << RowsOf(table, 1) << "}\n";
+    output_ << ",\"columns\":" << ListOf(CellsOf(table[0]), JsonText) << ",\"rows\":" << RowsOf(table, 1) << "}\n";
     table.clear();
   };
   for (const std::string_view line : LinesOf(csv)) {

@@ -33,6 +33,23 @@ TEST_F(Trust, TellsSizeTermsAndHowFarTwoWaysToQextAgree) {
   EXPECT_EQ(MarkOf("Qext and S(0)").text, "");
 }
 
+TEST_F(Trust, IsThatOfTheWorstSphereOfARun) {
+  Do("click mnuRI_Fixed1\nset txtRefractReal 1.333\nset txtRefractImag 0\nchoose cboType Airy\nset cboRays 2\n"
+     "choose cboGraph Lee diagram: radius\nset txtXmin 136\nset txtXmax 146\nset txtRadius 1\nset txtRmax 1000\n"
+     "set txtRstep 10\nset cboStep 1\nclick cmdNewPlot");
+  EXPECT_EQ(MarkOf("Airy").text, "Airy does not hold") << Texts();
+  EXPECT_NE(MarkOf("x = ").text.find("x = 9.7"), std::string::npos) << Texts();
+  // Light of many wavelengths, from the longest to the shortest, and clouds, from the smallest drop to the largest.
+  Do("reset\nset cboWave 30\nset txtRadius 100\nset cboStep 1\nclick cmdNewPlot");
+  EXPECT_NE(MarkOf("x = ").text.find(" to 1"), std::string::npos) << Texts();
+  Do("reset\nclick optDisp\nset txtRadius 20\nset cboStep 1\nclick cmdNewPlot");
+  EXPECT_NE(MarkOf("x = ").text.find(" to "), std::string::npos) << Texts();
+  // A dipole without absorption has no part that the theorem could be held against.
+  Do("reset\nclick mnuRI_Fixed1\nset txtRefractReal 1.5\nset txtRefractImag 0\nchoose cboType Rayleigh\n"
+     "set txtRadius 0.001\nclick cmdNewPlot");
+  EXPECT_EQ(MarkOf("Qext").text, "") << Texts();
+}
+
 TEST_F(Trust, KnowsTheRangeOfEachMethod) {
   struct Case {
     const char *method, *radius, *words;

@@ -86,7 +86,7 @@ TEST_F(Comparing, AKeptCurveStaysWhereItFits) {
   EXPECT_EQ(Listed().size(), 3U);
   EXPECT_TRUE(std::ranges::any_of(Listed(), &ListedCurve::kept));
   const auto drawn = Drawn();
-  EXPECT_EQ(std::ranges::count(drawn, "radius 10 \u00B5m: Perpendicular polarisation"), 1) << drawn[2];
+  EXPECT_EQ(std::ranges::count(drawn, "r = 10 \u00B5m: Perpendicular polarisation"), 1) << drawn[2];
   EXPECT_EQ(Shown().runs.back().number, runner.Current().state.LastResults->number)
       << "title and readings are those of the last run";
   Do("choose cboGraph Qext/Qsca/Qabs v. radius\nclick cmdNewPlot");

@@ -6,6 +6,7 @@
 
 #include "record/number_text.h"
 #include "runs/curves.h"
+#include "runs/settings.h"
 
 namespace lumivex {
 
@@ -15,21 +16,63 @@ using Standing = TrustMark::Standing;
 
 constexpr int digits = 4;
 
-/// Size parameters of the smallest and the largest sphere.
+/// Least and greatest of something.
 struct Sizes {
   double least = 0, most = 0;
+
+  void Take(double value) {
+    least = std::min(least, value);
+    most = std::max(most, value);
+  }
 };
 
-Sizes SizesOf(const Results& results) {
-  Sizes sizes{results.last.sizeParameter, results.last.sizeParameter};
-  if (const auto* axis = results.Find<AxisFound>(); axis != nullptr && axis->done > 0) {
-    const auto last = std::min(static_cast<std::size_t>(axis->done) + 1, axis->size.size());
-    for (std::size_t i = 1; i < last; ++i) {
-      sizes.least = std::min(sizes.least, axis->size[i]);
-      sizes.most = std::max(sizes.most, axis->size[i]);
-    }
+/// Radii and wavelengths (um) that a run goes through beside those of its axis, about those of its last sphere.
+struct Span {
+  Sizes radius, lambda;
+  std::optional<Sizes> x;  ///< where these are what is swept
+};
+
+void TakeSweep(const Sweep& sweep, Span& span) {
+  const Sizes ends{std::min(sweep.low, sweep.high), std::max(sweep.low, sweep.high)};
+  constexpr double nanometres = 1000;
+  if (sweep.quantity == Swept::Radius) span.radius = ends;
+  if (sweep.quantity == Swept::Wavelength) span.lambda = {ends.least / nanometres, ends.most / nanometres};
+  if (sweep.quantity == Swept::SizeParameter) span.x = ends;
+}
+
+Span SpanOf(const Results& results) {
+  const RunRequest& asked = results.asked;
+  const LastSphere& last = results.last;
+  Span span{{last.radius, last.radius}, {last.lambda, last.lambda}, {}};
+  if (const auto* map = std::get_if<AngleMapRun>(&asked.run)) TakeSweep(map->columns, span);
+  if (const auto* map = std::get_if<EfficiencyMapRun>(&asked.run)) {
+    TakeSweep(map->columns, span);
+    TakeSweep(map->rows, span);
   }
-  return sizes;
+  if (asked.light.spectrum)
+    for (std::size_t i = 1; i < asked.light.spectrum->wavelength.size(); ++i)
+      span.lambda.Take(double{asked.light.spectrum->wavelength[i]});
+  if (asked.Cloud())
+    for (const double radius : {span.radius.least, span.radius.most}) {
+      const CloudSamples samples = SamplesAt(asked, radius);
+      for (std::size_t i = 1; i < samples.radius.size(); ++i) span.radius.Take(samples.radius[i]);
+    }
+  return span;
+}
+
+/// Size parameters of the smallest and the largest sphere, at the longest and the shortest wavelength.
+Sizes SizesOf(const Results& results) {
+  const LastSphere& last = results.last;
+  Sizes sizes{last.sizeParameter, last.sizeParameter};
+  if (const auto* axis = results.Find<AxisFound>(); axis != nullptr && axis->done > 0) {
+    const auto end = std::min(static_cast<std::size_t>(axis->done) + 1, axis->size.size());
+    for (std::size_t i = 1; i < end; ++i) sizes.Take(axis->size[i]);
+  }
+  const Span span = SpanOf(results);
+  if (span.x) return *span.x;
+  if (!(last.radius > 0 && last.lambda > 0 && span.lambda.least > 0)) return sizes;
+  return {sizes.least * span.radius.least / last.radius * last.lambda / span.lambda.most,
+          sizes.most * span.radius.most / last.radius * last.lambda / span.lambda.least};
 }
 
 /// A limit in one direction: good on one side of the first, outside beyond the second.
@@ -151,9 +194,9 @@ std::optional<TrustMark> OfOpticalTheorem(const Results& results) {
   const AngleRows* rows = RowsOf(results.asked.run);
   const LastSphere& last = results.last;
   const bool whole = TraitsOf(results.asked.method.method).efficiencies && results.asked.method.beam.Plane() &&
-                     results.asked.method.method != Method::Debye && !results.asked.method.paths &&
-                     !results.asked.method.divideBySize && results.asked.method.difference == Difference::None &&
-                     !results.asked.Cloud();
+                     results.asked.method.method != Method::Debye && results.asked.method.method != Method::Rayleigh &&
+                     !results.asked.method.paths && !results.asked.method.divideBySize &&
+                     results.asked.method.difference == Difference::None && !results.asked.Cloud();
   if (angles == nullptr || rows == nullptr || rows->window.low > 1 || !whole) return std::nullopt;
   if (angles->S1.Rows() < 1 || !(last.efficiencies.Qext > 0) || !(last.sizeParameter > 0)) return std::nullopt;
   const double forward = 4 / (last.sizeParameter * last.sizeParameter) * angles->S1.Re(1);

@@ -9,6 +9,7 @@
 #include "pages/curves/curve_names.h"
 #include "pages/read_out.h"
 #include "record/catalogue/graph_texts.h"
+#include "record/csv_cell.h"
 #include "record/number_text.h"
 #include "session/page.h"
 #include "session/undo.h"
@@ -230,10 +231,8 @@ std::string MarkersAsText(const Comparison& comparison, char separator) {
   std::string text;
   const auto row = [&](std::initializer_list<std::string> cells) {
     std::string line;
-    for (const std::string& cell : cells) {
-      const bool quote = cell.find(separator) != std::string::npos;
-      line += (line.empty() ? std::string() : std::string(1, separator)) + (quote ? '"' + cell + '"' : cell);
-    }
+    for (const std::string& cell : cells)
+      line += (line.empty() ? std::string() : std::string(1, separator)) + CsvCell(cell, separator);
     text += line + "\n";
   };
   row({"number", "x", "unit of x", "value", "unit of value", "curve"});
