@@ -37,7 +37,7 @@ for kind in platforms imageformats iconengines xcbglintegrations wayland-shell-i
   [ ! -d "$plugins/$kind" ] || cp -r "$plugins/$kind" "$tree/plugins"
 done
 # Of the system stay: the C library, what belongs to a display's driver, and the fonts' settings.
-stays='^(ld-linux|libc|libm|libdl|librt|libpthread|libresolv|libnss|libGL|libEGL|libGLX|libGLdispatch|libOpenGL|libdrm|libgbm|libX11|libX11-xcb|libxcb|libwayland-client|libfontconfig|libfreetype|libstdc\+\+|libgcc_s)[-.]'
+stays='^(ld-linux|libc|libm|libdl|librt|libpthread|libresolv|libnss|libGL|libEGL|libGLX|libGLdispatch|libOpenGL|libdrm|libgbm|libX11|libX11-xcb|libwayland-client|libfontconfig|libfreetype|libstdc\+\+|libgcc_s)[-.]|^libxcb\.so'
 find "$tree/bin" "$tree/plugins" -type f -exec ldd {} + 2>/dev/null | awk '$2 == "=>" && $3 ~ /^\// { print $3 }' | sort -u |
   while read -r library; do
     basename "$library" | grep -qE "$stays" || cp -L "$library" "$tree/lib"
