@@ -14,6 +14,7 @@
 #include "session/driver/read_run.h"
 #include "session/driver/settle_beam.h"
 #include "session/impulse/impulse_plot.h"
+#include "session/inputs/fourier_inputs.h"
 #include "session/inputs/impulse_inputs.h"
 #include "session/inputs/look/read_look.h"
 #include "session/inputs/methods.h"
@@ -191,6 +192,7 @@ void cmdReplot_Click(Session& session) {
     RenewLook(session);
     return;
   }
+  if (!LengthHolds(session)) return;
   s.CommandAborted = 0;
   s.StopAnswer = 0;
   // What was calculated counts, whatever the list says by now.

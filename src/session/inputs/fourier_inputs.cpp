@@ -120,6 +120,13 @@ void AskFourier(Session& session) {
   session.events.Raise("cmdReplot_Click");
 }
 
+bool LengthHolds(Session& session) {
+  const std::string& length = session.forms.dlogFFT.cboFFT.Text;
+  if (!session.form1.mnuFFT.Checked || IsPowerOfTwo(ToWhole(Val(length)))) return true;
+  session.platform.Message("Error!", " NumSamples is \n" + length + ", which is not a positive integer power of two.");
+  return false;
+}
+
 void OfferTransform(Session& session) {
   auto& form = session.form1;
   form.mnuFFT.Enabled = form.mnuFFT.Checked || !form.mnuXStepLog.Checked;

@@ -12,6 +12,10 @@ void mnuFFT_Click(Session& session);
 /// Transforms take equal steps: with logarithmic ones nothing but the way back is offered.
 void OfferTransform(Session& session);
 
+/// Tells a length that is no power of two, which a script or a file can set while no dialog looks.
+/// @return whether there is nothing against a transform of the length, or none is wanted.
+bool LengthHolds(Session& session);
+
 /// The dialog is shown.
 void AskFourier(Session& session);
 
